@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "Print/escpospp/Printer.h"
+
+#include "Print/escpospp/Bitmap.h"
+#include "Print/escpospp/EscPos.h"
+#include "Print/escpospp/Markdown.h"
+
+#include <cstddef>
+#include <iostream>
+#include <limits>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include <libusb.h>
+
+namespace {
+
+constexpr int Interface = 0;
+constexpr unsigned char BulkOut = 0x01;
+constexpr unsigned NoTimeLimit = 0;
+
+void report(std::string_view line)
+{
+    std::cout << line << std::endl;
+}
+
+} // namespace
+
+Printer* Printer::instance = nullptr;
+
+void Printer::EndContext::operator()(libusb_context* context) const noexcept
+{
+    libusb_exit(context);
+}
+
+void Printer::CloseDevice::operator()(libusb_device_handle* handle) const noexcept
+{
+    libusb_close(handle);
+}
+
+void Printer::initializePrinter(std::pair<int, int> ids)
+{
+    if (instance != nullptr && instance->writeFailed_) {
+        std::unique_ptr<Printer>(std::exchange(instance, nullptr)).reset();
+    }
+    if (instance == nullptr) {
+        instance = std::make_unique<Printer>(ids).release();
+    }
+}
+
+Printer* Printer::getPrinter()
+{
+    return instance;
+}
+
+Printer::Printer(std::pair<int, int> ids)
+{
+    initializeContext();
+    openFirst(ids);
+    claim();
+}
+
+Printer::~Printer()
+{
+    const int result = libusb_release_interface(handle_.get(), Interface);
+    report(result == 0 ? "Released Interface" : "Cannot Release Interface");
+}
+
+void Printer::raw(std::string bytes)
+{
+    int transferred = 0;
+    int result = LIBUSB_ERROR_OVERFLOW;
+    if (bytes.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+        result = libusb_bulk_transfer(handle_.get(), BulkOut,
+            reinterpret_cast<unsigned char*>(bytes.data()), static_cast<int>(bytes.size()),
+            &transferred, NoTimeLimit);
+    }
+    if (result != 0 || static_cast<std::size_t>(transferred) != bytes.size()) {
+        report("Write Error");
+        writeFailed_ = true;
+    }
+}
+
+void Printer::cut()
+{
+    raw(EscPos::CUT);
+}
+
+void Printer::reset()
+{
+    raw(EscPos::RESET);
+}
+
+bool Printer::text(std::string s)
+{
+    Markdown markdown = renderMarkdown(s);
+    if (!markdown.fault.empty()) {
+        report(markdown.fault);
+        return false;
+    }
+    raw(std::move(markdown.bytes));
+    return true;
+}
+
+bool Printer::textCut(std::string s)
+{
+    const bool sent = text(std::move(s));
+    if (sent) {
+        cut();
+    }
+    return sent;
+}
+
+void Printer::image(const std::vector<std::vector<bool>>& dots)
+{
+    std::optional<std::string> bands = renderBitmap(dots, imageMode_);
+    if (!bands) {
+        report("Error: the bitmap is not squared");
+        throw -1;
+    }
+    if (bands->empty()) {
+        return;
+    }
+    raw(EscPos::NO_LINE);
+    raw(std::move(*bands));
+    raw(EscPos::RESET_LINE);
+}
+
+void Printer::initializeContext()
+{
+    libusb_context* context = nullptr;
+    const int result = libusb_init(&context);
+    if (result < 0) {
+        report("Init Error " + std::to_string(result));
+        throw -1;
+    }
+    context_.reset(context);
+    libusb_set_option(context, LIBUSB_OPTION_LOG_LEVEL, LIBUSB_LOG_LEVEL_INFO);
+}
+
+void Printer::openFirst(std::pair<int, int> ids)
+{
+    libusb_device** list = nullptr;
+    // A negative count means that the bus could not be read, and that there is no list.
+    const ssize_t count = libusb_get_device_list(context_.get(), &list);
+    for (ssize_t i = 0; i < count; ++i) {
+        libusb_device_descriptor descriptor{};
+        if (libusb_get_device_descriptor(list[i], &descriptor) == 0
+            && descriptor.idVendor == ids.first && descriptor.idProduct == ids.second) {
+            libusb_device_handle* handle = nullptr;
+            if (libusb_open(list[i], &handle) == 0) {
+                handle_.reset(handle);
+            }
+            break;
+        }
+    }
+    if (count >= 0) {
+        libusb_free_device_list(list, static_cast<int>(count));
+    }
+    if (!handle_) {
+        report("Cannot open device");
+        throw -1;
+    }
+}
+
+void Printer::claim()
+{
+    if (libusb_kernel_driver_active(handle_.get(), Interface) == 1) {
+        report("Kernel Driver Active");
+        if (libusb_detach_kernel_driver(handle_.get(), Interface) == 0) {
+            report("Kernel Driver Detached!");
+        }
+    }
+    if (libusb_claim_interface(handle_.get(), Interface) < 0) {
+        report("Cannot Claim Interface");
+        throw -1;
+    }
+}
