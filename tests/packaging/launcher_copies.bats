@@ -105,8 +105,9 @@ Vendel-2026-03-06.db" ]
     [ -s "$TILL_LOG" ]
 }
 
-@test "a user's own SQLite settings do not reach the copy" {
-    printf '%s\n' '.headers on' '.mode column' '.echo on' >"$HOME/.sqliterc"
+@test "a user's own SQLite settings are not read" {
+    stand_in sqlite3 "case \"\$*\" in *'-init /dev/null'*) exec $(command -v sqlite3) \"\$@\" ;; esac
+exit 1"
     run "$launcher"
     [ "$status" -eq 0 ]
     [ -z "$output" ]

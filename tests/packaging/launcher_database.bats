@@ -155,6 +155,18 @@ SCHEMA
     [ ! -s "$TILL_LOG" ]
 }
 
+@test "a database whose index does not fit its rows is said" {
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
+    sql "$data/Vendel.db" "pragma writable_schema = on;
+        delete from sqlite_master where name = 'date_heure_index';
+        update sqlite_master set rootpage = (select rootpage from sqlite_master where name = 'Config')
+            where name = 'Ticket'"
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "$(unusable "elle est endommagée")" ]
+    [ -z "$(ls -A "$data/copies")" ]
+}
+
 @test "a database that another program holds is said" {
     cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
     hold_database

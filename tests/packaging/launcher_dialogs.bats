@@ -91,7 +91,8 @@ dialog() {
     mkdir "$data"
     touch "$data/copies"
     "$BATS_TEST_TMPDIR/tools/sqlite3" "$data/Vendel.db" "create table Article (x); create table ArticleStock (x); create table Historique (x); create table DoseStock (x); create table Config (param, valeur); create table Ticket (x); insert into Config values ('TVA', 20), ('Epson TM-T20II', 0)"
-    stand_in zenity 'cat "$TILL_LOG" >"$SAID"; printf "%s\n" "$1" >>"$SAID"'
+    stand_in zenity 'cat "$TILL_LOG" >"$SAID"; printf "%s\n" "$1" >>"$SAID"
+[ ! -e /proc/self/fd/9 ] || echo "holds the lock" >>"$SAID"'
     run "$launcher"
     [ "$status" -eq 0 ]
     [ "$(cat "$SAID")" = --warning ]
@@ -106,6 +107,15 @@ dialog() {
     close_till
     [ "$status" -eq 1 ]
     grep -qxF -- "--text=La caisse est déjà ouverte sur les données de « $data »." "$SAID"
+}
+
+@test "a message that waits for its answer holds no lock" {
+    rm "$data"
+    mkdir -p "$data/Vendel.db"
+    stand_in zenity "flock -n '$data/.verrou' echo free >\"\$SAID\""
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$(cat "$SAID")" = free ]
 }
 
 # copies_of_two_days: in a data directory without a database.
