@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "app/Application.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+namespace {
+void installTranslation(QApplication& application, const QString& file, const QString& folder)
+{
+    auto* translator = new QTranslator(&application);
+    if (translator->load(file, folder)) {
+        QCoreApplication::installTranslator(translator);
+    }
+}
+} // namespace
+
+void Application::setAttributes()
+{
+    // The windows are laid out in pixels: text must not grow with the screen's density alone.
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+}
+
+void Application::setUp(QApplication& application)
+{
+    QFont font = QApplication::font();
+    // "1,234.50$" fits its column only in a narrow face.
+    font.setFamilies({QStringLiteral("Carlito"), QStringLiteral("Liberation Sans Narrow"),
+        QStringLiteral("DejaVu Sans Condensed"), QStringLiteral("sans-serif")});
+    QApplication::setFont(font);
+
+    // The translation comes second, because Qt asks the last one first.
+    installTranslation(application, QStringLiteral("qtbase_fr"),
+        QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    installTranslation(application, QStringLiteral("FormVendelTr_Us"), QString());
+}

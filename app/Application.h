@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QApplication;
+
+/// What the whole program needs before its first window.
+namespace Application {
+/// Sets what Qt wants to know before the application object exists.
+void setAttributes();
+
+/// Gives \a application the till's typeface, Qt's French texts and the translation of the working
+/// directory, "FormVendelTr_Us". A missing file is no error.
+void setUp(QApplication& application);
+} // namespace Application

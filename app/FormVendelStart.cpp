@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "app/FormVendelStart.h"
+
+#include "common/SlotGuard.h"
+#include "ui_FormVendelStart.h"
+
+namespace {
+constexpr int tickMs = 1000;
+constexpr int lastTick = 4;
+} // namespace
+
+FormVendelStart::FormVendelStart(QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui_FormVendelStart>())
+{
+    guarded("Errors FormVendelStart Constructor : ", [this] {
+        ui_->setupUi(this);
+        connect(&timer_, &QTimer::timeout, this, &FormVendelStart::on_timeout);
+        timer_.start(tickMs);
+    });
+}
+
+FormVendelStart::~FormVendelStart() = default;
+
+void FormVendelStart::on_timeout()
+{
+    guarded("Errors FormVendelStart on_timeout : ", [this] {
+        if (++ticks_ <= lastTick) {
+            return;
+        }
+        timer_.stop();
+        // Closing a splash that the cashier sent away already would take a standing tip along.
+        if (isVisible()) {
+            close();
+        }
+    });
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+
+#include <memory>
+
+class Ui_FormVendelStart;
+
+/// The splash: stands before the main window for about five seconds.
+class FormVendelStart : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FormVendelStart(QWidget* parent);
+    ~FormVendelStart() override;
+
+private slots:
+    void on_timeout();
+
+private:
+    std::unique_ptr<Ui_FormVendelStart> ui_;
+    QTimer timer_;
+    int ticks_ = 0;
+};

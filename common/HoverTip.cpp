@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "common/HoverTip.h"
+
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace {
+constexpr int tipMs = 10000;
+constexpr int longestTipCharacters = 200;
+
+/// Lets the mouse through every tip: one may stand under the pointer, and the click is meant for
+/// the list below it.
+class TipOpener : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Polish && watched->inherits("QTipLabel")) {
+            static_cast<QWidget*>(watched)->setWindowFlag(Qt::WindowTransparentForInput);
+        }
+        return false;
+    }
+};
+
+void letTheMouseThroughTips()
+{
+    static QPointer<TipOpener> opener;
+    if (opener.isNull()) {
+        opener = new TipOpener(QCoreApplication::instance());
+        QCoreApplication::instance()->installEventFilter(opener);
+    }
+}
+} // namespace
+
+void watchMouse(QAbstractItemView& view, QObject& window)
+{
+    view.viewport()->setAttribute(Qt::WA_MouseTracking, true);
+    view.viewport()->installEventFilter(&window);
+}
+
+std::optional<QPoint> mouseMoveOver(
+    const QAbstractItemView& view, const QObject* watched, const QEvent* event)
+{
+    if (watched != view.viewport() || event->type() != QEvent::MouseMove) {
+        return std::nullopt;
+    }
+    return static_cast<const QMouseEvent*>(event)->localPos().toPoint();
+}
+
+QString textUnder(const QAbstractItemView& view, QPoint position, int column)
+{
+    const QModelIndex index = view.indexAt(position);
+    const QString text = index.sibling(index.row(), column).data().toString();
+    return text.size() > longestTipCharacters ? text.left(longestTipCharacters) + QChar(0x2026)
+                                              : text;
+}
+
+void showTip(QWidget& window, QPoint point, const QString& text)
+{
+    letTheMouseThroughTips();
+    const QString plain
+        = Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
+    QToolTip::showText(point, plain, &window, QRect(), tipMs);
+}
+
+void hideTip()
+{
+    QToolTip::hideText();
+}

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "common/ReceiptFiles.h"
+
+#include <QFile>
+
+std::optional<QString> ReceiptFiles::read(const QString& path)
+{
+    QFile file(path);
+    // Not in text mode: Qt would take the "\r" of Windows line ends away.
+    if (!file.exists() || !file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    const QByteArray bytes = file.readAll();
+    const int end = bytes.indexOf('\0');
+    return QString::fromUtf8(end < 0 ? bytes : bytes.left(end));
+}

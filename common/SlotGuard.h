@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+#include <exception>
+#include <utility>
+
+/// Runs a slot's body; what it throws becomes one critical log line, \a prefix first, because an
+/// exception that leaves a slot would end the till.
+template <class Body> void guarded(const char* prefix, Body&& body)
+{
+    try {
+        std::forward<Body>(body)();
+    } catch (const std::exception& error) {
+        qCritical("%s%s", prefix, error.what());
+    }
+}
