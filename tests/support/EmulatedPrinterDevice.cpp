@@ -54,7 +54,6 @@ EmulatedPrinterDevice::EmulatedPrinterDevice(int number, EmulatedBehaviour& beha
     , driverBound_(behaviour.kernelDriver)
 {
     g_signal_connect(handler_.get(), "handle-ioctl", G_CALLBACK(onIoctl), this);
-    g_signal_connect(handler_.get(), "client-connected", G_CALLBACK(onConnected), this);
 }
 
 EmulatedPrinterDevice::~EmulatedPrinterDevice()
@@ -70,13 +69,6 @@ gboolean EmulatedPrinterDevice::onIoctl(
     const Result result = device->answer(client);
     umockdev_ioctl_client_complete(client, result < 0 ? -1 : result, result < 0 ? -result : 0);
     return TRUE;
-}
-
-void EmulatedPrinterDevice::onConnected(UMockdevIoctlBase*, UMockdevIoctlClient*, gpointer self)
-{
-    auto* device = static_cast<EmulatedPrinterDevice*>(self);
-    const std::lock_guard lock(device->behaviour_.guard);
-    device->record("open");
 }
 
 EmulatedPrinterDevice::Result EmulatedPrinterDevice::answer(UMockdevIoctlClient* client)
@@ -97,7 +89,9 @@ EmulatedPrinterDevice::Result EmulatedPrinterDevice::control(
     unsigned long request, UMockdevIoctlData* arg)
 {
     switch (request) {
+    // libusb's first request on a node that it has opened.
     case USBDEVFS_GET_CAPABILITIES:
+        record("open");
         as<__u32>(resolve(arg, 0, sizeof(__u32)).get())
             = USBDEVFS_CAP_ZERO_PACKET | USBDEVFS_CAP_BULK_CONTINUATION;
         return 0;

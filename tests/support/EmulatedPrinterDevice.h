@@ -84,7 +84,6 @@ private:
     using Result = int;
 
     static gboolean onIoctl(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self);
-    static void onConnected(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self);
 
     Result answer(UMockdevIoctlClient* client);
     Result control(unsigned long request, UMockdevIoctlData* arg);
