@@ -10,7 +10,9 @@
 #include "common/Lists.h"
 #include "common/Messages.h"
 #include "common/SlotGuard.h"
+#include "common/Windows.h"
 #include "db/Db.h"
+#include "forms/FormVendelHistorique.h"
 #include "ui_FormVendel.h"
 
 #include <QFile>
@@ -148,7 +150,8 @@ void FormVendel::on_actionSaisie_Article_triggered()
 
 void FormVendel::on_actionHistorique_triggered()
 {
-    guarded("Errors FormVendel on_actionHistorique_triggered : ", [] {});
+    guarded("Errors FormVendel on_actionHistorique_triggered : ",
+        [this] { openWindow<FormVendelHistorique>(this); });
 }
 
 void FormVendel::on_actionA_propos_de_triggered()
