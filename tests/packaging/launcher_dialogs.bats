@@ -112,7 +112,7 @@ dialog() {
 @test "a message that waits for its answer holds no lock" {
     rm "$data"
     mkdir -p "$data/Vendel.db"
-    stand_in zenity "flock -n '$data/.verrou' echo free >\"\$SAID\""
+    stand_in zenity "flock -n '$data/.verrou' sh -c 'echo free' >\"\$SAID\""
     run "$launcher"
     [ "$status" -eq 1 ]
     [ "$(cat "$SAID")" = free ]
