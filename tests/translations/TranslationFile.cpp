@@ -98,8 +98,7 @@ QVector<TranslatedText> readTranslation(const QString& path)
 
 QStringList readCatalogue(const QString& path)
 {
-    static const QRegularExpression entry(
-        QStringLiteral(R"re(Messages::Messages\d+\{(.*?)\};)re"),
+    static const QRegularExpression entry(QStringLiteral(R"re(Messages::Messages\d+\{(.*?)\};)re"),
         QRegularExpression::DotMatchesEverythingOption);
     QStringList texts;
     auto matches = entry.globalMatch(QString::fromUtf8(readFile(path)));

@@ -4,12 +4,12 @@
 #include "tests/support/TestMain.h"
 #include "tests/translations/TranslationFile.h"
 
-#include <QDir>
 #include <QHash>
+#include <QLibraryInfo>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
-#include <QTranslator>
 
 class TestTranslation : public QObject
 {
@@ -196,8 +196,8 @@ void TestTranslation::lineBreaksStayWhereTheyAre()
     for (const auto& text : qAsConst(english_)) {
         for (const QString& form : text.forms) {
             QVERIFY2(form.count(lineBreak) == text.source.count(lineBreak), qPrintable(form));
-            QVERIFY2(form.startsWith(lineBreak) == text.source.startsWith(lineBreak),
-                qPrintable(form));
+            QVERIFY2(
+                form.startsWith(lineBreak) == text.source.startsWith(lineBreak), qPrintable(form));
             QVERIFY2(form.endsWith(lineBreak) == text.source.endsWith(lineBreak), qPrintable(form));
         }
     }
@@ -219,7 +219,8 @@ void TestTranslation::placesOfInsertedTextsStay()
     for (const auto& text : qAsConst(english_)) {
         for (const char* place : {"%1", "%2", "%3", "%4"}) {
             for (const QString& form : text.forms) {
-                QVERIFY2(form.count(QLatin1String(place)) == text.source.count(QLatin1String(place)),
+                QVERIFY2(
+                    form.count(QLatin1String(place)) == text.source.count(QLatin1String(place)),
                     qPrintable(form));
             }
         }
@@ -281,8 +282,8 @@ void TestTranslation::noTextOfQtsContextsStaysFrench()
 void TestTranslation::theTillFindsItsEnglish()
 {
     QCOMPARE(Texts{"FormVendel"}(Messages::Messages89[0]), QStringLiteral("Pay"));
-    QCOMPARE(Texts{"FormVendelMessages"}(Messages::Messages0[0]),
-        QStringLiteral("The ticket is empty"));
+    QCOMPARE(
+        Texts{"FormVendelMessages"}(Messages::Messages0[0]), QStringLiteral("The ticket is empty"));
     QCOMPARE(Texts{"FormVendelMessages"}(Messages::Messages101[0]), QStringLiteral("."));
     QCOMPARE(QCoreApplication::translate("QPlatformTheme", "&Yes"), QStringLiteral("&Yes"));
     QCOMPARE(QCoreApplication::translate("QLineEdit", "&Paste"), QStringLiteral("&Paste"));
@@ -291,7 +292,8 @@ void TestTranslation::theTillFindsItsEnglish()
 void TestTranslation::theTillCountsInEnglish()
 {
     const Texts texts{"FormVendelSaisieArticleMessages"};
-    QCOMPARE(texts(Messages::Messages23[0], 1), QStringLiteral("Delete the 1 duplicate marked X..."));
+    QCOMPARE(
+        texts(Messages::Messages23[0], 1), QStringLiteral("Delete the 1 duplicate marked X..."));
     QCOMPARE(
         texts(Messages::Messages23[0], 2), QStringLiteral("Delete the 2 duplicates marked X..."));
     QCOMPARE(texts(Messages::Messages26[0], 7),
