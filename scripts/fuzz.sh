@@ -1,33 +1,31 @@
-#!/bin/sh
+#!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# fuzz.sh SECONDS: runs every fuzz target for that long, one after the other. What is found stays
-# in build/fuzz/found; the grown corpus in build/fuzz/corpus is used again by the next run.
-set -eu
-seconds=${1:?usage: fuzz.sh SECONDS}
-cd "$(dirname "$0")/.."
+# Runs every fuzz target for SECONDS, one after the other. What is found stays in build/fuzz/found;
+# the corpus in build/fuzz/corpus grows from run to run.
+. "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
-if ! command -v clang++ >/dev/null || ! ls /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a >/dev/null 2>&1; then
-    as_root=
-    [ "$(id -u)" -eq 0 ] || as_root=sudo
-    $as_root apt-get install -y clang libclang-rt-dev
-fi
+usage="usage: scripts/fuzz.sh SECONDS"
+case ${1-} in
+    -h | --help) say "$usage" && exit ;;
+    "" | *[!0-9]*) say "$usage" >&2 && exit 2 ;;
+esac
+seconds=$1
 
-cmake --preset fuzz
-cmake --build --preset fuzz --target fuzz_targets
+"$root/scripts/install.sh" build test fuzz
+configure fuzz
+build fuzz fuzz_targets
 
+cd "$root/build/fuzz"
+mkdir -p found
 export ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1
-mkdir -p build/fuzz/found
-failed=
-for seeds in tests/fuzz/corpus/*; do
-    name=$(basename "$seeds")
-    mkdir -p "build/fuzz/corpus/$name"
-    echo "== $name, $seconds s"
-    "build/fuzz/fuzz/fuzz_$name" -max_total_time="$seconds" -timeout=10 -print_final_stats=1 \
-        -artifact_prefix="build/fuzz/found/$name-" "build/fuzz/corpus/$name" "$seeds" \
-        2>"build/fuzz/$name.log" || failed="$failed $name"
-    grep -E '^stat::number_of_executed_units|ERROR|SUMMARY' "build/fuzz/$name.log" || true
+failed=()
+for seeds in "$root"/tests/fuzz/corpus/*; do
+    name=${seeds##*/}
+    mkdir -p "corpus/$name"
+    say "$name for $seconds s (log: build/fuzz/$name.log)"
+    "fuzz/fuzz_$name" -max_total_time="$seconds" -timeout=10 -artifact_prefix="found/$name-" \
+        "corpus/$name" "$seeds" >"$name.log" 2>&1 || failed+=("$name")
+    grep -aE '^Done|^SUMMARY' "$name.log" || true
 done
-if [ -n "$failed" ]; then
-    echo "fuzz.sh: findings in$failed; see build/fuzz/*.log" >&2
-    exit 1
-fi
+[ ${#failed[@]} -eq 0 ] || fail "there are findings in: ${failed[*]}; see build/fuzz/found"
+say "Nothing found"

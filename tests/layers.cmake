@@ -1,0 +1,21 @@
+# SPDX-License-Identifier: MIT
+# Fails when a file includes something that its folder must not know.
+set(only_db "^(db/|sqlite3\\.h)")
+set(only_common "^(common/|Q[A-Za-z]+$|Qt[A-Za-z]+$)")
+set(only_Print "^(Print/|libusb|stb/|stb_image)")
+set(only_forms "^(forms/|common/|db/|Q[A-Za-z]+$|ui_)")
+set(own_headers "^(app|forms|common|db|Print|Q|libusb|sqlite3|stb|ui_)")
+
+set(failed FALSE)
+foreach(folder db common Print forms)
+  file(GLOB_RECURSE files ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.cpp)
+  foreach(file IN LISTS files)
+    file(STRINGS ${file} includes REGEX "^#include")
+    foreach(line IN LISTS includes)
+      string(REGEX REPLACE "^#include [\"<]([^\">]+)[\">].*" "\\1" header "${line}")
+      if(header MATCHES "${own_headers}" AND NOT header MATCHES "${only_${folder}}")
+        message(SEND_ERROR "${file} must not include ${header}")
+      endif()
+    endforeach()
+  endforeach()
+endforeach()

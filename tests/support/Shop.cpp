@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/Shop.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+Shop::Shop(Database database)
+    : before_(QDir::currentPath())
+{
+    if (!folder_.isValid() || !QDir::setCurrent(folder_.path())) {
+        qFatal("no temporary directory for the test");
+    }
+    if (database == Database::Fresh) {
+        Db::DbCreate();
+    }
+}
+
+Shop::~Shop()
+{
+    QDir::setCurrent(before_);
+}
+
+DbRows Shop::sql(const char* sql) const
+{
+    return Db::DbLoad(sql);
+}
+
+QString Shop::cell(const char* sql) const
+{
+    const DbRows rows = Db::DbLoad(sql);
+    return rows.empty() ? QString() : QString::fromStdString(rows.front().front());
+}
+
+void Shop::write(const QString& name, const QByteArray& bytes) const
+{
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        qFatal("cannot write %s", qPrintable(name));
+    }
+}
+
+QByteArray Shop::read(const QString& name) const
+{
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("cannot read %s", qPrintable(name));
+    }
+    return file.readAll();
+}
