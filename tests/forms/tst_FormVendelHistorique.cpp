@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendel.h"
+#include "forms/FormVendelSaisieStock.h"
+#include "forms/FormVendelStockCalculation.h"
 #include "tests/forms/History.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/Translation.h"
 
 #include <QAction>
 #include <QGroupBox>
@@ -16,7 +19,6 @@
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QToolTip>
-#include <QTranslator>
 
 #include <vector>
 
@@ -65,6 +67,9 @@ private slots:
     void aDayGoesIntoTheChosenField();
     void aSaleGoesIntoTheChosenField();
     void effacerSaisieEmptiesBothFields();
+
+    void saisieStockOpensTheStockEditor();
+    void calculStockOpensWithTheDatesAsTyped();
 
     void aSaleHasItsTip();
     void aDayHasItsTip();
@@ -180,33 +185,24 @@ void TestFormVendelHistorique::theMainMenuOpensIt()
 
 void TestFormVendelHistorique::aTranslationOfTheCatalogueChangesIt()
 {
-    class English : public QTranslator
-    {
-    public:
-        bool isEmpty() const override
-        {
-            return false;
-        }
-        QString translate(const char* context, const char* source, const char*, int) const override
-        {
-            return qstrcmp(context, "FormVendelMessages") == 0
-                ? QStringLiteral("en ") + QString::fromUtf8(source)
-                : QString();
-        }
-    };
-    English english;
-    QCoreApplication::installTranslator(&english);
+    Translation english;
+    const auto catalogue = QStringLiteral("FormVendelMessages");
+    english.add(catalogue, QStringLiteral("Vendel Historique"), QStringLiteral("History"));
+    english.add(catalogue, QStringLiteral("Prix"), QStringLiteral("Price"));
+    english.add(catalogue, QStringLiteral("Valide date"), QStringLiteral("Check the date"));
+    english.add(
+        QStringLiteral("FormVendelHistorique"), QStringLiteral("Purge"), QStringLiteral("Delete"));
     History history;
-    QCOMPARE(history.window.windowTitle(), QStringLiteral("en Vendel Historique"));
+    QCOMPARE(history.window.windowTitle(), QStringLiteral("History"));
     QCOMPARE(child<QTableView>(history.window, "tableView1")
                  .model()
                  ->headerData(1, Qt::Horizontal)
                  .toString(),
-        QStringLiteral("en Prix"));
+        QStringLiteral("Price"));
     const AnswerBox box;
     click(history.window, "btn_Total");
-    QCOMPARE(box.title(), QStringLiteral("en Valide date"));
-    QCoreApplication::removeTranslator(&english);
+    QCOMPARE(box.title(), QStringLiteral("Check the date"));
+    QCOMPARE(child<QPushButton>(history.window, "btn_Clear").text(), QStringLiteral("Delete"));
 }
 
 void TestFormVendelHistorique::aDayGoesIntoTheChosenField()
@@ -246,6 +242,40 @@ void TestFormVendelHistorique::effacerSaisieEmptiesBothFields()
     click(history.window, "btn_Del_Seizure");
     QCOMPARE(history.first(), QString());
     QCOMPARE(history.second(), QString());
+}
+
+void TestFormVendelHistorique::saisieStockOpensTheStockEditor()
+{
+    History history;
+    const AnswerBox box;
+    child<QAction>(history.window, "actionSaisie_Stock").trigger();
+    const QPointer<FormVendelSaisieStock> stock
+        = history.window.findChild<FormVendelSaisieStock*>();
+    QVERIFY(stock != nullptr);
+    QVERIFY(stock->isVisible());
+    QVERIFY(!box.wasShown());
+    stock->close();
+    QTRY_VERIFY(stock.isNull());
+}
+
+void TestFormVendelHistorique::calculStockOpensWithTheDatesAsTyped()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.250");
+    history.type(" 05/01/2019 ", "05/01/2019 10:00:00.250  ");
+    const AnswerBox box;
+    child<QAction>(history.window, "actionCalcul_Stock").trigger();
+    QVERIFY(!box.wasShown());
+    const QPointer<FormVendelStockCalculation> calculation
+        = history.window.findChild<FormVendelStockCalculation*>();
+    QVERIFY(calculation != nullptr);
+    QVERIFY(calculation->isVisible());
+    QCOMPARE(child<QLabel>(*calculation, "lbl_Period_Date1").text(), QStringLiteral("05/01/2019"));
+    QCOMPARE(child<QLabel>(*calculation, "lbl_To_Date2").text(),
+        QStringLiteral("05/01/2019 10:00:00.250"));
+    calculation->close();
+    QTRY_VERIFY(calculation.isNull());
+    QCOMPARE(rowCount(history.window, "tableView1"), 0);
 }
 
 void TestFormVendelHistorique::aSaleHasItsTip()
