@@ -14,7 +14,6 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QToolTip>
 
 class TestFormVendelSaisieStock : public QObject
 {
@@ -38,9 +37,6 @@ private slots:
     void returnPressesNoButton();
     void tabLeavesALine();
     void opensTheOtherStockWindows();
-    void tipsSayWhatADoubleClickDoes();
-    void tipsShowNamesAsTheyAre();
-    void tipsIgnoreOtherEvents();
     void textsAreTranslatedInTheirContexts();
     void troubleIsLogged();
 };
@@ -297,59 +293,6 @@ void TestFormVendelSaisieStock::opensTheOtherStockWindows()
     QTRY_VERIFY(stock.findChildren<QDialog*>().isEmpty());
     click(stock, "btn_Cut_Paste");
     QVERIFY(stock.findChild<FormVendelSaisieStockCutPaste*>()->isVisible());
-}
-
-void TestFormVendelSaisieStock::tipsSayWhatADoubleClickDoes()
-{
-    const StockSample shop;
-    FormVendelSaisieStock stock;
-    stock.show();
-    stock.Display(true);
-    stock.Display_DoseStock(QStringLiteral("1"));
-    QCursor::setPos(300, 200);
-    hoverCell(stock, "tableView1", 0, 2);
-    QCOMPARE(QToolTip::text(),
-        QStringLiteral("Article\nDoubleClick sur : Café\nPour faire composition"));
-    QVERIFY(tipStandsAt(QPoint(300, 200)));
-    hoverCell(stock, "tableView2", 1, 3);
-    QCOMPARE(QToolTip::text(),
-        QStringLiteral(
-            "Composition\nDoubleClick sur : Lait\nPour supprimer l'article de la composition"));
-
-    stock.Clear_List();
-    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QVERIFY(!static_cast<QObject&>(stock).eventFilter(
-        child<QTableView>(stock, "tableView2").viewport(), &move));
-    QTRY_VERIFY(!QToolTip::isVisible());
-}
-
-void TestFormVendelSaisieStock::tipsShowNamesAsTheyAre()
-{
-    const StockSample shop;
-    shop.sql("update ArticleStock set article = '<b>l''eau</b>' where id = 1");
-    FormVendelSaisieStock stock;
-    stock.show();
-    stock.Display(true);
-    hoverCell(stock, "tableView1", 0, 1);
-    QCOMPARE(QToolTip::text(),
-        QStringLiteral("Article\nDoubleClick sur : <b>l'eau</b>\nPour faire composition"));
-}
-
-void TestFormVendelSaisieStock::tipsIgnoreOtherEvents()
-{
-    const StockSample shop;
-    FormVendelSaisieStock stock;
-    stock.show();
-    stock.Display(true);
-    hoverCell(stock, "tableView1", 0, 1);
-    QEvent paint(QEvent::Enter);
-    QVERIFY(!static_cast<QObject&>(stock).eventFilter(
-        child<QTableView>(stock, "tableView1").viewport(), &paint));
-    QMouseEvent elsewhere(
-        QEvent::MouseMove, QPointF(5, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QVERIFY(!static_cast<QObject&>(stock).eventFilter(&stock, &elsewhere));
-    QCOMPARE(QToolTip::text(),
-        QStringLiteral("Article\nDoubleClick sur : Café\nPour faire composition"));
 }
 
 void TestFormVendelSaisieStock::textsAreTranslatedInTheirContexts()

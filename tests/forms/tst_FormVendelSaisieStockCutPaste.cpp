@@ -12,7 +12,6 @@
 #include <QComboBox>
 #include <QPushButton>
 #include <QTableView>
-#include <QToolTip>
 
 class TestFormVendelSaisieStockCutPaste : public QObject
 {
@@ -33,7 +32,6 @@ private slots:
     void withoutATargetNothingMoves();
     void aMovedLineOutlivesItsFormerArticle();
     void theStockEditorsRecipeListIsEmptied();
-    void tipsSayHowToMove();
     void returnPressesNoButton();
     void textsAreTranslatedInTheirContexts();
     void troubleIsLogged();
@@ -288,27 +286,6 @@ void TestFormVendelSaisieStockCutPaste::theStockEditorsRecipeListIsEmptied()
     click(at.window, "btn_Modify");
     QCOMPARE(rowCount(at.stock, "tableView2"), 0);
     QCOMPARE(rowCount(at.stock, "tableView1"), 3);
-}
-
-void TestFormVendelSaisieStockCutPaste::tipsSayHowToMove()
-{
-    Moving at;
-    QCursor::setPos(300, 200);
-    hoverCell(at.window, "tableView2", 0, 3);
-    QCOMPARE(QToolTip::text(),
-        QStringLiteral("Composition\nFaire votre choix dans la liste déroulante\nSélectionner la "
-                       "composition : Menthe\nPuis Modifier"));
-    QVERIFY(tipStandsAt(QPoint(300, 200)));
-    hoverCell(at.window, "tableView1", 0, 1);
-    QVERIFY(QToolTip::isVisible());
-    QEvent enter(QEvent::Enter);
-    auto& viewport = *child<QTableView>(at.window, "tableView2").viewport();
-    QVERIFY(!static_cast<QObject&>(at.window).eventFilter(&viewport, &enter));
-    QVERIFY(QToolTip::isVisible());
-    at.window.Display_DoseStock(QStringLiteral("2"));
-    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QVERIFY(!static_cast<QObject&>(at.window).eventFilter(&viewport, &move));
-    QTRY_VERIFY(!QToolTip::isVisible());
 }
 
 void TestFormVendelSaisieStockCutPaste::returnPressesNoButton()
