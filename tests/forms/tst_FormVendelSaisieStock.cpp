@@ -7,8 +7,8 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/Translation.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -299,13 +299,13 @@ void TestFormVendelSaisieStock::textsAreTranslatedInTheirContexts()
 {
     const StockSample shop;
     {
-        const Translation captions("FormVendelSaisieStock");
+        const MarkedContext captions("FormVendelSaisieStock");
         FormVendelSaisieStock stock;
         QCOMPARE(stock.windowTitle(), QStringLiteral("FormVendelSaisieStock:Saisie Stock"));
         QCOMPARE(child<QPushButton>(stock, "btn_Remove").text(),
             QStringLiteral("FormVendelSaisieStock:Supprimer"));
     }
-    const Translation texts("FormVendelSaisieStockMessages");
+    const MarkedContext texts("FormVendelSaisieStockMessages");
     FormVendelSaisieStock stock;
     stock.Display(true);
     QCOMPARE(stock.windowTitle(), QStringLiteral("Saisie Stock"));

@@ -5,8 +5,8 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/Translation.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -264,12 +264,12 @@ void TestFormVendelSaisieStockComposition::textsAreTranslatedInTheirContexts()
 {
     const Shop shop;
     {
-        const Translation captions("FormVendelSaisieStockComposition");
+        const MarkedContext captions("FormVendelSaisieStockComposition");
         FormVendelSaisieStockComposition window(QString(), QString(), nullptr);
         QCOMPARE(child<QLabel>(window, "lbl_Dose").text(),
             QStringLiteral("FormVendelSaisieStockComposition:Dose"));
     }
-    const Translation texts("FormVendelSaisieStockCompositionMessages");
+    const MarkedContext texts("FormVendelSaisieStockCompositionMessages");
     FormVendelSaisieStockComposition window(QString(), QString(), nullptr);
     window.show();
     const AnswerBox box;

@@ -4,8 +4,8 @@
 #include "tests/forms/StockSample.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/ListLook.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/Translation.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -305,12 +305,12 @@ void TestFormVendelSaisieStockCutPaste::textsAreTranslatedInTheirContexts()
 {
     const StockSample shop;
     {
-        const Translation captions("FormVendelSaisieStockCutPaste");
+        const MarkedContext captions("FormVendelSaisieStockCutPaste");
         FormVendelSaisieStockCutPaste window;
         QCOMPARE(
             window.windowTitle(), QStringLiteral("FormVendelSaisieStockCutPaste:Couper / Coller"));
     }
-    const Translation texts("FormVendelSaisieStockCutPasteMessages");
+    const MarkedContext texts("FormVendelSaisieStockCutPasteMessages");
     FormVendelSaisieStockCutPaste window;
     window.show();
     QCOMPARE(child<QComboBox>(window, "cbx_Article").itemText(0),

@@ -5,8 +5,8 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/Translation.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -217,13 +217,13 @@ void TestFormVendelSaisieStockMaj::textsAreTranslatedInTheirContexts()
 {
     const StockSample shop;
     {
-        const Translation captions("FormVendelSaisieStockMaj");
+        const MarkedContext captions("FormVendelSaisieStockMaj");
         FormVendelSaisieStockMaj window;
         QCOMPARE(
             window.windowTitle(), QStringLiteral("FormVendelSaisieStockMaj:Mise à jour Stock"));
     }
     shop.sql("insert into Article (id, article, prix) values (7, 'Zeste', 1)");
-    const Translation texts("FormVendelSaisieStockMajMessages");
+    const MarkedContext texts("FormVendelSaisieStockMajMessages");
     FormVendelSaisieStockMaj window;
     QCOMPARE(labels(child<QTableView>(window, "tableView")).at(1),
         QStringLiteral("FormVendelSaisieStockMajMessages:Article"));

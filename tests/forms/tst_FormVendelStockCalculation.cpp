@@ -4,8 +4,8 @@
 #include "tests/forms/StockSample.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/ListLook.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/Translation.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -164,12 +164,12 @@ void TestFormVendelStockCalculation::textsAreTranslatedInTheirContexts()
 {
     const Bar bar;
     {
-        const Translation captions("FormVendelStockCalculation");
+        const MarkedContext captions("FormVendelStockCalculation");
         FormVendelStockCalculation window(mayFirst, juneFirst, nullptr);
         QCOMPARE(child<QLabel>(window, "lbl_To").text(),
             QStringLiteral("FormVendelStockCalculation:au"));
     }
-    const Translation texts("FormVendelStockCalculationMessages");
+    const MarkedContext texts("FormVendelStockCalculationMessages");
     const AnswerBox box;
     Consumed at;
     QCOMPARE(box.title(), QStringLiteral("FormVendelStockCalculationMessages:Calcul Stock"));

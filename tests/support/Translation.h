@@ -1,31 +1,34 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCoreApplication>
+#include <QHash>
+#include <QPair>
+#include <QString>
 #include <QTranslator>
 
-/// While it lives, a text of one context is translated as context, ":", text.
+/// A translation file for one test, installed while it lives.
 class Translation : public QTranslator
 {
 public:
-    explicit Translation(const char* context)
-        : context_(context)
-    {
-        QCoreApplication::installTranslator(this);
-    }
+    Translation();
+    ~Translation() override;
+    Translation(const Translation&) = delete;
+    Translation& operator=(const Translation&) = delete;
+    Translation(Translation&&) = delete;
+    Translation& operator=(Translation&&) = delete;
 
-    QString translate(const char* context, const char* source, const char*, int) const override
-    {
-        return qstrcmp(context, context_) == 0
-            ? QString::fromLatin1(context) + QLatin1Char(':') + QString::fromUtf8(source)
-            : QString();
-    }
+    /// Translates \a source of \a context as \a text.
+    void add(const QString& context, const QString& source, const QString& text);
 
-    bool isEmpty() const override
-    {
-        return false;
-    }
+    /// The same for counts other than 1; without it, add()'s text serves all counts.
+    void addPlural(const QString& context, const QString& source, const QString& text);
+
+    QString translate(const char* context, const char* source, const char* disambiguation,
+        int count) const override;
+    bool isEmpty() const override;
 
 private:
-    const char* context_;
+    using Key = QPair<QString, QString>;
+    QHash<Key, QString> texts_;
+    QHash<Key, QString> plurals_;
 };
