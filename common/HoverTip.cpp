@@ -22,7 +22,10 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Polish && watched->inherits("QTipLabel")) {
-            static_cast<QWidget*>(watched)->setWindowFlag(Qt::WindowTransparentForInput);
+            auto* tip = static_cast<QWidget*>(watched);
+            // A tip that is not said to stay on top is made twice on X11, the second time opaque.
+            tip->setWindowFlags(
+                tip->windowFlags() | Qt::WindowTransparentForInput | Qt::WindowStaysOnTopHint);
         }
         return false;
     }
