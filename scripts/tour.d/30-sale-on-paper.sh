@@ -25,7 +25,7 @@ hex=$(od -An -v -tx1 "$out/receipt.bytes" | tr -d ' \n')
 stop_till
 stop_printer
 
-"$build/tests/support/escpos-page" "$out/receipt.bytes" "$out/receipt.txt" "$out/receipt.png" \
+"$build/tests/support/escpos-page" "$out/receipt.bytes" "$out/receipt.png" "$out/receipt.txt" \
     || broken "the printed receipt cannot be read"
 grep -q 'TOTAL' "$out/receipt.txt" || broken "the printed receipt shows no total"
 say "  build/tour/receipt.bytes, receipt.txt and receipt.png"
