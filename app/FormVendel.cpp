@@ -10,7 +10,12 @@
 #include "common/Lists.h"
 #include "common/Messages.h"
 #include "common/SlotGuard.h"
+#include "common/Windows.h"
 #include "db/Db.h"
+#include "forms/FormVendelAbout.h"
+#include "forms/FormVendelConfig.h"
+#include "forms/FormVendelHistorique.h"
+#include "forms/FormVendelSaisieArticle.h"
 #include "ui_FormVendel.h"
 
 #include <QFile>
@@ -138,20 +143,24 @@ void FormVendel::on_timeout()
 
 void FormVendel::on_actionConfig_triggered()
 {
-    guarded("Errors FormVendel on_actionConfig_triggered : ", [] {});
+    guarded("Errors FormVendel on_actionConfig_triggered : ",
+        [this] { openWindow<FormVendelConfig>(this); });
 }
 
 void FormVendel::on_actionSaisie_Article_triggered()
 {
-    guarded("Errors FormVendel on_actionSaisie_Article_triggereds : ", [] {});
+    guarded("Errors FormVendel on_actionSaisie_Article_triggereds : ",
+        [this] { openWindow<FormVendelSaisieArticle>(this); });
 }
 
 void FormVendel::on_actionHistorique_triggered()
 {
-    guarded("Errors FormVendel on_actionHistorique_triggered : ", [] {});
+    guarded("Errors FormVendel on_actionHistorique_triggered : ",
+        [this] { openWindow<FormVendelHistorique>(this); });
 }
 
 void FormVendel::on_actionA_propos_de_triggered()
 {
-    guarded("Errors FormVendel on_actionA_propos_de_triggered : ", [] {});
+    guarded("Errors FormVendel on_actionA_propos_de_triggered : ",
+        [this] { openWindow<FormVendelAbout>(this); });
 }

@@ -60,8 +60,11 @@ QString textUnder(const QAbstractItemView& view, QPoint position, int column)
 {
     const QModelIndex index = view.indexAt(position);
     const QString text = index.sibling(index.row(), column).data().toString();
-    return text.size() > longestTipCharacters ? text.left(longestTipCharacters) + QChar(0x2026)
-                                              : text;
+    if (text.size() <= longestTipCharacters) {
+        return text;
+    }
+    const bool splitsCharacter = text.at(longestTipCharacters - 1).isHighSurrogate();
+    return text.left(longestTipCharacters - (splitsCharacter ? 1 : 0)) + QChar(0x2026);
 }
 
 void showTip(QWidget& window, QPoint point, const QString& text)

@@ -59,6 +59,8 @@ void setUpList(QTableView& view, QStandardItemModel& model, const Texts& texts,
         QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
     view.setAlternatingRowColors(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // Tab walks through the window; the arrow keys walk through the list.
+    view.setTabKeyNavigation(false);
     setUpHeaders(view);
     int column = 0;
     for (const int width : widths) {

@@ -2,6 +2,7 @@
 #include "common/ReceiptFiles.h"
 
 #include <QFile>
+#include <QSaveFile>
 
 std::optional<QString> ReceiptFiles::read(const QString& path)
 {
@@ -13,4 +14,17 @@ std::optional<QString> ReceiptFiles::read(const QString& path)
     const QByteArray bytes = file.readAll();
     const int end = bytes.indexOf('\0');
     return QString::fromUtf8(end < 0 ? bytes : bytes.left(end));
+}
+
+bool ReceiptFiles::replace(const QString& path, const QString& text)
+{
+    if (!QFile::exists(path)) {
+        return true;
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    file.write(text.toUtf8());
+    return file.commit();
 }

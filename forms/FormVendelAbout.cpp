@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "forms/FormVendelAbout.h"
+
+#include "common/SlotGuard.h"
+#include "ui_FormVendelAbout.h"
+
+#include <QDir>
+#include <QPixmap>
+#include <QPushButton>
+
+FormVendelAbout::FormVendelAbout(QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui_FormVendelAbout>())
+{
+    guarded("Errors FormVendelAbout Constructor : ", [this] {
+        ui_->setupUi(this);
+        ui_->lbl_QPixmap->setPixmap(QPixmap(QStringLiteral("AproposdeImage.png")));
+        const QString contact
+            = tr("<p><b>%1</b><br>%2</p>"
+                 "<p>Caisse enregistreuse pour une boutique ou un bar</p>"
+                 "<p>Licence MIT</p>"
+                 "<p>Les données du magasin se trouvent dans le dossier<br>%3</p>");
+        ui_->txt_Edit->setHtml(contact.arg(ui_->lbl_ProductName->text(), ui_->lbl_Version->text(),
+            QDir::currentPath().toHtmlEscaped()));
+        ui_->btn_buttonBox->button(QDialogButtonBox::Ok)->setFocus();
+    });
+}
+
+FormVendelAbout::~FormVendelAbout() = default;
+
+void FormVendelAbout::on_btn_buttonBox_clicked(QAbstractButton*)
+{
+    guarded("Errors FormVendel on_btn_buttonBox_clicked : ", [this] { close(); });
+}

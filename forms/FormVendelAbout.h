@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+class QAbstractButton;
+class Ui_FormVendelAbout;
+
+/// Tells the till's name, version and licence, and where the shop's data lies.
+class FormVendelAbout : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FormVendelAbout(QWidget* parent = nullptr);
+    ~FormVendelAbout() override;
+
+private slots:
+    void on_btn_buttonBox_clicked(QAbstractButton* button);
+
+private:
+    std::unique_ptr<Ui_FormVendelAbout> ui_;
+};

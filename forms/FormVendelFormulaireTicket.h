@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+#include <string>
+
+class Ui_FormVendelFormulaireTicket;
+
+/// The editor of the two texts that frame a receipt. Either button saves what is on the screen,
+/// whichever text was shown, and only into a file that is there already.
+class FormVendelFormulaireTicket : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FormVendelFormulaireTicket(QWidget* parent = nullptr);
+    ~FormVendelFormulaireTicket() override;
+
+private slots:
+    void on_actionEntete_Page_triggered();
+    void on_actionPied_Page_triggered();
+    void on_btn_Entete_Page_clicked();
+    void on_btn_Pied_Page_clicked();
+
+private:
+    void setCaptions();
+    void showFile(const QString& file, const std::string& label);
+    void save(const QString& file);
+
+    std::unique_ptr<Ui_FormVendelFormulaireTicket> ui_;
+};

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "db/Db.h"
+
+#include <QDialog>
+#include <QModelIndex>
+#include <QStandardItemModel>
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+
+class Ui_FormVendelSaisieArticle;
+
+/// The editor of the menu's articles: shows and searches them, marks doubled names, adds, renames
+/// and removes.
+class FormVendelSaisieArticle : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FormVendelSaisieArticle(QWidget* parent = nullptr);
+    ~FormVendelSaisieArticle() override;
+
+    /// Appends the whole menu to the list, and tells of an empty menu or of doubled names.
+    void Display();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private slots:
+    void on_tableView_doubleClicked(const QModelIndex& index);
+    void on_txt_Article_textChanged(const QString& text);
+    void on_btn_Effacer_Saisie_clicked();
+    void on_btn_Afficher_clicked();
+    void on_btn_Ajouter_clicked();
+    void on_btn_Supprimer_clicked();
+    void on_btn_Renommer_clicked();
+    void on_btn_Rechercher_clicked();
+
+private:
+    void setCaptions();
+    void showHoverTip(const QObject* watched, const QEvent* event);
+    void checkLength();
+
+    void showMenu();
+    void append(const DbRows& articles);
+    void tellOfDuplicates(const std::array<std::string, 2>& message, std::optional<int> count);
+
+    void search();
+    void add();
+    void removeCurrent();
+    void renameCurrent();
+    void trimFields();
+    QString currentCell(int column) const;
+
+    std::unique_ptr<Ui_FormVendelSaisieArticle> ui_;
+    QStandardItemModel* model_;
+};
