@@ -14,6 +14,7 @@
 #include "db/Db.h"
 #include "forms/FormVendelAbout.h"
 #include "forms/FormVendelConfig.h"
+#include "forms/FormVendelHistorique.h"
 #include "forms/FormVendelSaisieArticle.h"
 #include "ui_FormVendel.h"
 
@@ -154,7 +155,8 @@ void FormVendel::on_actionSaisie_Article_triggered()
 
 void FormVendel::on_actionHistorique_triggered()
 {
-    guarded("Errors FormVendel on_actionHistorique_triggered : ", [] {});
+    guarded("Errors FormVendel on_actionHistorique_triggered : ",
+        [this] { openWindow<FormVendelHistorique>(this); });
 }
 
 void FormVendel::on_actionA_propos_de_triggered()

@@ -1,25 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "app/ReceiptDocument.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
 #include <QTextCursor>
 #include <QTextEdit>
+#include <QTextFrame>
+
+#include <cmath>
 
 namespace {
 using Style = ReceiptLine::Style;
 
+constexpr int paperColumns = 48;
 constexpr int tabColumns = 8;
 constexpr double doubleSize = 2;
-constexpr int doubleWidth = 200;
 
-/// A face in which 48 columns of 12 points fit the window beside a scroll bar.
-QFont fixedPitchFont(int pointSize)
+double columnWidth(const QFont& font)
+{
+    return QFontMetricsF(font).horizontalAdvance(QLatin1Char('0'));
+}
+
+/// A face in which the paper's columns fit into \a width pixels; where the narrow one is missing,
+/// another is drawn narrower.
+QFont fixedPitchFont(int pointSize, int width)
 {
     QFont font;
     font.setFamilies({QStringLiteral("Inconsolata"), QStringLiteral("monospace")});
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
     font.setPointSize(pointSize);
+    const double needed = paperColumns * columnWidth(font);
+    if (needed > width) {
+        font.setStretch(static_cast<int>(std::floor(100 * width / needed)));
+    }
     return font;
 }
 
@@ -30,11 +44,20 @@ QTextCharFormat charFormat(const QFont& normal, Style style)
     if (style == Style::Title) {
         font.setPointSizeF(normal.pointSizeF() * doubleSize);
     } else if (style == Style::GrandTotal) {
-        font.setStretch(doubleWidth);
+        const int stretch = normal.stretch() == QFont::AnyStretch ? 100 : normal.stretch();
+        font.setStretch(2 * stretch);
     }
     QTextCharFormat format;
     format.setFont(font);
     format.setForeground(Qt::black);
+    return format;
+}
+
+QTextBlockFormat blockFormat(Style style)
+{
+    QTextBlockFormat format;
+    format.setAlignment(style == Style::Title ? Qt::AlignHCenter : Qt::AlignLeft);
+    format.setNonBreakableLines(style == Style::GrandTotal);
     return format;
 }
 
@@ -45,20 +68,38 @@ QString shownText(const ReceiptLine& line)
     // Paper knows a carriage return without a line feed, the window does not.
     return text.remove(QLatin1Char('\r'));
 }
+
+/// Makes \a edit a sheet of the paper's width, in the middle beside the scroll bar.
+void layOutPaper(QTextEdit& edit, const QFont& font, int width)
+{
+    edit.setFont(font);
+    // The sheet has the same size in pixels on every screen, like the window: neither its own font
+    // nor its layout may take the resolution from the widget.
+    edit.document()->setDefaultFont(font);
+    edit.document()->documentLayout()->setPaintDevice(nullptr);
+    edit.setTabStopDistance(tabColumns * columnWidth(font));
+    edit.setWordWrapMode(QTextOption::WrapAnywhere);
+    QTextFrameFormat frame = edit.document()->rootFrame()->frameFormat();
+    const double margin = std::floor((width - paperColumns * columnWidth(font)) / 2);
+    frame.setLeftMargin(margin);
+    frame.setRightMargin(margin);
+    edit.document()->rootFrame()->setFrameFormat(frame);
+}
 } // namespace
 
 void showReceipt(const Receipt& receipt, QTextEdit& edit)
 {
-    const QFont font = fixedPitchFont(edit.font().pointSize());
-    edit.setFont(font);
-    edit.setTabStopDistance(tabColumns * QFontMetricsF(font).horizontalAdvance(QLatin1Char('0')));
+    const int width = edit.maximumViewportSize().width();
+    const QFont font = fixedPitchFont(edit.font().pointSize(), width);
+    layOutPaper(edit, font, width);
 
     QTextCursor cursor = edit.textCursor();
+    cursor.beginEditBlock();
     for (const ReceiptLine& line : receipt) {
-        QTextBlockFormat block;
-        block.setAlignment(line.style == Style::Title ? Qt::AlignHCenter : Qt::AlignLeft);
-        cursor.setBlockFormat(block);
+        cursor.setBlockFormat(blockFormat(line.style));
         cursor.insertText(shownText(line), charFormat(font, line.style));
         cursor.insertBlock();
     }
+    cursor.endEditBlock();
+    edit.moveCursor(QTextCursor::Start);
 }

@@ -22,7 +22,10 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Polish && watched->inherits("QTipLabel")) {
-            static_cast<QWidget*>(watched)->setWindowFlag(Qt::WindowTransparentForInput);
+            auto* tip = static_cast<QWidget*>(watched);
+            // A tip that is not said to stay on top is made twice on X11, the second time opaque.
+            tip->setWindowFlags(
+                tip->windowFlags() | Qt::WindowTransparentForInput | Qt::WindowStaysOnTopHint);
         }
         return false;
     }
@@ -57,8 +60,11 @@ QString textUnder(const QAbstractItemView& view, QPoint position, int column)
 {
     const QModelIndex index = view.indexAt(position);
     const QString text = index.sibling(index.row(), column).data().toString();
-    return text.size() > longestTipCharacters ? text.left(longestTipCharacters) + QChar(0x2026)
-                                              : text;
+    if (text.size() <= longestTipCharacters) {
+        return text;
+    }
+    const bool splitsCharacter = text.at(longestTipCharacters - 1).isHighSurrogate();
+    return text.left(longestTipCharacters - (splitsCharacter ? 1 : 0)) + QChar(0x2026);
 }
 
 void showTip(QWidget& window, QPoint point, const QString& text)

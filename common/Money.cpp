@@ -5,9 +5,16 @@
 
 #include <QLocale>
 
+namespace {
+QLocale numberFormat()
+{
+    return QLocale(QLocale::English, QLocale::AnyCountry);
+}
+} // namespace
+
 QString formatAmount(float value, int decimals)
 {
-    return QLocale(QLocale::English, QLocale::AnyCountry).toString(value, 'f', decimals);
+    return numberFormat().toString(value, 'f', decimals);
 }
 
 QString formatAmount(const std::string& value)
@@ -24,6 +31,14 @@ QString formatCell(const std::string& text)
 {
     const QString shown = QString::fromStdString(text);
     return Tools::isNum(shown) ? formatMoney(shown.toFloat()) : shown;
+}
+
+QString formatExactCell(const std::string& text)
+{
+    const QString shown = QString::fromStdString(text);
+    return Tools::isNum(shown)
+        ? numberFormat().toString(shown.toDouble(), 'f', 2) + QLatin1Char('$')
+        : shown;
 }
 
 float readBack(const QString& shown)

@@ -17,6 +17,9 @@ QString formatMoney(float value);
 /// A stored column text as a list cell: an amount where it is a number, else as it stands.
 QString formatCell(const std::string& text);
 
+/// The same in double precision, so that the takings of a year keep their cents.
+QString formatExactCell(const std::string& text);
+
 /// What the totals take \a shown for: "," counts as ".", in single precision. An amount of 1,000 or
 /// more therefore reads as 0, because its group separator makes it unreadable.
 float readBack(const QString& shown);

@@ -81,25 +81,30 @@ char* convert(const char* from, const char* to, const char* text)
     // iconv reads through its input pointer only, whatever its signature says.
     char* input = const_cast<char*>(text);
     std::size_t written = 0;
+    bool isRead = false;
     for (;;) {
         char* output = buffer.get() + written;
         std::size_t room = size - written;
         errno = 0;
+        // Without an input, iconv writes what ends the text in a set with shift states.
         const bool done
-            = iconv(descriptor.get(), &input, &inputLeft, &output, &room) != iconvFailed;
+            = iconv(descriptor.get(), isRead ? nullptr : &input, &inputLeft, &output, &room)
+            != iconvFailed;
         const int reason = errno;
         written = size - room;
-        if (done || reason == EINVAL) {
-            iconv(descriptor.get(), nullptr, nullptr, &output, &room);
+        if (done && isRead) {
             std::memset(output, 0, terminatorSize);
             return buffer.release();
         }
-        if (reason != E2BIG) {
+        if (done || (reason == EINVAL && !isRead)) {
+            isRead = true;
+        } else if (reason != E2BIG) {
             return nullptr;
-        }
-        size += 8 + 2 * inputLeft;
-        if (!resize(buffer, size)) {
-            return nullptr;
+        } else {
+            size += 8 + 2 * inputLeft;
+            if (!resize(buffer, size)) {
+                return nullptr;
+            }
         }
     }
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Print/escpospp/EscPos.h"
 
+#include "Print/escpospp/StbImage.h"
+
 #include <cstddef>
 #include <cstdio>
 #include <memory>
@@ -52,7 +54,7 @@ bool isBlack(const stbi_uc* rgb)
 DotMatrix EscPos::loadImage(std::string path)
 {
     const File file{std::fopen(path.c_str(), "rb")};
-    if (!file || !isOfPrintableSize(file.get())) {
+    if (!file || !isOfPrintableSize(file.get()) || isPnmThatEndsEarly(file.get())) {
         return {};
     }
     int width = 0;

@@ -5,8 +5,7 @@
 
 #include <memory>
 #include <utility>
-
-std::map<std::string, MDPair*> MDPair::mdPairMap;
+#include <vector>
 
 namespace {
 
@@ -15,11 +14,11 @@ void addPair(const std::string& marker, const std::string& on, const std::string
     if (MDPair::mdPairMap.contains(marker)) {
         return;
     }
-    auto pair = std::make_unique<MDPair>(marker);
+    static std::vector<std::unique_ptr<MDPair>> pairs;
+    auto& pair = pairs.emplace_back(std::make_unique<MDPair>(marker));
     pair->on = on;
     pair->off = off;
     MDPair::mdPairMap[marker] = pair.get();
-    static_cast<void>(pair.release());
 }
 
 } // namespace

@@ -21,7 +21,7 @@ public:
     static void initializeMap();
 
     /// The pairs by marker. They live as long as the process.
-    static std::map<std::string, MDPair*> mdPairMap;
+    static inline std::map<std::string, MDPair*> mdPairMap;
 
     std::string on;
     std::string off;

@@ -1,5 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The one home of stb_image's code, with the formats that a shop logo comes in.
+#include "Print/escpospp/StbImage.h"
+
+#include <cstdlib>
+
+// A damaged file leaves parts of a picture unwritten; they must not show what memory held before.
+#define STBI_MALLOC(size) std::calloc(1, size)
+#define STBI_REALLOC(memory, size) std::realloc(memory, size)
+#define STBI_FREE(memory) std::free(memory)
 #define STB_IMAGE_IMPLEMENTATION
 #define STBI_ONLY_PNG
 #define STBI_ONLY_BMP
@@ -7,3 +15,20 @@
 #define STBI_ONLY_GIF
 #define STBI_ONLY_PNM
 #include <stb/stb_image.h>
+
+bool isPnmThatEndsEarly(std::FILE* file)
+{
+    stbi__context context;
+    stbi__start_file(&context, file);
+    int width = 0;
+    int height = 0;
+    int channels = 0;
+    const int bits
+        = stbi__pnm_test(&context) != 0 ? stbi__pnm_info(&context, &width, &height, &channels) : 0;
+    const long ahead = context.img_buffer_end - context.img_buffer;
+    const long dataStart = std::ftell(file) - ahead;
+    std::fseek(file, 0, SEEK_END);
+    const long available = std::ftell(file) - dataStart;
+    std::rewind(file);
+    return bits != 0 && available < 1L * width * height * channels * (bits / 8);
+}

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/Captured.h"
 
+#include <QTest>
+
 #include <iostream>
 
 #include <unistd.h>
@@ -49,6 +51,10 @@ CapturedOutput::~CapturedOutput()
     std::fflush(stdout);
     dup2(before_, STDOUT_FILENO);
     close(before_);
+    // The report of a failed test went into the file, too.
+    if (QTest::currentTestFailed()) {
+        std::cout << text().constData() << std::flush;
+    }
 }
 
 QByteArray CapturedOutput::text()

@@ -6,7 +6,8 @@
 #include <QStringList>
 #include <QTemporaryFile>
 
-/// Collects what the process writes on standard output while it lives.
+/// Collects what the process writes on standard output while it lives; a failed test's output is
+/// passed on at the end, its report being part of it.
 class CapturedOutput
 {
 public:

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+#include <QModelIndex>
+#include <QStandardItemModel>
+
+#include <memory>
+
+class Ui_FormVendelSaisieStockCutPaste;
+
+/// Moves recipe lines, one at a time, from an article that the menu no longer sells to one that it
+/// sells.
+class FormVendelSaisieStockCutPaste : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// \a parent is the FormVendelSaisieStock whose recipe list a move empties.
+    explicit FormVendelSaisieStockCutPaste(QWidget* parent = nullptr);
+    ~FormVendelSaisieStockCutPaste() override;
+
+    /// Fills the list of withdrawn articles.
+    void Display();
+
+    /// Reads the recipe of the stock article \a id anew.
+    void Display_DoseStock(const QString& id);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private slots:
+    void on_tableViewSelection(const QModelIndex& current, const QModelIndex& previous);
+    void on_tableView1_clicked(const QModelIndex& index);
+    void on_btn_Modify_clicked();
+
+private:
+    void setUpLists();
+    void fillTargets();
+    void showRecipeOf(const QModelIndex& index);
+    void moveLine();
+
+    std::unique_ptr<Ui_FormVendelSaisieStockCutPaste> ui_;
+    QStandardItemModel* modelArticles_;
+    QStandardItemModel* modelCompositions_;
+};

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "forms/Quantity.h"
+
+#include "common/Tools.h"
+
+#include <QLocale>
+
+QString formatQuantity(const std::string& text, int decimals)
+{
+    const QString shown = QString::fromStdString(text);
+    if (!Tools::isNum(shown)) {
+        return shown;
+    }
+    // A year of doses outgrows single precision.
+    return QLocale(QLocale::English, QLocale::AnyCountry).toString(shown.toDouble(), 'f', decimals);
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Print/escpospp/Printer.h"
+#include "tests/Print/CapturedOutput.h"
+#include "tests/support/EmulatedPrinter.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <utility>
+
+inline constexpr std::pair<int, int> ReceiptPrinter{0x04B8, 0x0E15};
+
+/// The bytes of each transfer as hexadecimal text; one that was not taken whole has its result
+/// in front.
+inline QStringList transfersOf(const EmulatedPrinter& printer)
+{
+    QStringList list;
+    for (const auto& transfer : printer.transfers()) {
+        const QString hex = QString::fromLatin1(QByteArray::fromStdString(transfer.bytes).toHex());
+        list += transfer.result == "taken" ? hex
+                                           : QString::fromStdString(transfer.result) + ' ' + hex;
+    }
+    return list;
+}
+
+/// Everything that happened on the bus, in words.
+inline QStringList conversationOf(const EmulatedPrinter& printer)
+{
+    QStringList list;
+    for (const auto& words : printer.conversation()) {
+        list += QString::fromStdString(words);
+    }
+    return list;
+}
+
+/// The value of the int that \a body throws; 0 when it throws none.
+template <class Body> int thrownInt(Body&& body)
+{
+    try {
+        std::forward<Body>(body)();
+    } catch (int value) {
+        return value;
+    }
+    return 0;
+}
+
+/// The same for taking the printer over.
+inline int thrownByInitializing()
+{
+    return thrownInt([] { Printer::initializePrinter(ReceiptPrinter); });
+}

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+#include "Print/escpospp/EscPos.h"
+#include "tests/Print/PrinterTest.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+// Rows as text: '#' is a black dot.
+QStringList rowsOf(const DotMatrix& dots)
+{
+    QStringList rows;
+    for (const auto& row : dots) {
+        QString text;
+        for (const bool black : row) {
+            text += black ? '#' : '.';
+        }
+        rows += text;
+    }
+    return rows;
+}
+
+QByteArray whitePixels(int count, const QByteArray& head)
+{
+    return head + QByteArray(count, '\xFF');
+}
+
+} // namespace
+
+class TestLogoImage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aPixelIsBlackBelow150_data();
+    void aPixelIsBlackBelow150();
+    void loadedRowsAreThePicturesRows_data();
+    void loadedRowsAreThePicturesRows();
+    void aJpegIsLoaded();
+    void theFirstFrameOfAGifIsLoaded();
+    void greyFilesAreLoaded();
+    void aPictureGoesFromFileToPaper();
+    void whatCannotBeDecodedIsEmpty_data();
+    void whatCannotBeDecodedIsEmpty();
+    void aMissingFileIsEmpty();
+    void aFolderIsEmpty();
+    void theLargestPictureIsLoaded();
+    void aLargerPictureIsNotDecoded();
+
+private:
+    QString fileHolding(const QByteArray& bytes);
+    DotMatrix loaded(const QByteArray& bytes);
+
+    QTemporaryDir folder_;
+};
+
+QString TestLogoImage::fileHolding(const QByteArray& bytes)
+{
+    QFile file(folder_.filePath("picture"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        qFatal("cannot write the picture");
+    }
+    return file.fileName();
+}
+
+DotMatrix TestLogoImage::loaded(const QByteArray& bytes)
+{
+    return EscPos::loadImage(fileHolding(bytes).toStdString());
+}
+
+void TestLogoImage::aPixelIsBlackBelow150_data()
+{
+    QTest::addColumn<QByteArray>("rgb");
+    QTest::addColumn<QString>("dot");
+    const auto row = [](const char* name, int r, int g, int b, const char* dot) {
+        const QByteArray rgb{
+            QByteArray(1, static_cast<char>(r)) + static_cast<char>(g) + static_cast<char>(b)};
+        QTest::newRow(name) << rgb << QString(dot);
+    };
+    row("black", 0, 0, 0, "#");
+    row("white", 255, 255, 255, ".");
+    row("grey 149", 149, 149, 149, "#");
+    row("grey 150", 150, 150, 150, ".");
+    row("red", 255, 0, 0, "#");
+    row("green", 0, 255, 0, ".");
+    row("blue", 0, 0, 255, "#");
+    row("149.89", 150, 150, 149, "#");
+    row("exactly 150, rounded to 149.99998", 58, 213, 63, "#");
+    row("exactly 150, kept", 0, 208, 248, ".");
+}
+
+void TestLogoImage::aPixelIsBlackBelow150()
+{
+    QFETCH(QByteArray, rgb);
+    QFETCH(QString, dot);
+    QCOMPARE(rowsOf(loaded("P6 1 1 255\n" + rgb)), QStringList(dot));
+}
+
+void TestLogoImage::loadedRowsAreThePicturesRows_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<int>("pixels");
+    QTest::newRow("PNG") << QByteArray("PNG") << static_cast<int>(QImage::Format_RGB32);
+    QTest::newRow("PNG with alpha") << QByteArray("PNG") << static_cast<int>(QImage::Format_ARGB32);
+    QTest::newRow("grey PNG") << QByteArray("PNG") << static_cast<int>(QImage::Format_Grayscale8);
+    QTest::newRow("PNG of one bit") << QByteArray("PNG") << static_cast<int>(QImage::Format_Mono);
+    QTest::newRow("BMP") << QByteArray("BMP") << static_cast<int>(QImage::Format_RGB32);
+    QTest::newRow("PPM") << QByteArray("PPM") << static_cast<int>(QImage::Format_RGB32);
+}
+
+void TestLogoImage::loadedRowsAreThePicturesRows()
+{
+    QFETCH(QByteArray, format);
+    QFETCH(int, pixels);
+    QImage picture(5, 3, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    picture.setPixelColor(0, 0, Qt::black);
+    picture.setPixelColor(4, 1, Qt::black);
+    picture.setPixelColor(2, 2, Qt::black);
+    const QString path = folder_.filePath("encoded");
+    QVERIFY(picture.convertToFormat(static_cast<QImage::Format>(pixels))
+                .save(path, format.constData()));
+    QCOMPARE(
+        rowsOf(EscPos::loadImage(path.toStdString())), QStringList({"#....", "....#", "..#.."}));
+}
+
+void TestLogoImage::aJpegIsLoaded()
+{
+    QImage picture(16, 8, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < 8; ++x) {
+            picture.setPixelColor(x, y, Qt::black);
+        }
+    }
+    const QString path = folder_.filePath("encoded");
+    QVERIFY(picture.save(path, "JPG", 100));
+    QCOMPARE(rowsOf(EscPos::loadImage(path.toStdString())),
+        QStringList(QVector<QString>(8, "########........").toList()));
+}
+
+void TestLogoImage::theFirstFrameOfAGifIsLoaded()
+{
+    // One frame of two pixels, black and white; the codes are clear, 0, 1, end in three bits each.
+    const QByteArray gif = QByteArray::fromHex("474946383961"
+                                               "02000100800000"
+                                               "000000ffffff"
+                                               "2c000000000200010000"
+                                               "02"
+                                               "02440a00"
+                                               "3b");
+    QCOMPARE(rowsOf(loaded(gif)), QStringList("#."));
+}
+
+void TestLogoImage::greyFilesAreLoaded()
+{
+    QCOMPARE(rowsOf(loaded(QByteArray("P5\n3 2\n255\n") + QByteArray::fromHex("0095969600ff"))),
+        QStringList({"##.", ".#."}));
+    QCOMPARE(rowsOf(loaded(QByteArray("P5\n# a shop\n1 1\n255\n") + '\0')), QStringList("#"));
+}
+
+void TestLogoImage::aPictureGoesFromFileToPaper()
+{
+    EmulatedPrinter bus;
+    Printer printer(ReceiptPrinter);
+    DotMatrix dots = loaded(QByteArray("P5 2 2 255\n") + QByteArray::fromHex("00ff00ff"));
+    printer.image(dots);
+    QCOMPARE(transfersOf(bus),
+        QStringList({"1b3300",
+            "1b2a210200"
+            "800000"
+            "000000"
+            "0a",
+            "1b32"}));
+}
+
+void TestLogoImage::whatCannotBeDecodedIsEmpty_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("text") << QByteArray("Chez Paul\n12 rue X\n");
+    QTest::newRow("a PNG's first bytes") << QByteArray("\x89PNG\r\n\x1A\n");
+    QTest::newRow("a PNG without data") << QByteArray::fromHex("89504e470d0a1a0a"
+                                                               "0000000d49484452"
+                                                               "0000000100000001"
+                                                               "0800000000"
+                                                               "3a7e9b55"
+                                                               "0000000049454e44ae426082");
+    QTest::newRow("a size of nothing") << QByteArray("P6 0 0 255\n");
+    QTest::newRow("a PPM that ends early") << QByteArray("P6 2 2 255\nabcdefghijk");
+    QTest::newRow("a PGM that ends early") << whitePixels(299, "P5 300 1 255\n");
+    QTest::newRow("a format that no shop uses") << QByteArray("8BPS\0\1", 6);
+}
+
+void TestLogoImage::whatCannotBeDecodedIsEmpty()
+{
+    QFETCH(QByteArray, bytes);
+    QCOMPARE(loaded(bytes).size(), 0U);
+}
+
+void TestLogoImage::aMissingFileIsEmpty()
+{
+    QCOMPARE(EscPos::loadImage(folder_.filePath("missing").toStdString()).size(), 0U);
+    QCOMPARE(EscPos::loadImage("").size(), 0U);
+}
+
+void TestLogoImage::aFolderIsEmpty()
+{
+    QCOMPARE(EscPos::loadImage(folder_.path().toStdString()).size(), 0U);
+}
+
+void TestLogoImage::theLargestPictureIsLoaded()
+{
+    const DotMatrix dots = loaded(whitePixels(4096 * 4096, "P5 4096 4096 255\n"));
+    QCOMPARE(dots.size(), 4096U);
+    QCOMPARE(dots.back().size(), 4096U);
+}
+
+void TestLogoImage::aLargerPictureIsNotDecoded()
+{
+    QCOMPARE(loaded(whitePixels(4096 * 4097, "P5 4096 4097 255\n")).size(), 0U);
+    QCOMPARE(loaded("P5 2000000000 2000000000 255\n").size(), 0U);
+}
+
+QTEST_GUILESS_MAIN(TestLogoImage)
+
+#include "tst_LogoImage.moc"

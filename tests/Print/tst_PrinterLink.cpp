@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: MIT
+#include "tests/Print/PrinterTest.h"
+
+#include <QtTest>
+
+#include <filesystem>
+#include <iterator>
+#include <memory>
+
+#include <libusb.h>
+#include <sys/resource.h>
+
+namespace {
+
+// The emulated bus numbers its devices from here.
+constexpr int FirstAddress = 2;
+
+// The address of the bus's first printer in libusb's order.
+int firstAddressInLibusbsList()
+{
+    libusb_context* context = nullptr;
+    libusb_init(&context);
+    libusb_device** list = nullptr;
+    const ssize_t count = libusb_get_device_list(context, &list);
+    int address = 0;
+    for (ssize_t i = 0; i < count && address == 0; ++i) {
+        libusb_device_descriptor descriptor{};
+        libusb_get_device_descriptor(list[i], &descriptor);
+        if (descriptor.idVendor == ReceiptPrinter.first) {
+            address = libusb_get_device_address(list[i]);
+        }
+    }
+    libusb_free_device_list(list, 1);
+    libusb_exit(context);
+    return address;
+}
+
+std::ptrdiff_t openDescriptors()
+{
+    const std::filesystem::directory_iterator entries("/proc/self/fd");
+    return std::distance(begin(entries), end(entries));
+}
+
+} // namespace
+
+class TestPrinterLink : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aPrinterIsOpenedAndClaimed();
+    void withoutADeviceThereIsNoPrinter();
+    void bothIdsMustMatch();
+    void aFailedStartIsTriedAgainFromScratch();
+    void aSecondInitialisationDoesNothing();
+    void ofTwoPrintersTheFirstInTheListIsUsed();
+    void theFirstMatchCountsEvenIfItCannotBeOpened();
+    void theKernelsDriverIsDetached();
+    void aDriverThatStaysKeepsTheInterface();
+    void anInterfaceHeldByAnotherProgramIsNotTaken();
+    void aDeviceThatCannotBeOpenedIsNoPrinter();
+    void aFailingLibraryIsNamedWithItsCode();
+    void aPrinterGivesItsInterfaceBack();
+    void aPrinterThatIsGoneCannotGiveItBack();
+    void nothingStaysOpenBehindAPrinter();
+    void nothingStaysOpenBehindAFailedStart_data();
+    void nothingStaysOpenBehindAFailedStart();
+};
+
+void TestPrinterLink::aPrinterIsOpenedAndClaimed()
+{
+    EmulatedPrinter bus;
+    CapturedOutput output;
+    QVERIFY(Printer::getPrinter() == nullptr);
+    Printer::initializePrinter(ReceiptPrinter);
+    QVERIFY(Printer::getPrinter() != nullptr);
+    QCOMPARE(Printer::getPrinter(), Printer::instance);
+    QCOMPARE(conversationOf(bus), QStringList({"0 open", "0 claim"}));
+    QCOMPARE(output.take(), std::string());
+}
+
+void TestPrinterLink::withoutADeviceThereIsNoPrinter()
+{
+    EmulatedPrinter bus({.devices = {}});
+    CapturedOutput output;
+    QCOMPARE(thrownByInitializing(), -1);
+    QCOMPARE(output.take(), std::string("Cannot open device\n"));
+    QVERIFY(Printer::getPrinter() == nullptr);
+}
+
+void TestPrinterLink::bothIdsMustMatch()
+{
+    EmulatedPrinter bus({.devices = {"04b8:0e03", "0416:0e15"}});
+    CapturedOutput output;
+    QCOMPARE(thrownByInitializing(), -1);
+    QCOMPARE(output.take(), std::string("Cannot open device\n"));
+    QCOMPARE(conversationOf(bus), QStringList());
+}
+
+void TestPrinterLink::aFailedStartIsTriedAgainFromScratch()
+{
+    EmulatedPrinter bus;
+    bus.unplug();
+    CapturedOutput output;
+    QCOMPARE(thrownByInitializing(), -1);
+    bus.plug();
+    QCOMPARE(thrownByInitializing(), 0);
+    QCOMPARE(output.take(), std::string("Cannot open device\n"));
+    QVERIFY(Printer::getPrinter() != nullptr);
+}
+
+void TestPrinterLink::aSecondInitialisationDoesNothing()
+{
+    EmulatedPrinter bus({.devices = {"04b8:0e15", "04b8:0e03"}});
+    Printer::initializePrinter(ReceiptPrinter);
+    const Printer* const first = Printer::getPrinter();
+    Printer::initializePrinter({0x04B8, 0x0E03});
+    Printer::initializePrinter({0xFFFF, 0xFFFF});
+    QCOMPARE(Printer::getPrinter(), first);
+    QCOMPARE(conversationOf(bus), QStringList({"0 open", "0 claim"}));
+}
+
+void TestPrinterLink::ofTwoPrintersTheFirstInTheListIsUsed()
+{
+    EmulatedPrinter bus({.devices = {"04b8:0e15", "04b8:0e15"}});
+    const int first = firstAddressInLibusbsList() - FirstAddress;
+    Printer::initializePrinter(ReceiptPrinter);
+    Printer::getPrinter()->raw("x");
+    QCOMPARE(bus.transfers(), (std::vector<EmulatedTransfer>{{first, "taken", 1, "x"}}));
+}
+
+void TestPrinterLink::theFirstMatchCountsEvenIfItCannotBeOpened()
+{
+    EmulatedPrinter bus({.devices = {"04b8:0e15", "04b8:0e15"}});
+    const auto node = QStringLiteral("%1/dev/bus/usb/001/00%2")
+                          .arg(qEnvironmentVariable("UMOCKDEV_DIR"))
+                          .arg(firstAddressInLibusbsList());
+    QVERIFY(QFile::remove(node));
+    CapturedOutput output;
+    QCOMPARE(thrownByInitializing(), -1);
+    QCOMPARE(output.take(), std::string("Cannot open device\n"));
+    QCOMPARE(conversationOf(bus), QStringList());
+}
+
+void TestPrinterLink::theKernelsDriverIsDetached()
+{
+    EmulatedPrinter bus({.kernelDriver = true});
+    CapturedOutput output;
+    Printer::initializePrinter(ReceiptPrinter);
+    QCOMPARE(output.take(), std::string("Kernel Driver Active\nKernel Driver Detached!\n"));
+    QCOMPARE(conversationOf(bus), QStringList({"0 open", "0 detach", "0 claim"}));
+}
+
+void TestPrinterLink::aDriverThatStaysKeepsTheInterface()
+{
+    EmulatedPrinter bus({.kernelDriver = true, .detachRefused = true});
+    CapturedOutput output;
+    QCOMPARE(thrownByInitializing(), -1);
+    QCOMPARE(output.take(), std::string("Kernel Driver Active\nCannot Claim Interface\n"));
+    QVERIFY(Printer::getPrinter() == nullptr);
+}
+
+void TestPrinterLink::anInterfaceHeldByAnotherProgramIsNotTaken()
+{
+    EmulatedPrinter bus({.claimRefused = true});
+    CapturedOutput output;
+    QCOMPARE(thrownByInitializing(), -1);
+    QCOMPARE(output.take(), std::string("Cannot Claim Interface\n"));
+    QVERIFY(Printer::getPrinter() == nullptr);
+    bus.send("claim-refused off");
+    QCOMPARE(thrownByInitializing(), 0);
+    QCOMPARE(output.take(), std::string());
+}
+
+void TestPrinterLink::aDeviceThatCannotBeOpenedIsNoPrinter()
+{
+    EmulatedPrinter bus({.openRefused = true});
+    CapturedOutput output;
+    QCOMPARE(thrownByInitializing(), -1);
+    QCOMPARE(output.take(), std::string("Cannot open device\n"));
+    QVERIFY(Printer::getPrinter() == nullptr);
+}
+
+void TestPrinterLink::aFailingLibraryIsNamedWithItsCode()
+{
+    EmulatedPrinter bus;
+    CapturedOutput output;
+    rlimit descriptors{};
+    getrlimit(RLIMIT_NOFILE, &descriptors);
+    rlimit none = descriptors;
+    none.rlim_cur = 0;
+    setrlimit(RLIMIT_NOFILE, &none);
+    const int thrown = thrownByInitializing();
+    setrlimit(RLIMIT_NOFILE, &descriptors);
+    QCOMPARE(thrown, -1);
+    QCOMPARE(output.take(), std::string("Init Error -99\n"));
+    QVERIFY(Printer::getPrinter() == nullptr);
+}
+
+void TestPrinterLink::aPrinterGivesItsInterfaceBack()
+{
+    EmulatedPrinter bus;
+    CapturedOutput output;
+    {
+        Printer printer(ReceiptPrinter);
+    }
+    QCOMPARE(output.take(), std::string("Released Interface\n"));
+    QCOMPARE(conversationOf(bus), QStringList({"0 open", "0 claim", "0 release"}));
+    QVERIFY(Printer::getPrinter() == nullptr);
+}
+
+void TestPrinterLink::aPrinterThatIsGoneCannotGiveItBack()
+{
+    EmulatedPrinter bus;
+    CapturedOutput output;
+    {
+        Printer printer(ReceiptPrinter);
+        bus.unplug();
+    }
+    QCOMPARE(output.take(), std::string("Cannot Release Interface\n"));
+}
+
+void TestPrinterLink::nothingStaysOpenBehindAPrinter()
+{
+    EmulatedPrinter bus;
+    const auto before = openDescriptors();
+    for (int i = 0; i < 20; ++i) {
+        Printer printer(ReceiptPrinter);
+        printer.raw("x");
+        QVERIFY(openDescriptors() > before);
+    }
+    QCOMPARE(openDescriptors(), before);
+}
+
+void TestPrinterLink::nothingStaysOpenBehindAFailedStart_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("no device") << "unplug";
+    QTest::newRow("claimed by another program") << "claim-refused";
+}
+
+void TestPrinterLink::nothingStaysOpenBehindAFailedStart()
+{
+    QFETCH(QString, command);
+    EmulatedPrinter bus;
+    bus.send(command.toStdString());
+    const auto before = openDescriptors();
+    for (int i = 0; i < 20; ++i) {
+        QCOMPARE(thrownByInitializing(), -1);
+    }
+    QCOMPARE(openDescriptors(), before);
+}
+
+QTEST_GUILESS_MAIN(TestPrinterLink)
+
+#include "tst_PrinterLink.moc"

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "app/TicketTotals.h"
+#include "tests/support/TestMain.h"
+
+#include <stdexcept>
+
+class TestTicketTotals : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void areReckonedInSinglePrecision_data();
+    void areReckonedInSinglePrecision();
+    void withoutARateThereIsNoTax();
+    void eachRateGivesItsTaxAndTheLastOneCounts();
+    void withoutASumTheyThrow();
+    void aRateRowWithoutAValueThrows();
+};
+
+namespace {
+DbRows one(const QByteArray& value)
+{
+    return DbRows(1, {value.toStdString()});
+}
+} // namespace
+
+void TestTicketTotals::areReckonedInSinglePrecision_data()
+{
+    QTest::addColumn<QByteArray>("sum");
+    QTest::addColumn<QByteArray>("rate");
+    QTest::addColumn<QString>("shownSum");
+    QTest::addColumn<QString>("shownRate");
+    QTest::addColumn<QString>("tax");
+    QTest::addColumn<QString>("grandTotal");
+
+    const auto row = [](const char* name, const char* sum, const char* rate, const char* shownSum,
+                         const char* shownRate, const char* tax, const char* grandTotal) {
+        QTest::newRow(name) << QByteArray(sum) << QByteArray(rate) << QString::fromLatin1(shownSum)
+                            << QString::fromLatin1(shownRate) << QString::fromLatin1(tax)
+                            << QString::fromLatin1(grandTotal);
+    };
+    // Half a cent enters every tax. Halves fall where single precision puts them: 1.505, 0.005 and
+    // -11.995 lie just inside, 9.005 and -1.995 just outside.
+    row("20 per cent", "7.5", "20", "7.50", "20.00", "1.50", "9.01");
+    row("no tax still adds half a cent", "7.5", "0", "7.50", "0.00", "0.00", "7.51");
+    row("a whole sum at no tax", "10", "0", "10.00", "0.00", "0.00", "10.01");
+    row("10 at 20 per cent", "10", "20", "10.00", "20.00", "2.01", "12.01");
+    row("a rate with decimals", "100", "5.5", "100.00", "5.50", "5.51", "105.50");
+    row("negative", "-10", "20", "-10.00", "20.00", "-2.00", "-11.99");
+    row("just below a thousand", "999.99", "20", "999.99", "20.00", "200.00", "1,199.99");
+    row("a thousand counts as nothing", "1000", "20", "1,000.00", "20.00", "0.00", "0.00");
+    row("more than a thousand", "1234.5", "20", "1,234.50", "20.00", "0.00", "0.00");
+    row("less than minus a thousand", "-1234.5", "20", "-1,234.50", "20.00", "0.00", "0.00");
+    row("a rate that is no number", "7.5", "abc", "7.50", "0.00", "0.00", "7.51");
+    row("a rate of a thousand", "7.5", "1000", "7.50", "1,000.00", "0.00", "7.51");
+    row("a negative rate", "7.5", "-20", "7.50", "-20.00", "-1.50", "6.01");
+    row("a sum that is no number", "abc", "20", "0.00", "20.00", "0.00", "0.00");
+    row("an empty sum", "", "20", "0.00", "20.00", "0.00", "0.00");
+    row("six significant digits", "999.95", "33.33", "999.95", "33.33", "333.29", "1,333.24");
+}
+
+void TestTicketTotals::areReckonedInSinglePrecision()
+{
+    QFETCH(QByteArray, sum);
+    QFETCH(QByteArray, rate);
+    const TicketTotals totals = totalTicket(one(sum), one(rate));
+    QTEST(totals.sum, "shownSum");
+    QCOMPARE(totals.taxes.size(), std::size_t{1});
+    QTEST(totals.taxes.at(0).rate, "shownRate");
+    QTEST(totals.taxes.at(0).amount, "tax");
+    QTEST(totals.grandTotal, "grandTotal");
+}
+
+void TestTicketTotals::withoutARateThereIsNoTax()
+{
+    const TicketTotals totals = totalTicket(one("7.5"), {});
+    QCOMPARE(totals.sum, QStringLiteral("7.50"));
+    QVERIFY(totals.taxes.empty());
+    QCOMPARE(totals.grandTotal, QStringLiteral("7.50"));
+}
+
+void TestTicketTotals::eachRateGivesItsTaxAndTheLastOneCounts()
+{
+    const TicketTotals totals = totalTicket(one("10"), {{"20"}, {"5.5"}});
+    QCOMPARE(totals.taxes.size(), std::size_t{2});
+    QCOMPARE(totals.taxes.at(0).rate, QStringLiteral("20.00"));
+    QCOMPARE(totals.taxes.at(0).amount, QStringLiteral("2.01"));
+    QCOMPARE(totals.taxes.at(1).rate, QStringLiteral("5.50"));
+    QCOMPARE(totals.taxes.at(1).amount, QStringLiteral("0.56"));
+    QCOMPARE(totals.grandTotal, QStringLiteral("10.56"));
+}
+
+void TestTicketTotals::withoutASumTheyThrow()
+{
+    QVERIFY_EXCEPTION_THROWN(totalTicket({}, one("20")), std::out_of_range);
+    QVERIFY_EXCEPTION_THROWN(totalTicket(DbRows(1), one("20")), std::out_of_range);
+}
+
+void TestTicketTotals::aRateRowWithoutAValueThrows()
+{
+    QVERIFY_EXCEPTION_THROWN(totalTicket(one("7.5"), DbRows(1)), std::out_of_range);
+}
+
+VENDEL_TEST_MAIN(TestTicketTotals)
+#include "tst_TicketTotals.moc"
