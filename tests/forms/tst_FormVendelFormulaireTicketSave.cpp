@@ -55,6 +55,7 @@ private slots:
     void theModeIsKept();
     void nothingElseIsLeftInTheFolder();
 
+    void aFullDiskLeavesTheOldTextAndIsSaid_data();
     void aFullDiskLeavesTheOldTextAndIsSaid();
     void aFolderInTheFilesPlaceIsSaid();
     void aFolderWithoutWriteAccessIsSaid();
@@ -267,9 +268,17 @@ void TestFormVendelFormulaireTicketSave::nothingElseIsLeftInTheFolder()
     QCOMPARE(files(), QStringList({headerFile, footerFile}));
 }
 
+void TestFormVendelFormulaireTicketSave::aFullDiskLeavesTheOldTextAndIsSaid_data()
+{
+    QTest::addColumn<int>("lines");
+    QTest::newRow("a short text") << 500;
+    QTest::newRow("a long text") << 5000;
+}
+
 void TestFormVendelFormulaireTicketSave::aFullDiskLeavesTheOldTextAndIsSaid()
 {
-    OpenReceiptTexts editor(QByteArray("Chez Paul\n").repeated(1000), "Merci");
+    QFETCH(int, lines);
+    OpenReceiptTexts editor(QByteArray("Chez Paul\n").repeated(lines), "Merci");
     editor.typeAtEnd("Anne");
     const AnswerBox box(QMessageBox::Yes);
     {
@@ -277,7 +286,7 @@ void TestFormVendelFormulaireTicketSave::aFullDiskLeavesTheOldTextAndIsSaid()
         click(editor.window, "btn_Entete_Page");
     }
     QVERIFY(saidTheFailure(box));
-    QCOMPARE(editor.shop.read(headerFile), QByteArray("Chez Paul\n").repeated(1000));
+    QCOMPARE(editor.shop.read(headerFile), QByteArray("Chez Paul\n").repeated(lines));
     QCOMPARE(files(), QStringList({headerFile, footerFile}));
     QVERIFY(editor.text().endsWith(QLatin1String("\nAnne")));
 }
