@@ -18,8 +18,12 @@ void installTranslation(QApplication& application, const QString& file, const QS
 
 void Application::setAttributes()
 {
-    // The windows are laid out in pixels: text must not grow with the screen's density alone.
+    // The windows are laid out in pixels: text must not grow with the screen's density alone. The
+    // attribute reaches fonts without a widget, the variable those of the widgets.
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    if (!qEnvironmentVariableIsSet("QT_FONT_DPI")) {
+        qputenv("QT_FONT_DPI", "96");
+    }
 }
 
 void Application::setUp(QApplication& application)

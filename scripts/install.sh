@@ -10,8 +10,9 @@ declare -A packages=(
     [test]="libumockdev-dev umockdev libpng-dev xvfb xdotool imagemagick x11-utils bats sqlite3"
     [lint]="git shellcheck clang-format clang-tidy clazy cppcheck"
     [bench]="libbenchmark-dev"
+    [fuzz]="clang libclang-rt-dev"
 )
-usage="usage: scripts/install.sh [--list] GROUP...   (groups: build run test lint bench)"
+usage="usage: scripts/install.sh [--list] GROUP...   (groups: build run test lint bench fuzz)"
 
 list=false
 wanted=()

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The one home of stb_image's code, with the formats that a shop logo comes in.
+//
+// Known of the distribution's version 2.27, and not ours to correct: a damaged JPEG whose Huffman
+// tables claim more than 256 codes is written past those tables, into the decoder's other fields;
+// a PNM's overlong number wraps around. A till loads its own shop's logo, nobody else's.
 #include "Print/escpospp/StbImage.h"
 
 #include <cstdlib>

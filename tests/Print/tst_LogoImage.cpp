@@ -40,6 +40,7 @@ private slots:
     void loadedRowsAreThePicturesRows();
     void aJpegIsLoaded();
     void theFirstFrameOfAGifIsLoaded();
+    void aBmpStoredFromItsTopIsLoaded();
     void greyFilesAreLoaded();
     void aPictureGoesFromFileToPaper();
     void whatCannotBeDecodedIsEmpty_data();
@@ -152,6 +153,29 @@ void TestLogoImage::theFirstFrameOfAGifIsLoaded()
                                                "02440a00"
                                                "3b");
     QCOMPARE(rowsOf(loaded(gif)), QStringList("#."));
+}
+
+void TestLogoImage::aBmpStoredFromItsTopIsLoaded()
+{
+    // 24 bits a pixel, 1 x -2, rows padded to four bytes.
+    const QByteArray bmp = QByteArray::fromHex("424d"
+                                               "3e000000"
+                                               "00000000"
+                                               "36000000"
+                                               "28000000"
+                                               "01000000"
+                                               "feffffff"
+                                               "0100"
+                                               "1800"
+                                               "00000000"
+                                               "08000000"
+                                               "00000000"
+                                               "00000000"
+                                               "00000000"
+                                               "00000000"
+                                               "00000000"
+                                               "ffffff00");
+    QCOMPARE(rowsOf(loaded(bmp)), QStringList({"#", "."}));
 }
 
 void TestLogoImage::greyFilesAreLoaded()
