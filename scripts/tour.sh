@@ -75,7 +75,7 @@ if grep -E '^Errors ' "$out/till.log"; then
     fail "the till reported errors on the way"
 fi
 if $docs; then
-    for name in first-start sale total receipt-on-screen receipt; do
+    for name in total receipt-on-screen receipt; do
         install -D -m 644 "$out/$name.png" "$root/docs/images/$name.png"
     done
 fi

@@ -56,7 +56,7 @@ bool isBlack(const stbi_uc* rgb)
 DotMatrix EscPos::loadImage(std::string path)
 {
     const File file{std::fopen(path.c_str(), "rb")};
-    if (!file || !isOfPrintableSize(file.get()) || isPnmThatEndsEarly(file.get())) {
+    if (!file || !isOfPrintableSize(file.get()) || isUnreadablePnm(file.get())) {
         return {};
     }
     int width = 0;
