@@ -13,6 +13,9 @@ setup_file() {
     # Written at once, number and line feed.
     DISPLAY=":$(<"$BATS_FILE_TMPDIR/display")"
     export DISPLAY
+    mkdir "$BATS_FILE_TMPDIR/shop"
+    "$VENDEL_BUILD/demo/vendel-demo" "$BATS_FILE_TMPDIR/shop"
+    export VENDEL_SHOP="$BATS_FILE_TMPDIR/shop/Vendel.db"
 }
 
 teardown_file() {
@@ -36,9 +39,15 @@ make_build() {
     mkdir -p "$tree/build/release/demo" "$tree/build/release/packaging"
     echo icon >"$tree/build/release/packaging/Vendel.png"
     echo picture >"$tree/build/release/packaging/AproposdeImage.png"
+    local packaging="$BATS_TEST_DIRNAME/../../packaging"
+    cp "$packaging"/*.sh "$tree/build/release/packaging"
+    sed -e 's|@VENDEL_PROGRAM@|../vendel|; s|@VENDEL_SHARED@|.|' "$packaging/vendel.in" \
+        >"$tree/build/release/packaging/vendel"
+    chmod +x "$tree/build/release/packaging/vendel"
+    stub zenity
     mv "$(stub_at vendel 'pwd >>"$calls"; ls >>"$calls"; exit ${TILL_STATUS-0}')" \
         "$tree/build/release/vendel"
-    mv "$(stub_at vendel-demo 'echo shop >"$1/Vendel.db"; echo entete >"$1/EnteteFormulaire.dat"')" \
+    mv "$(stub_at vendel-demo 'cp "$VENDEL_SHOP" "$1"; echo entete >"$1/EnteteFormulaire.dat"')" \
         "$tree/build/release/demo/vendel-demo"
 }
 
@@ -116,7 +125,7 @@ stub_at() {
     : >"$XDG_DATA_HOME"
     run "$run_sh"
     [ "$status" -eq 1 ]
-    [ "${lines[-1]}" = "run.sh: cannot make the data directory $till_data" ]
+    [[ "${lines[-1]}" == "Le dossier de données « $till_data » est inutilisable "* ]]
     not_called "$till_data"
 }
 
@@ -133,7 +142,7 @@ stub_at() {
 @test "the first build leaves the tests out, a prepared one is left as it is" {
     run "$run_sh"
     called "cmake --preset release -DVENDEL_TESTS=OFF"
-    called "--target vendel vendel-artwork vendel-demo"
+    called "--target vendel vendel-artwork vendel-translation vendel-demo"
     : >"$calls"
     run "$run_sh"
     not_called "--preset release -D"
@@ -170,7 +179,7 @@ stub_at() {
         sleep 0.1
     done
     xdotool search --onlyvisible --name '^Vendel$'
-    shop=$(echo "$TMPDIR"/tmp.*)
+    shop=$(echo "$TMPDIR"/tmp.*/vendel)
     [ "$(sqlite3 "$shop/Vendel.db" "select valeur from Config where param = 'TVA'")" = 20 ]
     pkill -P "$runner" -x vendel
     wait "$runner" || true
