@@ -18,6 +18,7 @@ class Ui_FormVendel;
 class FormVendel : public QMainWindow
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendel)
 
 public:
     explicit FormVendel(QWidget* parent = nullptr);

@@ -8,6 +8,9 @@
 #include "common/Money.h"
 #include "common/SlotGuard.h"
 #include "common/Tools.h"
+#include "common/Windows.h"
+#include "forms/FormVendelSaisieStock.h"
+#include "forms/FormVendelStockCalculation.h"
 #include "ui_FormVendelHistorique.h"
 
 #include <QStandardItemModel>
@@ -354,14 +357,16 @@ void FormVendelHistorique::purge()
 
 void FormVendelHistorique::on_actionSaisie_Stock_triggered()
 {
-    guarded("Errors FormVendelHistorique on_actionSaisie_Stock_triggered : ", [] {});
+    guarded("Errors FormVendelHistorique on_actionSaisie_Stock_triggered : ",
+        [this] { openWindow<FormVendelSaisieStock>(this); });
 }
 
 void FormVendelHistorique::on_actionCalcul_Stock_triggered()
 {
     guarded("Errors FormVendelHistorique on_actionCalcul_Stock_triggered : ", [this] {
-        if (!salesOfPeriod()) {
-            return;
+        if (salesOfPeriod()) {
+            openWindow<FormVendelStockCalculation>(
+                this, ui_->txt_First_Date->text(), ui_->txt_Second_Date->text());
         }
     });
 }

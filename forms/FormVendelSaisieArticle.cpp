@@ -37,6 +37,7 @@ FormVendelSaisieArticle::FormVendelSaisieArticle(QWidget* parent)
             {50, 25, 210, 110}, {Id});
         watchMouse(*ui_->tableView, *this);
         setCaptions();
+        ui_->txt_Article->setFocus();
     });
 }
 

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 #include <stb/stb_image.h>
@@ -36,8 +37,9 @@ bool isOfPrintableSize(std::FILE* file)
     int width = 0;
     int height = 0;
     int channels = 0;
-    return stbi_info_from_file(file, &width, &height, &channels) != 0 && width > 0 && height > 0
-        && static_cast<long long>(width) * height <= EscPos::MaxPixels;
+    // The height of a BMP stored from its top down is negative here.
+    return stbi_info_from_file(file, &width, &height, &channels) != 0 && width > 0 && height != 0
+        && width * std::abs(static_cast<long long>(height)) <= EscPos::MaxPixels;
 }
 
 // The sum is kept in single precision: on colours whose exact luminance is 150 this decides.
@@ -54,7 +56,7 @@ bool isBlack(const stbi_uc* rgb)
 DotMatrix EscPos::loadImage(std::string path)
 {
     const File file{std::fopen(path.c_str(), "rb")};
-    if (!file || !isOfPrintableSize(file.get()) || isPnmThatEndsEarly(file.get())) {
+    if (!file || !isOfPrintableSize(file.get()) || isUnreadablePnm(file.get())) {
         return {};
     }
     int width = 0;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Print/escpospp/Printer.h"
-#include "tests/Print/CapturedOutput.h"
+#include "tests/Print/FlushedOutput.h"
 #include "tests/support/EmulatedPrinter.h"
 
 #include <QByteArray>

@@ -159,7 +159,7 @@ void TestBitImage::oneRowNeedsNoRectangle()
 {
     EmulatedPrinter bus;
     Printer printer(ReceiptPrinter);
-    CapturedOutput output;
+    FlushedOutput output;
     DotMatrix dots = dotsFrom({"##"});
     printer.image(dots);
     QCOMPARE(transfersOf(bus),
@@ -196,7 +196,7 @@ void TestBitImage::aPictureTooWideIsRefused()
     QFETCH(int, rows);
     EmulatedPrinter bus;
     Printer printer(ReceiptPrinter);
-    CapturedOutput output;
+    FlushedOutput output;
     DotMatrix dots = allBlack(65'536, static_cast<std::size_t>(rows));
     QCOMPARE(thrownInt([&] { printer.image(dots); }), -1);
     QCOMPARE(output.take(), std::string("Error: the bitmap is not squared\n"));
@@ -217,7 +217,7 @@ void TestBitImage::raggedRowsAreRefused()
     QFETCH(QStringList, rows);
     EmulatedPrinter bus;
     Printer printer(ReceiptPrinter);
-    CapturedOutput output;
+    FlushedOutput output;
     DotMatrix dots;
     for (const auto& row : rows) {
         dots.emplace_back(row.size(), true);
@@ -239,7 +239,7 @@ void TestBitImage::aPictureWithoutDotsSendsNothing()
     QFETCH(int, rows);
     EmulatedPrinter bus;
     Printer printer(ReceiptPrinter);
-    CapturedOutput output;
+    FlushedOutput output;
     DotMatrix dots(static_cast<std::size_t>(rows));
     QCOMPARE(thrownInt([&] { printer.image(dots); }), 0);
     QCOMPARE(transfersOf(bus), QStringList());

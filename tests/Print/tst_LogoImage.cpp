@@ -40,6 +40,7 @@ private slots:
     void loadedRowsAreThePicturesRows();
     void aJpegIsLoaded();
     void theFirstFrameOfAGifIsLoaded();
+    void aBmpStoredFromItsTopIsLoaded();
     void greyFilesAreLoaded();
     void aPictureGoesFromFileToPaper();
     void whatCannotBeDecodedIsEmpty_data();
@@ -154,6 +155,29 @@ void TestLogoImage::theFirstFrameOfAGifIsLoaded()
     QCOMPARE(rowsOf(loaded(gif)), QStringList("#."));
 }
 
+void TestLogoImage::aBmpStoredFromItsTopIsLoaded()
+{
+    // 24 bits a pixel, 1 x -2, rows padded to four bytes.
+    const QByteArray bmp = QByteArray::fromHex("424d"
+                                               "3e000000"
+                                               "00000000"
+                                               "36000000"
+                                               "28000000"
+                                               "01000000"
+                                               "feffffff"
+                                               "0100"
+                                               "1800"
+                                               "00000000"
+                                               "08000000"
+                                               "00000000"
+                                               "00000000"
+                                               "00000000"
+                                               "00000000"
+                                               "00000000"
+                                               "ffffff00");
+    QCOMPARE(rowsOf(loaded(bmp)), QStringList({"#", "."}));
+}
+
 void TestLogoImage::greyFilesAreLoaded()
 {
     QCOMPARE(rowsOf(loaded(QByteArray("P5\n3 2\n255\n") + QByteArray::fromHex("0095969600ff"))),
@@ -191,6 +215,8 @@ void TestLogoImage::whatCannotBeDecodedIsEmpty_data()
     QTest::newRow("a size of nothing") << QByteArray("P6 0 0 255\n");
     QTest::newRow("a PPM that ends early") << QByteArray("P6 2 2 255\nabcdefghijk");
     QTest::newRow("a PGM that ends early") << whitePixels(299, "P5 300 1 255\n");
+    QTest::newRow("a PGM of 16 bits") << QByteArray("P5 1 1 65535\n\0\0", 15);
+    QTest::newRow("a PPM of 16 bits") << QByteArray("P6 1 1 65535\n\0\0\0\0\0\0", 19);
     QTest::newRow("a format that no shop uses") << QByteArray("8BPS\0\1", 6);
 }
 

@@ -70,7 +70,7 @@ private slots:
 void TestPrinterLink::aPrinterIsOpenedAndClaimed()
 {
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     QVERIFY(Printer::getPrinter() == nullptr);
     Printer::initializePrinter(ReceiptPrinter);
     QVERIFY(Printer::getPrinter() != nullptr);
@@ -82,7 +82,7 @@ void TestPrinterLink::aPrinterIsOpenedAndClaimed()
 void TestPrinterLink::withoutADeviceThereIsNoPrinter()
 {
     EmulatedPrinter bus({.devices = {}});
-    CapturedOutput output;
+    FlushedOutput output;
     QCOMPARE(thrownByInitializing(), -1);
     QCOMPARE(output.take(), std::string("Cannot open device\n"));
     QVERIFY(Printer::getPrinter() == nullptr);
@@ -91,7 +91,7 @@ void TestPrinterLink::withoutADeviceThereIsNoPrinter()
 void TestPrinterLink::bothIdsMustMatch()
 {
     EmulatedPrinter bus({.devices = {"04b8:0e03", "0416:0e15"}});
-    CapturedOutput output;
+    FlushedOutput output;
     QCOMPARE(thrownByInitializing(), -1);
     QCOMPARE(output.take(), std::string("Cannot open device\n"));
     QCOMPARE(conversationOf(bus), QStringList());
@@ -101,7 +101,7 @@ void TestPrinterLink::aFailedStartIsTriedAgainFromScratch()
 {
     EmulatedPrinter bus;
     bus.unplug();
-    CapturedOutput output;
+    FlushedOutput output;
     QCOMPARE(thrownByInitializing(), -1);
     bus.plug();
     QCOMPARE(thrownByInitializing(), 0);
@@ -136,7 +136,7 @@ void TestPrinterLink::theFirstMatchCountsEvenIfItCannotBeOpened()
                           .arg(qEnvironmentVariable("UMOCKDEV_DIR"))
                           .arg(firstAddressInLibusbsList());
     QVERIFY(QFile::remove(node));
-    CapturedOutput output;
+    FlushedOutput output;
     QCOMPARE(thrownByInitializing(), -1);
     QCOMPARE(output.take(), std::string("Cannot open device\n"));
     QCOMPARE(conversationOf(bus), QStringList());
@@ -145,7 +145,7 @@ void TestPrinterLink::theFirstMatchCountsEvenIfItCannotBeOpened()
 void TestPrinterLink::theKernelsDriverIsDetached()
 {
     EmulatedPrinter bus({.kernelDriver = true});
-    CapturedOutput output;
+    FlushedOutput output;
     Printer::initializePrinter(ReceiptPrinter);
     QCOMPARE(output.take(), std::string("Kernel Driver Active\nKernel Driver Detached!\n"));
     QCOMPARE(conversationOf(bus), QStringList({"0 open", "0 detach", "0 claim"}));
@@ -154,7 +154,7 @@ void TestPrinterLink::theKernelsDriverIsDetached()
 void TestPrinterLink::aDriverThatStaysKeepsTheInterface()
 {
     EmulatedPrinter bus({.kernelDriver = true, .detachRefused = true});
-    CapturedOutput output;
+    FlushedOutput output;
     QCOMPARE(thrownByInitializing(), -1);
     QCOMPARE(output.take(), std::string("Kernel Driver Active\nCannot Claim Interface\n"));
     QVERIFY(Printer::getPrinter() == nullptr);
@@ -163,7 +163,7 @@ void TestPrinterLink::aDriverThatStaysKeepsTheInterface()
 void TestPrinterLink::anInterfaceHeldByAnotherProgramIsNotTaken()
 {
     EmulatedPrinter bus({.claimRefused = true});
-    CapturedOutput output;
+    FlushedOutput output;
     QCOMPARE(thrownByInitializing(), -1);
     QCOMPARE(output.take(), std::string("Cannot Claim Interface\n"));
     QVERIFY(Printer::getPrinter() == nullptr);
@@ -175,7 +175,7 @@ void TestPrinterLink::anInterfaceHeldByAnotherProgramIsNotTaken()
 void TestPrinterLink::aDeviceThatCannotBeOpenedIsNoPrinter()
 {
     EmulatedPrinter bus({.openRefused = true});
-    CapturedOutput output;
+    FlushedOutput output;
     QCOMPARE(thrownByInitializing(), -1);
     QCOMPARE(output.take(), std::string("Cannot open device\n"));
     QVERIFY(Printer::getPrinter() == nullptr);
@@ -184,7 +184,7 @@ void TestPrinterLink::aDeviceThatCannotBeOpenedIsNoPrinter()
 void TestPrinterLink::aFailingLibraryIsNamedWithItsCode()
 {
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     rlimit descriptors{};
     getrlimit(RLIMIT_NOFILE, &descriptors);
     rlimit none = descriptors;
@@ -200,7 +200,7 @@ void TestPrinterLink::aFailingLibraryIsNamedWithItsCode()
 void TestPrinterLink::aPrinterGivesItsInterfaceBack()
 {
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     {
         Printer printer(ReceiptPrinter);
     }
@@ -212,7 +212,7 @@ void TestPrinterLink::aPrinterGivesItsInterfaceBack()
 void TestPrinterLink::aPrinterThatIsGoneCannotGiveItBack()
 {
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     {
         Printer printer(ReceiptPrinter);
         bus.unplug();

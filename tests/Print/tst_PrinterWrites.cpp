@@ -40,7 +40,7 @@ void TestPrinterWrites::bytesAreSentAsTheyAre()
 void TestPrinterWrites::anEmptyTextIsOneEmptyTransfer()
 {
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     Printer::initializePrinter(ReceiptPrinter);
     Printer::getPrinter()->raw("");
     QCOMPARE(bus.transfers(), (std::vector<EmulatedTransfer>{{0, "taken", 0, ""}}));
@@ -75,7 +75,7 @@ void TestPrinterWrites::resetSendsItsTwoBytes()
 void TestPrinterWrites::afterUnpluggingEachWriteIsAnError()
 {
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     Printer::initializePrinter(ReceiptPrinter);
     Printer* const printer = Printer::getPrinter();
     printer->raw("before");
@@ -105,7 +105,7 @@ void TestPrinterWrites::aFailedWriteIsReportedOnce()
     QFETCH(QString, command);
     QFETCH(QStringList, seen);
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     Printer::initializePrinter(ReceiptPrinter);
     bus.send(command.toStdString());
     Printer::getPrinter()->raw("receipt");
@@ -126,7 +126,7 @@ void TestPrinterWrites::aFailedWriteMarksThePrinterForReplacement()
 {
     QFETCH(QString, command);
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     Printer::initializePrinter(ReceiptPrinter);
     bus.send(command.toStdString());
     Printer::getPrinter()->raw("receipt");
@@ -144,7 +144,7 @@ void TestPrinterWrites::aFailedWriteMarksThePrinterForReplacement()
 void TestPrinterWrites::aPrinterPluggedBackInPrintsAgain()
 {
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     Printer::initializePrinter(ReceiptPrinter);
     bus.unplugDuring(4);
     Printer::getPrinter()->raw("receipt");
@@ -161,7 +161,7 @@ void TestPrinterWrites::aPrinterPluggedBackInPrintsAgain()
 void TestPrinterWrites::aPrinterStillAwayIsGivenUp()
 {
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     Printer::initializePrinter(ReceiptPrinter);
     bus.unplugAfter(1);
     Printer::getPrinter()->raw("receipt");

@@ -193,7 +193,7 @@ void TestStyledText::textBecomesBytes()
     QFETCH(std::string, bytes);
     EmulatedPrinter bus;
     Printer printer(ReceiptPrinter);
-    CapturedOutput output;
+    FlushedOutput output;
     QVERIFY(printer.text(text));
     QCOMPARE(transfersOf(bus), QStringList(hexOf(bytes)));
     QCOMPARE(output.take(), std::string());
@@ -240,7 +240,7 @@ void TestStyledText::aRejectedTextSendsNothing()
     QFETCH(std::string, diagnostic);
     EmulatedPrinter bus;
     Printer printer(ReceiptPrinter);
-    CapturedOutput output;
+    FlushedOutput output;
     QVERIFY(!printer.text(text));
     QCOMPARE(output.take(), diagnostic);
     QCOMPARE(transfersOf(bus), QStringList());
@@ -260,7 +260,7 @@ void TestStyledText::textCutDoesNotCutARejectedText()
 {
     EmulatedPrinter bus;
     Printer printer(ReceiptPrinter);
-    CapturedOutput output;
+    FlushedOutput output;
     QVERIFY(!printer.textCut("**b"));
     QCOMPARE(output.take(), std::string("Unmatched characters in markdown string\n"));
     QCOMPARE(transfersOf(bus), QStringList());
@@ -269,7 +269,7 @@ void TestStyledText::textCutDoesNotCutARejectedText()
 void TestStyledText::textThatCannotBeWrittenCountsAsSent()
 {
     EmulatedPrinter bus;
-    CapturedOutput output;
+    FlushedOutput output;
     Printer::initializePrinter(ReceiptPrinter);
     bus.unplug();
     QVERIFY(Printer::getPrinter()->textCut("x"));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMessageBox>
+#include <QStringList>
 #include <QTimer>
 
 #include <functional>
@@ -46,6 +47,15 @@ public:
     {
         return parent_;
     }
+    /// The titles and the texts of all boxes in order.
+    QStringList titles() const
+    {
+        return titles_;
+    }
+    QStringList texts() const
+    {
+        return texts_;
+    }
     /// Number of boxes after the first.
     int strays() const
     {
@@ -61,6 +71,8 @@ private:
     int shown_ = 0;
     QString title_;
     QString text_;
+    QStringList titles_;
+    QStringList texts_;
     Qt::TextFormat format_ = Qt::AutoText;
     QMessageBox::Icon icon_ = QMessageBox::NoIcon;
     QMessageBox::StandardButtons buttons_;

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/Widgets.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
+#include <QToolTip>
 
 namespace {
 QPoint centreOf(QAbstractItemView& view, int row, int column)
@@ -10,6 +15,19 @@ QPoint centreOf(QAbstractItemView& view, int row, int column)
     const QModelIndex index = view.model()->index(row, column);
     view.scrollTo(index);
     return view.visualRect(index).center();
+}
+
+template <class Widget> QStringList tooSmall(QWidget& window)
+{
+    QStringList names;
+    for (const Widget* widget : window.findChildren<Widget*>()) {
+        const QSize needed = widget->sizeHint();
+        if (widget->isVisible()
+            && (widget->width() < needed.width() || widget->height() < needed.height())) {
+            names << widget->objectName();
+        }
+    }
+    return names;
 }
 } // namespace
 
@@ -24,17 +42,18 @@ void clickCell(QWidget& window, const char* name, int row, int column)
     QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, centreOf(view, row, column));
 }
 
-void doubleClickCell(QWidget& window, const char* name, int row, int column)
+void doubleClickCell(
+    QWidget& window, const char* name, int row, int column, Qt::KeyboardModifiers modifiers)
 {
     auto& view = child<QAbstractItemView>(window, name);
     const QPoint point = centreOf(view, row, column);
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, point);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, point);
     // The second half of a double click; Qt Test's own function sends a press of its own first.
     QMouseEvent press(QEvent::MouseButtonDblClick, point, view.viewport()->mapToGlobal(point),
-        Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        Qt::LeftButton, Qt::LeftButton, modifiers);
     QApplication::sendEvent(view.viewport(), &press);
     QMouseEvent release(QEvent::MouseButtonRelease, point, view.viewport()->mapToGlobal(point),
-        Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        Qt::LeftButton, Qt::NoButton, modifiers);
     QApplication::sendEvent(view.viewport(), &release);
 }
 
@@ -60,4 +79,61 @@ QStringList rowTexts(QWidget& window, const char* name, int row)
 int rowCount(QWidget& window, const char* name)
 {
     return child<QAbstractItemView>(window, name).model()->rowCount();
+}
+
+void chooseMenu(QWidget& window, const char* menu, const char* action)
+{
+    auto& popup = child<QMenu>(window, menu);
+    for (QWidget* widget : popup.menuAction()->associatedWidgets()) {
+        if (auto* bar = qobject_cast<QMenuBar*>(widget)) {
+            QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
+                bar->actionGeometry(popup.menuAction()).center());
+        }
+    }
+    auto* entry = window.findChild<QAction*>(QString::fromLatin1(action));
+    if (!popup.isVisible() || entry == nullptr) {
+        qFatal("no entry %s in a menu %s", action, menu);
+    }
+    QTest::mouseClick(&popup, Qt::LeftButton, Qt::NoModifier, popup.actionGeometry(entry).center());
+}
+
+QString tipText()
+{
+    return QToolTip::isVisible() ? QToolTip::text() : QString();
+}
+
+QRect tipGeometry()
+{
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->inherits("QTipLabel") && widget->isVisible()) {
+            return widget->geometry();
+        }
+    }
+    qFatal("no tip");
+}
+
+bool tipStandsAt(QPoint point)
+{
+    const QPoint stands = tipGeometry().topLeft();
+    QToolTip::showText(point, tipText() + QLatin1Char(' '));
+    return stands == tipGeometry().topLeft();
+}
+
+QStringList clippedTexts(QWidget& window)
+{
+    return tooSmall<QLabel>(window) + tooSmall<QAbstractButton>(window);
+}
+
+QStringList tabOrder(QWidget& window)
+{
+    const QWidget* first = window.focusWidget();
+    if (first == nullptr) {
+        qFatal("no widget has the focus");
+    }
+    QStringList names;
+    do {
+        names << window.focusWidget()->objectName();
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    } while (window.focusWidget() != first && names.size() < 50);
+    return names;
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QAbstractItemView>
+#include <QPoint>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 #include <QTest>
@@ -25,7 +27,8 @@ void clickCell(QWidget& window, const char* name, int row, int column);
 
 /// Double-clicks the cell of the list \a name, as a mouse does it: press, release, double click,
 /// release.
-void doubleClickCell(QWidget& window, const char* name, int row, int column);
+void doubleClickCell(QWidget& window, const char* name, int row, int column,
+    Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 /// Moves the mouse over the cell of the list \a name.
 void hoverCell(QWidget& window, const char* name, int row, int column);
@@ -35,3 +38,22 @@ QStringList rowTexts(QWidget& window, const char* name, int row);
 
 /// The number of rows of the list \a name.
 int rowCount(QWidget& window, const char* name);
+
+/// Opens the menu \a menu of the menu bar with the mouse and clicks its entry \a action.
+void chooseMenu(QWidget& window, const char* menu, const char* action);
+
+/// The visible tip's text, empty when there is none.
+QString tipText();
+
+/// The visible tip's place on the screen; ends the test program when there is none.
+QRect tipGeometry();
+
+/// Whether the visible tip stands where Qt puts one that is asked for at \a point (screen pixels).
+bool tipStandsAt(QPoint point);
+
+/// Names of the visible labels and buttons of \a window that need more room than they have.
+QStringList clippedTexts(QWidget& window);
+
+/// Names of \a window's widgets in the order in which Tab reaches them, from the one that has the
+/// focus on.
+QStringList tabOrder(QWidget& window);

@@ -6,18 +6,18 @@
 #include <string>
 
 /// Takes what is written to std::cout during its life; only what was flushed counts as shown.
-class CapturedOutput : private std::streambuf
+class FlushedOutput : private std::streambuf
 {
 public:
-    CapturedOutput()
+    FlushedOutput()
         : before_(std::cout.rdbuf(this))
     { }
-    ~CapturedOutput() override
+    ~FlushedOutput() override
     {
         std::cout.rdbuf(before_);
     }
-    CapturedOutput(const CapturedOutput&) = delete;
-    CapturedOutput& operator=(const CapturedOutput&) = delete;
+    FlushedOutput(const FlushedOutput&) = delete;
+    FlushedOutput& operator=(const FlushedOutput&) = delete;
 
     /// Everything flushed since the last call.
     std::string take()

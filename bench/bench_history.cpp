@@ -1,0 +1,325 @@
+// SPDX-License-Identifier: MIT
+#include "app/Application.h"
+#include "db/Db.h"
+#include "forms/FormVendelHistorique.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QDir>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTemporaryDir>
+
+#include <array>
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+namespace {
+constexpr int salesOfAYear = 330000;
+constexpr int salesOfTheBigDay = 2000;
+constexpr int salesOfTheYearBetween = 340000;
+constexpr QLatin1String bigDay("2022-06-15");
+
+void check(bool holds, const char* what)
+{
+    if (!holds) {
+        throw std::runtime_error(what);
+    }
+}
+
+/// Writes sales into the journal in the order of a bar's days.
+class Journal
+{
+public:
+    Journal()
+    {
+        check(sqlite3_open("Vendel.db", &database_) == SQLITE_OK, "open");
+        run("pragma synchronous = off");
+        run("begin");
+        check(sqlite3_prepare_v2(
+                  database_, "insert into Historique values (?, ?, ?, ?)", -1, &insert_, nullptr)
+                == SQLITE_OK,
+            "prepare");
+    }
+    ~Journal()
+    {
+        sqlite3_finalize(insert_);
+        sqlite3_exec(database_, "commit", nullptr, nullptr, nullptr);
+        sqlite3_close(database_);
+    }
+    Journal(const Journal&) = delete;
+    Journal& operator=(const Journal&) = delete;
+    Journal(Journal&&) = delete;
+    Journal& operator=(Journal&&) = delete;
+
+    void sellThroughDay(const QDate& day, int sales)
+    {
+        constexpr int opensAtMs = 8 * 3600 * 1000;
+        constexpr int openMs = 15 * 3600 * 1000;
+        for (int sale = 0; sale < sales; ++sale) {
+            const QTime time = QTime::fromMSecsSinceStartOfDay(
+                opensAtMs + static_cast<int>(static_cast<qint64>(openMs) * sale / sales));
+            const int article = article_ = (article_ * 17 + 5) % 40;
+            const QByteArray name = "Boisson n° " + QByteArray::number(article);
+            const QByteArray moment
+                = (day.toString(Qt::ISODate) + time.toString(QStringLiteral(" HH:mm:ss.zzz")))
+                      .toUtf8();
+            sqlite3_bind_int(insert_, 1, article);
+            sqlite3_bind_text(insert_, 2, name.constData(), -1, SQLITE_TRANSIENT);
+            sqlite3_bind_double(insert_, 3, 1.5 + article / 4.0);
+            sqlite3_bind_text(insert_, 4, moment.constData(), -1, SQLITE_TRANSIENT);
+            check(sqlite3_step(insert_) == SQLITE_DONE, "insert");
+            sqlite3_reset(insert_);
+        }
+    }
+
+    void sellThroughYear(int year, int sales)
+    {
+        const int days = QDate(year, 1, 1).daysInYear();
+        for (int day = 0; day < days; ++day) {
+            sellThroughDay(QDate(year, 1, 1).addDays(day), sales / days + (day < sales % days));
+        }
+    }
+
+    void run(const char* sql)
+    {
+        check(sqlite3_exec(database_, sql, nullptr, nullptr, nullptr) == SQLITE_OK, sql);
+    }
+
+private:
+    sqlite3* database_ = nullptr;
+    sqlite3_stmt* insert_ = nullptr;
+    int article_ = 0;
+};
+
+/// A million sales of three years, one day of which has two thousand, in a temporary directory.
+class Bar
+{
+public:
+    Bar()
+    {
+        check(folder_.isValid() && QDir::setCurrent(folder_.path()), "temporary directory");
+        Db::DbCreate();
+        Journal journal;
+        const QDate between = QDate::fromString(bigDay, Qt::ISODate);
+        journal.sellThroughYear(2021, salesOfAYear);
+        const int others = salesOfTheYearBetween - salesOfTheBigDay;
+        int day = 0;
+        for (QDate date(2022, 1, 1); date.year() == 2022; date = date.addDays(1)) {
+            journal.sellThroughDay(
+                date, date == between ? salesOfTheBigDay : others / 364 + (day++ < others % 364));
+        }
+        journal.sellThroughYear(2023, salesOfAYear);
+    }
+    ~Bar()
+    {
+        QDir::setCurrent(QStringLiteral("/"));
+    }
+    Bar(const Bar&) = delete;
+    Bar& operator=(const Bar&) = delete;
+    Bar(Bar&&) = delete;
+    Bar& operator=(Bar&&) = delete;
+
+private:
+    QTemporaryDir folder_;
+};
+
+struct Dates
+{
+    const char* first;
+    const char* second;
+    const char* from;
+    const char* to;
+};
+constexpr Dates day{"06/15/2022", "06/16/2022", "2022-06-15", "2022-06-16"};
+constexpr Dates month{"06/01/2022", "07/01/2022", "2022-06-01", "2022-07-01"};
+constexpr Dates year{"01/01/2021", "01/01/2022", "2021-01-01", "2022-01-01"};
+
+DbRows load(const char* sql, const Dates& dates)
+{
+    return Db::DbLoad(QString::fromLatin1(sql)
+                          .arg(QLatin1String(dates.from), QLatin1String(dates.to))
+                          .toUtf8()
+                          .constData());
+}
+
+constexpr auto salesSql
+    = "select * from Historique where date_heure between '%1' and '%2' order by date_heure asc";
+constexpr auto groupsSql
+    = "select distinct compte, article, prix, compte * prix as calcul from (select distinct "
+      "count(article) as compte, article, prix from Historique where date_heure between '%1' and "
+      "'%2' group by article, prix)";
+constexpr auto sumSql = "select sum(prix) from Historique where date_heure between '%1' and '%2'";
+
+/// How SQLite finds the sales of a period.
+std::string planOf(const Dates& dates)
+{
+    const DbRows plan = load((std::string("explain query plan ") + salesSql).c_str(), dates);
+    return plan.at(0).at(3);
+}
+
+/// The history window with a period typed in.
+class Window
+{
+public:
+    explicit Window(const Dates& dates)
+    {
+        window_.show();
+        window_.findChild<QLineEdit*>(QStringLiteral("txt_First_Date"))
+            ->setText(QLatin1String(dates.first));
+        window_.findChild<QLineEdit*>(QStringLiteral("txt_Second_Date"))
+            ->setText(QLatin1String(dates.second));
+    }
+
+    QTableView& view(const char* name)
+    {
+        return *window_.findChild<QTableView*>(QLatin1String(name));
+    }
+
+    int sales()
+    {
+        return view("tableView1").model()->rowCount();
+    }
+
+    void empty()
+    {
+        for (const char* name : {"tableView1", "tableView3"}) {
+            QAbstractItemModel& model = *view(name).model();
+            model.removeRows(0, model.rowCount());
+        }
+    }
+
+    void press(const char* slot)
+    {
+        QMetaObject::invokeMethod(&window_, slot, Qt::DirectConnection);
+    }
+
+private:
+    FormVendelHistorique window_;
+};
+
+using Texts = std::vector<QStringList>;
+
+Texts textsOf(const QTableView& view)
+{
+    const QAbstractItemModel& model = *view.model();
+    Texts texts(static_cast<std::size_t>(model.rowCount()));
+    for (int row = 0; row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            texts[static_cast<std::size_t>(row)] << model.index(row, column).data().toString();
+        }
+    }
+    return texts;
+}
+
+/// The least that shows \a texts: complete rows with their height, no text composed.
+void fill(QTableView& view, const Texts& texts, int height)
+{
+    auto& model = static_cast<QStandardItemModel&>(*view.model());
+    view.setUpdatesEnabled(false);
+    view.verticalHeader()->setUpdatesEnabled(false);
+    for (const QStringList& row : texts) {
+        QList<QStandardItem*> items;
+        items.reserve(row.size());
+        for (const QString& text : row) {
+            items << new QStandardItem(text);
+        }
+        model.appendRow(items);
+        view.setRowHeight(model.rowCount() - 1, height);
+    }
+    view.verticalHeader()->setUpdatesEnabled(true);
+    view.setUpdatesEnabled(true);
+}
+
+void listByProgram(benchmark::State& state, const Dates& dates, const char* slot)
+{
+    Window window(dates);
+    for ([[maybe_unused]] auto _ : state) {
+        window.press(slot);
+        state.PauseTiming();
+        state.counters["rows"] = window.sales();
+        window.empty();
+        state.ResumeTiming();
+    }
+    state.SetLabel(planOf(dates));
+}
+
+void listByFloor(benchmark::State& state, const Dates& dates, const char* slot)
+{
+    Window window(dates);
+    window.press(slot);
+    QTableView& sales = window.view("tableView1");
+    QTableView& groups = window.view("tableView3");
+    const Texts saleTexts = textsOf(sales);
+    const Texts groupTexts = textsOf(groups);
+    const int height = sales.rowHeight(0);
+    const bool withSum = qstrcmp(slot, "on_btn_Total_clicked") == 0;
+    window.empty();
+    for ([[maybe_unused]] auto _ : state) {
+        const DbRows saleRows = load(salesSql, dates);
+        const DbRows sums = withSum ? load(sumSql, dates) : DbRows();
+        const DbRows groupRows = load(groupsSql, dates);
+        benchmark::DoNotOptimize(saleRows.data());
+        benchmark::DoNotOptimize(sums.data());
+        benchmark::DoNotOptimize(groupRows.data());
+        fill(sales, saleTexts, height);
+        fill(groups, groupTexts, height);
+        state.PauseTiming();
+        window.empty();
+        state.ResumeTiming();
+    }
+    state.SetLabel(planOf(dates));
+}
+
+double residentBytes()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    check(file.open(QIODevice::ReadOnly), "statm");
+    return file.readAll().split(' ').at(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE));
+}
+
+/// A whole year, once: the memory that it holds while it stands.
+void openYear(benchmark::State& state)
+{
+    Window window(year);
+    QCoreApplication::processEvents();
+    malloc_trim(0);
+    const double before = residentBytes();
+    for ([[maybe_unused]] auto _ : state) {
+        window.press("on_btn_View_Historical_clicked");
+        QCoreApplication::processEvents();
+    }
+    check(window.sales() == salesOfAYear, "a year of sales");
+    state.counters["bytes/row"] = (residentBytes() - before) / salesOfAYear;
+    state.counters["rows"] = salesOfAYear;
+    state.SetLabel(planOf(year));
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application::setAttributes();
+    const QApplication application(argc, argv);
+    const Bar bar;
+    constexpr auto ms = benchmark::kMillisecond;
+    constexpr auto view = "on_btn_View_Historical_clicked";
+    constexpr auto total = "on_btn_Total_clicked";
+    benchmark::RegisterBenchmark("history_year/program", openYear)->Iterations(1)->Unit(ms);
+    benchmark::RegisterBenchmark("history_day/floor", listByFloor, day, view)->Unit(ms);
+    benchmark::RegisterBenchmark("history_day/program", listByProgram, day, view)->Unit(ms);
+    benchmark::RegisterBenchmark("history_month_total/floor", listByFloor, month, total)->Unit(ms);
+    benchmark::RegisterBenchmark("history_month_total/program", listByProgram, month, total)
+        ->Unit(ms);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

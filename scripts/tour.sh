@@ -1,0 +1,82 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Plays a day at the counter with the real till on a virtual display, real mouse clicks and keys and
+# an emulated printer, and leaves pictures and the printed receipt in build/tour.
+. "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
+
+usage="usage: scripts/tour.sh [--built] [--docs]
+  --built  takes the release build as it stands
+  --docs   copies the pictures that the documents show to docs/images"
+
+built=false
+docs=false
+for argument in "$@"; do
+    case $argument in
+        --built) built=true ;;
+        --docs) docs=true ;;
+        -h | --help) say "$usage" && exit ;;
+        *) unknown_option "$usage" "$argument" ;;
+    esac
+done
+
+build="$root/build/release"
+out="$root/build/tour"
+if ! $built; then
+    "$root/scripts/install.sh" build run test
+    say "Building the till and the emulated printer"
+    configure release
+    build release vendel vendel-demo vendel-artwork emulated-printer escpos-page
+fi
+
+. "$root/scripts/tour.d/lib.sh"
+. "$root/scripts/tour.d/sales.sh"
+
+work=$(mktemp -d)
+display_pid=""
+station=start
+clean_up() {
+    stop_till
+    stop_printer
+    if [ -n "$display_pid" ]; then
+        kill "$display_pid" 2>/dev/null || true
+        wait "$display_pid" 2>/dev/null || true
+    fi
+    rm -rf -- "$work"
+}
+trap clean_up EXIT
+trap 'exit 1' HUP INT TERM
+
+start_display() {
+    # A server that resets when its last client goes would refuse the next one for a moment.
+    Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 -noreset -nolisten tcp \
+        3>"$work/display" 2>"$work/display.log" &
+    display_pid=$!
+    await "a virtual display" test -s "$work/display"
+    DISPLAY=":$(<"$work/display")"
+    export DISPLAY
+}
+
+if ! { mkdir -p "$out" && rm -f -- "$out"/*; } 2>/dev/null; then
+    fail "cannot write into $out"
+fi
+mkdir -m 700 "$work/runtime"
+export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 TZ=Europe/Paris XDG_RUNTIME_DIR="$work/runtime"
+unset WAYLAND_DISPLAY QT_STYLE_OVERRIDE QT_SCALE_FACTOR
+start_display
+
+for file in "$root"/scripts/tour.d/[0-9]*.sh; do
+    station=$(basename "$file" .sh)
+    say "$station"
+    # shellcheck source=/dev/null
+    . "$file"
+done
+
+if grep -E '^Errors ' "$out/till.log"; then
+    fail "the till reported errors on the way"
+fi
+if $docs; then
+    for name in total receipt-on-screen receipt; do
+        install -D -m 644 "$out/$name.png" "$root/docs/images/$name.png"
+    done
+fi
+say "The tour is over; its pictures lie in $out"

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/FormVendel.h"
+#include "app/FormVendelStart.h"
+#include "app/FormVendelTicket.h"
+#include "tests/support/AnswerBox.h"
+#include "tests/support/Shop.h"
+#include "tests/support/Widgets.h"
+
+#include <QTextEdit>
+
+/// A till ready to sell in a shop of its own: its splash is gone.
+class Till
+{
+public:
+    Shop shop;
+    FormVendel window;
+
+    Till()
+    {
+        window.show();
+        window.findChild<FormVendelStart*>()->close();
+    }
+
+    /// Sets the printer's switch.
+    void setSwitch(const QByteArray& value)
+    {
+        run("update Config set valeur = '" + value + "' where param = 'Epson TM-T20II'");
+    }
+
+    /// Puts a line on the ticket, \a price as SQL writes it, and shows the ticket.
+    void sell(const QByteArray& article, const QByteArray& price)
+    {
+        run("insert into Ticket (id, article, prix) values (7, '" + article + "', " + price + ")");
+        click(window, "btn_Ticket");
+    }
+
+    void pay()
+    {
+        click(window, "btn_Payer");
+    }
+
+    /// Sells a tea at 2.50, with the printer switched on.
+    void sellOnPaper()
+    {
+        setSwitch("1");
+        sell("Thé", "2.5");
+        pay();
+    }
+
+    /// Runs \a sql on the shop's database.
+    void run(const QByteArray& sql)
+    {
+        shop.sql(sql.constData());
+    }
+
+    /// The lines of the history, "id article price" each.
+    QStringList history() const
+    {
+        return lines("select id || ' ' || article || ' ' || prix from Historique order by rowid");
+    }
+
+    /// The lines of the stored ticket, "article price" each.
+    QStringList ticket() const
+    {
+        return lines("select article || ' ' || prix from Ticket order by idlig");
+    }
+
+    /// The number of lines that the ticket's list shows.
+    int shownLines()
+    {
+        return rowCount(window, "tableView2");
+    }
+
+    /// The receipt on the screen, null when there is none.
+    FormVendelTicket* receipt() const
+    {
+        return window.findChild<FormVendelTicket*>();
+    }
+
+    /// Closes the receipt on the screen and returns its text, which is empty without a receipt.
+    QString takeReceipt()
+    {
+        FormVendelTicket* shown = receipt();
+        if (shown == nullptr) {
+            return {};
+        }
+        const QString text = child<QTextEdit>(*shown, "txt_Ticket").toPlainText();
+        shown->close();
+        QCoreApplication::sendPostedEvents(shown, QEvent::DeferredDelete);
+        return text;
+    }
+
+    /// Sells a coffee at 2.00 from the menu, on the screen, all by mouse; whether that worked.
+    bool sellsOnScreen()
+    {
+        setSwitch("0");
+        run("delete from Ticket");
+        run("delete from Article");
+        run("insert into Article (article, prix) values ('Café', 2)");
+        const auto before = history().size();
+        click(window, "btn_Afficher");
+        clickCell(window, "tableView1", 0, 2);
+        if (shownLines() != 1) {
+            return false;
+        }
+        pay();
+        return takeReceipt().contains(QStringLiteral("\n1  Café          \t$2.00       $2.00\n"))
+            && history().size() == before + 1 && ticket().isEmpty() && shownLines() == 0;
+    }
+
+private:
+    QStringList lines(const char* sql) const
+    {
+        QStringList texts;
+        for (const auto& row : shop.sql(sql)) {
+            texts << QString::fromStdString(row.at(0));
+        }
+        return texts;
+    }
+};
+
+/// Whether \a box is the notice about the missing printer.
+inline bool saysNotConnected(const AnswerBox& box, const Till& till)
+{
+    return box.title() == QStringLiteral("Payer")
+        && box.text() == QStringLiteral("Imprimante non connectée")
+        && box.icon() == QMessageBox::Information && box.buttons() == QMessageBox::Ok
+        && box.parent() == &till.window && box.strays() == 0;
+}

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "app/FormVendel.h"
+#include "forms/FormVendelAbout.h"
+#include "tests/support/Captured.h"
+#include "tests/support/ContextEcho.h"
+#include "tests/support/FailingText.h"
+#include "tests/support/Shop.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Widgets.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QTextEdit>
+
+namespace {
+QPushButton& okButton(QWidget& window)
+{
+    return *child<QDialogButtonBox>(window, "btn_buttonBox").button(QDialogButtonBox::Ok);
+}
+} // namespace
+
+class TestFormVendelAbout : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void looksLikeTheAboutWindow();
+    void everyTextIsLookedUpInItsContext();
+    void thePictureStandsAtTheLeftEdge();
+    void aMissingPictureLeavesTheLabelEmpty();
+    void theTextTellsNameVersionLicenceAndFolder();
+    void aFolderLikeATagIsShownAsItStands();
+    void nothingIsClipped();
+    void okClosesTheWindow();
+    void returnPressesOk();
+    void escapeClosesTheWindow();
+    void theMenuOpensAndClosingDeletesIt();
+    void failuresAreLogged();
+};
+
+void TestFormVendelAbout::looksLikeTheAboutWindow()
+{
+    const Shop shop;
+    const CapturedLog log;
+    FormVendelAbout window;
+    QCOMPARE(log.warnings(), QStringList());
+    QCOMPARE(log.criticals(), QStringList());
+    QCOMPARE(window.objectName(), QStringLiteral("FormVendelAbout"));
+    QCOMPARE(window.windowTitle(), QStringLiteral("A propos de Système Vendel"));
+    QCOMPARE(window.size(), QSize(435, 283));
+    QCOMPARE(window.minimumSize(), QSize(435, 283));
+    QCOMPARE(window.maximumSize(), QSize(435, 283));
+    QCOMPARE(window.windowModality(), Qt::WindowModal);
+    QCOMPARE(child<QLabel>(window, "lbl_ProductName").text(), QStringLiteral("Système Vendel"));
+    QCOMPARE(child<QLabel>(window, "lbl_Version").text(), QStringLiteral("Version 1.0.0.0"));
+    QVERIFY(child<QTextEdit>(window, "txt_Edit").isReadOnly());
+    QCOMPARE(child<QDialogButtonBox>(window, "btn_buttonBox").standardButtons(),
+        QDialogButtonBox::StandardButtons(QDialogButtonBox::Ok));
+    for (const char* name :
+        {"lbl_QPixmap", "lbl_ProductName", "lbl_Version", "txt_Edit", "btn_buttonBox"}) {
+        QCOMPARE(child<QWidget>(window, name).parentWidget(), &window);
+    }
+}
+
+void TestFormVendelAbout::everyTextIsLookedUpInItsContext()
+{
+    const Shop shop;
+    const ContextEcho translation;
+    FormVendelAbout window;
+    const QString own = QStringLiteral("FormVendelAbout");
+    QCOMPARE(window.windowTitle(), own);
+    QCOMPARE(child<QLabel>(window, "lbl_ProductName").text(), own);
+    QCOMPARE(child<QLabel>(window, "lbl_Version").text(), own);
+    QCOMPARE(child<QTextEdit>(window, "txt_Edit").toPlainText(), own);
+    QCOMPARE(child<QTextEdit>(window, "txt_Edit").accessibleName(), own);
+}
+
+void TestFormVendelAbout::thePictureStandsAtTheLeftEdge()
+{
+    const Shop shop;
+    QPixmap picture(264, 512);
+    picture.fill(Qt::blue);
+    QVERIFY(picture.save(QStringLiteral("AproposdeImage.png")));
+    FormVendelAbout window;
+    window.show();
+    const auto& label = child<QLabel>(window, "lbl_QPixmap");
+    QCOMPARE(label.geometry(), QRect(3, 3, 132, 256));
+    QVERIFY(label.hasScaledContents());
+    QCOMPARE(label.pixmap(Qt::ReturnByValue).size(), QSize(264, 512));
+    const QImage shown = window.grab().toImage();
+    QCOMPARE(shown.pixelColor(3, 3), QColor(Qt::blue));
+    QCOMPARE(shown.pixelColor(134, 258), QColor(Qt::blue));
+    QVERIFY(shown.pixelColor(135, 259) != QColor(Qt::blue));
+}
+
+void TestFormVendelAbout::aMissingPictureLeavesTheLabelEmpty()
+{
+    const Shop shop;
+    const CapturedLog log;
+    FormVendelAbout window;
+    window.show();
+    QVERIFY(child<QLabel>(window, "lbl_QPixmap").pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(child<QLabel>(window, "lbl_QPixmap").geometry(), QRect(3, 3, 132, 256));
+    QCOMPARE(log.criticals(), QStringList());
+}
+
+void TestFormVendelAbout::theTextTellsNameVersionLicenceAndFolder()
+{
+    const Shop shop;
+    FormVendelAbout window;
+    QCOMPARE(child<QTextEdit>(window, "txt_Edit").toPlainText(),
+        QStringLiteral("Système Vendel\nVersion 1.0.0.0\nCaisse enregistreuse pour une boutique ou "
+                       "un bar\nLicence MIT\nLes données du magasin se trouvent dans le "
+                       "dossier\n")
+            + shop.path());
+}
+
+void TestFormVendelAbout::aFolderLikeATagIsShownAsItStands()
+{
+    const Shop shop;
+    QVERIFY(QDir().mkdir(QStringLiteral("<b>%1 caisse")));
+    QVERIFY(QDir::setCurrent(QStringLiteral("<b>%1 caisse")));
+    FormVendelAbout window;
+    QVERIFY(child<QTextEdit>(window, "txt_Edit")
+                .toPlainText()
+                .endsWith(shop.path() + QStringLiteral("/<b>%1 caisse")));
+}
+
+void TestFormVendelAbout::nothingIsClipped()
+{
+    const Shop shop;
+    FormVendelAbout window;
+    window.show();
+    QCOMPARE(clippedTexts(window), QStringList());
+}
+
+void TestFormVendelAbout::okClosesTheWindow()
+{
+    const Shop shop;
+    FormVendelAbout window;
+    window.show();
+    QTest::mouseClick(&okButton(window), Qt::LeftButton);
+    QVERIFY(!window.isVisible());
+}
+
+void TestFormVendelAbout::returnPressesOk()
+{
+    const Shop shop;
+    FormVendelAbout window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(okButton(window).isDefault());
+    QVERIFY(okButton(window).hasFocus());
+    auto& text = child<QTextEdit>(window, "txt_Edit");
+    text.setFocus();
+    QTest::keyClick(&text, Qt::Key_Tab);
+    QVERIFY(okButton(window).hasFocus());
+    QTest::keyClick(&text, Qt::Key_Return);
+    QVERIFY(!window.isVisible());
+}
+
+void TestFormVendelAbout::escapeClosesTheWindow()
+{
+    const Shop shop;
+    FormVendelAbout window;
+    window.show();
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QVERIFY(!window.isVisible());
+}
+
+void TestFormVendelAbout::theMenuOpensAndClosingDeletesIt()
+{
+    const Shop shop;
+    FormVendel till;
+    till.show();
+    chooseMenu(till, "menu", "actionA_propos_de");
+    QPointer<FormVendelAbout> about = till.findChild<FormVendelAbout*>();
+    QVERIFY(about != nullptr);
+    QVERIFY(about->isVisible());
+    QCOMPARE(about->parentWidget(), &till);
+    QTest::mouseClick(&okButton(*about), Qt::LeftButton);
+    QTRY_VERIFY(about.isNull());
+}
+
+void TestFormVendelAbout::failuresAreLogged()
+{
+    const Shop shop;
+    const CapturedLog log;
+    FormVendelAbout window;
+    window.show();
+    auto once
+        = connect(&window, &QDialog::rejected, [] { throw std::runtime_error("no closing"); });
+    QTest::mouseClick(&okButton(window), Qt::LeftButton);
+    QCOMPARE(log.criticals(),
+        QStringList(QStringLiteral("Errors FormVendel on_btn_buttonBox_clicked : no closing")));
+    disconnect(once);
+    const FailingText failure("Version 1.0.0.0");
+    const FormVendelAbout another;
+    QCOMPARE(
+        log.criticals().last(), QStringLiteral("Errors FormVendelAbout Constructor : no text"));
+    QCOMPARE(log.criticals().size(), 2);
+}
+
+VENDEL_TEST_MAIN(TestFormVendelAbout)
+#include "tst_FormVendelAbout.moc"

@@ -1,0 +1,343 @@
+// SPDX-License-Identifier: MIT
+#include "app/FormVendel.h"
+#include "forms/FormVendelSaisieStock.h"
+#include "forms/FormVendelStockCalculation.h"
+#include "tests/forms/History.h"
+#include "tests/support/AnswerBox.h"
+#include "tests/support/Captured.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Translation.h"
+
+#include <QAction>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QToolTip>
+
+#include <vector>
+
+namespace {
+const auto afterTheTip = QStringLiteral("\nPour sélectionner la date dans première date ou seconde "
+                                        "date\nClick Options Pre date ou Sec date");
+
+QWidget* shownTip()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->inherits("QTipLabel") && widget->isVisible()) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
+void moveMouse(FormVendelHistorique& window, const char* view, QPoint point)
+{
+    QWidget* viewport = child<QTableView>(window, view).viewport();
+    QMouseEvent move(QEvent::MouseMove, point, viewport->mapToGlobal(point), Qt::NoButton,
+        Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &move);
+}
+
+QPoint cellCentre(FormVendelHistorique& window, const char* view, int row, int column)
+{
+    auto& table = child<QTableView>(window, view);
+    return table.visualRect(table.model()->index(row, column)).center();
+}
+} // namespace
+
+class TestFormVendelHistorique : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everySlotHasItsSignal();
+    void captionsAreTheCatalogues();
+    void listsAreLaidOutAndEmpty();
+    void fitsASmallScreen();
+    void noButtonListensToReturn();
+    void theMainMenuOpensIt();
+    void aTranslationOfTheCatalogueChangesIt();
+
+    void aDayGoesIntoTheChosenField();
+    void aSaleGoesIntoTheChosenField();
+    void effacerSaisieEmptiesBothFields();
+
+    void saisieStockOpensTheStockEditor();
+    void calculStockOpensWithTheDatesAsTyped();
+
+    void aSaleHasItsTip();
+    void aDayHasItsTip();
+    void emptyPlacesHaveNoTip();
+};
+
+void TestFormVendelHistorique::everySlotHasItsSignal()
+{
+    CapturedLog log;
+    const Shop shop;
+    const FormVendelHistorique window;
+    QCOMPARE(log.warnings(), QStringList());
+    QCOMPARE(log.criticals(), QStringList());
+}
+
+void TestFormVendelHistorique::captionsAreTheCatalogues()
+{
+    History history;
+    auto& window = history.window;
+    QCOMPARE(window.objectName(), QStringLiteral("FormVendelHistorique"));
+    QCOMPARE(window.windowTitle(), QStringLiteral("Vendel Historique"));
+    QCOMPARE(window.windowModality(), Qt::WindowModal);
+    const auto button = [&](const char* name) { return child<QPushButton>(window, name).text(); };
+    QCOMPARE(button("btn_View_Historical"), QStringLiteral("Afficher Historique"));
+    QCOMPARE(button("btn_Show_Date"), QStringLiteral("Afficher Date"));
+    QCOMPARE(button("btn_Total"), QStringLiteral("Total"));
+    QCOMPARE(button("btn_Clear"), QStringLiteral("Purge"));
+    QCOMPARE(button("btn_Del_Seizure"), QStringLiteral("Effacer Saisie"));
+    QCOMPARE(child<QLabel>(window, "lbl_First_Date").text(), QStringLiteral("Première Date"));
+    QCOMPARE(child<QLabel>(window, "lbl_Second_Date").text(), QStringLiteral("Seconde Date"));
+    QCOMPARE(child<QGroupBox>(window, "groupBox").title(), QStringLiteral("Options"));
+    QCOMPARE(child<QRadioButton>(window, "rb_First_Date").text(), QStringLiteral("Pre Date"));
+    QCOMPARE(child<QRadioButton>(window, "rb_Second_Date").text(), QStringLiteral("Sec Date"));
+    QVERIFY(child<QRadioButton>(window, "rb_First_Date").isChecked());
+    auto* menu = window.findChild<QMenu*>(QStringLiteral("menuStock"));
+    QVERIFY(menu != nullptr);
+    QCOMPARE(menu->title(), QStringLiteral("Stock"));
+    QCOMPARE(menu->actions().size(), 2);
+    QCOMPARE(menu->actions().at(0)->text(), QStringLiteral("Saisie Stock"));
+    QCOMPARE(menu->actions().at(1)->text(), QStringLiteral("Calcul Stock"));
+}
+
+void TestFormVendelHistorique::listsAreLaidOutAndEmpty()
+{
+    History history;
+    struct List
+    {
+        const char* name;
+        QStringList labels;
+        std::vector<int> widths;
+    };
+    const std::vector<List> lists{
+        {"tableView1", texts({"Article", "Prix", "Date Heure"}), {210, 100, 250}},
+        {"tableView2", texts({"Date"}), {150}},
+        {"tableView3", texts({"Qtité", "Article", "Prix", "Qtité * Prix"}), {50, 210, 100, 100}},
+    };
+    for (const List& list : lists) {
+        auto& view = child<QTableView>(history.window, list.name);
+        QCOMPARE(view.model()->rowCount(), 0);
+        QCOMPARE(view.model()->columnCount(), list.labels.size());
+        for (int column = 0; column < list.labels.size(); ++column) {
+            QCOMPARE(view.model()->headerData(column, Qt::Horizontal).toString(),
+                list.labels.at(column));
+            QCOMPARE(view.columnWidth(column), list.widths.at(static_cast<std::size_t>(column)));
+            QVERIFY(!view.isColumnHidden(column));
+        }
+        QVERIFY(view.horizontalHeader()->defaultAlignment().testFlag(Qt::AlignLeft));
+        QCOMPARE(view.styleSheet(),
+            QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
+        QVERIFY(qobject_cast<QStandardItemModel*>(view.model()) != nullptr);
+    }
+}
+
+void TestFormVendelHistorique::fitsASmallScreen()
+{
+    History history;
+    QVERIFY(history.window.width() <= 1366);
+    QVERIFY(history.window.height() <= 730);
+    for (const char* name : {"tableView1", "tableView2", "tableView3"}) {
+        auto& view = child<QTableView>(history.window, name);
+        const int scrollBar = view.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        QVERIFY(view.viewport()->width() >= view.horizontalHeader()->length() + scrollBar);
+    }
+    auto& field = child<QLineEdit>(history.window, "txt_First_Date");
+    QVERIFY(field.fontMetrics().horizontalAdvance(QStringLiteral("05/01/2019 10:20:30.123"))
+        < field.width() - 10);
+}
+
+void TestFormVendelHistorique::noButtonListensToReturn()
+{
+    History history;
+    for (const QPushButton* button : history.window.findChildren<QPushButton*>()) {
+        QVERIFY(!button->autoDefault());
+        QVERIFY(!button->isDefault());
+    }
+    const AnswerBox box;
+    QTest::keyClick(&child<QLineEdit>(history.window, "txt_First_Date"), Qt::Key_Return);
+    QVERIFY(!box.wasShown());
+    QVERIFY(history.window.isVisible());
+}
+
+void TestFormVendelHistorique::theMainMenuOpensIt()
+{
+    const Shop shop;
+    FormVendel till;
+    child<QAction>(till, "actionHistorique").trigger();
+    const QPointer<FormVendelHistorique> window = till.findChild<FormVendelHistorique*>();
+    QVERIFY(window != nullptr);
+    QVERIFY(window->isVisible());
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_VERIFY(window.isNull());
+}
+
+void TestFormVendelHistorique::aTranslationOfTheCatalogueChangesIt()
+{
+    Translation english;
+    const auto catalogue = QStringLiteral("FormVendelMessages");
+    english.add(catalogue, QStringLiteral("Vendel Historique"), QStringLiteral("History"));
+    english.add(catalogue, QStringLiteral("Prix"), QStringLiteral("Price"));
+    english.add(catalogue, QStringLiteral("Valide date"), QStringLiteral("Check the date"));
+    english.add(
+        QStringLiteral("FormVendelHistorique"), QStringLiteral("Purge"), QStringLiteral("Delete"));
+    History history;
+    QCOMPARE(history.window.windowTitle(), QStringLiteral("History"));
+    QCOMPARE(child<QTableView>(history.window, "tableView1")
+                 .model()
+                 ->headerData(1, Qt::Horizontal)
+                 .toString(),
+        QStringLiteral("Price"));
+    const AnswerBox box;
+    click(history.window, "btn_Total");
+    QCOMPARE(box.title(), QStringLiteral("Check the date"));
+    QCOMPARE(child<QPushButton>(history.window, "btn_Clear").text(), QStringLiteral("Delete"));
+}
+
+void TestFormVendelHistorique::aDayGoesIntoTheChosenField()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.000");
+    history.sell("Thé", "2", "2019-05-02 10:00:00.000");
+    click(history.window, "btn_Show_Date");
+    clickCell(history.window, "tableView2", 0, 0);
+    QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
+    QCOMPARE(history.second(), QString());
+    click(history.window, "rb_Second_Date");
+    clickCell(history.window, "tableView2", 1, 0);
+    QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
+    QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+}
+
+void TestFormVendelHistorique::aSaleGoesIntoTheChosenField()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.250");
+    history.sell("Thé", "2", "2019-05-01 11:00:00.500");
+    history.type("05/01/2019", "05/02/2019");
+    click(history.window, "btn_View_Historical");
+    clickCell(history.window, "tableView1", 0, 0);
+    QCOMPARE(history.first(), QStringLiteral("05/01/2019 10:00:00.250"));
+    QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+    click(history.window, "rb_Second_Date");
+    clickCell(history.window, "tableView1", 1, 2);
+    QCOMPARE(history.second(), QStringLiteral("05/01/2019 11:00:00.500"));
+}
+
+void TestFormVendelHistorique::effacerSaisieEmptiesBothFields()
+{
+    History history;
+    history.type("05/01/2019", "05/02/2019 10:00:00.000");
+    click(history.window, "btn_Del_Seizure");
+    QCOMPARE(history.first(), QString());
+    QCOMPARE(history.second(), QString());
+}
+
+void TestFormVendelHistorique::saisieStockOpensTheStockEditor()
+{
+    History history;
+    const AnswerBox box;
+    child<QAction>(history.window, "actionSaisie_Stock").trigger();
+    const QPointer<FormVendelSaisieStock> stock
+        = history.window.findChild<FormVendelSaisieStock*>();
+    QVERIFY(stock != nullptr);
+    QVERIFY(stock->isVisible());
+    QVERIFY(!box.wasShown());
+    stock->close();
+    QTRY_VERIFY(stock.isNull());
+}
+
+void TestFormVendelHistorique::calculStockOpensWithTheDatesAsTyped()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.250");
+    history.type(" 05/01/2019 ", "05/01/2019 10:00:00.250  ");
+    const AnswerBox box;
+    child<QAction>(history.window, "actionCalcul_Stock").trigger();
+    QVERIFY(!box.wasShown());
+    const QPointer<FormVendelStockCalculation> calculation
+        = history.window.findChild<FormVendelStockCalculation*>();
+    QVERIFY(calculation != nullptr);
+    QVERIFY(calculation->isVisible());
+    QCOMPARE(child<QLabel>(*calculation, "lbl_Period_Date1").text(), QStringLiteral("05/01/2019"));
+    QCOMPARE(child<QLabel>(*calculation, "lbl_To_Date2").text(),
+        QStringLiteral("05/01/2019 10:00:00.250"));
+    calculation->close();
+    QTRY_VERIFY(calculation.isNull());
+    QCOMPARE(rowCount(history.window, "tableView1"), 0);
+}
+
+void TestFormVendelHistorique::aSaleHasItsTip()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.250");
+    history.type("05/01/2019", "05/02/2019");
+    click(history.window, "btn_Total");
+    for (int column = 0; column < 3; ++column) {
+        hoverCell(history.window, "tableView1", 0, column);
+        QCOMPARE(QToolTip::text(),
+            QStringLiteral("Date Heure\nClick sur : 05/01/2019 10:00:00.250") + afterTheTip);
+    }
+    const QPoint mouse = cellCentre(history.window, "tableView1", 0, 0);
+    moveMouse(history.window, "tableView1", mouse);
+    // Qt itself puts a tip 2 pixels right of and a pointer's height below the point.
+    QVERIFY(shownTip() != nullptr);
+    QCOMPARE(shownTip()->pos(), mouse + QPoint(0, 80) + QPoint(2, 16));
+    hoverCell(history.window, "tableView1", 1, 0);
+    QTRY_VERIFY(shownTip() == nullptr);
+}
+
+void TestFormVendelHistorique::aDayHasItsTip()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.250");
+    click(history.window, "btn_Show_Date");
+    const QPoint mouse = cellCentre(history.window, "tableView2", 0, 0);
+    moveMouse(history.window, "tableView2", mouse);
+    QCOMPARE(QToolTip::text(), QStringLiteral("Date\nClick sur : 05/01/2019") + afterTheTip);
+    QWidget* tip = shownTip();
+    QVERIFY(tip != nullptr);
+    // The offscreen screen ends before the tip does, which is why Qt shows it left of the point.
+    QCOMPARE(tip->pos(), mouse + QPoint(650, 80) + QPoint(2, 16) - QPoint(4 + tip->width(), 0));
+}
+
+void TestFormVendelHistorique::emptyPlacesHaveNoTip()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10");
+    history.sell("Café", "2", "2019-05-01 10:00:00.000");
+    history.type("05/01/2019", "05/02/2019");
+    click(history.window, "btn_View_Historical");
+    click(history.window, "btn_Show_Date");
+    const auto showOne = [&] {
+        hoverCell(history.window, "tableView1", 1, 0);
+        QTRY_VERIFY(shownTip() != nullptr);
+    };
+    showOne();
+    hoverCell(history.window, "tableView1", 0, 0);
+    QTRY_VERIFY(shownTip() == nullptr);
+    showOne();
+    moveMouse(history.window, "tableView1", QPoint(20, 400));
+    QTRY_VERIFY(shownTip() == nullptr);
+    showOne();
+    moveMouse(history.window, "tableView2", QPoint(0, 0));
+    QTRY_VERIFY(shownTip() == nullptr);
+    moveMouse(history.window, "tableView2", QPoint(0, 1));
+    QTRY_VERIFY(shownTip() != nullptr);
+    moveMouse(history.window, "tableView2", QPoint(20, 300));
+    QTRY_VERIFY(shownTip() == nullptr);
+}
+
+VENDEL_TEST_MAIN(TestFormVendelHistorique)
+#include "tst_FormVendelHistorique.moc"

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "tests/forms/History.h"
+#include "tests/support/AnswerBox.h"
+#include "tests/support/Captured.h"
+#include "tests/support/TestMain.h"
+
+#include <QPushButton>
+#include <QTableView>
+
+namespace {
+/// Answers every box that comes with its Yes or OK and remembers what it said and what the lists
+/// held at that moment.
+class BoxDiary
+{
+public:
+    explicit BoxDiary(FormVendelHistorique& window)
+    {
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, &window] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr || !box->isVisible()) {
+                return;
+            }
+            said << box->windowTitle() + QStringLiteral(": ") + box->text();
+            listed << QStringLiteral("%1 %2 %3")
+                          .arg(rowCount(window, "tableView1"))
+                          .arg(rowCount(window, "tableView2"))
+                          .arg(rowCount(window, "tableView3"));
+            auto* yes = box->button(QMessageBox::Yes);
+            (yes == nullptr ? box->button(QMessageBox::Ok) : yes)->click();
+        });
+        timer_.start(1);
+    }
+
+    QStringList said;
+    /// Rows of the sales, the days and the grouped list.
+    QStringList listed;
+
+private:
+    QTimer timer_;
+};
+} // namespace
+
+class TestFormVendelHistoriqueTotal : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void totalAddsAYellowRow();
+    void totalOfAYearKeepsItsCents();
+    void theTotalsRowIsNoDate();
+    void anUnreadableSumIsLogged();
+
+    void purgeAsksAndNoKeepsTheSales();
+    void purgeEmptiesTheListsBeforeItReports();
+    void purgeOfEverythingLeavesNoDay();
+    void aPurgeThatFailsListsTheSalesAgain();
+};
+
+void TestFormVendelHistoriqueTotal::totalAddsAYellowRow()
+{
+    History history;
+    for (int sale = 0; sale < 60; ++sale) {
+        history.sell("Thé", "20.5", "2019-05-01 10:00:00.000");
+    }
+    history.type("05/01/2019", "05/02/2019");
+    const AnswerBox box;
+    click(history.window, "btn_Total");
+    QVERIFY(!box.wasShown());
+    QCOMPARE(rowCount(history.window, "tableView1"), 61);
+    QCOMPARE(
+        rowTexts(history.window, "tableView1", 60), texts({"Total historique", "1,230.00$", "<-"}));
+    auto& view = child<QTableView>(history.window, "tableView1");
+    for (int column = 0; column < 3; ++column) {
+        QCOMPARE(view.model()->index(60, column).data(Qt::BackgroundRole).value<QBrush>(),
+            QBrush(Qt::yellow));
+        QVERIFY(!view.model()->index(59, column).data(Qt::BackgroundRole).isValid());
+    }
+    QVERIFY(view.viewport()->rect().contains(view.visualRect(view.model()->index(60, 0))));
+    QCOMPARE(rowCount(history.window, "tableView3"), 1);
+    QCOMPARE(
+        rowTexts(history.window, "tableView3", 0), texts({"60", "Thé", "20.50$", "1,230.00$"}));
+    click(history.window, "btn_Total");
+    QCOMPARE(rowCount(history.window, "tableView1"), 61);
+}
+
+void TestFormVendelHistoriqueTotal::totalOfAYearKeepsItsCents()
+{
+    History history;
+    history.sell("Mariage", "1234567.88", "2019-05-01 10:00:00.000");
+    history.sell("Bonbon", "0.01", "2019-06-01 10:00:00.000");
+    history.type("01/01/2019", "01/01/2020");
+    click(history.window, "btn_Total");
+    QCOMPARE(rowTexts(history.window, "tableView1", 2).at(1), QStringLiteral("1,234,567.89$"));
+}
+
+void TestFormVendelHistoriqueTotal::theTotalsRowIsNoDate()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.000");
+    history.type("05/01/2019", "05/02/2019");
+    click(history.window, "btn_Total");
+    clickCell(history.window, "tableView1", 1, 2);
+    click(history.window, "rb_Second_Date");
+    clickCell(history.window, "tableView1", 1, 0);
+    QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
+    QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+}
+
+void TestFormVendelHistoriqueTotal::anUnreadableSumIsLogged()
+{
+    History history;
+    history.sell("Thé", "9223372036854775807", "2019-05-01 10:00:00.000");
+    history.sell("Thé", "9223372036854775807", "2019-05-01 11:00:00.000");
+    history.type("05/01/2019", "05/02/2019");
+    CapturedOutput output;
+    CapturedLog log;
+    const AnswerBox box;
+    click(history.window, "btn_Total");
+    QCOMPARE(log.criticals().size(), 1);
+    QVERIFY(log.criticals().at(0).startsWith(
+        QStringLiteral("Errors FormVendelHistorique on_btn_Total_clicked : ")));
+    QVERIFY(output.text().startsWith(
+        "Errors Db::DbLoad sqlite3_errmsg : select sum(prix) from Historique where date_heure "
+        "between '2019-05-01' and '2019-05-02' "));
+    QVERIFY(!box.wasShown());
+    QVERIFY(history.window.isEnabled());
+}
+
+void TestFormVendelHistoriqueTotal::purgeAsksAndNoKeepsTheSales()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.000");
+    history.type("05/01/2019", "05/02/2019");
+    click(history.window, "btn_Total");
+    const AnswerBox box(QMessageBox::No);
+    click(history.window, "btn_Clear");
+    QCOMPARE(box.title(), QStringLiteral("Purger"));
+    QCOMPARE(box.text(), QStringLiteral("Voulez-vous purger de 05/01/2019 au 05/02/2019"));
+    QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
+    QCOMPARE(box.icon(), QMessageBox::Information);
+    QCOMPARE(box.format(), Qt::PlainText);
+    QCOMPARE(box.strays(), 0);
+    QCOMPARE(history.sold(), QStringLiteral("1"));
+    QCOMPARE(rowCount(history.window, "tableView1"), 2);
+    QCOMPARE(rowCount(history.window, "tableView3"), 1);
+}
+
+void TestFormVendelHistoriqueTotal::purgeEmptiesTheListsBeforeItReports()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.000");
+    history.sell("Café", "2", "2019-05-01 10:00:00.001");
+    history.sell("Bière", "2", "2019-05-01 10:00:00.002");
+    history.type("05/01/2019 10:00:00.000", "05/01/2019 10:00:00.001");
+    click(history.window, "btn_Total");
+    BoxDiary diary(history.window);
+    click(history.window, "btn_Clear");
+    QCOMPARE(diary.said,
+        texts({"Purger: Voulez-vous purger de 05/01/2019 10:00:00.000 au 05/01/2019 10:00:00.001",
+            "Historique: Historique est vide pour la pèriode du 05/01/2019 10:00:00.000 au "
+            "05/01/2019 10:00:00.001"}));
+    QCOMPARE(diary.listed, texts({"3 0 2", "0 0 0"}));
+    QCOMPARE(history.shop.cell("select article from Historique"), QStringLiteral("Bière"));
+    QCOMPARE(history.sold(), QStringLiteral("1"));
+    QCOMPARE(rowCount(history.window, "tableView2"), 1);
+    QCOMPARE(rowTexts(history.window, "tableView2", 0), texts({"05/01/2019"}));
+}
+
+void TestFormVendelHistoriqueTotal::purgeOfEverythingLeavesNoDay()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.000");
+    history.sell("Café", "2", "2020-02-29 10:00:00.000");
+    click(history.window, "btn_Show_Date");
+    QCOMPARE(rowCount(history.window, "tableView2"), 2);
+    history.type("01/01/0001", "12/31/9999");
+    BoxDiary diary(history.window);
+    click(history.window, "btn_Clear");
+    QCOMPARE(diary.said,
+        texts({"Purger: Voulez-vous purger de 01/01/0001 au 12/31/9999",
+            "Historique: Historique est vide pour la pèriode du 01/01/0001 au 12/31/9999",
+            "Historique: Historique est vide\nAjouter des articles et faite PAYER"}));
+    QCOMPARE(diary.listed, texts({"0 2 0", "0 2 0", "0 0 0"}));
+    QCOMPARE(history.sold(), QStringLiteral("0"));
+}
+
+void TestFormVendelHistoriqueTotal::aPurgeThatFailsListsTheSalesAgain()
+{
+    History history;
+    history.sell("Thé", "2", "2019-05-01 10:00:00.000");
+    history.shop.sql("create trigger keep before delete on Historique begin select "
+                     "raise(abort, 'gardé'); end");
+    history.type("05/01/2019", "05/02/2019");
+    CapturedOutput output;
+    BoxDiary diary(history.window);
+    click(history.window, "btn_Clear");
+    QCOMPARE(diary.said.size(), 1);
+    QCOMPARE(rowCount(history.window, "tableView1"), 1);
+    QCOMPARE(rowCount(history.window, "tableView2"), 1);
+    QVERIFY(output.text().contains(
+        "Errors Db::DbLoad sqlite3_errmsg : delete from Historique where date_heure between "
+        "'2019-05-01' and '2019-05-02' gardé\n"));
+}
+
+VENDEL_TEST_MAIN(TestFormVendelHistoriqueTotal)
+#include "tst_FormVendelHistoriqueTotal.moc"

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "app/FormVendel.h"
+#include "forms/FormVendelSaisieArticle.h"
+#include "tests/support/AnswerBox.h"
+#include "tests/support/Captured.h"
+#include "tests/support/ContextEcho.h"
+#include "tests/support/FailingText.h"
+#include "tests/support/Shop.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Widgets.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTableView>
+
+namespace {
+const QStringList buttons{QStringLiteral("btn_Effacer_Saisie"), QStringLiteral("btn_Afficher"),
+    QStringLiteral("btn_Ajouter"), QStringLiteral("btn_Supprimer"), QStringLiteral("btn_Renommer"),
+    QStringLiteral("btn_Rechercher")};
+
+QString textOf(QWidget& window, const char* label)
+{
+    return child<QLabel>(window, label).text();
+}
+
+QString captionOf(QWidget& window, const char* button)
+{
+    return child<QPushButton>(window, button).text();
+}
+} // namespace
+
+class TestFormVendelSaisieArticle : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void looksLikeTheArticleEditor();
+    void theListIsSetUp();
+    void captionsAreFrench();
+    void everyTextIsLookedUpInItsContext();
+    void fieldsStandBesideTheirLabels();
+    void nothingIsClipped();
+    void tabFollowsTheEye();
+    void returnPressesNoButton();
+    void escapeClosesTheWindow();
+    void theMenuOpensAndClosingDeletesIt();
+    void opensWithAnEmptyList();
+
+    void aFailingConstructorIsLogged();
+};
+
+void TestFormVendelSaisieArticle::looksLikeTheArticleEditor()
+{
+    const Shop shop;
+    const CapturedLog log;
+    FormVendelSaisieArticle window;
+    QCOMPARE(log.warnings(), QStringList());
+    QCOMPARE(log.criticals(), QStringList());
+    QCOMPARE(window.objectName(), QStringLiteral("FormVendelSaisieArticle"));
+    QCOMPARE(window.size(), QSize(641, 626));
+    QCOMPARE(window.minimumSize(), QSize(641, 626));
+    QCOMPARE(window.maximumSize(), QSize(641, 626));
+    QCOMPARE(window.sizeIncrement(), QSize(641, 626));
+    QCOMPARE(window.windowModality(), Qt::WindowModal);
+    for (const char* label : {"lbl_Menu", "lbl_Article", "lbl_Montant"}) {
+        QCOMPARE(child<QLabel>(window, label).font().pointSize(), 12);
+    }
+    for (const char* field : {"txt_Article", "txt_Montant"}) {
+        QCOMPARE(child<QLineEdit>(window, field).font().pointSize(), 12);
+        QCOMPARE(child<QLineEdit>(window, field).text(), QString());
+    }
+    for (const QString& name : buttons) {
+        const auto& button = child<QPushButton>(window, name.toLatin1().constData());
+        QCOMPARE(button.font().pointSize(), 12);
+        QVERIFY(!button.autoDefault());
+        QVERIFY(!button.isDefault());
+        const bool isPlain = name == QLatin1String("btn_Effacer_Saisie");
+        QCOMPARE(button.styleSheet(),
+            isPlain ? QString() : QStringLiteral("background-color: rgb(114, 159, 207)"));
+    }
+}
+
+void TestFormVendelSaisieArticle::theListIsSetUp()
+{
+    const Shop shop;
+    FormVendelSaisieArticle window;
+    const auto& list = child<QTableView>(window, "tableView");
+    QCOMPARE(list.font().pointSize(), 18);
+    QCOMPARE(list.styleSheet(),
+        QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
+    QVERIFY(list.alternatingRowColors());
+    QCOMPARE(list.editTriggers(), QAbstractItemView::NoEditTriggers);
+    QCOMPARE(list.selectionMode(), QAbstractItemView::ExtendedSelection);
+    const QHeaderView& header = *list.horizontalHeader();
+    QCOMPARE(header.defaultSectionSize(), 10);
+    QCOMPARE(header.minimumSectionSize(), 10);
+    QVERIFY(header.defaultAlignment().testFlag(Qt::AlignLeft));
+
+    const auto* model = list.model();
+    QCOMPARE(model->columnCount(), 4);
+    QStringList labels;
+    for (int column = 0; column < 4; ++column) {
+        labels << model->headerData(column, Qt::Horizontal).toString();
+    }
+    QCOMPARE(labels,
+        QStringList({QStringLiteral("#"), QStringLiteral("X"), QStringLiteral("Article"),
+            QStringLiteral("Prix")}));
+    QVERIFY(list.isColumnHidden(0));
+    QCOMPARE(list.columnWidth(1), 25);
+    QCOMPARE(list.columnWidth(2), 210);
+    QCOMPARE(list.columnWidth(3), 110);
+}
+
+void TestFormVendelSaisieArticle::captionsAreFrench()
+{
+    const Shop shop;
+    FormVendelSaisieArticle window;
+    QCOMPARE(window.windowTitle(), QStringLiteral("Saisie Article"));
+    QCOMPARE(textOf(window, "lbl_Menu"), QStringLiteral("Menu"));
+    QCOMPARE(textOf(window, "lbl_Article"), QStringLiteral("Article"));
+    QCOMPARE(textOf(window, "lbl_Montant"), QStringLiteral("Montant"));
+    QCOMPARE(captionOf(window, "btn_Effacer_Saisie"), QStringLiteral("Effacer Saisie"));
+    QCOMPARE(captionOf(window, "btn_Afficher"), QStringLiteral("Afficher"));
+    QCOMPARE(captionOf(window, "btn_Ajouter"), QStringLiteral("Ajouter"));
+    QCOMPARE(captionOf(window, "btn_Supprimer"), QStringLiteral("Supprimer"));
+    QCOMPARE(captionOf(window, "btn_Renommer"), QStringLiteral("Renommer"));
+    QCOMPARE(captionOf(window, "btn_Rechercher"), QStringLiteral("Rechercher"));
+}
+
+void TestFormVendelSaisieArticle::everyTextIsLookedUpInItsContext()
+{
+    const Shop shop;
+    const ContextEcho translation;
+    FormVendelSaisieArticle window;
+    window.show();
+    const QString own = QStringLiteral("FormVendelSaisieArticle");
+    QCOMPARE(window.windowTitle(), own);
+    for (const char* label : {"lbl_Menu", "lbl_Article", "lbl_Montant"}) {
+        QCOMPARE(textOf(window, label), own);
+    }
+    for (const QString& name : buttons) {
+        QCOMPARE(captionOf(window, name.toLatin1().constData()), own);
+    }
+    const auto* model = child<QTableView>(window, "tableView").model();
+    QCOMPARE(model->headerData(2, Qt::Horizontal).toString(), QStringLiteral("FormVendelMessages"));
+    const AnswerBox box;
+    click(window, "btn_Afficher");
+    QCOMPARE(box.text(), QStringLiteral("FormVendelSaisieArticleMessages"));
+    QCOMPARE(box.title(), QStringLiteral("FormVendelSaisieArticleMessages"));
+}
+
+void TestFormVendelSaisieArticle::fieldsStandBesideTheirLabels()
+{
+    const Shop shop;
+    FormVendelSaisieArticle window;
+    window.show();
+    const QRect article = child<QLineEdit>(window, "txt_Article").geometry();
+    const QRect amount = child<QLineEdit>(window, "txt_Montant").geometry();
+    const auto& articleLabel = child<QLabel>(window, "lbl_Article");
+    const auto& amountLabel = child<QLabel>(window, "lbl_Montant");
+    QCOMPARE(articleLabel.geometry().center().y(), article.center().y());
+    QCOMPARE(amountLabel.geometry().center().y(), amount.center().y());
+    QVERIFY(articleLabel.geometry().right() < article.left());
+    QCOMPARE(article.left(), amount.left());
+    QCOMPARE(article.right(), amount.right());
+    for (const QString& name : buttons) {
+        const QRect button = child<QPushButton>(window, name.toLatin1().constData()).geometry();
+        QCOMPARE(button.left(), articleLabel.x());
+        QCOMPARE(button.right(), article.right());
+    }
+    QCOMPARE(articleLabel.buddy(), window.findChild<QWidget*>(QStringLiteral("txt_Article")));
+    QCOMPARE(amountLabel.buddy(), window.findChild<QWidget*>(QStringLiteral("txt_Montant")));
+}
+
+void TestFormVendelSaisieArticle::nothingIsClipped()
+{
+    const Shop shop;
+    FormVendelSaisieArticle window;
+    window.show();
+    QCOMPARE(clippedTexts(window), QStringList());
+}
+
+void TestFormVendelSaisieArticle::tabFollowsTheEye()
+{
+    const Shop shop;
+    shop.sql("insert into Article (article, prix) values ('Cafe', 1), ('The', 2)");
+    FormVendelSaisieArticle window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    click(window, "btn_Afficher");
+    child<QLineEdit>(window, "txt_Article").setFocus();
+    QCOMPARE(tabOrder(window),
+        QStringList({QStringLiteral("txt_Article"), QStringLiteral("txt_Montant")}) + buttons
+            + QStringList(QStringLiteral("tableView")));
+}
+
+void TestFormVendelSaisieArticle::returnPressesNoButton()
+{
+    const Shop shop;
+    FormVendelSaisieArticle window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QCOMPARE(window.focusWidget()->objectName(), QStringLiteral("txt_Article"));
+    const AnswerBox box;
+    QTest::keyClicks(window.focusWidget(), QStringLiteral("The"));
+    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(window.focusWidget(), QStringLiteral("2"));
+    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    QVERIFY(!box.wasShown());
+    QVERIFY(window.isVisible());
+    QCOMPARE(shop.cell("select count(*) from Article"), QStringLiteral("0"));
+}
+
+void TestFormVendelSaisieArticle::escapeClosesTheWindow()
+{
+    const Shop shop;
+    FormVendelSaisieArticle window;
+    window.show();
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QVERIFY(!window.isVisible());
+}
+
+void TestFormVendelSaisieArticle::theMenuOpensAndClosingDeletesIt()
+{
+    const Shop shop;
+    FormVendel till;
+    till.show();
+    chooseMenu(till, "menuVendel", "actionSaisie_Article");
+    QPointer<FormVendelSaisieArticle> editor = till.findChild<FormVendelSaisieArticle*>();
+    QVERIFY(editor != nullptr);
+    QVERIFY(editor->isVisible());
+    QCOMPARE(editor->parentWidget(), &till);
+    editor->close();
+    QTRY_VERIFY(editor.isNull());
+}
+
+void TestFormVendelSaisieArticle::opensWithAnEmptyList()
+{
+    const Shop shop;
+    shop.sql("insert into Article (article, prix) values ('Cafe', 1)");
+    FormVendelSaisieArticle window;
+    window.show();
+    QCOMPARE(rowCount(window, "tableView"), 0);
+}
+
+void TestFormVendelSaisieArticle::aFailingConstructorIsLogged()
+{
+    const Shop shop;
+    const CapturedLog log;
+    const FailingText failure("Saisie Article");
+    const FormVendelSaisieArticle window;
+    QCOMPARE(log.criticals(),
+        QStringList(QStringLiteral("Errors FormVendelSaisieArticle Constructor : no text")));
+}
+
+VENDEL_TEST_MAIN(TestFormVendelSaisieArticle)
+#include "tst_FormVendelSaisieArticle.moc"

@@ -1,0 +1,298 @@
+// SPDX-License-Identifier: MIT
+#include "forms/FormVendelSaisieStock.h"
+#include "forms/FormVendelSaisieStockComposition.h"
+#include "tests/forms/StockSample.h"
+#include "tests/support/AnswerBox.h"
+#include "tests/support/Captured.h"
+#include "tests/support/ListLook.h"
+#include "tests/support/MarkedContext.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Trouble.h"
+#include "tests/support/Widgets.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <stdexcept>
+
+class TestFormVendelSaisieStockComposition : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void looksLikeTheCompositionWindow();
+    void aLongNameKeepsItsNeighboursInPlace();
+    void addsALineAndCloses();
+    void doseAndUnitAreStored_data();
+    void doseAndUnitAreStored();
+    void quotesAreStoredAsTyped();
+    void missingTextsAreAskedFor_data();
+    void missingTextsAreAskedFor();
+    void aDoseThatIsNoNumberIsRefused_data();
+    void aDoseThatIsNoNumberIsRefused();
+    void aRefusedInsertIsReportedAndCloses();
+    void returnAdds();
+    void tabGoesFromFieldToField();
+    void closingAddsNothing();
+    void textsAreTranslatedInTheirContexts();
+    void troubleIsLogged();
+};
+
+namespace {
+/// A stock editor that shows the recipe of Sirop, with the composition window of Sirop open.
+struct Composing
+{
+    Composing()
+    {
+        stock.show();
+        stock.Display_DoseStock(QStringLiteral("3"));
+        window.show();
+    }
+
+    void type(const QString& composition, const QString& dose)
+    {
+        child<QLineEdit>(window, "txt_Composition").setText(composition);
+        child<QLineEdit>(window, "txt_Dose").setText(dose);
+    }
+
+    StockSample shop;
+    FormVendelSaisieStock stock;
+    FormVendelSaisieStockComposition window{QStringLiteral("Sirop"), QStringLiteral("3"), &stock};
+};
+} // namespace
+
+void TestFormVendelSaisieStockComposition::looksLikeTheCompositionWindow()
+{
+    const Shop shop;
+    const CapturedLog log;
+    FormVendelSaisieStockComposition window(
+        QStringLiteral("<b>Café</b>"), QStringLiteral("1"), nullptr);
+    QCOMPARE(window.size(), QSize(495, 86));
+    QCOMPARE(window.minimumSize(), QSize(495, 86));
+    QCOMPARE(window.maximumSize(), QSize(495, 86));
+    QCOMPARE(window.windowModality(), Qt::WindowModal);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Saisie Stock"));
+    QCOMPARE(child<QLabel>(window, "lbl_ArticleTitle").text(), QStringLiteral("Article :"));
+    QCOMPARE(child<QLabel>(window, "lbl_Article").text(), QStringLiteral("<b>Café</b>"));
+    QCOMPARE(child<QLabel>(window, "lbl_Article").textFormat(), Qt::PlainText);
+    QCOMPARE(child<QLabel>(window, "lbl_Composition").text(), QStringLiteral("Composition"));
+    QCOMPARE(child<QLabel>(window, "lbl_Dose").text(), QStringLiteral("Dose"));
+    QCOMPARE(child<QLabel>(window, "lbl_Unit").text(), QStringLiteral("Unité"));
+    QCOMPARE(child<QPushButton>(window, "btn_Add").text(), QStringLiteral("Ajouter"));
+    const auto& units = child<QComboBox>(window, "cbx_Unit");
+    QCOMPARE(units.count(), 2);
+    QCOMPARE(units.itemText(0), QStringLiteral("cl"));
+    QCOMPARE(units.itemText(1), QStringLiteral("g"));
+    QCOMPARE(units.currentText(), QStringLiteral("cl"));
+    QVERIFY(!units.isEditable());
+    QVERIFY(child<QPushButton>(window, "btn_Add").isDefault());
+    QVERIFY(!anyAutoDefault(window));
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void TestFormVendelSaisieStockComposition::aLongNameKeepsItsNeighboursInPlace()
+{
+    const Shop shop;
+    FormVendelSaisieStockComposition brief(QStringLiteral("Thé"), QStringLiteral("1"), nullptr);
+    FormVendelSaisieStockComposition long_(
+        QString(300, QLatin1Char('W')), QStringLiteral("1"), nullptr);
+    brief.show();
+    long_.show();
+    QCOMPARE(long_.size(), QSize(495, 86));
+    QCOMPARE(child<QLabel>(long_, "lbl_Article").text().size(), 300);
+    for (const char* name : {"txt_Composition", "txt_Dose", "cbx_Unit", "btn_Add"}) {
+        QCOMPARE(child<QWidget>(long_, name).geometry(), child<QWidget>(brief, name).geometry());
+    }
+    QVERIFY(child<QLabel>(long_, "lbl_Article").geometry().right() < 495);
+}
+
+void TestFormVendelSaisieStockComposition::addsALineAndCloses()
+{
+    Composing at;
+    const AnswerBox box;
+    at.type(QStringLiteral("  Eau \t"), QStringLiteral(" 20 "));
+    click(at.window, "btn_Add");
+    QVERIFY(!box.wasShown());
+    QVERIFY(!at.window.isVisible());
+    QCOMPARE(child<QLineEdit>(at.window, "txt_Composition").text(), QStringLiteral("Eau"));
+    QCOMPARE(child<QLineEdit>(at.window, "txt_Dose").text(), QStringLiteral("20"));
+    QCOMPARE(rowCount(at.stock, "tableView2"), 2);
+    QCOMPARE(rowTexts(at.stock, "tableView2", 0), cells({"13", "3", "Eau", "20.00", "cl"}));
+}
+
+void TestFormVendelSaisieStockComposition::doseAndUnitAreStored_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("shown");
+    const auto row = [](const char* typed, int unit, const char* stored, const char* shown) {
+        QTest::newRow(typed) << QString::fromLatin1(typed) << unit << QString::fromLatin1(stored)
+                             << QString::fromLatin1(shown);
+    };
+    row("0,5", 0, "0.5|cl", "0.50");
+    row("0.5", 1, "0.5|g", "0.50");
+    row("12", 1, "12|g", "12.00");
+    row("-2", 0, "-2|cl", "-2.00");
+    row("1e2", 0, "100|cl", "100.00");
+    row("+3,25", 0, "3.25|cl", "3.25");
+}
+
+void TestFormVendelSaisieStockComposition::doseAndUnitAreStored()
+{
+    QFETCH(const QString, typed);
+    QFETCH(const int, unit);
+    QFETCH(const QString, stored);
+    QFETCH(const QString, shown);
+    Composing at;
+    at.type(QStringLiteral("Eau"), typed);
+    child<QComboBox>(at.window, "cbx_Unit").setCurrentIndex(unit);
+    click(at.window, "btn_Add");
+    QCOMPARE(at.shop.cell("select dose || '|' || unite from DoseStock where composition = 'Eau'"),
+        stored);
+    QCOMPARE(rowTexts(at.stock, "tableView2", 0).at(3), shown);
+}
+
+void TestFormVendelSaisieStockComposition::quotesAreStoredAsTyped()
+{
+    Composing at;
+    at.type(QStringLiteral("L'eau d''ici"), QStringLiteral("1"));
+    click(at.window, "btn_Add");
+    QCOMPARE(at.shop.cell("select composition from DoseStock where idlig = 13"),
+        QStringLiteral("L'eau d''ici"));
+    QCOMPARE(rowTexts(at.stock, "tableView2", 0).at(2), QStringLiteral("L'eau d''ici"));
+}
+
+void TestFormVendelSaisieStockComposition::missingTextsAreAskedFor_data()
+{
+    QTest::addColumn<QString>("composition");
+    QTest::addColumn<QString>("dose");
+    QTest::newRow("both") << QString() << QString();
+    QTest::newRow("composition of blanks") << QStringLiteral("  ") << QStringLiteral("1");
+    QTest::newRow("dose of blanks") << QStringLiteral("Eau") << QStringLiteral(" ");
+}
+
+void TestFormVendelSaisieStockComposition::missingTextsAreAskedFor()
+{
+    QFETCH(const QString, composition);
+    QFETCH(const QString, dose);
+    Composing at;
+    at.type(composition, dose);
+    const AnswerBox box;
+    click(at.window, "btn_Add");
+    QCOMPARE(box.text(), QStringLiteral("Saisir Composition / Dose / Choisir Unité"));
+    QCOMPARE(box.title(), QStringLiteral("Ajouter"));
+    QCOMPARE(box.buttons(), QMessageBox::Ok);
+    QCOMPARE(box.parent(), &at.window);
+    QCOMPARE(box.strays(), 0);
+    QVERIFY(at.window.isVisible());
+    QCOMPARE(child<QLineEdit>(at.window, "txt_Composition").text(), composition.trimmed());
+    QCOMPARE(child<QLineEdit>(at.window, "txt_Dose").text(), dose.trimmed());
+    QCOMPARE(at.shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+}
+
+void TestFormVendelSaisieStockComposition::aDoseThatIsNoNumberIsRefused_data()
+{
+    QTest::addColumn<QString>("dose");
+    for (const char* dose : {"deux", "1,2,3", "1.2.3", "3 cl", "1 000", "1);--", "0x10"}) {
+        QTest::newRow(dose) << QString::fromLatin1(dose);
+    }
+}
+
+void TestFormVendelSaisieStockComposition::aDoseThatIsNoNumberIsRefused()
+{
+    QFETCH(const QString, dose);
+    Composing at;
+    at.type(QStringLiteral("Eau"), dose);
+    const AnswerBox box;
+    click(at.window, "btn_Add");
+    QCOMPARE(box.text(), QStringLiteral("Saisir une dose valide"));
+    QCOMPARE(box.title(), QStringLiteral("Ajouter"));
+    QCOMPARE(box.buttons(), QMessageBox::Ok);
+    QCOMPARE(box.strays(), 0);
+    QVERIFY(at.window.isVisible());
+    QCOMPARE(child<QLineEdit>(at.window, "txt_Dose").text(), dose);
+    QCOMPARE(at.shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+}
+
+void TestFormVendelSaisieStockComposition::aRefusedInsertIsReportedAndCloses()
+{
+    Composing at;
+    at.type(QStringLiteral("Eau"), QStringLiteral("inf"));
+    CapturedOutput output;
+    click(at.window, "btn_Add");
+    QCOMPARE(diagnostics(output),
+        QByteArray("Errors Db::DbLoad sqlite3_errmsg : insert into DoseStock (id, composition, "
+                   "dose, unite) values (3, 'Eau', inf, 'cl') no such column: inf\n"));
+    QVERIFY(!at.window.isVisible());
+    QCOMPARE(rowCount(at.stock, "tableView2"), 1);
+}
+
+void TestFormVendelSaisieStockComposition::returnAdds()
+{
+    Composing at;
+    QVERIFY(showActive(at.window));
+    QTest::keyClicks(&child<QLineEdit>(at.window, "txt_Composition"), QStringLiteral("Eau"));
+    QTest::keyClicks(&child<QLineEdit>(at.window, "txt_Dose"), QStringLiteral("2,5"));
+    QTest::keyClick(&child<QLineEdit>(at.window, "txt_Dose"), Qt::Key_Return);
+    QVERIFY(!at.window.isVisible());
+    QCOMPARE(rowTexts(at.stock, "tableView2", 0), cells({"13", "3", "Eau", "2.50", "cl"}));
+}
+
+void TestFormVendelSaisieStockComposition::tabGoesFromFieldToField()
+{
+    Composing at;
+    QVERIFY(showActive(at.window));
+    for (const char* name : {"txt_Composition", "txt_Dose", "cbx_Unit", "btn_Add"}) {
+        QCOMPARE(at.window.focusWidget(), &child<QWidget>(at.window, name));
+        QTest::keyClick(at.window.focusWidget(), Qt::Key_Tab);
+    }
+}
+
+void TestFormVendelSaisieStockComposition::closingAddsNothing()
+{
+    Composing at;
+    at.type(QStringLiteral("Eau"), QStringLiteral("1"));
+    QTest::keyClick(&at.window, Qt::Key_Escape);
+    QVERIFY(!at.window.isVisible());
+    QCOMPARE(at.shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+}
+
+void TestFormVendelSaisieStockComposition::textsAreTranslatedInTheirContexts()
+{
+    const Shop shop;
+    {
+        const MarkedContext captions("FormVendelSaisieStockComposition");
+        FormVendelSaisieStockComposition window(QString(), QString(), nullptr);
+        QCOMPARE(child<QLabel>(window, "lbl_Dose").text(),
+            QStringLiteral("FormVendelSaisieStockComposition:Dose"));
+    }
+    const MarkedContext texts("FormVendelSaisieStockCompositionMessages");
+    FormVendelSaisieStockComposition window(QString(), QString(), nullptr);
+    window.show();
+    const AnswerBox box;
+    click(window, "btn_Add");
+    QCOMPARE(box.title(), QStringLiteral("FormVendelSaisieStockCompositionMessages:Ajouter"));
+}
+
+void TestFormVendelSaisieStockComposition::troubleIsLogged()
+{
+    const CapturedLog log;
+    Composing at;
+    {
+        const TroubleAt trouble(QEvent::WindowTitleChange, "FormVendelSaisieStockComposition");
+        FormVendelSaisieStockComposition broken(QString(), QString(), nullptr);
+    }
+    at.type(QStringLiteral(" Eau"), QStringLiteral("1"));
+    connect(&child<QLineEdit>(at.window, "txt_Composition"), &QLineEdit::textChanged, &at.window,
+        [] { throw std::runtime_error("trouble"); });
+    click(at.window, "btn_Add");
+    QCOMPARE(log.criticals(),
+        cells({"Errors FormSaisieStockComposition Constructor : trouble",
+            "Errors FormSaisieStockComposition on_btn_Add_clicked : trouble"}));
+}
+
+VENDEL_TEST_MAIN(TestFormVendelSaisieStockComposition)
+#include "tst_FormVendelSaisieStockComposition.moc"

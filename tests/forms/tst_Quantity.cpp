@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "forms/Quantity.h"
+#include "tests/support/TestMain.h"
+
+class TestQuantity : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void numbersAreEnglishWithTwoDecimals_data();
+    void numbersAreEnglishWithTwoDecimals();
+    void threeDecimalsOnRequest();
+};
+
+void TestQuantity::numbersAreEnglishWithTwoDecimals_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("shown");
+    const auto row = [](const char* stored, const char* shown) {
+        QTest::newRow(stored) << QString::fromUtf8(stored) << QString::fromUtf8(shown);
+    };
+    row("1.5", "1.50");
+    row("0", "0.00");
+    row("2.999", "3.00");
+    row("1234567.891", "1,234,567.89");
+    row("123456789.25", "123,456,789.25");
+    row("1e3", "1,000.00");
+    row("-7", "-7.00");
+    row("1,5", "1,5");
+    row("fl. oz", "fl. oz");
+    row("", "");
+}
+
+void TestQuantity::numbersAreEnglishWithTwoDecimals()
+{
+    QFETCH(const QString, stored);
+    QFETCH(const QString, shown);
+    QCOMPARE(formatQuantity(stored.toStdString()), shown);
+}
+
+void TestQuantity::threeDecimalsOnRequest()
+{
+    QCOMPARE(formatQuantity("0.25", 3), QStringLiteral("0.250"));
+    QCOMPARE(formatQuantity("1234.5", 3), QStringLiteral("1,234.500"));
+    QCOMPARE(formatQuantity("quart", 3), QStringLiteral("quart"));
+}
+
+VENDEL_TEST_MAIN(TestQuantity)
+#include "tst_Quantity.moc"

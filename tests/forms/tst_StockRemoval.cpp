@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: MIT
+#include "forms/FormVendelSaisieStock.h"
+#include "tests/forms/StockSample.h"
+#include "tests/support/AnswerBox.h"
+#include "tests/support/Captured.h"
+#include "tests/support/ListLook.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Widgets.h"
+
+#include <QTableView>
+
+/// Removing articles and lines of recipes in the stock editor.
+class TestStockRemoval : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void anEmptyListAsksForAnUpdate();
+    void withoutASelectionItAsksForOne();
+    void aSelectionWithoutACurrentRowCountsAsNone();
+    void theQuestionNamesArticleAndValidity();
+    void namesAreAskedForAsTheyAre();
+    void noKeepsTheArticle();
+    void yesRemovesTheArticleWithItsLines();
+    void theLastArticleLeavesTheEmptyMessage();
+    void linesGoBeforeTheirArticle();
+    void anArticleStaysWhenItsLinesCannotGo();
+    void onlyTheCurrentRowIsRemoved();
+    void aDoubleClickRemovesALineAtOnce();
+    void deleteRemovesTheCurrentLineOnly();
+    void aHeldDeleteKeyRemovesOneLine();
+    void anUnselectedLineStays();
+};
+
+namespace {
+void open(FormVendelSaisieStock& stock)
+{
+    stock.show();
+    stock.Display(true);
+}
+} // namespace
+
+void TestStockRemoval::anEmptyListAsksForAnUpdate()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    stock.show();
+    const AnswerBox box;
+    click(stock, "btn_Remove");
+    QCOMPARE(box.text(), QStringLiteral("Aucun Article\nFaite Mise à jour"));
+    QCOMPARE(box.title(), QStringLiteral("Afficher"));
+    QCOMPARE(box.buttons(), QMessageBox::Ok);
+    QCOMPARE(box.strays(), 0);
+}
+
+void TestStockRemoval::withoutASelectionItAsksForOne()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    open(stock);
+    const AnswerBox box;
+    click(stock, "btn_Remove");
+    QCOMPARE(box.text(), QStringLiteral("Selectionner un/des article(s) dans le menu"));
+    QCOMPARE(box.title(), QStringLiteral("Supprimer"));
+    QCOMPARE(box.buttons(), QMessageBox::Ok);
+    QCOMPARE(box.strays(), 0);
+    QCOMPARE(shop.cell("select count(*) from ArticleStock"), QStringLiteral("3"));
+}
+
+void TestStockRemoval::aSelectionWithoutACurrentRowCountsAsNone()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    open(stock);
+    auto& articles = child<QTableView>(stock, "tableView1");
+    articles.selectAll();
+    articles.selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
+    const AnswerBox box(QMessageBox::Yes);
+    CapturedOutput output;
+    click(stock, "btn_Remove");
+    QCOMPARE(box.text(), QStringLiteral("Selectionner un/des article(s) dans le menu"));
+    QCOMPARE(diagnostics(output), QByteArray());
+}
+
+void TestStockRemoval::theQuestionNamesArticleAndValidity()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    open(stock);
+    clickCell(stock, "tableView1", 1, 1);
+    const AnswerBox box(QMessageBox::No);
+    click(stock, "btn_Remove");
+    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Sirop, Périmé ..."));
+    QCOMPARE(box.title(), QStringLiteral("Supprimer"));
+    QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
+    QCOMPARE(box.icon(), QMessageBox::Information);
+    QCOMPARE(box.parent(), &stock);
+}
+
+void TestStockRemoval::namesAreAskedForAsTheyAre()
+{
+    const StockSample shop;
+    shop.sql("update ArticleStock set article = '<i>l''eau</i>' where id = 1");
+    FormVendelSaisieStock stock;
+    open(stock);
+    clickCell(stock, "tableView1", 0, 2);
+    const AnswerBox box(QMessageBox::No);
+    click(stock, "btn_Remove");
+    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : <i>l'eau</i>, Valide ..."));
+    QCOMPARE(box.format(), Qt::PlainText);
+}
+
+void TestStockRemoval::noKeepsTheArticle()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    open(stock);
+    clickCell(stock, "tableView1", 0, 1);
+    const AnswerBox box(QMessageBox::No);
+    click(stock, "btn_Remove");
+    QCOMPARE(box.strays(), 0);
+    QCOMPARE(shop.cell("select count(*) from ArticleStock"), QStringLiteral("3"));
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    QCOMPARE(rowCount(stock, "tableView1"), 3);
+    QCOMPARE(rowCount(stock, "tableView2"), 2);
+}
+
+void TestStockRemoval::yesRemovesTheArticleWithItsLines()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    open(stock);
+    clickCell(stock, "tableView1", 0, 1);
+    const AnswerBox box(QMessageBox::Yes);
+    click(stock, "btn_Remove");
+    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Café, Valide ..."));
+    QCOMPARE(box.strays(), 0);
+    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QStringLiteral("2,3"));
+    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QStringLiteral("12"));
+    QCOMPARE(shop.cell("select count(*) from Article"), QStringLiteral("2"));
+    QCOMPARE(rowCount(stock, "tableView1"), 2);
+    QCOMPARE(rowCount(stock, "tableView2"), 0);
+}
+
+void TestStockRemoval::theLastArticleLeavesTheEmptyMessage()
+{
+    const Shop shop;
+    shop.sql("insert into ArticleStock values (3, 'Sirop')");
+    FormVendelSaisieStock stock;
+    open(stock);
+    clickCell(stock, "tableView1", 0, 1);
+    const AnswerBox box(QMessageBox::Yes);
+    click(stock, "btn_Remove");
+    QCOMPARE(box.strays(), 1);
+    QCOMPARE(rowCount(stock, "tableView1"), 0);
+}
+
+void TestStockRemoval::linesGoBeforeTheirArticle()
+{
+    const StockSample shop;
+    shop.sql("create trigger orphans before delete on ArticleStock when exists (select 1 from "
+             "DoseStock where id = old.id) begin select raise(abort, 'orphans'); end");
+    FormVendelSaisieStock stock;
+    open(stock);
+    clickCell(stock, "tableView1", 0, 1);
+    const AnswerBox box(QMessageBox::Yes);
+    click(stock, "btn_Remove");
+    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QStringLiteral("2,3"));
+}
+
+void TestStockRemoval::anArticleStaysWhenItsLinesCannotGo()
+{
+    const StockSample shop;
+    shop.sql("create trigger refused before delete on DoseStock begin select raise(abort, "
+             "'refused'); end");
+    FormVendelSaisieStock stock;
+    open(stock);
+    clickCell(stock, "tableView1", 0, 1);
+    const AnswerBox box(QMessageBox::Yes);
+    CapturedOutput output;
+    click(stock, "btn_Remove");
+    QCOMPARE(diagnostics(output),
+        QByteArray("Errors Db::DbLoad sqlite3_errmsg : delete from DoseStock where id = 1 "
+                   "refused\n"));
+    QCOMPARE(shop.cell("select count(*) from ArticleStock"), QStringLiteral("3"));
+    QCOMPARE(rowCount(stock, "tableView1"), 3);
+}
+
+void TestStockRemoval::onlyTheCurrentRowIsRemoved()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    open(stock);
+    auto& articles = child<QTableView>(stock, "tableView1");
+    clickCell(stock, "tableView1", 0, 1);
+    const QPoint last = articles.visualRect(articles.model()->index(2, 1)).center();
+    QTest::mouseClick(articles.viewport(), Qt::LeftButton, Qt::ShiftModifier, last);
+    QCOMPARE(articles.selectionModel()->selectedIndexes().size(), 3);
+    const AnswerBox box(QMessageBox::Yes);
+    click(stock, "btn_Remove");
+    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Thé, Valide ..."));
+    QCOMPARE(box.strays(), 0);
+    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QStringLiteral("1,3"));
+}
+
+void TestStockRemoval::aDoubleClickRemovesALineAtOnce()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    open(stock);
+    stock.Display_DoseStock(QStringLiteral("1"));
+    const AnswerBox box;
+    doubleClickCell(stock, "tableView2", 0, 3);
+    QVERIFY(!box.wasShown());
+    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QStringLiteral("10,12"));
+    QCOMPARE(rowCount(stock, "tableView2"), 1);
+    QCOMPARE(rowTexts(stock, "tableView2", 0), cells({"10", "1", "Lait", "1.50", "cl"}));
+}
+
+void TestStockRemoval::deleteRemovesTheCurrentLineOnly()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    QVERIFY(showActive(stock));
+    stock.Display(true);
+    clickCell(stock, "tableView1", 0, 1);
+    QTest::keyClick(&child<QTableView>(stock, "tableView1"), Qt::Key_Delete);
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    auto& recipe = child<QTableView>(stock, "tableView2");
+    clickCell(stock, "tableView2", 0, 2);
+    QTest::keyClick(&recipe, Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(recipe.selectionModel()->selectedIndexes().size(), 2);
+    QTest::keyClick(&recipe, Qt::Key_Delete);
+    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QStringLiteral("11,12"));
+    QCOMPARE(rowCount(stock, "tableView2"), 1);
+}
+
+void TestStockRemoval::aHeldDeleteKeyRemovesOneLine()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    QVERIFY(showActive(stock));
+    stock.Display_DoseStock(QStringLiteral("1"));
+    auto& recipe = child<QTableView>(stock, "tableView2");
+    clickCell(stock, "tableView2", 0, 2);
+    constexpr bool isRepeat = true;
+    qt_sendShortcutOverrideEvent(&recipe, 0, Qt::Key_Delete, Qt::NoModifier, QString(), isRepeat);
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    qt_sendShortcutOverrideEvent(&recipe, 0, Qt::Key_Delete, Qt::NoModifier);
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("2"));
+}
+
+void TestStockRemoval::anUnselectedLineStays()
+{
+    const StockSample shop;
+    FormVendelSaisieStock stock;
+    open(stock);
+    stock.Display_DoseStock(QStringLiteral("1"));
+    const QModelIndex line = child<QTableView>(stock, "tableView2").model()->index(0, 2);
+    QVERIFY(
+        QMetaObject::invokeMethod(&stock, "on_tableView2_doubleClicked", Q_ARG(QModelIndex, line)));
+    QVERIFY(QMetaObject::invokeMethod(
+        &stock, "on_tableView2_doubleClicked", Q_ARG(QModelIndex, QModelIndex())));
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+}
+
+VENDEL_TEST_MAIN(TestStockRemoval)
+#include "tst_StockRemoval.moc"
