@@ -28,7 +28,8 @@ const auto afterTheTip = QStringLiteral("\nPour sélectionner la date dans premi
 
 QWidget* shownTip()
 {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
         if (widget->inherits("QTipLabel") && widget->isVisible()) {
             return widget;
         }
@@ -161,7 +162,8 @@ void TestFormVendelHistorique::fitsASmallScreen()
 void TestFormVendelHistorique::noButtonListensToReturn()
 {
     History history;
-    for (const QPushButton* button : history.window.findChildren<QPushButton*>()) {
+    const auto buttons = history.window.findChildren<QPushButton*>();
+    for (const QPushButton* button : buttons) {
         QVERIFY(!button->autoDefault());
         QVERIFY(!button->isDefault());
     }
