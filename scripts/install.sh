@@ -14,7 +14,8 @@ declare -A packages=(
     [bench]="libbenchmark-dev"
     [fuzz]="clang libclang-rt-dev"
 )
-usage="usage: scripts/install.sh [--list] GROUP...   (groups: build run test lint package bench fuzz)"
+usage="usage: scripts/install.sh [--list] GROUP...
+  groups: build run test lint package bench fuzz"
 
 list=false
 wanted=()
