@@ -83,5 +83,7 @@ private:
     QTimer clock_;
     QStandardItemModel* modelMenu_;
     QStandardItemModel* modelTicket_;
+    /// Whether the last press on a list ended a double click, and came from the left button.
     bool isSecondPress_ = false;
+    bool isLeftPress_ = true;
 };

@@ -25,6 +25,7 @@ bool ReceiptFiles::replace(const QString& path, const QString& text)
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    file.write(text.toUtf8());
-    return file.commit();
+    const QByteArray bytes = text.toUtf8();
+    // A short write is no error to QSaveFile, which would put half a text in the file's place.
+    return file.write(bytes) == bytes.size() && file.flush() && file.commit();
 }

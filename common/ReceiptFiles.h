@@ -4,18 +4,11 @@
 #include <QString>
 
 #include <optional>
-#include <string_view>
 
 /// The two text files that frame a receipt, in the working directory.
 namespace ReceiptFiles {
-/// QLatin1String measures its text at compile time under GCC only.
-constexpr QLatin1String fileName(std::string_view name)
-{
-    return QLatin1String(name.data(), static_cast<int>(name.size()));
-}
-
-inline constexpr QLatin1String header = fileName("EnteteFormulaire.dat");
-inline constexpr QLatin1String footer = fileName("PiedFormulaire.dat");
+inline const QLatin1String header("EnteteFormulaire.dat");
+inline const QLatin1String footer("PiedFormulaire.dat");
 
 /// The UTF-8 text of \a file up to its first NUL, line ends untouched; nothing when the file is
 /// missing or unreadable.

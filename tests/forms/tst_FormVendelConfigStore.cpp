@@ -3,8 +3,8 @@
 #include "tests/forms/Settings.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
+#include "tests/support/FailingText.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/TestTranslator.h"
 
 #include <utility>
 

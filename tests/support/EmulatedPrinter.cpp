@@ -119,6 +119,7 @@ void EmulatedPrinter::start(const std::vector<std::string>& arguments)
     }
     std::vector<std::string> copies = arguments;
     std::vector<char*> argv;
+    argv.reserve(copies.size() + 1);
     for (auto& argument : copies) {
         argv.push_back(argument.data());
     }
