@@ -33,8 +33,8 @@ inline bool showActive(QWidget& window)
 inline QByteArray diagnostics(CapturedOutput& output)
 {
     QByteArray lines;
-    const auto lines = output.text().split('\n');
-    for (const QByteArray& line : lines) {
+    const auto written = output.text().split('\n');
+    for (const QByteArray& line : written) {
         if (line.startsWith("Errors Db::DbLoad")) {
             lines += line + '\n';
         }
