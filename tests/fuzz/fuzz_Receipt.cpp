@@ -57,7 +57,7 @@ std::vector<std::string> split(const std::string& text, char separator)
 /// Columns of the database end at a NUL, like the texts of the files.
 std::string column(const std::string& bytes)
 {
-    return bytes.c_str();
+    return bytes.substr(0, bytes.find('\0'));
 }
 
 /// The bytes of a header's or footer's lines, reckoned on the file's bytes; nothing when they are
@@ -65,7 +65,7 @@ std::string column(const std::string& bytes)
 std::optional<std::string> expectedFrame(
     const std::string& file, const std::string& before, const std::string& after)
 {
-    const std::string text = file.c_str();
+    const std::string text = column(file);
     if (QString::fromUtf8(text.c_str()).toStdString() != text) {
         return std::nullopt;
     }
@@ -93,7 +93,7 @@ std::optional<std::string> expectedFrame(
 /// The lines of a frame's file.
 std::size_t linesOf(const std::string& file)
 {
-    return split(file.c_str(), '\n').size();
+    return split(column(file), '\n').size();
 }
 
 } // namespace
