@@ -199,8 +199,8 @@ void TestFormVendelAbout::failuresAreLogged()
     disconnect(once);
     const FailingText failure("Version 1.0.0.0");
     const FormVendelAbout another;
-    QCOMPARE(
-        log.criticals().last(), QStringLiteral("Errors FormVendelAbout Constructor : no text"));
+    QCOMPARE(log.criticals().constLast(),
+        QStringLiteral("Errors FormVendelAbout Constructor : no text"));
     QCOMPARE(log.criticals().size(), 2);
 }
 

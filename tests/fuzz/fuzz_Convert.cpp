@@ -50,11 +50,12 @@ bool isAscii(const std::string& text)
         text.begin(), text.end(), [](char letter) { return (letter & '\x80') == 0; });
 }
 
-/// Whether \a tail is empty or the beginning of one UTF-8 character.
+/// Whether \a tail is empty or the beginning of one UTF-8 character, of up to six bytes as iconv
+/// knows it.
 bool isBrokenEnd(const std::string& tail)
 {
     return tail.empty()
-        || (tail.size() <= 3 && (tail[0] & '\xc0') == '\xc0'
+        || (tail.size() <= 5 && (tail[0] & '\xc0') == '\xc0'
             && std::all_of(tail.begin() + 1, tail.end(),
                 [](char letter) { return (letter & '\xc0') == '\x80'; }));
 }
