@@ -157,12 +157,13 @@ stands_still() {
     [ "$last_sum" = "$before" ]
 }
 
-# picture NAME: the sales screen with all that stands on it, once it stands still.
+# picture NAME [FORM]: the sales screen, or the named window, with all that stands on it, once it
+# stands still.
 picture() {
     local WINDOW X Y WIDTH HEIGHT SCREEN
     last_sum=""
     await "a quiet screen" stands_still
-    eval "$(xdotool getwindowgeometry --shell "$(window_of FormVendel)")"
+    eval "$(xdotool getwindowgeometry --shell "$(window_of "${2-FormVendel}")")"
     import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage -strip +dither -colors 128 \
         "PNG8:$out/$1.png"
     say "  build/tour/$1.png"
