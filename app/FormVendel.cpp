@@ -19,6 +19,7 @@
 #include "ui_FormVendel.h"
 
 #include <QFile>
+#include <QMouseEvent>
 #include <QShowEvent>
 
 namespace {
@@ -29,6 +30,7 @@ constexpr QPoint tipOffset(150, 130);
 FormVendel::FormVendel(QWidget* parent)
     : QMainWindow(parent)
     , ui_(std::make_unique<Ui_FormVendel>())
+    , clock_(this)
     , modelMenu_(new QStandardItemModel(0, 4, this))
     , modelTicket_(new QStandardItemModel(0, 4, this))
 {
@@ -104,12 +106,10 @@ void FormVendel::showSplash()
 bool FormVendel::eventFilter(QObject* watched, QEvent* event)
 {
     guarded("Errors FormVendel eventFilter : ", [&] {
-        if (watched == ui_->tableView2->viewport()) {
-            if (event->type() == QEvent::MouseButtonPress) {
-                isSecondPress_ = false;
-            } else if (event->type() == QEvent::MouseButtonDblClick) {
-                isSecondPress_ = true;
-            }
+        if (event->type() == QEvent::MouseButtonPress
+            || event->type() == QEvent::MouseButtonDblClick) {
+            isSecondPress_ = event->type() == QEvent::MouseButtonDblClick;
+            isLeftPress_ = static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton;
         }
         showHoverTip(*ui_->tableView1, watched, event, Messages::Messages65);
         showHoverTip(*ui_->tableView2, watched, event, Messages::Messages66);

@@ -18,6 +18,7 @@ class Ui_FormVendel;
 class FormVendel : public QMainWindow
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendel)
 
 public:
     explicit FormVendel(QWidget* parent = nullptr);
@@ -82,5 +83,7 @@ private:
     QTimer clock_;
     QStandardItemModel* modelMenu_;
     QStandardItemModel* modelTicket_;
+    /// Whether the last press on a list ended a double click, and came from the left button.
     bool isSecondPress_ = false;
+    bool isLeftPress_ = true;
 };

@@ -67,7 +67,11 @@ void FormVendel::on_tableView1_clicked(const QModelIndex& index)
 // Qt turns the second press of two quick ones into a double click; to the cashier it is one more.
 void FormVendel::on_tableView1_doubleClicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendel on_tableView1_doubleClicked : ", [&] { addToTicket(index); });
+    guarded("Errors FormVendel on_tableView1_doubleClicked : ", [&] {
+        if (isLeftPress_) {
+            addToTicket(index);
+        }
+    });
 }
 
 void FormVendel::addToTicket(const QModelIndex& index)

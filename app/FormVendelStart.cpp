@@ -12,6 +12,7 @@ constexpr int lastTick = 4;
 FormVendelStart::FormVendelStart(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelStart>())
+    , timer_(this)
 {
     guarded("Errors FormVendelStart Constructor : ", [this] {
         ui_->setupUi(this);

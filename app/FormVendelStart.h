@@ -12,6 +12,7 @@ class Ui_FormVendelStart;
 class FormVendelStart : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelStart)
 
 public:
     explicit FormVendelStart(QWidget* parent);

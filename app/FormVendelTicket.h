@@ -11,6 +11,7 @@ class Ui_FormVendelTicket;
 class FormVendelTicket : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelTicket)
 
 public:
     explicit FormVendelTicket(QWidget* parent);

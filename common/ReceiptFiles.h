@@ -7,8 +7,8 @@
 
 /// The two text files that frame a receipt, in the working directory.
 namespace ReceiptFiles {
-inline constexpr QLatin1String header("EnteteFormulaire.dat");
-inline constexpr QLatin1String footer("PiedFormulaire.dat");
+inline const QLatin1String header("EnteteFormulaire.dat");
+inline const QLatin1String footer("PiedFormulaire.dat");
 
 /// The UTF-8 text of \a file up to its first NUL, line ends untouched; nothing when the file is
 /// missing or unreadable.

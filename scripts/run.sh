@@ -38,23 +38,22 @@ if [ ! -e "$root/build/release/build.ninja" ]; then
     configure release -DVENDEL_TESTS=OFF
 fi
 say "Building the till (the first time takes a few minutes)"
-build release vendel vendel-artwork vendel-demo
+build release vendel vendel-artwork vendel-translation vendel-demo
 
-pictures="$root/build/release/packaging"
 if $demo; then
-    shop=$(mktemp -d)
-    trap 'rm -rf -- "$shop"' EXIT
-    "$root/build/release/demo/vendel-demo" "$shop" || fail "the sample shop could not be made"
+    XDG_DATA_HOME=$(mktemp -d)
+    export XDG_DATA_HOME
+    trap 'rm -rf -- "$XDG_DATA_HOME"' EXIT
+    "$root/build/release/demo/vendel-demo" "$XDG_DATA_HOME/vendel" \
+        || fail "the sample shop could not be made"
     say "Starting the till in a throw-away copy of the sample shop"
 else
-    shop="${XDG_DATA_HOME:-${HOME:?is not set, and the till keeps its data there}/.local/share}/vendel"
-    say "Starting the till; its data lies in $shop"
+    say "Starting the till; its data lies in ${XDG_DATA_HOME:-${HOME-}/.local/share}/vendel"
 fi
-prepare_shop "$shop" "$pictures"
 
-cd -- "$shop" || fail "cannot enter the data directory $shop"
+# The launcher makes the data directory and looks after what lies there.
 status=0
-"$root/build/release/vendel" || status=$?
+"$root/build/release/packaging/vendel" || status=$?
 # Qt aborts when the display turns it away.
 [ $status -ne 134 ] || fail "the till was aborted; without a usable display, $no_display"
 exit $status

@@ -25,7 +25,7 @@ if ! $built; then
     "$root/scripts/install.sh" build run test
     say "Building the till and the emulated printer"
     configure release
-    build release vendel vendel-demo vendel-artwork emulated-printer escpos-page
+    build release vendel vendel-demo vendel-artwork emulated-printer escpos-page tour-eye
 fi
 
 . "$root/scripts/tour.d/lib.sh"
@@ -75,7 +75,7 @@ if grep -E '^Errors ' "$out/till.log"; then
     fail "the till reported errors on the way"
 fi
 if $docs; then
-    for name in first-start sale total receipt-on-screen receipt; do
+    for name in total receipt-on-screen receipt; do
         install -D -m 644 "$out/$name.png" "$root/docs/images/$name.png"
     done
 fi

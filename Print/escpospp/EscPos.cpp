@@ -53,10 +53,10 @@ bool isBlack(const stbi_uc* rgb)
 
 } // namespace
 
-DotMatrix EscPos::loadImage(std::string path)
+DotMatrix EscPos::loadImage(const std::string& path)
 {
     const File file{std::fopen(path.c_str(), "rb")};
-    if (!file || !isOfPrintableSize(file.get()) || isPnmThatEndsEarly(file.get())) {
+    if (!file || !isOfPrintableSize(file.get()) || isUnreadablePnm(file.get())) {
         return {};
     }
     int width = 0;

@@ -20,7 +20,7 @@
 #define STBI_ONLY_PNM
 #include <stb/stb_image.h>
 
-bool isPnmThatEndsEarly(std::FILE* file)
+bool isUnreadablePnm(std::FILE* file)
 {
     stbi__context context;
     stbi__start_file(&context, file);
@@ -34,5 +34,6 @@ bool isPnmThatEndsEarly(std::FILE* file)
     std::fseek(file, 0, SEEK_END);
     const long available = std::ftell(file) - dataStart;
     std::rewind(file);
-    return bits != 0 && available < 1L * width * height * channels * (bits / 8);
+    const bool endsEarly = available < 1L * width * height * channels;
+    return bits == 16 || (bits == 8 && endsEarly);
 }

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
-/// Whether \a file, read from its start, is a PNM picture with fewer bytes than its size needs:
-/// the decoder does not notice. Leaves the file at its start.
-bool isPnmThatEndsEarly(std::FILE* file);
+/// Whether \a file, read from its start, is a PNM picture that the decoder gets wrong without
+/// noticing: one with fewer bytes than its size needs, or with 16 bits a sample. Leaves the file at
+/// its start.
+bool isUnreadablePnm(std::FILE* file);

@@ -215,6 +215,8 @@ void TestLogoImage::whatCannotBeDecodedIsEmpty_data()
     QTest::newRow("a size of nothing") << QByteArray("P6 0 0 255\n");
     QTest::newRow("a PPM that ends early") << QByteArray("P6 2 2 255\nabcdefghijk");
     QTest::newRow("a PGM that ends early") << whitePixels(299, "P5 300 1 255\n");
+    QTest::newRow("a PGM of 16 bits") << QByteArray("P5 1 1 65535\n\0\0", 15);
+    QTest::newRow("a PPM of 16 bits") << QByteArray("P6 1 1 65535\n\0\0\0\0\0\0", 19);
     QTest::newRow("a format that no shop uses") << QByteArray("8BPS\0\1", 6);
 }
 

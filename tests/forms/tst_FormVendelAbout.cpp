@@ -2,9 +2,10 @@
 #include "app/FormVendel.h"
 #include "forms/FormVendelAbout.h"
 #include "tests/support/Captured.h"
+#include "tests/support/ContextEcho.h"
+#include "tests/support/FailingText.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/TestTranslator.h"
 #include "tests/support/Widgets.h"
 
 #include <QDialogButtonBox>
@@ -67,7 +68,7 @@ void TestFormVendelAbout::looksLikeTheAboutWindow()
 void TestFormVendelAbout::everyTextIsLookedUpInItsContext()
 {
     const Shop shop;
-    const TestTranslator translator([](const QString& context, const QString&) { return context; });
+    const ContextEcho translation;
     FormVendelAbout window;
     const QString own = QStringLiteral("FormVendelAbout");
     QCOMPARE(window.windowTitle(), own);
@@ -198,8 +199,8 @@ void TestFormVendelAbout::failuresAreLogged()
     disconnect(once);
     const FailingText failure("Version 1.0.0.0");
     const FormVendelAbout another;
-    QCOMPARE(
-        log.criticals().last(), QStringLiteral("Errors FormVendelAbout Constructor : no text"));
+    QCOMPARE(log.criticals().constLast(),
+        QStringLiteral("Errors FormVendelAbout Constructor : no text"));
     QCOMPARE(log.criticals().size(), 2);
 }
 

@@ -5,8 +5,9 @@
 #include "tests/forms/Settings.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
+#include "tests/support/ContextEcho.h"
+#include "tests/support/FailingText.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/TestTranslator.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -80,7 +81,7 @@ void TestFormVendelConfig::looksLikeTheSettings()
 void TestFormVendelConfig::everyTextIsLookedUpInItsContext()
 {
     const Shop shop;
-    const TestTranslator translator([](const QString& context, const QString&) { return context; });
+    const ContextEcho translation;
     FormVendelConfig window;
     window.show();
     const QString own = QStringLiteral("FormVendelConfig");
@@ -230,7 +231,7 @@ void TestFormVendelConfig::aMissingSettingIsLogged()
     FormVendelConfig window;
     window.show();
     QCOMPARE(log.criticals().size(), 1);
-    QVERIFY(log.criticals().front().startsWith(
+    QVERIFY(log.criticals().constFirst().startsWith(
         QLatin1String("Errors FormVendelConfig Constructor : ")));
     QCOMPARE(switchOf(window), QStringLiteral("OFF"));
     QCOMPARE(rateOf(window), QString());

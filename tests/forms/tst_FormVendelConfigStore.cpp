@@ -3,8 +3,8 @@
 #include "tests/forms/Settings.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
+#include "tests/support/FailingText.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/TestTranslator.h"
 
 #include <utility>
 
@@ -186,8 +186,8 @@ void TestFormVendelConfigStore::failuresAreLogged()
     }
     connect(&window, &QDialog::rejected, [] { throw std::runtime_error("no closing"); });
     click(window, "btn_Maj_Epson");
-    QCOMPARE(
-        log.criticals().last(), QStringLiteral("Errors on_btn_Maj_Epson_clicked : no closing"));
+    QCOMPARE(log.criticals().constLast(),
+        QStringLiteral("Errors on_btn_Maj_Epson_clicked : no closing"));
     QCOMPARE(log.criticals().size(), 2);
 }
 

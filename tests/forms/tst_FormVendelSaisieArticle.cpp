@@ -3,9 +3,10 @@
 #include "forms/FormVendelSaisieArticle.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
+#include "tests/support/ContextEcho.h"
+#include "tests/support/FailingText.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/TestTranslator.h"
 #include "tests/support/Widgets.h"
 
 #include <QAction>
@@ -133,7 +134,7 @@ void TestFormVendelSaisieArticle::captionsAreFrench()
 void TestFormVendelSaisieArticle::everyTextIsLookedUpInItsContext()
 {
     const Shop shop;
-    const TestTranslator translator([](const QString& context, const QString&) { return context; });
+    const ContextEcho translation;
     FormVendelSaisieArticle window;
     window.show();
     const QString own = QStringLiteral("FormVendelSaisieArticle");

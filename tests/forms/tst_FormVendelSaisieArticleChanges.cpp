@@ -2,8 +2,8 @@
 #include "tests/forms/OpenArticleEditor.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
+#include "tests/support/FailingText.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/TestTranslator.h"
 
 #include <QTableView>
 

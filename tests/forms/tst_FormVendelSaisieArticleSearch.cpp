@@ -2,8 +2,8 @@
 #include "tests/forms/OpenArticleEditor.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
+#include "tests/support/FailingText.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/TestTranslator.h"
 
 class TestFormVendelSaisieArticleSearch : public QObject
 {
@@ -172,7 +172,7 @@ void TestFormVendelSaisieArticleSearch::theStatementsHoldTheTerm()
             "not in (select max(id) as id from Article group by article having count(article) > 1) "
             "group by article) as z no such table: Article\n"));
     QCOMPARE(log.criticals().size(), 1);
-    QVERIFY(log.criticals().front().startsWith(
+    QVERIFY(log.criticals().constFirst().startsWith(
         QLatin1String("Errors FormVendelSaisieArticle on_btn_Rechercher_clicked : ")));
 }
 

@@ -16,7 +16,7 @@
 namespace {
 
 // Larger pictures take the same paths, only longer.
-constexpr long long MaxPixels = 1LL << 18;
+constexpr long long MaxPixels = 1LL << 12;
 
 bool isWorthwhile(const std::uint8_t* data, std::size_t size)
 {

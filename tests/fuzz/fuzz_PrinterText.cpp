@@ -13,12 +13,14 @@
 
 namespace {
 
-std::optional<MDPair> pairOf(const std::string& marker)
+std::optional<MDPair> pairAt(const std::string& text, std::size_t i)
 {
-    if (marker != "**" && marker != "__") {
-        return std::nullopt;
+    for (const char* marker : {"**", "__"}) {
+        if (text.compare(i, 2, marker) == 0) {
+            return MDPair::getMatching(marker);
+        }
     }
-    return MDPair::getMatching(marker);
+    return std::nullopt;
 }
 
 std::optional<std::string> cutFromTheFront(std::string text)
@@ -27,7 +29,7 @@ std::optional<std::string> cutFromTheFront(std::string text)
     std::vector<MDPair> open;
     std::size_t i = 0;
     while (!text.empty() && i != text.size() - 1) {
-        const auto pair = pairOf(text.substr(i, 2));
+        const auto pair = pairAt(text, i);
         if (!pair) {
             ++i;
             continue;

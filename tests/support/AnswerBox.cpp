@@ -24,6 +24,7 @@ void AnswerBox::watch()
     if (box == nullptr || !box->isVisible()) {
         return;
     }
+    titles_ << box->windowTitle();
     texts_ << box->text();
     if (shown_++ > 0) {
         box->done(QMessageBox::NoButton);

@@ -47,7 +47,11 @@ public:
     {
         return parent_;
     }
-    /// The texts of all boxes in order.
+    /// The titles and the texts of all boxes in order.
+    QStringList titles() const
+    {
+        return titles_;
+    }
     QStringList texts() const
     {
         return texts_;
@@ -67,6 +71,7 @@ private:
     int shown_ = 0;
     QString title_;
     QString text_;
+    QStringList titles_;
     QStringList texts_;
     Qt::TextFormat format_ = Qt::AutoText;
     QMessageBox::Icon icon_ = QMessageBox::NoIcon;

@@ -18,7 +18,7 @@ public:
     CapturedOutput(CapturedOutput&&) = delete;
     CapturedOutput& operator=(CapturedOutput&&) = delete;
 
-    /// All that was written so far.
+    /// All that was written so far, without what Qt Test itself reports.
     QByteArray text();
 
 private:

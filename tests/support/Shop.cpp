@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <sqlite3.h>
+
 namespace {
 /// The bytes of a fresh database; making one costs a disk nine transactions.
 const QByteArray& freshDatabase(const Shop& shop)
@@ -36,6 +38,16 @@ Shop::~Shop()
 DbRows Shop::sql(const char* sql) const
 {
     return Db::DbLoad(sql);
+}
+
+void Shop::fill(const char* sql) const
+{
+    sqlite3* connection = nullptr;
+    sqlite3_open("Vendel.db", &connection);
+    if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
+        qFatal("%s", sqlite3_errmsg(connection));
+    }
+    sqlite3_close(connection);
 }
 
 QString Shop::cell(const char* sql) const

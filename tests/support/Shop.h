@@ -28,6 +28,9 @@ public:
     /// Runs \a sql on the shop's database and returns its rows.
     DbRows sql(const char* sql) const;
 
+    /// Runs all statements of \a sql, parted by ";"; ends the test program when one fails.
+    void fill(const char* sql) const;
+
     /// The first cell of sql(), empty when there is no row.
     QString cell(const char* sql) const;
 

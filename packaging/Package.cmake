@@ -1,0 +1,43 @@
+# SPDX-License-Identifier: MIT
+# The Debian package, made by scripts/package.sh.
+option(VENDEL_PACKAGE "Install what only the Debian package needs" OFF)
+if(NOT VENDEL_PACKAGE)
+  return()
+endif()
+
+vendel_compressed(debian/changelog changelog.Debian ${CMAKE_INSTALL_DOCDIR})
+vendel_compressed(../CHANGELOG.md changelog ${CMAKE_INSTALL_DOCDIR})
+install(FILES debian/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES debian/lintian-overrides
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME vendel)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME vendel)
+set(CPACK_PACKAGE_CONTACT "The Vendel authors <authors@vendel.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "cash register for a small shop or bar")
+set(CPACK_PACKAGE_DESCRIPTION
+  "Vendel shows the menu, puts articles and free amounts on the ticket, totals
+it with its tax, and prints the receipt on a USB receipt printer or shows it
+on the screen.
+
+It keeps the history of sales, and reckons the stock from the recipes of what
+was sold. Its launcher keeps a checked copy of the data for each day.
+
+The screen is French, or English.")
+set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/postinst)
+# What is read or run by name, and so is not found among the libraries.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS
+  "fonts-crosextra-carlito, fonts-inconsolata, qttranslations5-l10n, sqlite3, x11-utils | zenity | kdialog")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "zenity | kdialog")
+include(CPack)

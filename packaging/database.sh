@@ -1,0 +1,108 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=sh
+# Is the database usable, and its daily copy; runs in the data directory.
+# shellcheck disable=SC2154
+
+# sqlite FILE STATEMENT: runs one statement or dot command of SQLite's shell.
+sqlite() {
+    sqlite3 -batch -bail -init /dev/null -cmd '.timeout 2000' "$1" "$2"
+}
+
+# ask STATEMENT: its answer from the database; ends the launcher when there is none.
+ask() {
+    answer=$(sqlite "$database" "$1" 2>&1) || explainDatabase "$answer"
+}
+
+# How many of the till's six tables there are.
+tillTables="select count(*) from sqlite_master where type = 'table' and name in
+    ('Article', 'ArticleStock', 'Historique', 'DoseStock', 'Config', 'Ticket')"
+
+# holdsRows: whether any table holds a row that a first start alone does not leave behind when it
+# is cut off before its last setting.
+holdsRows() {
+    ask "select group_concat(case name
+        when 'Config' then 'select * from (select 1 from Config
+            where not (param = ''TVA'' and valeur = 0) limit 1)'
+        else 'select * from (select 1 from \"' || replace(name, '\"', '\"\"') || '\" limit 1)'
+        end, ' union all ')
+        from sqlite_master where type = 'table' and name not like 'sqlite~_%' escape '~'"
+    [ -n "$answer" ] || return 1
+    ask "$answer"
+    [ -n "$answer" ]
+}
+
+# checkDatabase: says why a database cannot be used; sets aside one that a first start did not
+# finish, so that the program makes it anew.
+checkDatabase() {
+    if [ ! -e "$database" ] && [ ! -L "$database" ]; then
+        return
+    fi
+    if [ ! -f "$database" ]; then
+        databaseUnusable "ce n'est pas un fichier" "it is not a file"
+    fi
+    if [ ! -r "$database" ] || [ ! -w "$database" ]; then
+        databaseUnusable "elle ne peut pas être lue et écrite" "it cannot be read and written"
+    fi
+    ask "$tillTables"
+    if [ "$answer" = 6 ]; then
+        ask "select count(*) from Config"
+        if [ "$answer" -ge 2 ] || holdsRows; then
+            return
+        fi
+    elif holdsRows; then
+        databaseUnusable "il lui manque des tables" "it lacks tables"
+    fi
+    setAsideUnfinished
+}
+
+# nameKept KIND: a name among the copies that is not in use, of now and of this kind.
+nameKept() {
+    keptName=$copies/Vendel-$1-$(date +%F-%H%M%S)
+    count=
+    while [ -e "$keptName$count.db" ]; do
+        count=$((${count:--1} - 1))
+    done
+    keptName=$keptName$count.db
+}
+
+setAsideUnfinished() {
+    nameKept inachevee
+    unfinished=$keptName
+    if ! mkdir -p "$copies" 2>/dev/null || ! mv "$database" "$unfinished" 2>/dev/null; then
+        dataUnusable "rien ne peut y être déplacé" "nothing can be moved there"
+    fi
+    note "$(text "Une base de données inachevée et vide est mise de côté : « $data/$unfinished »." \
+        "An unfinished, empty database is set aside: \"$data/$unfinished\".")"
+}
+
+# keepCopy: the day's copy, made by SQLite itself so that it is whole, and only kept when it is.
+keepCopy() {
+    copy=$copies/Vendel-$(date +%F).db
+    if [ ! -e "$database" ] || [ -e "$copy" ]; then
+        return
+    fi
+    part=$copies/.Vendel.neuf
+    answer=
+    if mkdir -p "$copies" 2>/dev/null && rm -f "$part" "$part-journal" &&
+        answer=$(sqlite "$database" ".backup main $part" 2>&1) &&
+        answer=$(sqlite "$part" 'pragma integrity_check' 2>&1) &&
+        [ "$answer" = ok ] && sync "$part" && mv "$part" "$copy"; then
+        pruneCopies
+        return
+    fi
+    rm -f "$part" "$part-journal"
+    case $answer in
+    '' | ok | *full* | *I/O* | *'unable to open'* | *locked*) ;;
+    *) explainDatabase malformed ;;
+    esac
+    warn "$(text "La copie du jour de la base n'a pas pu être faite dans « $data/$copies »." \
+        "Today's copy of the database could not be made in \"$data/$copies\".")"
+}
+
+pruneCopies() {
+    set -- "$copies"/Vendel-[0-9][0-9][0-9][0-9]-[0-9][0-9]-[0-9][0-9].db
+    while [ $# -gt "$copiesKept" ]; do
+        rm -f "$1"
+        shift
+    done
+}

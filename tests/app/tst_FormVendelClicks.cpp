@@ -1,0 +1,299 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/AnswerBox.h"
+#include "tests/support/Captured.h"
+#include "tests/support/Counter.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Widgets.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTableView>
+
+class TestFormVendelClicks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aClickPutsTheArticleOnTheTicket();
+    void everyColumnOfTheMenuIsClicked();
+    void aDoubleClickPutsTwoOnTheTicket();
+    void threeQuickPressesAreThreeLines();
+    void fiveQuickPressesAreFiveLines();
+    void quickPressesOnTwoArticlesAreOneLineEach();
+    void theRightButtonSellsNothing();
+    void aClickBesideTheRowsDoesNothing();
+    void aClickOnAHeaderDoesNothing();
+    void whatIsStoredIsSold();
+    void anArticleThatIsGoneIsNotSold();
+    void aQuoteInANameStandsOnTheTicket();
+    void aClickOnALineRemovesIt();
+    void aDoubleClickRemovesOneLine();
+    void threeQuickPressesRemoveTwoLines();
+    void twoSlowClicksRemoveTwoLines();
+    void theLastLineGoesWithoutAMessage();
+    void onlyTheClickedLineGoes();
+    void theNewestLineIsInView();
+    void anAddedLineTakesTheTotalsAway();
+    void aClickOnATotalRemovesNothing();
+    void theTicketOutlivesTheWindow();
+};
+
+namespace {
+constexpr auto menu = "insert into Article (article, prix) values ('Bière', 4.5), ('Café', 1.2)";
+constexpr auto menuAndTicket
+    = "insert into Article (article, prix) values ('Bière', 4.5), ('Café', 1.2);"
+      "insert into Ticket (id, article, prix) values (1, 'Un', 1), (1, 'Deux', 2), (1, 'Trois', 3)";
+
+/// The sales screen with its menu shown, and its ticket where there is one.
+struct OpenCounter : Counter
+{
+    explicit OpenCounter(const char* sql)
+        : Counter(sql)
+    {
+        click(form, "btn_Afficher");
+        if (!shop.sql("select 1 from Ticket").empty()) {
+            click(form, "btn_Ticket");
+        }
+    }
+
+    QString ticket()
+    {
+        return names("tableView2");
+    }
+
+    QString stored() const
+    {
+        return shop.cell("select group_concat(article, '|') from Ticket");
+    }
+};
+
+void press(QTableView& view, int row, QEvent::Type type, Qt::MouseButton button)
+{
+    const QPoint point = view.visualRect(view.model()->index(row, 2)).center();
+    QMouseEvent down(type, point, button, button, Qt::NoModifier);
+    QApplication::sendEvent(view.viewport(), &down);
+    QMouseEvent up(QEvent::MouseButtonRelease, point, button, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(view.viewport(), &up);
+}
+} // namespace
+
+void TestFormVendelClicks::aClickPutsTheArticleOnTheTicket()
+{
+    OpenCounter counter(menu);
+    clickCell(counter.form, "tableView1", 1, 2);
+    QCOMPARE(rowCount(counter.form, "tableView2"), 1);
+    QCOMPARE(rowTexts(counter.form, "tableView2", 0).join(QLatin1Char('|')),
+        QStringLiteral("1|2|Café|1.20$"));
+    clickCell(counter.form, "tableView1", 0, 2);
+    QCOMPARE(rowTexts(counter.form, "tableView2", 1).join(QLatin1Char('|')),
+        QStringLiteral("2|1|Bière|4.50$"));
+    QCOMPARE(counter.shop.sql("select * from Ticket"),
+        (DbRows{{"1", "2", "Café", "1.2"}, {"2", "1", "Bière", "4.5"}}));
+}
+
+void TestFormVendelClicks::everyColumnOfTheMenuIsClicked()
+{
+    OpenCounter counter(menu);
+    for (const int column : {1, 2, 3}) {
+        clickCell(counter.form, "tableView1", 0, column);
+    }
+    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière|Bière"));
+}
+
+void TestFormVendelClicks::aDoubleClickPutsTwoOnTheTicket()
+{
+    OpenCounter counter(menu);
+    doubleClickCell(counter.form, "tableView1", 0, 2);
+    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière"));
+}
+
+void TestFormVendelClicks::threeQuickPressesAreThreeLines()
+{
+    OpenCounter counter(menu);
+    doubleClickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.form, "tableView1", 0, 2);
+    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière|Bière"));
+}
+
+void TestFormVendelClicks::fiveQuickPressesAreFiveLines()
+{
+    OpenCounter counter(menu);
+    doubleClickCell(counter.form, "tableView1", 0, 2);
+    QTest::qWait(100);
+    doubleClickCell(counter.form, "tableView1", 0, 2);
+    QTest::qWait(100);
+    clickCell(counter.form, "tableView1", 0, 2);
+    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière|Bière|Bière|Bière"));
+    QCOMPARE(counter.stored(), QStringLiteral("Bière|Bière|Bière|Bière|Bière"));
+}
+
+void TestFormVendelClicks::quickPressesOnTwoArticlesAreOneLineEach()
+{
+    OpenCounter counter(menu);
+    auto& view = child<QTableView>(counter.form, "tableView1");
+    press(view, 0, QEvent::MouseButtonPress, Qt::LeftButton);
+    press(view, 1, QEvent::MouseButtonDblClick, Qt::LeftButton);
+    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Café"));
+}
+
+void TestFormVendelClicks::theRightButtonSellsNothing()
+{
+    OpenCounter counter(menuAndTicket);
+    for (const auto* name : {"tableView1", "tableView2"}) {
+        auto& view = child<QTableView>(counter.form, name);
+        press(view, 0, QEvent::MouseButtonPress, Qt::RightButton);
+        press(view, 0, QEvent::MouseButtonDblClick, Qt::RightButton);
+    }
+    QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
+    clickCell(counter.form, "tableView1", 0, 2);
+    QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois|Bière"));
+}
+
+void TestFormVendelClicks::aClickBesideTheRowsDoesNothing()
+{
+    OpenCounter counter(menuAndTicket);
+    for (const auto* name : {"tableView1", "tableView2"}) {
+        QTest::mouseClick(child<QTableView>(counter.form, name).viewport(), Qt::LeftButton,
+            Qt::NoModifier, QPoint(200, 450));
+    }
+    QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
+}
+
+void TestFormVendelClicks::aClickOnAHeaderDoesNothing()
+{
+    OpenCounter counter(menuAndTicket);
+    for (const auto* name : {"tableView1", "tableView2"}) {
+        auto& view = child<QTableView>(counter.form, name);
+        QTest::mouseClick(
+            view.horizontalHeader()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 10));
+        QTest::mouseClick(
+            view.verticalHeader()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 10));
+    }
+    QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
+}
+
+void TestFormVendelClicks::whatIsStoredIsSold()
+{
+    OpenCounter counter(menu);
+    counter.shop.fill("update Article set article = 'Bière d''abbaye', prix = 5 where id = 1");
+    clickCell(counter.form, "tableView1", 0, 2);
+    QCOMPARE(counter.shop.sql("select id, article, prix from Ticket"),
+        (DbRows{{"1", "Bière d'abbaye", "5"}}));
+}
+
+void TestFormVendelClicks::anArticleThatIsGoneIsNotSold()
+{
+    OpenCounter counter(menuAndTicket);
+    counter.shop.fill("delete from Article where id = 1; delete from Ticket where idlig = 1");
+    CapturedOutput output;
+    clickCell(counter.form, "tableView1", 0, 2);
+    QCOMPARE(counter.ticket(), QStringLiteral("Deux|Trois"));
+    QCOMPARE(output.text(), QByteArray());
+}
+
+void TestFormVendelClicks::aQuoteInANameStandsOnTheTicket()
+{
+    OpenCounter counter("insert into Article (article, prix) values ('l''eau', 1)");
+    clickCell(counter.form, "tableView1", 0, 2);
+    QCOMPARE(counter.ticket(), QStringLiteral("l'eau"));
+    QCOMPARE(counter.stored(), QStringLiteral("l'eau"));
+}
+
+void TestFormVendelClicks::aClickOnALineRemovesIt()
+{
+    OpenCounter counter(menuAndTicket);
+    clickCell(counter.form, "tableView2", 1, 2);
+    QCOMPARE(counter.ticket(), QStringLiteral("Un|Trois"));
+    QCOMPARE(counter.stored(), QStringLiteral("Un|Trois"));
+}
+
+void TestFormVendelClicks::aDoubleClickRemovesOneLine()
+{
+    OpenCounter counter(menuAndTicket);
+    doubleClickCell(counter.form, "tableView2", 0, 2);
+    QCOMPARE(counter.ticket(), QStringLiteral("Deux|Trois"));
+    doubleClickCell(counter.form, "tableView2", 1, 3);
+    QCOMPARE(counter.stored(), QStringLiteral("Deux"));
+}
+
+void TestFormVendelClicks::threeQuickPressesRemoveTwoLines()
+{
+    OpenCounter counter(menuAndTicket);
+    doubleClickCell(counter.form, "tableView2", 0, 2);
+    clickCell(counter.form, "tableView2", 0, 2);
+    QCOMPARE(counter.stored(), QStringLiteral("Trois"));
+}
+
+void TestFormVendelClicks::twoSlowClicksRemoveTwoLines()
+{
+    OpenCounter counter(menuAndTicket);
+    clickCell(counter.form, "tableView2", 0, 2);
+    clickCell(counter.form, "tableView2", 0, 3);
+    QCOMPARE(counter.stored(), QStringLiteral("Trois"));
+}
+
+void TestFormVendelClicks::theLastLineGoesWithoutAMessage()
+{
+    OpenCounter counter(menu);
+    clickCell(counter.form, "tableView1", 0, 2);
+    AnswerBox box;
+    clickCell(counter.form, "tableView2", 0, 2);
+    QTest::qWait(50);
+    QVERIFY(!box.wasShown());
+    QCOMPARE(rowCount(counter.form, "tableView2"), 0);
+    QCOMPARE(counter.stored(), QString());
+}
+
+void TestFormVendelClicks::onlyTheClickedLineGoes()
+{
+    OpenCounter counter(menu);
+    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.form, "tableView2", 0, 2);
+    QCOMPARE(counter.shop.sql("select idlig, article from Ticket"), (DbRows{{"2", "Bière"}}));
+}
+
+void TestFormVendelClicks::theNewestLineIsInView()
+{
+    OpenCounter counter(menu);
+    auto& view = child<QTableView>(counter.form, "tableView2");
+    for (int line = 1; line <= 30; ++line) {
+        clickCell(counter.form, "tableView1", line % 2, 2);
+        const QRect newest = view.visualRect(view.model()->index(line - 1, 2));
+        QVERIFY2(view.viewport()->rect().contains(newest), qPrintable(QString::number(line)));
+    }
+    QVERIFY(view.verticalScrollBar()->maximum() > 0);
+}
+
+void TestFormVendelClicks::anAddedLineTakesTheTotalsAway()
+{
+    OpenCounter counter(menuAndTicket);
+    click(counter.form, "btn_Total_Ticket");
+    QCOMPARE(rowCount(counter.form, "tableView2"), 6);
+    clickCell(counter.form, "tableView1", 0, 2);
+    QCOMPARE(counter.ticket(), QStringLiteral("Un|Deux|Trois|Bière"));
+}
+
+void TestFormVendelClicks::aClickOnATotalRemovesNothing()
+{
+    for (const int total : {3, 4, 5}) {
+        OpenCounter counter(menuAndTicket);
+        click(counter.form, "btn_Total_Ticket");
+        clickCell(counter.form, "tableView2", total, 2);
+        QCOMPARE(counter.ticket(), QStringLiteral("Un|Deux|Trois"));
+        QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
+    }
+}
+
+void TestFormVendelClicks::theTicketOutlivesTheWindow()
+{
+    OpenCounter counter(menu);
+    clickCell(counter.form, "tableView1", 0, 2);
+    FormVendel other;
+    click(other, "btn_Ticket");
+    QCOMPARE(rowTexts(other, "tableView2", 0).at(2), QStringLiteral("Bière"));
+}
+
+VENDEL_TEST_MAIN(TestFormVendelClicks)
+#include "tst_FormVendelClicks.moc"

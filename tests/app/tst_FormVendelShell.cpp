@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: MIT
+#include "app/FormVendel.h"
+#include "app/FormVendelStart.h"
+#include "tests/support/Captured.h"
+#include "tests/support/Counter.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Translation.h"
+#include "tests/support/Widgets.h"
+
+#include <QAction>
+#include <QDir>
+#include <QLabel>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QShowEvent>
+#include <QTimer>
+#include <QtTest/qtestspontaneevent.h>
+
+class TestFormVendelShell : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aMissingDatabaseIsMadeBeforeTheFirstShow();
+    void anExistingDatabaseStaysAsItIs();
+    void anExistingFileOfAnyKindStaysAsItIs();
+    void theClockTicksTenTimesASecond();
+    void theClockShowsDateAndTime();
+    void theClockFollowsTheTranslatedPattern();
+    void theFirstShowOpensTheSplash();
+    void theSplashTicksEverySecond();
+    void theSplashIsClosedAndNotDeleted();
+    void aSplashSentAwayEarlyStaysAway();
+    void aShowFromTheDesktopOpensNoSplash();
+    void thePrinterSwitchIsLogged_data();
+    void thePrinterSwitchIsLogged();
+    void aPrinterSwitchThatIsNoNumberIsLogged();
+    void everyPrinterSwitchIsRead();
+    void closingTheWindowEndsTheProgram();
+    void menuActionsOpenTheirWindows_data();
+    void menuActionsOpenTheirWindows();
+};
+
+void TestFormVendelShell::aMissingDatabaseIsMadeBeforeTheFirstShow()
+{
+    const Shop shop(Shop::Database::None);
+    CapturedOutput output;
+    const FormVendel form;
+    QCOMPARE(shop.cell("select count(*) from sqlite_master where type = 'table' and name in "
+                       "('Article', 'ArticleStock', 'Historique', 'DoseStock', 'Config', "
+                       "'Ticket')"),
+        QStringLiteral("6"));
+    QCOMPARE(shop.cell("select name from sqlite_master where type = 'index'"),
+        QStringLiteral("date_heure_index"));
+    QCOMPARE(shop.sql("select param, valeur from Config"),
+        (DbRows{{"TVA", "0"}, {"Epson TM-T20II", "0"}}));
+    QCOMPARE(output.text(), QByteArray());
+}
+
+void TestFormVendelShell::anExistingDatabaseStaysAsItIs()
+{
+    const Shop shop;
+    shop.sql("update Config set valeur = 20 where param = 'TVA'");
+    const QByteArray before = shop.read(QStringLiteral("Vendel.db"));
+    {
+        FormVendel form;
+        form.show();
+        QTRY_VERIFY(child<QLabel>(form, "lbl_DateTime").text() != QLatin1String("DateTime"));
+    }
+    QCOMPARE(shop.read(QStringLiteral("Vendel.db")), before);
+    QCOMPARE(QDir().entryList(QDir::Files), QStringList(QStringLiteral("Vendel.db")));
+}
+
+void TestFormVendelShell::anExistingFileOfAnyKindStaysAsItIs()
+{
+    const Shop shop(Shop::Database::None);
+    shop.write(QStringLiteral("Vendel.db"), QByteArray());
+    const FormVendel form;
+    QCOMPARE(shop.read(QStringLiteral("Vendel.db")), QByteArray());
+}
+
+void TestFormVendelShell::theClockTicksTenTimesASecond()
+{
+    const Shop shop;
+    FormVendel form;
+    const auto* clock = form.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
+    QVERIFY(clock != nullptr);
+    QVERIFY(clock->isActive());
+    QCOMPARE(clock->interval(), 100);
+    QVERIFY(!clock->isSingleShot());
+}
+
+void TestFormVendelShell::theClockShowsDateAndTime()
+{
+    const Shop shop;
+    FormVendel form;
+    const auto& label = child<QLabel>(form, "lbl_DateTime");
+    QCOMPARE(label.text(), QStringLiteral("DateTime"));
+    const QRegularExpression odd(QStringLiteral("^\\d\\d/\\d\\d/\\d{4} \\d\\d:\\d\\d:\\d[13579]$"));
+    const QRegularExpression even(
+        QStringLiteral("^\\d\\d/\\d\\d/\\d{4} \\d\\d \\d\\d \\d[02468]$"));
+    QTRY_VERIFY2(odd.match(label.text()).hasMatch(), qPrintable(label.text()));
+    QTRY_VERIFY2(even.match(label.text()).hasMatch(), qPrintable(label.text()));
+}
+
+void TestFormVendelShell::theClockFollowsTheTranslatedPattern()
+{
+    Translation translation;
+    translation.add(QStringLiteral("FormVendelMessages"), QStringLiteral("dd/MM/yyyy"),
+        QStringLiteral("yyyy-MM-dd"));
+    const Shop shop;
+    FormVendel form;
+    QVERIFY(QMetaObject::invokeMethod(&form, "on_timeout"));
+    const QString text = child<QLabel>(form, "lbl_DateTime").text();
+    QVERIFY2(QRegularExpression(QStringLiteral("^\\d{4}-\\d\\d-\\d\\d ")).match(text).hasMatch(),
+        qPrintable(text));
+}
+
+void TestFormVendelShell::theFirstShowOpensTheSplash()
+{
+    const Shop shop;
+    FormVendel form;
+    form.move(100, 50);
+    form.show();
+    QCOMPARE(form.findChildren<FormVendelStart*>().size(), 1);
+    const auto& splash = child<FormVendelStart>(form, "FormVendelStart");
+    QVERIFY(splash.isVisible());
+    QCOMPARE(splash.windowModality(), Qt::WindowModal);
+    QCOMPARE(splash.parentWidget(), &form);
+    // (1050 - 1) / 2 - (445 - 1) / 2 and (626 - 1) / 2 - (186 - 1) / 2 on the screen.
+    QCOMPARE(splash.pos(), QPoint(302, 220));
+}
+
+void TestFormVendelShell::theSplashTicksEverySecond()
+{
+    const Shop shop;
+    FormVendel form;
+    form.show();
+    const auto* timer = child<FormVendelStart>(form, "FormVendelStart").findChild<QTimer*>();
+    QVERIFY(timer != nullptr);
+    QVERIFY(timer->isActive());
+    QCOMPARE(timer->interval(), 1000);
+}
+
+void TestFormVendelShell::theSplashIsClosedAndNotDeleted()
+{
+    const Shop shop;
+    FormVendel form;
+    form.show();
+    const QPointer<FormVendelStart> splash = form.findChild<FormVendelStart*>();
+    for (int tick = 1; tick <= 5; ++tick) {
+        QVERIFY(splash->isVisible());
+        QVERIFY(QMetaObject::invokeMethod(splash, "on_timeout"));
+    }
+    QVERIFY(!splash->isVisible());
+    QVERIFY(!splash->findChild<QTimer*>()->isActive());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!splash.isNull());
+    QVERIFY(form.isVisible());
+}
+
+void TestFormVendelShell::aSplashSentAwayEarlyStaysAway()
+{
+    const Shop shop;
+    FormVendel form;
+    form.show();
+    auto& splash = child<FormVendelStart>(form, "FormVendelStart");
+    QTest::keyClick(&splash, Qt::Key_Escape);
+    QVERIFY(!splash.isVisible());
+    for (int tick = 1; tick <= 6; ++tick) {
+        QVERIFY(QMetaObject::invokeMethod(&splash, "on_timeout"));
+        QVERIFY(!splash.isVisible());
+    }
+    QVERIFY(!splash.findChild<QTimer*>()->isActive());
+}
+
+void TestFormVendelShell::aShowFromTheDesktopOpensNoSplash()
+{
+    const Shop shop;
+    FormVendel form;
+    form.show();
+    QShowEvent restored;
+    QSpontaneKeyEvent::setSpontaneous(&restored);
+    qApp->notify(&form, &restored);
+    QCOMPARE(form.findChildren<FormVendelStart*>().size(), 1);
+}
+
+void TestFormVendelShell::thePrinterSwitchIsLogged_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<bool>("isLogged");
+    QTest::newRow("on") << QByteArray("1") << true;
+    QTest::newRow("off") << QByteArray("0") << false;
+    QTest::newRow("another number") << QByteArray("2") << false;
+    QTest::newRow("begins with 1") << QByteArray("1.5") << true;
+    QTest::newRow("ten") << QByteArray("10") << false;
+}
+
+void TestFormVendelShell::thePrinterSwitchIsLogged()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(bool, isLogged);
+    const Shop shop;
+    shop.sql(
+        ("update Config set valeur = " + value + " where param = 'Epson TM-T20II'").constData());
+    const CapturedLog log;
+    FormVendel form;
+    QCOMPARE(log.debugs(), QStringList());
+    form.show();
+    QCOMPARE(log.debugs(),
+        isLogged ? QStringList(QStringLiteral("Warning Epson to 1 (ON)")) : QStringList());
+    QCOMPARE(log.criticals(), QStringList());
+}
+
+void TestFormVendelShell::aPrinterSwitchThatIsNoNumberIsLogged()
+{
+    const Shop shop;
+    shop.sql("update Config set valeur = 'on' where param = 'Epson TM-T20II'");
+    const CapturedLog log;
+    FormVendel form;
+    form.show();
+    QCOMPARE(log.criticals(), QStringList(QStringLiteral("Errors FormVendel showEvent : stoi")));
+    QCOMPARE(log.debugs(), QStringList());
+    QVERIFY(form.isVisible());
+}
+
+void TestFormVendelShell::everyPrinterSwitchIsRead()
+{
+    const Shop shop;
+    shop.fill("update Config set valeur = 1, param = 'epson tm-t20ii' where param like 'Epson%';"
+              "insert into Config (param, valeur) values ('EPSON TM-T20II', 1)");
+    const CapturedLog log;
+    FormVendel form;
+    form.show();
+    QCOMPARE(log.debugs().count(QStringLiteral("Warning Epson to 1 (ON)")), 2);
+
+    shop.fill("delete from Config");
+    FormVendel other;
+    other.show();
+    QCOMPARE(log.debugs().size(), 2);
+    QCOMPARE(log.criticals(), QStringList());
+}
+
+void TestFormVendelShell::closingTheWindowEndsTheProgram()
+{
+    const Shop shop;
+    FormVendel form;
+    form.show();
+    QTimer::singleShot(0, &form, &QWidget::close);
+    QCOMPARE(QApplication::exec(), 0);
+    QVERIFY(!form.isVisible());
+}
+
+void TestFormVendelShell::menuActionsOpenTheirWindows_data()
+{
+    QTest::addColumn<QString>("action");
+    const auto row = [](const char* window, const char* action) {
+        QTest::newRow(window) << QString::fromLatin1(action);
+    };
+    row("FormVendelConfig", "actionConfig");
+    row("FormVendelSaisieArticle", "actionSaisie_Article");
+    row("FormVendelHistorique", "actionHistorique");
+    row("FormVendelAbout", "actionA_propos_de");
+}
+
+void TestFormVendelShell::menuActionsOpenTheirWindows()
+{
+    QFETCH(QString, action);
+    Counter counter("insert into Article (article, prix) values ('Thé', 1)");
+    counter.form.findChild<QAction*>(action)->trigger();
+    const QPointer<QWidget> window = &child<QWidget>(counter.form, QTest::currentDataTag());
+    QVERIFY(window->isVisible());
+    QCOMPARE(window->windowModality(), Qt::WindowModal);
+    QCOMPARE(window->parentWidget(), &counter.form);
+    QVERIFY(window->isWindow());
+    QCOMPARE(rowCount(counter.form, "tableView1"), 0);
+    window->close();
+    QTRY_VERIFY(window.isNull());
+    QCOMPARE(rowCount(counter.form, "tableView1"), 0);
+}
+
+VENDEL_TEST_MAIN(TestFormVendelShell)
+#include "tst_FormVendelShell.moc"

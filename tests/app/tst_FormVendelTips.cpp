@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: MIT
+#include "app/FormVendelStart.h"
+#include "tests/support/Counter.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Translation.h"
+#include "tests/support/Widgets.h"
+
+#include <QCheckBox>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QTableView>
+#include <QTextDocument>
+#include <QToolTip>
+
+class TestFormVendelTips : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void theMenusTipNamesTheArticle();
+    void theTicketsTipNamesTheLine();
+    void everyColumnTellsTheName();
+    void theTipStandsRightBelowItsPoint();
+    void aTotalHasATipToo();
+    void anEmptyAreaHidesTheTip();
+    void anEmptyListHasNoTip();
+    void aNamelessArticleHasNoTip();
+    void theCheckBoxSwitchesTipsOff();
+    void theCheckBoxSwitchesTipsOnAgain();
+    void otherEventsTouchNoTip_data();
+    void otherEventsTouchNoTip();
+    void theListsProcessTheirEventsAsUsual();
+    void qtsOwnTipRequestKeepsTheTip();
+    void theSplashsTimerTakesNoTipAway();
+    void theClockTakesNoTipAway();
+    void aNameLikeATagIsPlainText();
+    void aTranslationWithoutALineBreakIsPlainTextToo();
+    void tipsAreTranslated();
+    void aNameOfTenThousandCharactersIsCut();
+};
+
+namespace {
+constexpr auto oneOnTheTicket
+    = "insert into Article (article, prix) values ('Thé', 2.5), ('Eau', 1);"
+      "insert into Ticket (id, article, prix) values (2, 'Eau', 1)";
+
+/// The sales screen with its menu and ticket shown.
+struct OpenCounter : Counter
+{
+    explicit OpenCounter(const char* sql = oneOnTheTicket)
+        : Counter(sql)
+    {
+        click(form, "btn_Afficher");
+        if (!shop.sql("select 1 from Ticket").empty()) {
+            click(form, "btn_Ticket");
+        }
+    }
+
+    void hover(const char* list, int row, int column)
+    {
+        hoverCell(form, list, row, column);
+    }
+
+    QWidget& viewport(const char* list)
+    {
+        return *child<QTableView>(form, list).viewport();
+    }
+};
+
+const QString eauOnMenu = QStringLiteral("Menu\nClick sur : Eau\nPour l'ajouter au ticket");
+
+QPoint tipPosition()
+{
+    const auto widgets = QApplication::topLevelWidgets();
+    for (const QWidget* widget : widgets) {
+        if (widget->inherits("QTipLabel") && widget->isVisible()) {
+            return widget->pos();
+        }
+    }
+    return {-1, -1};
+}
+} // namespace
+
+void TestFormVendelTips::cleanup()
+{
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void TestFormVendelTips::theMenusTipNamesTheArticle()
+{
+    OpenCounter counter;
+    counter.hover("tableView1", 0, 2);
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), eauOnMenu);
+    counter.hover("tableView1", 1, 2);
+    QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick sur : Thé\nPour l'ajouter au ticket"));
+}
+
+void TestFormVendelTips::theTicketsTipNamesTheLine()
+{
+    OpenCounter counter;
+    counter.hover("tableView2", 0, 2);
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(),
+        QStringLiteral("Ticket\nClick sur : Eau\nPour supprimer l'article du ticket"));
+}
+
+void TestFormVendelTips::everyColumnTellsTheName()
+{
+    OpenCounter counter;
+    for (const int column : {1, 2, 3}) {
+        QToolTip::hideText();
+        counter.hover("tableView1", 0, column);
+        QCOMPARE(QToolTip::text(), eauOnMenu);
+    }
+}
+
+void TestFormVendelTips::theTipStandsRightBelowItsPoint()
+{
+    OpenCounter counter;
+    QMouseEvent move(
+        QEvent::MouseMove, QPointF(100.6, 5.4), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&counter.viewport("tableView1"), &move);
+    // Qt puts a tip below a pointer of 16 pixels, 2 pixels to the right.
+    QCOMPARE(tipPosition(), QPoint(101 + 150 + 2, 5 + 130 + 16));
+}
+
+void TestFormVendelTips::aTotalHasATipToo()
+{
+    OpenCounter counter;
+    click(counter.form, "btn_Total_Ticket");
+    counter.hover("tableView2", 1, 2);
+    QCOMPARE(QToolTip::text(),
+        QStringLiteral("Ticket\nClick sur : Total ticket\nPour supprimer l'article du ticket"));
+}
+
+void TestFormVendelTips::anEmptyAreaHidesTheTip()
+{
+    OpenCounter counter;
+    for (const auto* list : {"tableView1", "tableView2"}) {
+        counter.hover(list, 0, 2);
+        QVERIFY(QToolTip::isVisible());
+        QMouseEvent move(
+            QEvent::MouseMove, QPointF(200, 500), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&counter.viewport(list), &move);
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+}
+
+void TestFormVendelTips::anEmptyListHasNoTip()
+{
+    OpenCounter counter("insert into Article (article, prix) values ('Thé', 1)");
+    QMouseEvent move(
+        QEvent::MouseMove, QPointF(20, 10), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&counter.viewport("tableView2"), &move);
+    QVERIFY(!QToolTip::isVisible());
+}
+
+void TestFormVendelTips::aNamelessArticleHasNoTip()
+{
+    OpenCounter counter("insert into Article (article, prix) values ('', 1), ('Thé', 1)");
+    counter.hover("tableView1", 1, 2);
+    QVERIFY(QToolTip::isVisible());
+    counter.hover("tableView1", 0, 2);
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void TestFormVendelTips::theCheckBoxSwitchesTipsOff()
+{
+    OpenCounter counter;
+    counter.hover("tableView1", 0, 2);
+    QVERIFY(QToolTip::isVisible());
+    click(counter.form, "chkbx_ToolTip");
+    QVERIFY(!child<QCheckBox>(counter.form, "chkbx_ToolTip").isChecked());
+    QTRY_VERIFY(!QToolTip::isVisible());
+    counter.hover("tableView1", 0, 2);
+    counter.hover("tableView2", 0, 2);
+    QVERIFY(!QToolTip::isVisible());
+}
+
+void TestFormVendelTips::theCheckBoxSwitchesTipsOnAgain()
+{
+    OpenCounter counter;
+    click(counter.form, "chkbx_ToolTip");
+    click(counter.form, "chkbx_ToolTip");
+    counter.hover("tableView1", 0, 2);
+    QCOMPARE(QToolTip::text(), eauOnMenu);
+}
+
+void TestFormVendelTips::otherEventsTouchNoTip_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("enter") << static_cast<int>(QEvent::Enter);
+    QTest::newRow("hover") << static_cast<int>(QEvent::HoverLeave);
+    QTest::newRow("status tip") << static_cast<int>(QEvent::StatusTip);
+    QTest::newRow("update request") << static_cast<int>(QEvent::UpdateRequest);
+    QTest::newRow("layout request") << static_cast<int>(QEvent::LayoutRequest);
+    QTest::newRow("palette") << static_cast<int>(QEvent::PaletteChange);
+}
+
+void TestFormVendelTips::otherEventsTouchNoTip()
+{
+    QFETCH(int, type);
+    OpenCounter counter;
+    counter.hover("tableView1", 0, 2);
+    QEvent event(static_cast<QEvent::Type>(type));
+    QObject& filter = counter.form;
+    for (const auto* list : {"tableView1", "tableView2"}) {
+        QVERIFY(!filter.eventFilter(&counter.viewport(list), &event));
+    }
+    QTest::qWait(400);
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), eauOnMenu);
+}
+
+void TestFormVendelTips::theListsProcessTheirEventsAsUsual()
+{
+    OpenCounter counter;
+    QObject& filter = counter.form;
+    for (const auto type : {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+             QEvent::MouseButtonDblClick}) {
+        QMouseEvent event(type, QPointF(50, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QVERIFY(!filter.eventFilter(&counter.viewport("tableView1"), &event));
+        QVERIFY(!filter.eventFilter(&counter.viewport("tableView2"), &event));
+        QVERIFY(!filter.eventFilter(&counter.form, &event));
+    }
+}
+
+void TestFormVendelTips::qtsOwnTipRequestKeepsTheTip()
+{
+    OpenCounter counter;
+    counter.hover("tableView1", 0, 2);
+    QWidget& viewport = counter.viewport("tableView1");
+    QHelpEvent request(QEvent::ToolTip, QPoint(50, 5), viewport.mapToGlobal(QPoint(50, 5)));
+    QApplication::sendEvent(&viewport, &request);
+    QTest::qWait(400);
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), eauOnMenu);
+}
+
+void TestFormVendelTips::theSplashsTimerTakesNoTipAway()
+{
+    OpenCounter counter;
+    counter.hover("tableView1", 0, 2);
+    auto& splash = child<FormVendelStart>(counter.form, "FormVendelStart");
+    for (int tick = 1; tick <= 6; ++tick) {
+        QVERIFY(QMetaObject::invokeMethod(&splash, "on_timeout"));
+    }
+    QTest::qWait(400);
+    QVERIFY(QToolTip::isVisible());
+}
+
+void TestFormVendelTips::theClockTakesNoTipAway()
+{
+    OpenCounter counter;
+    counter.hover("tableView1", 0, 2);
+    QTest::qWait(1200);
+    QVERIFY(QToolTip::isVisible());
+}
+
+void TestFormVendelTips::aNameLikeATagIsPlainText()
+{
+    OpenCounter counter("insert into Article (article, prix) values ('<b>x</b>', 1);"
+                        "insert into Ticket (id, article, prix) values (1, '&lt;', 1)");
+    counter.hover("tableView1", 0, 2);
+    QCOMPARE(
+        QToolTip::text(), QStringLiteral("Menu\nClick sur : <b>x</b>\nPour l'ajouter au ticket"));
+    QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
+    counter.hover("tableView2", 0, 2);
+    QCOMPARE(QToolTip::text(),
+        QStringLiteral("Ticket\nClick sur : &lt;\nPour supprimer l'article du ticket"));
+    QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
+}
+
+void TestFormVendelTips::aTranslationWithoutALineBreakIsPlainTextToo()
+{
+    Translation translation;
+    translation.add(QStringLiteral("FormVendelMessages"), QStringLiteral("Menu\nClick sur : "),
+        QStringLiteral("Click: "));
+    OpenCounter counter("insert into Article (article, prix) values ('<b>x</b>', 1)");
+    counter.hover("tableView1", 0, 2);
+    QCOMPARE(QToolTip::text(),
+        QStringLiteral("<p>Click: &lt;b&gt;x&lt;/b&gt;<br>\nPour l'ajouter au ticket</p>"));
+}
+
+void TestFormVendelTips::tipsAreTranslated()
+{
+    Translation translation;
+    const QString context = QStringLiteral("FormVendelMessages");
+    translation.add(context, QStringLiteral("Menu\nClick sur : "), QStringLiteral("Menu\nClick: "));
+    translation.add(
+        context, QStringLiteral("\nPour l'ajouter au ticket"), QStringLiteral("\nto add it"));
+    OpenCounter counter;
+    counter.hover("tableView1", 0, 2);
+    QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick: Eau\nto add it"));
+}
+
+void TestFormVendelTips::aNameOfTenThousandCharactersIsCut()
+{
+    OpenCounter counter("insert into Article (article, prix) values "
+                        "(replace(hex(zeroblob(5000)), '0', 'é'), 1)");
+    counter.hover("tableView1", 0, 2);
+    QCOMPARE(QToolTip::text(),
+        QLatin1String("Menu\nClick sur : ") + QString(200, QChar(0xE9)) + QChar(0x2026)
+            + QLatin1String("\nPour l'ajouter au ticket"));
+}
+
+VENDEL_TEST_MAIN(TestFormVendelTips)
+#include "tst_FormVendelTips.moc"

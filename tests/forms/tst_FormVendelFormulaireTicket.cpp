@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+#include "forms/FormVendelFormulaireTicket.h"
+#include "tests/forms/OpenReceiptTexts.h"
+#include "tests/support/AnswerBox.h"
+#include "tests/support/Captured.h"
+#include "tests/support/ContextEcho.h"
+#include "tests/support/FailingText.h"
+#include "tests/support/TestMain.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+
+class TestFormVendelFormulaireTicket : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void looksLikeTheReceiptsTexts();
+    void everyTextIsLookedUpInItsContext();
+    void edgesAreAligned();
+    void nothingIsClipped();
+    void tabFollowsTheEye();
+    void returnPressesNoButton();
+
+    void opensWithTheHeader();
+    void opensEmptyWithoutAHeader();
+    void theMenuShowsTheFooterAndTheHeaderAgain();
+    void aMissingFooterEmptiesTheText();
+    void showingAFileDropsWhatWasTyped();
+    void aTextLikeHtmlIsShownAsRichText();
+    void theTextEndsAtTheFirstNul();
+    void invalidUtf8IsShownAsFarAsItGoes();
+    void aMegabyteIsShownWhole();
+    void windowsLineEndsAreShownAsLines();
+    void aFileThatCannotBeReadIsShownEmpty();
+
+    void failuresAreLogged_data();
+    void failuresAreLogged();
+    void aFailingConstructorIsLogged();
+};
+
+void TestFormVendelFormulaireTicket::looksLikeTheReceiptsTexts()
+{
+    const CapturedLog log;
+    OpenReceiptTexts editor;
+    QCOMPARE(log.criticals(), QStringList());
+    QVERIFY(!log.warnings().join(QLatin1Char('\n')).contains(QLatin1String("No matching signal")));
+    auto& window = editor.window;
+    QCOMPARE(window.objectName(), QStringLiteral("FormVendelFormulaireTicket"));
+    QCOMPARE(window.windowTitle(), QStringLiteral("Formulaire Impression Ticket"));
+    QCOMPARE(window.size(), QSize(477, 501));
+    QCOMPARE(window.minimumSize(), QSize(477, 501));
+    QCOMPARE(window.maximumSize(), QSize(477, 501));
+    QCOMPARE(window.windowModality(), Qt::WindowModal);
+    QCOMPARE(child<QTextEdit>(window, "txt_Form").font().pointSize(), 12);
+    QCOMPARE(child<QMenu>(window, "menuAfficher").title(), QStringLiteral("Afficher"));
+    QCOMPARE(child<QAction>(window, "actionEntete_Page").text(), QStringLiteral("Entête Page"));
+    QCOMPARE(child<QAction>(window, "actionPied_Page").text(), QStringLiteral("Pied Page"));
+    const auto& header = child<QPushButton>(window, "btn_Entete_Page");
+    const auto& footer = child<QPushButton>(window, "btn_Pied_Page");
+    QCOMPARE(header.text(), QStringLiteral("Sauv Entête Page"));
+    QCOMPARE(footer.text(), QStringLiteral("Sauv Pied Page"));
+    QVERIFY(!header.autoDefault() && !header.isDefault());
+    QVERIFY(!footer.autoDefault() && !footer.isDefault());
+    QVERIFY(child<QMenuBar>(window, "menubar").isVisible());
+    QVERIFY(child<QWidget>(window, "centralwidget").isVisible());
+}
+
+void TestFormVendelFormulaireTicket::everyTextIsLookedUpInItsContext()
+{
+    const ContextEcho translation;
+    OpenReceiptTexts editor;
+    const QString own = QStringLiteral("FormVendelFormulaireTicketMessages");
+    QCOMPARE(editor.window.windowTitle(), own);
+    QCOMPARE(child<QMenu>(editor.window, "menuAfficher").title(), own);
+    QCOMPARE(child<QAction>(editor.window, "actionEntete_Page").text(), own);
+    QCOMPARE(child<QAction>(editor.window, "actionPied_Page").text(), own);
+    QCOMPARE(editor.label(), own);
+    const AnswerBox box(QMessageBox::No);
+    click(editor.window, "btn_Pied_Page");
+    QCOMPARE(box.title(), own);
+    QCOMPARE(box.text(), own);
+}
+
+void TestFormVendelFormulaireTicket::edgesAreAligned()
+{
+    OpenReceiptTexts editor;
+    const QRect text = child<QTextEdit>(editor.window, "txt_Form").geometry();
+    const QRect header = child<QPushButton>(editor.window, "btn_Entete_Page").geometry();
+    const QRect footer = child<QPushButton>(editor.window, "btn_Pied_Page").geometry();
+    QCOMPARE(child<QLabel>(editor.window, "lbl_Formulaire").x(), text.left());
+    QCOMPARE(header.left(), text.left());
+    QCOMPARE(footer.right(), text.right());
+    QCOMPARE(header.top(), footer.top());
+    QVERIFY(header.right() < footer.left());
+}
+
+void TestFormVendelFormulaireTicket::nothingIsClipped()
+{
+    OpenReceiptTexts editor;
+    QCOMPARE(clippedTexts(editor.window), QStringList());
+}
+
+void TestFormVendelFormulaireTicket::tabFollowsTheEye()
+{
+    OpenReceiptTexts editor;
+    QVERIFY(QTest::qWaitForWindowActive(&editor.window));
+    QCOMPARE(tabOrder(editor.window),
+        QStringList({QStringLiteral("txt_Form"), QStringLiteral("btn_Entete_Page"),
+            QStringLiteral("btn_Pied_Page")}));
+}
+
+void TestFormVendelFormulaireTicket::returnPressesNoButton()
+{
+    OpenReceiptTexts editor("Chez Paul", "Merci");
+    const AnswerBox box;
+    editor.typeAtEnd("\n");
+    QVERIFY(!box.wasShown());
+    QCOMPARE(editor.text(), QStringLiteral("Chez Paul\n"));
+    QTest::keyClick(&editor.window, Qt::Key_Return);
+    QVERIFY(!box.wasShown());
+    QTest::keyClick(&editor.window, Qt::Key_Escape);
+    QVERIFY(!editor.window.isVisible());
+    QCOMPARE(editor.shop.read(headerFile), QByteArray("Chez Paul"));
+}
+
+void TestFormVendelFormulaireTicket::opensWithTheHeader()
+{
+    OpenReceiptTexts editor("titre:Chez Paul\n\n12 rue des Écoles\n", "Merci");
+    QCOMPARE(editor.label(), QStringLiteral("Entête de page"));
+    QCOMPARE(editor.text(), QStringLiteral("titre:Chez Paul\n\n12 rue des Écoles\n"));
+}
+
+void TestFormVendelFormulaireTicket::opensEmptyWithoutAHeader()
+{
+    OpenReceiptTexts editor;
+    QCOMPARE(editor.label(), QStringLiteral("Entête de page"));
+    QCOMPARE(editor.text(), QString());
+    QVERIFY(!QFile::exists(headerFile));
+}
+
+void TestFormVendelFormulaireTicket::theMenuShowsTheFooterAndTheHeaderAgain()
+{
+    OpenReceiptTexts editor("Chez Paul", "Merci");
+    chooseMenu(editor.window, "menuAfficher", "actionPied_Page");
+    QCOMPARE(editor.label(), QStringLiteral("Pied de page"));
+    QCOMPARE(editor.text(), QStringLiteral("Merci"));
+    chooseMenu(editor.window, "menuAfficher", "actionEntete_Page");
+    QCOMPARE(editor.label(), QStringLiteral("Entête de page"));
+    QCOMPARE(editor.text(), QStringLiteral("Chez Paul"));
+}
+
+void TestFormVendelFormulaireTicket::aMissingFooterEmptiesTheText()
+{
+    OpenReceiptTexts editor("Chez Paul", {});
+    chooseMenu(editor.window, "menuAfficher", "actionPied_Page");
+    QCOMPARE(editor.label(), QStringLiteral("Pied de page"));
+    QCOMPARE(editor.text(), QString());
+}
+
+void TestFormVendelFormulaireTicket::showingAFileDropsWhatWasTyped()
+{
+    OpenReceiptTexts editor("Chez Paul", "Merci");
+    editor.typeAtEnd(" et Anne");
+    QCOMPARE(editor.text(), QStringLiteral("Chez Paul et Anne"));
+    chooseMenu(editor.window, "menuAfficher", "actionEntete_Page");
+    QCOMPARE(editor.text(), QStringLiteral("Chez Paul"));
+}
+
+void TestFormVendelFormulaireTicket::aTextLikeHtmlIsShownAsRichText()
+{
+    OpenReceiptTexts editor("<b>Chez Paul</b><br>Paris", "Merci");
+    QCOMPARE(editor.text(), QStringLiteral("Chez Paul\nParis"));
+}
+
+void TestFormVendelFormulaireTicket::theTextEndsAtTheFirstNul()
+{
+    OpenReceiptTexts editor(QByteArray("Chez\0Paul", 9), "Merci");
+    QCOMPARE(editor.text(), QStringLiteral("Chez"));
+}
+
+void TestFormVendelFormulaireTicket::invalidUtf8IsShownAsFarAsItGoes()
+{
+    OpenReceiptTexts editor("Caf\xE9 Paul", "Merci");
+    QCOMPARE(editor.text(), QStringLiteral("Caf\uFFFD Paul"));
+}
+
+void TestFormVendelFormulaireTicket::aMegabyteIsShownWhole()
+{
+    OpenReceiptTexts editor(QByteArray("123456789\n").repeated(100000), "Merci");
+    QCOMPARE(editor.text().size(), 1000000);
+}
+
+void TestFormVendelFormulaireTicket::windowsLineEndsAreShownAsLines()
+{
+    OpenReceiptTexts editor("titre:Chez Paul\r\nParis\r\n", "Merci");
+    QCOMPARE(editor.text(), QStringLiteral("titre:Chez Paul\nParis\n"));
+    QCOMPARE(editor.shop.read(headerFile), QByteArray("titre:Chez Paul\r\nParis\r\n"));
+}
+
+void TestFormVendelFormulaireTicket::aFileThatCannotBeReadIsShownEmpty()
+{
+    const CapturedLog log;
+    OpenReceiptTexts editor({}, "Merci");
+    QVERIFY(QDir().mkdir(headerFile));
+    chooseMenu(editor.window, "menuAfficher", "actionEntete_Page");
+    QCOMPARE(editor.text(), QString());
+    QCOMPARE(log.criticals(), QStringList());
+}
+
+void TestFormVendelFormulaireTicket::failuresAreLogged_data()
+{
+    QTest::addColumn<QString>("slot");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("header") << QStringLiteral("on_actionEntete_Page_triggered")
+                            << QByteArray("Entête de page")
+                            << QStringLiteral("Errors FormVendelFormulaireTicket "
+                                              "on_actionEntete_Page_triggered : no text");
+    QTest::newRow("footer") << QStringLiteral("on_actionPied_Page_triggered")
+                            << QByteArray("Pied de page")
+                            << QStringLiteral("Errors FormVendelFormulaireTicket "
+                                              "on_actionPied_Page_triggered : no text");
+    QTest::newRow("save header") << QStringLiteral("on_btn_Entete_Page_clicked")
+                                 << QByteArray("Sauvegarde")
+                                 << QStringLiteral("Errors on_btn_Entete_Page_clicked : no text");
+    QTest::newRow("save footer") << QStringLiteral("on_btn_Pied_Page_clicked")
+                                 << QByteArray("Sauvegarde")
+                                 << QStringLiteral("Errors on_btn_Pied_Page_clicked : no text");
+}
+
+void TestFormVendelFormulaireTicket::failuresAreLogged()
+{
+    QFETCH(QString, slot);
+    QFETCH(QByteArray, text);
+    QFETCH(QString, line);
+    OpenReceiptTexts editor("Chez Paul", "Merci");
+    const CapturedLog log;
+    const FailingText failure(text.constData());
+    QVERIFY(QMetaObject::invokeMethod(&editor.window, slot.toLatin1().constData()));
+    QCOMPARE(log.criticals(), QStringList(line));
+    QCOMPARE(editor.shop.read(headerFile), QByteArray("Chez Paul"));
+    QCOMPARE(editor.shop.read(footerFile), QByteArray("Merci"));
+}
+
+void TestFormVendelFormulaireTicket::aFailingConstructorIsLogged()
+{
+    const Shop shop(Shop::Database::None);
+    const CapturedLog log;
+    const FailingText failure("Formulaire Impression Ticket");
+    const FormVendelFormulaireTicket window;
+    QCOMPARE(log.criticals(),
+        QStringList(QStringLiteral("Errors FormVendelFormulaireTicket Constructor : no text")));
+}
+
+VENDEL_TEST_MAIN(TestFormVendelFormulaireTicket)
+#include "tst_FormVendelFormulaireTicket.moc"

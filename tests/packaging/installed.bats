@@ -1,0 +1,181 @@
+#!/usr/bin/env bats
+# SPDX-License-Identifier: MIT
+# What is installed, where, and whether the tools that read it are content.
+# shellcheck disable=SC2154,SC2030,SC2031
+
+load support
+
+setup_file() {
+    cmake --install "$VENDEL_BUILD" --prefix "$BATS_FILE_TMPDIR/tree" >/dev/null
+}
+
+setup() {
+    tree=$BATS_FILE_TMPDIR/tree
+}
+
+# size FILE: pixels of a PNG, from its header.
+size() {
+    od -An -tu1 -j16 -N8 "$1" | awk '{ print $3 * 256 + $4, $7 * 256 + $8 }'
+}
+
+@test "every file has its place" {
+    run bash -c 'cd "$0" && find . -type f | LC_ALL=C sort' "$tree"
+    lib=$(cd "$tree" && dirname "$(find . -path '*/vendel/vendel')")
+    [ "$output" = "$(LC_ALL=C sort <<FILES
+./bin/vendel
+$lib/vendel
+./lib/udev/rules.d/60-vendel.rules
+./share/applications/vendel.desktop
+./share/icons/hicolor/128x128/apps/vendel.png
+./share/icons/hicolor/16x16/apps/vendel.png
+./share/icons/hicolor/22x22/apps/vendel.png
+./share/icons/hicolor/24x24/apps/vendel.png
+./share/icons/hicolor/256x256/apps/vendel.png
+./share/icons/hicolor/32x32/apps/vendel.png
+./share/icons/hicolor/48x48/apps/vendel.png
+./share/icons/hicolor/64x64/apps/vendel.png
+./share/icons/hicolor/scalable/apps/vendel.svg
+./share/man/fr/man1/vendel.1.gz
+./share/man/man1/vendel.1.gz
+./share/metainfo/io.vendel.vendel.metainfo.xml
+./share/vendel/AproposdeImage.png
+./share/vendel/FormVendelTr_Us.qm
+./share/vendel/Vendel.png
+./share/vendel/database.sh
+./share/vendel/messages.sh
+./share/vendel/restore.sh
+FILES
+    )" ]
+    [[ "$lib" == ./lib*/vendel ]]
+}
+
+@test "icons and pictures have their sizes" {
+    for icon in "$tree"/share/icons/hicolor/*/apps/vendel.png; do
+        side=$(basename "$(dirname "$(dirname "$icon")")")
+        [ "$(size "$icon")" = "${side%x*} ${side#*x}" ]
+    done
+    [ "$(size "$tree/share/vendel/Vendel.png")" = '256 256' ]
+    [ "$(size "$tree/share/vendel/AproposdeImage.png")" = '132 256' ]
+}
+
+@test "desktop-file-validate is content" {
+    run desktop-file-validate "$tree/share/applications/vendel.desktop"
+    [ "$status" -eq 0 ]
+    [ -z "$output" ]
+}
+
+@test "every name and comment of the desktop entry is there in French and English" {
+    entry=$tree/share/applications/vendel.desktop
+    for key in Name GenericName Comment Keywords; do
+        count=$(grep -c "^$key=" "$entry")
+        [ "$count" -ge 1 ]
+        [ "$(grep -c "^$key\[en\]=" "$entry")" -eq "$count" ]
+        [ "$(grep -c "^$key\[fr\]=" "$entry")" -eq "$count" ]
+    done
+}
+
+@test "the desktop entry calls the launcher with options that it knows" {
+    export HOME=$BATS_TEST_TMPDIR
+    while read -r -a command; do
+        run "$tree/bin/${command[0]}" "${command[@]:1}" --version
+        [ "$status" -eq 0 ]
+    done < <(sed -n 's/^Exec=//p' "$tree/share/applications/vendel.desktop")
+}
+
+@test "appstreamcli is content" {
+    run appstreamcli validate --no-net --pedantic "$tree/share/metainfo/io.vendel.vendel.metainfo.xml"
+    [ "$status" -eq 0 ]
+    [[ "$output" != *:*:* ]]
+}
+
+@test "the metainfo names the version that is built" {
+    grep -q "<release version=\"$("$tree/bin/vendel" --version | cut -d ' ' -f 2)\"" \
+        "$tree/share/metainfo/io.vendel.vendel.metainfo.xml"
+}
+
+@test "man is content with both pages" {
+    for page in man1 fr/man1; do
+        MANROFFSEQ='' MANWIDTH=80 run man --warnings -E UTF-8 -l -Tutf8 -Z \
+            "$tree/share/man/$page/vendel.1.gz"
+        [ "$status" -eq 0 ]
+        [ -z "$(MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z \
+            "$tree/share/man/$page/vendel.1.gz" 2>&1 >/dev/null)" ]
+    done
+}
+
+@test "each option of the launcher stands in both man pages" {
+    for page in man1 fr/man1; do
+        text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel.1.gz")
+        for option in --langue --restaurer --help --aide --version; do
+            grep -q -e "$option" <<<"$text"
+        done
+    done
+}
+
+@test "the udev rule comes before the one that reads its tag" {
+    rule=$(basename "$tree"/lib/udev/rules.d/*.rules)
+    [ "${rule%%-*}" -lt 73 ]
+}
+
+@test "the udev rule gives the printer, and only the printer, to the seat's user" {
+    rules=$(grep -v '^#' "$tree/lib/udev/rules.d/60-vendel.rules")
+    [ "$(grep -c uaccess <<<"$rules")" -eq 1 ]
+    rule=$(grep uaccess <<<"$rules")
+    [[ "$rule" == *'SUBSYSTEM=="usb"'* ]]
+    [[ "$rule" == *'ENV{DEVTYPE}=="usb_device"'* ]]
+    [[ "$rule" == *'ATTR{idVendor}=="04b8"'* ]]
+    [[ "$rule" == *'ATTR{idProduct}=="0e15"'* ]]
+    [[ "$rule" == *'TAG+="uaccess"' ]]
+}
+
+@test "every udev rule is a list of keys, and every jump has its label" {
+    rules=$(grep -v '^#' "$tree/lib/udev/rules.d/60-vendel.rules")
+    item='[A-Z]+(\{[A-Za-z_/]+\})?(==|!=|=|\+=|:=)"[^"]*"'
+    run grep -Evx "$item(, $item)*" <<<"$rules"
+    [ -z "$output" ]
+    while read -r label; do
+        grep -qx "LABEL=\"$label\"" <<<"$rules"
+    done < <(sed -n 's/.*GOTO="\([^"]*\)".*/\1/p' <<<"$rules")
+}
+
+@test "udevadm is content with the rule" {
+    udevadm verify --help >/dev/null 2>&1 || skip "this udevadm verifies no rules"
+    udevadm verify --resolve-names=never "$tree/lib/udev/rules.d/60-vendel.rules"
+}
+
+@test "shellcheck is content with the launcher" {
+    cd "$VENDEL_BUILD/packaging"
+    shellcheck --external-sources "$tree/bin/vendel" "$tree"/share/vendel/*.sh
+}
+
+@test "the launcher's shell is any POSIX shell" {
+    run head -n 1 "$tree/bin/vendel"
+    [ "$output" = '#!/bin/sh' ]
+    for shell in dash 'bash --posix'; do
+        for part in "$tree/bin/vendel" "$tree"/share/vendel/*.sh; do
+            $shell -n "$part"
+        done
+    done
+}
+
+@test "the till itself starts from the installed tree and makes its database" {
+    export HOME=$BATS_TEST_TMPDIR QT_QPA_PLATFORM=offscreen
+    unset DISPLAY WAYLAND_DISPLAY XDG_DATA_HOME
+    data=$HOME/.local/share/vendel
+    "$tree/bin/vendel" 3>&- &
+    till=$!
+    until [ "$(sqlite3 -readonly "$data/Vendel.db" 'select count(*) from Config' 2>/dev/null)" = 2 ]; do
+        kill -0 "$till"
+        sleep 0.05
+    done
+    run "$tree/bin/vendel"
+    kill "$till"
+    [ "$output" = "La caisse est déjà ouverte sur les données de « $data »." ]
+}
+
+@test "the built tree's launcher starts the built till" {
+    grep -qx "program=\$here/../vendel" "$VENDEL_BUILD/packaging/vendel"
+    [ -x "$VENDEL_BUILD/vendel" ]
+    HOME=$BATS_TEST_TMPDIR run "$VENDEL_BUILD/packaging/vendel" --version
+    [ "$output" = 'Vendel 1.0.0' ]
+}

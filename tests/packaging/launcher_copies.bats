@@ -1,0 +1,115 @@
+#!/usr/bin/env bats
+# SPDX-License-Identifier: MIT
+# The launcher: a dated copy of the database at each day's first start.
+# shellcheck disable=SC2154
+
+load support
+
+setup_file() {
+    install_tree "$BATS_FILE_TMPDIR/tree"
+    sample_shop "$BATS_FILE_TMPDIR/shop"
+}
+
+setup() {
+    set_up_till
+    mkdir -p "$data"
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
+}
+
+warning() {
+    echo "La copie du jour de la base n'a pas pu être faite dans « $data/copies »."
+}
+
+@test "the very first start has nothing to copy" {
+    rm "$data/Vendel.db"
+    "$launcher"
+    [ ! -e "$data/copies" ]
+}
+
+@test "the day's first start keeps a copy" {
+    run "$launcher"
+    [ "$status" -eq 0 ]
+    [ -z "$output" ]
+    [ "$(ls -A "$data/copies")" = Vendel-2026-03-05.db ]
+    [ "$(sql "$data/copies/Vendel-2026-03-05.db" .dump)" = "$(sql "$data/Vendel.db" .dump)" ]
+}
+
+@test "the copy is made before the till runs" {
+    TILL_DOES='rm Vendel.db' "$launcher"
+    [ -f "$data/copies/Vendel-2026-03-05.db" ]
+}
+
+@test "a later start of the day leaves the copy as it is" {
+    "$launcher"
+    sql "$data/Vendel.db" 'delete from Article'
+    NOW='2026-03-05 23:59:59' "$launcher"
+    [ "$(ls -A "$data/copies")" = Vendel-2026-03-05.db ]
+    [ "$(sql "$data/copies/Vendel-2026-03-05.db" 'select count(*) > 0 from Article')" = 1 ]
+}
+
+@test "the next day has a copy of its own" {
+    "$launcher"
+    NOW='2026-03-06 00:00:00' "$launcher"
+    [ "$(ls -A "$data/copies")" = "Vendel-2026-03-05.db
+Vendel-2026-03-06.db" ]
+}
+
+@test "the last 30 copies are kept, and nothing else goes" {
+    mkdir "$data/copies"
+    for day in $(seq -w 1 31); do
+        echo january >"$data/copies/Vendel-2026-01-$day.db"
+    done
+    touch "$data/copies/Vendel-remplacee-2020-01-01-120000.db" "$data/copies/note.txt"
+    "$launcher"
+    [ "$(find "$data/copies" -name 'Vendel-2026-*' | wc -l)" -eq 30 ]
+    [ ! -e "$data/copies/Vendel-2026-01-02.db" ]
+    [ -e "$data/copies/Vendel-2026-01-03.db" ]
+    [ -e "$data/copies/Vendel-2026-03-05.db" ]
+    [ -e "$data/copies/Vendel-remplacee-2020-01-01-120000.db" ]
+    [ -e "$data/copies/note.txt" ]
+}
+
+@test "what a killed start left of a copy is no obstacle" {
+    mkdir "$data/copies"
+    echo part >"$data/copies/.Vendel.neuf"
+    echo journal >"$data/copies/.Vendel.neuf-journal"
+    "$launcher"
+    [ "$(ls -A "$data/copies")" = Vendel-2026-03-05.db ]
+    [ "$(sql "$data/copies/Vendel-2026-03-05.db" 'pragma integrity_check')" = ok ]
+}
+
+@test "a change that was cut off is not in the copy" {
+    cp "$data/Vendel.db" "$BATS_TEST_TMPDIR/before.db"
+    hold_database 'delete from Historique;'
+    release_database
+    [ -s "$data/Vendel.db-journal" ]
+    run cmp -s "$data/Vendel.db" "$BATS_TEST_TMPDIR/before.db"
+    [ "$status" -eq 1 ]
+    "$launcher"
+    [ "$(sql "$data/copies/Vendel-2026-03-05.db" .dump)" = "$(sql "$BATS_TEST_TMPDIR/before.db" .dump)" ]
+}
+
+@test "a copy that finds no room is said and the till starts" {
+    run sh -c 'trap "" XFSZ; ulimit -f 16; exec "$0"' "$launcher"
+    [ "$status" -eq 0 ]
+    [ "$output" = "$(warning)" ]
+    [ -z "$(ls -A "$data/copies")" ]
+    [ -s "$TILL_LOG" ]
+}
+
+@test "a file in the place of the copies is said and the till starts" {
+    touch "$data/copies"
+    run "$launcher"
+    [ "$status" -eq 0 ]
+    [ "$output" = "$(warning)" ]
+    [ -s "$TILL_LOG" ]
+}
+
+@test "a user's own SQLite settings are not read" {
+    stand_in sqlite3 "case \"\$*\" in *'-init /dev/null'*) exec $(command -v sqlite3) \"\$@\" ;; esac
+exit 1"
+    run "$launcher"
+    [ "$status" -eq 0 ]
+    [ -z "$output" ]
+    [ "$(ls -A "$data/copies")" = Vendel-2026-03-05.db ]
+}

@@ -1,0 +1,163 @@
+#!/usr/bin/env bats
+# SPDX-License-Identifier: MIT
+# The launcher: dialogs, where there is a display.
+# shellcheck disable=SC2154,SC2016
+
+load support
+
+setup_file() {
+    install_tree "$BATS_FILE_TMPDIR/tree"
+}
+
+# A display, a data directory that cannot be used, and no dialog tool but those of the test.
+setup() {
+    set_up_till
+    export SAID=$BATS_TEST_TMPDIR/said
+    export DISPLAY=:0
+    mkdir -p "$HOME/.local/share" "$BATS_TEST_TMPDIR/tools"
+    touch "$data"
+    sentence="Le dossier de données « $data » est inutilisable (ce n'est pas un dossier) ; les copies de la base sont dans « $data/copies »."
+    local tool
+    for tool in awk cat chmod cp cut date dirname du env flock fold grep head locale ln mkdir mv readlink rm sed sh sleep \
+        sort sqlite3 sync touch tr; do
+        ln -s "$(command -v "$tool")" "$BATS_TEST_TMPDIR/tools"
+    done
+    PATH=$BATS_TEST_TMPDIR/stand-ins:$BATS_TEST_TMPDIR/tools
+}
+
+# dialog TOOL: one that notes its arguments, input and character set.
+dialog() {
+    stand_in "$1" 'printf "%s\n" "$0" "$@" >"$SAID"; locale charmap >>"$SAID"'
+}
+
+@test "zenity shows what is wrong, as plain text" {
+    dialog zenity
+    dialog kdialog
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "$sentence" ]
+    grep -qx -- --error "$SAID"
+    grep -qx -- --no-markup "$SAID"
+    grep -qxF -- "--text=$sentence" "$SAID"
+}
+
+@test "kdialog does where there is no zenity" {
+    dialog kdialog
+    dialog xmessage
+    run "$launcher"
+    grep -qx -- --error "$SAID"
+    grep -qxF -- "$sentence" "$SAID"
+}
+
+@test "xmessage does where there is neither, in lines that fit the screen" {
+    stand_in xmessage 'cat >"$SAID"'
+    run "$launcher"
+    [ "$(tr -d '\n ' <"$SAID")" = "$(tr -d '\n ' <<<"$sentence")" ]
+    run awk 'length > 64' "$SAID"
+    [ -z "$output" ]
+}
+
+@test "on Wayland alone there is a dialog too" {
+    unset DISPLAY
+    export WAYLAND_DISPLAY=wayland-0
+    dialog zenity
+    run "$launcher"
+    [ -s "$SAID" ]
+}
+
+@test "without a display there is no dialog" {
+    unset DISPLAY
+    dialog zenity
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "$sentence" ]
+    [ ! -e "$SAID" ]
+}
+
+@test "without a dialog tool the sentence is printed" {
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "$sentence" ]
+}
+
+@test "a locale without accents gets one that has them" {
+    dialog zenity
+    LC_ALL=C run "$launcher"
+    grep -qx UTF-8 "$SAID"
+}
+
+@test "a warning is answered before the till starts" {
+    rm "$data"
+    mkdir "$data"
+    touch "$data/copies"
+    "$BATS_TEST_TMPDIR/tools/sqlite3" "$data/Vendel.db" "create table Article (x); create table ArticleStock (x); create table Historique (x); create table DoseStock (x); create table Config (param, valeur); create table Ticket (x); insert into Config values ('TVA', 20), ('Epson TM-T20II', 0)"
+    stand_in zenity 'cat "$TILL_LOG" >"$SAID"; printf "%s\n" "$1" >>"$SAID"
+[ ! -e /proc/self/fd/9 ] || echo "holds the lock" >>"$SAID"'
+    run "$launcher"
+    [ "$status" -eq 0 ]
+    [ "$(cat "$SAID")" = --warning ]
+    [ -s "$TILL_LOG" ]
+}
+
+@test "a second till is told so while the first keeps its lock" {
+    rm "$data"
+    dialog zenity
+    open_till
+    run "$launcher"
+    close_till
+    [ "$status" -eq 1 ]
+    grep -qxF -- "--text=La caisse est déjà ouverte sur les données de « $data »." "$SAID"
+}
+
+@test "a message that waits for its answer holds no lock" {
+    rm "$data"
+    mkdir -p "$data/Vendel.db"
+    stand_in zenity "flock -n '$data/.verrou' sh -c 'echo free' >\"\$SAID\""
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$(cat "$SAID")" = free ]
+}
+
+# copies_of_two_days: in a data directory without a database.
+copies_of_two_days() {
+    rm "$data"
+    mkdir -p "$data/copies"
+    local day
+    for day in 03 04; do
+        sqlite3 "$data/copies/Vendel-2026-03-$day.db" "create table Article (x); create table ArticleStock (x); create table Historique (x); create table DoseStock (x); create table Config (x); create table Ticket (x); insert into Config values ('$day')"
+    done
+}
+
+@test "zenity lets a copy be chosen and says that it is back" {
+    copies_of_two_days
+    stand_in zenity 'printf "%s\n" "$@" >>"$SAID"
+if [ "$1" = --list ]; then cat >>"$SAID"; echo 2026-03-03; fi'
+    run "$launcher" --restaurer </dev/null
+    [ "$status" -eq 0 ]
+    [ "$(sqlite3 "$data/Vendel.db" 'select x from Config')" = 03 ]
+    grep -qx 2026-03-04 "$SAID"
+    grep -qxF -- "--text=La copie « 2026-03-03 » est remise en place." "$SAID"
+}
+
+@test "kdialog lets a copy be chosen" {
+    copies_of_two_days
+    stand_in kdialog 'case $3 in --menu) echo 2026-03-04 ;; esac'
+    "$launcher" --restaurer </dev/null
+    [ "$(sqlite3 "$data/Vendel.db" 'select x from Config')" = 04 ]
+}
+
+@test "a dialog that is closed changes nothing" {
+    copies_of_two_days
+    stand_in zenity 'exit 1'
+    run "$launcher" --restaurer </dev/null
+    [ "$status" -eq 0 ]
+    [ ! -e "$data/Vendel.db" ]
+}
+
+@test "xmessage shows the copies and how to name one" {
+    copies_of_two_days
+    stand_in xmessage 'cat >"$SAID"'
+    "$launcher" --restaurer </dev/null
+    grep -q 2026-03-03 "$SAID"
+    grep -qx 'vendel --restaurer COPIE' "$SAID"
+}

@@ -1,0 +1,355 @@
+// SPDX-License-Identifier: MIT
+#include "app/FormVendel.h"
+#include "app/FormVendelStart.h"
+#include "app/FormVendelTicket.h"
+#include "forms/FormVendelAbout.h"
+#include "forms/FormVendelConfig.h"
+#include "forms/FormVendelFormulaireTicket.h"
+#include "forms/FormVendelHistorique.h"
+#include "forms/FormVendelSaisieArticle.h"
+#include "forms/FormVendelSaisieStock.h"
+#include "forms/FormVendelSaisieStockComposition.h"
+#include "forms/FormVendelSaisieStockCutPaste.h"
+#include "forms/FormVendelSaisieStockMaj.h"
+#include "forms/FormVendelStockCalculation.h"
+#include "tests/support/Shop.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Widgets.h"
+#include "tests/translations/ShownTexts.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTextEdit>
+#include <QTranslator>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class TestEnglishWindows : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void noWindowStillShowsFrench_data();
+    void noWindowStillShowsFrench();
+    void aWidgetThatIsTooSmallLacksPixels();
+    void noTextIsClipped_data();
+    void noTextIsClipped();
+    void noFrenchTextIsClipped_data();
+    void noFrenchTextIsClipped();
+    void everyFieldHasAName_data();
+    void everyFieldHasAName();
+    void boxesHaveEnglishButtons();
+    void editMenusAreEnglish();
+};
+
+namespace {
+using Window = std::unique_ptr<QWidget>;
+
+struct Opening
+{
+    const char* name;
+    std::function<Window(QWidget* opener)> open;
+};
+
+/// Lets the clock tick, which shows a designer's word until its first time.
+void showTime(QWidget& window)
+{
+    if (window.metaObject()->indexOfSlot("on_timeout()") >= 0) {
+        QMetaObject::invokeMethod(&window, "on_timeout");
+    }
+}
+
+template <class Form, class... Arguments>
+Opening opening(
+    const char* name, std::initializer_list<const char*> buttons, Arguments... arguments)
+{
+    const std::vector<const char*> pressed(buttons);
+    return {name, [=](QWidget* opener) {
+                Window window = std::make_unique<Form>(arguments..., opener);
+                window->show();
+                showTime(*window);
+                for (const char* button : pressed) {
+                    click(*window, button);
+                }
+                return window;
+            }};
+}
+
+/// Every window, with the buttons that fill its lists.
+const QVector<Opening>& windows()
+{
+    static const QVector<Opening> all{
+        opening<FormVendel>("FormVendel", {"btn_Afficher", "btn_Ticket", "btn_Total_Ticket"}),
+        opening<FormVendelStart>("FormVendelStart", {}),
+        opening<FormVendelTicket>("FormVendelTicket", {}),
+        opening<FormVendelAbout>("FormVendelAbout", {}),
+        opening<FormVendelConfig>("FormVendelConfig", {}),
+        opening<FormVendelFormulaireTicket>("FormVendelFormulaireTicket", {}),
+        opening<FormVendelHistorique>("FormVendelHistorique", {"btn_Show_Date"}),
+        opening<FormVendelSaisieArticle>("FormVendelSaisieArticle", {"btn_Afficher"}),
+        opening<FormVendelSaisieStock>("FormVendelSaisieStock", {"btn_Display"}),
+        opening<FormVendelSaisieStockComposition>(
+            "FormVendelSaisieStockComposition", {}, QStringLiteral("12"), QStringLiteral("1")),
+        opening<FormVendelSaisieStockCutPaste>("FormVendelSaisieStockCutPaste", {}),
+        opening<FormVendelSaisieStockMaj>("FormVendelSaisieStockMaj", {}),
+        opening<FormVendelStockCalculation>("FormVendelStockCalculation", {"btn_Display"},
+            QStringLiteral("05/01/2019"), QStringLiteral("06/01/2019")),
+    };
+    return all;
+}
+
+/// A shop whose names are numbers, so that every letter on the screen is the till's.
+class NumberedShop : public Shop
+{
+public:
+    NumberedShop()
+    {
+        for (const char* statement : {"insert into Article (id, article, prix) values (1, '11', 2)",
+                 "insert into Article (id, article, prix) values (2, '12', 3)",
+                 "insert into Article (id, article, prix) values (3, '13', 3)",
+                 "insert into ArticleStock (id, article) values (1, '11'), (2, '22'), (4, '14')",
+                 "insert into DoseStock (id, composition, dose, unite) values (1, '31', 2, 'cl'), "
+                 "(4, '32', 3, 'g')",
+                 "insert into Historique values (1, '11', 2, '2019-05-04 12:00:00.000')",
+                 "insert into Ticket (id, article, prix) values (1, '11', 2)"}) {
+            sql(statement);
+        }
+        write(QStringLiteral("EnteteFormulaire.dat"), "1");
+        write(QStringLiteral("PiedFormulaire.dat"), "2");
+    }
+};
+
+/// What is the same in both languages, and what no language changes.
+const QSet<QString>& equalWords()
+{
+    static const QSet<QString> words{QStringLiteral("Ticket"), QStringLiteral("Menu"),
+        QStringLiteral("Config"), QStringLiteral("Total"), QStringLiteral("TOTAL"),
+        QStringLiteral("Vendel"), QStringLiteral("X"), QStringLiteral("Id"), QStringLiteral("Date"),
+        QStringLiteral("Options"), QStringLiteral("Stock"), QStringLiteral("Composition"),
+        QStringLiteral("Dose"), QStringLiteral("Conversion"), QStringLiteral("Purge"),
+        QStringLiteral("cl"), QStringLiteral("g"), QStringLiteral("Epson"), QStringLiteral("TM"),
+        QStringLiteral("T20II"), QStringLiteral("ON"), QStringLiteral("OFF"), QStringLiteral("OK"),
+        QStringLiteral("Dialog"), QStringLiteral("Version"), QStringLiteral("MIT"),
+        QStringLiteral("Page"), QStringLiteral("bar")};
+    return words;
+}
+
+QStringList wordsOf(const QString& text)
+{
+    static const QRegularExpression word(QStringLiteral("\\p{L}[\\p{L}\\d]*"));
+    QStringList words;
+    auto matches = word.globalMatch(text);
+    while (matches.hasNext()) {
+        words << matches.next().captured();
+    }
+    return words;
+}
+
+QVector<ShownText> textsOf(const Opening& opening)
+{
+    const NumberedShop shop;
+    QWidget opener;
+    auto texts = shownTexts(*opening.open(&opener));
+    for (ShownText& text : texts) {
+        text.text.remove(shop.path());
+    }
+    return texts;
+}
+
+/// Takes the English away for a while.
+class InFrench
+{
+public:
+    InFrench()
+        : english_(qApp->findChildren<QTranslator*>().constLast())
+    {
+        QCoreApplication::removeTranslator(english_);
+    }
+    ~InFrench()
+    {
+        QCoreApplication::installTranslator(english_);
+    }
+    InFrench(const InFrench&) = delete;
+    InFrench& operator=(const InFrench&) = delete;
+    InFrench(InFrench&&) = delete;
+    InFrench& operator=(InFrench&&) = delete;
+
+private:
+    QTranslator* english_;
+};
+
+void eachWindow()
+{
+    QTest::addColumn<int>("number");
+    for (int number = 0; number < windows().size(); ++number) {
+        QTest::newRow(windows()[number].name) << number;
+    }
+}
+
+QStringList clippedIn(const Opening& opening)
+{
+    QStringList clipped;
+    const auto texts = textsOf(opening);
+    for (const ShownText& text : texts) {
+        if (text.missing > 0) {
+            clipped << QStringLiteral("%1: \"%2\" lacks %3 pixels")
+                           .arg(text.place, text.text, QString::number(text.missing));
+        }
+    }
+    return clipped;
+}
+
+QStringList frenchWordsOf(const Opening& opening)
+{
+    const InFrench french;
+    QStringList words;
+    const auto texts = textsOf(opening);
+    for (const ShownText& text : texts) {
+        words << wordsOf(text.text);
+    }
+    return words;
+}
+} // namespace
+
+void TestEnglishWindows::noWindowStillShowsFrench_data()
+{
+    eachWindow();
+}
+
+void TestEnglishWindows::noWindowStillShowsFrench()
+{
+    QFETCH(int, number);
+    const QStringList french = frenchWordsOf(windows()[number]);
+    QVERIFY(!french.isEmpty());
+    QStringList left;
+    const auto texts = textsOf(windows()[number]);
+    for (const ShownText& text : texts) {
+        const auto words = wordsOf(text.text);
+        for (const QString& word : words) {
+            if (french.contains(word) && !equalWords().contains(word)) {
+                left << text.place + QLatin1String(": ") + word;
+            }
+        }
+    }
+    QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1Char('\n'))));
+}
+
+void TestEnglishWindows::aWidgetThatIsTooSmallLacksPixels()
+{
+    const QString text = QStringLiteral("The ticket is empty");
+    QLabel label(text);
+    QPushButton button(text);
+    QCheckBox check(text);
+    QGroupBox group(text);
+    QComboBox box;
+    box.addItem(text);
+    for (QWidget* widget : std::initializer_list<QWidget*>{&label, &button, &check, &group, &box}) {
+        widget->resize(400, 40);
+        QVERIFY2(shownTexts(*widget).constFirst().missing <= 0, widget->metaObject()->className());
+        widget->resize(40, 40);
+        QVERIFY2(shownTexts(*widget).constFirst().missing > 0, widget->metaObject()->className());
+    }
+    label.resize(400, 5);
+    QVERIFY(shownTexts(label).constFirst().missing > 0);
+}
+
+void TestEnglishWindows::noTextIsClipped_data()
+{
+    eachWindow();
+}
+
+void TestEnglishWindows::noTextIsClipped()
+{
+    QFETCH(int, number);
+    const QStringList clipped = clippedIn(windows()[number]);
+    QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(QLatin1Char('\n'))));
+}
+
+void TestEnglishWindows::noFrenchTextIsClipped_data()
+{
+    eachWindow();
+}
+
+void TestEnglishWindows::noFrenchTextIsClipped()
+{
+    QFETCH(int, number);
+    const InFrench french;
+    const QStringList clipped = clippedIn(windows()[number]);
+    QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(QLatin1Char('\n'))));
+}
+
+void TestEnglishWindows::everyFieldHasAName_data()
+{
+    eachWindow();
+}
+
+void TestEnglishWindows::everyFieldHasAName()
+{
+    QFETCH(int, number);
+    const NumberedShop shop;
+    QWidget opener;
+    const auto window = windows()[number].open(&opener);
+    QStringList nameless;
+    const auto widgets = window->findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        const bool isField = qobject_cast<QLineEdit*>(widget) != nullptr
+            || qobject_cast<QComboBox*>(widget) != nullptr;
+        const auto* interface = QAccessible::queryAccessibleInterface(widget);
+        if (isField && interface->text(QAccessible::Name).isEmpty()) {
+            nameless << widget->objectName();
+        }
+    }
+    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(QLatin1Char('\n'))));
+}
+
+void TestEnglishWindows::boxesHaveEnglishButtons()
+{
+    QMessageBox box(QMessageBox::Information, QString(), QString(),
+        QMessageBox::Yes | QMessageBox::No | QMessageBox::Ok | QMessageBox::Cancel
+            | QMessageBox::Close | QMessageBox::Save);
+    QCOMPARE(box.button(QMessageBox::Yes)->text(), QStringLiteral("&Yes"));
+    QCOMPARE(box.button(QMessageBox::No)->text(), QStringLiteral("&No"));
+    QCOMPARE(box.button(QMessageBox::Ok)->text(), QStringLiteral("OK"));
+    QCOMPARE(box.button(QMessageBox::Cancel)->text(), QStringLiteral("Cancel"));
+    QCOMPARE(box.button(QMessageBox::Close)->text(), QStringLiteral("Close"));
+    QCOMPARE(box.button(QMessageBox::Save)->text(), QStringLiteral("Save"));
+
+    const InFrench french;
+    const QMessageBox frenchBox(QMessageBox::Information, QString(), QString(), QMessageBox::Yes);
+    QCOMPARE(frenchBox.button(QMessageBox::Yes)->text(), QStringLiteral("&Oui"));
+}
+
+void TestEnglishWindows::editMenusAreEnglish()
+{
+    const auto labelsOf = [](const QMenu& menu) {
+        QStringList labels;
+        const auto actions = menu.actions();
+        for (const QAction* action : actions) {
+            if (!action->isSeparator()) {
+                labels << action->text().section(QLatin1Char('\t'), 0, 0).remove(QLatin1Char('&'));
+            }
+        }
+        return labels;
+    };
+    const QStringList english{QStringLiteral("Undo"), QStringLiteral("Redo"), QStringLiteral("Cut"),
+        QStringLiteral("Copy"), QStringLiteral("Paste"), QStringLiteral("Delete"),
+        QStringLiteral("Select All")};
+    QLineEdit line;
+    QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(line.createStandardContextMenu())), english);
+    QTextEdit text;
+    QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(text.createStandardContextMenu())), english);
+}
+
+VENDEL_TEST_MAIN(TestEnglishWindows)
+#include "tst_EnglishWindows.moc"

@@ -1,0 +1,307 @@
+// SPDX-License-Identifier: MIT
+#include "common/Messages.h"
+#include "common/Texts.h"
+#include "tests/support/TestMain.h"
+#include "tests/translations/TranslationFile.h"
+
+#include <QHash>
+#include <QLibraryInfo>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTemporaryDir>
+
+class TestTranslation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void theCatalogueIsReadWhole();
+    void everyCatalogueTextIsTranslated();
+    void everyDesignerTextIsTranslated();
+    void everyTranslationIsOfATextThatIsShown();
+    void noTextIsTranslatedTwice();
+    void everyTranslationIsFinished();
+    void noTranslationHasFrenchLetters();
+    void numbersHaveBothPluralForms();
+    void lineBreaksStayWhereTheyAre();
+    void blanksAroundATextStay();
+    void placesOfInsertedTextsStay();
+    void theMarkOfATitleLineStays();
+    void receiptHeadingsKeepTheirColumns();
+    void qtsOwnTextsAreEnglishAgain();
+    void noTextOfQtsContextsStaysFrench();
+    void theTillFindsItsEnglish();
+    void theTillCountsInEnglish();
+
+private:
+    QVector<TranslatedText> found(const QString& context) const;
+
+    QStringList catalogue_;
+    QVector<TranslatedText> english_;
+    QVector<TranslatedText> designer_;
+    QVector<TranslatedText> qtFrench_;
+};
+
+namespace {
+const QString catalogueContext = QStringLiteral("FormVendelMessages");
+
+/// Contexts of Qt whose texts a user of the till can meet: buttons of boxes, edit menus, keys,
+/// what a screen reader says, errors of files.
+const QStringList qtContexts{QStringLiteral("QAbstractSpinBox"),
+    QStringLiteral("QAccessibleActionInterface"), QStringLiteral("QApplication"),
+    QStringLiteral("QComboBox"), QStringLiteral("QCoreApplication"), QStringLiteral("QDialog"),
+    QStringLiteral("QDialogButtonBox"), QStringLiteral("QErrorMessage"), QStringLiteral("QFile"),
+    QStringLiteral("QFileDevice"), QStringLiteral("QGnomeTheme"), QStringLiteral("QGuiApplication"),
+    QStringLiteral("QIODevice"), QStringLiteral("QImageReader"), QStringLiteral("QLineEdit"),
+    QStringLiteral("QMessageBox"), QStringLiteral("QPlatformTheme"), QStringLiteral("QSaveFile"),
+    QStringLiteral("QScrollBar"), QStringLiteral("QShortcut"),
+    QStringLiteral("QSpiAccessibleBridge"), QStringLiteral("QTabBar"),
+    QStringLiteral("QUnicodeControlCharacterMenu"), QStringLiteral("QWhatsThisAction"),
+    QStringLiteral("QWidget"), QStringLiteral("QWidgetTextControl")};
+
+const QString source = QStringLiteral(VENDEL_SOURCE "/");
+
+void runTool(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    QVERIFY2(process.waitForFinished() && process.exitCode() == 0,
+        qPrintable(program + QLatin1String(process.readAllStandardError())));
+}
+
+QString key(const TranslatedText& text)
+{
+    return text.context + QLatin1Char('\n') + text.source;
+}
+
+QSet<QString> keys(const QVector<TranslatedText>& texts)
+{
+    QSet<QString> all;
+    for (const auto& text : texts) {
+        all << key(text);
+    }
+    return all;
+}
+} // namespace
+
+void TestTranslation::initTestCase()
+{
+    const QTemporaryDir folder;
+    const QString designer = folder.filePath(QStringLiteral("designer.ts"));
+    runTool(QStringLiteral(VENDEL_LUPDATE),
+        {QStringLiteral("-silent"), source + QLatin1String("app"), source + QLatin1String("forms"),
+            source + QLatin1String("common"), QStringLiteral("-ts"), designer});
+    const QString qtFrench = folder.filePath(QStringLiteral("qt.ts"));
+    runTool(QStringLiteral(VENDEL_LCONVERT),
+        {QLibraryInfo::location(QLibraryInfo::TranslationsPath) + QLatin1String("/qtbase_fr.qm"),
+            QStringLiteral("-o"), qtFrench});
+
+    catalogue_ = readCatalogue(source + QLatin1String("common/Messages.cpp"));
+    catalogue_.removeAll(QString());
+    english_ = readTranslation(source + QLatin1String("translations/FormVendelTr_Us.ts"));
+    designer_ = readTranslation(designer);
+    qtFrench_ = readTranslation(qtFrench);
+}
+
+QVector<TranslatedText> TestTranslation::found(const QString& context) const
+{
+    QVector<TranslatedText> texts;
+    for (const auto& text : english_) {
+        if (text.context == context) {
+            texts << text;
+        }
+    }
+    return texts;
+}
+
+void TestTranslation::theCatalogueIsReadWhole()
+{
+    QVERIFY(catalogue_.size() >= 250);
+    QVERIFY(catalogue_.contains(QStringLiteral("+/-")));
+    QVERIFY(catalogue_.contains(
+        QStringLiteral("Composition est vide\nAller dans le menu Stock Saisie Stock\n"
+                       "DoubleClick sur article et composez")));
+    QVERIFY(!catalogue_.join(QString()).contains(QLatin1Char('\\')));
+}
+
+void TestTranslation::everyCatalogueTextIsTranslated()
+{
+    const auto translated = keys(found(catalogueContext));
+    for (const QString& text : qAsConst(catalogue_)) {
+        QVERIFY2(
+            translated.contains(catalogueContext + QLatin1Char('\n') + text), qPrintable(text));
+    }
+}
+
+void TestTranslation::everyDesignerTextIsTranslated()
+{
+    const auto translated = keys(english_);
+    QVERIFY(!designer_.isEmpty());
+    for (const auto& text : qAsConst(designer_)) {
+        QVERIFY2(translated.contains(key(text)), qPrintable(key(text)));
+    }
+}
+
+void TestTranslation::everyTranslationIsOfATextThatIsShown()
+{
+    const auto shown = keys(designer_);
+    for (const auto& text : qAsConst(english_)) {
+        const bool isShown = text.context == catalogueContext ? catalogue_.contains(text.source)
+                                                              : shown.contains(key(text));
+        QVERIFY2(isShown || qtContexts.contains(text.context), qPrintable(key(text)));
+    }
+}
+
+void TestTranslation::noTextIsTranslatedTwice()
+{
+    QCOMPARE(keys(english_).size(), english_.size());
+}
+
+void TestTranslation::everyTranslationIsFinished()
+{
+    for (const auto& text : qAsConst(english_)) {
+        QVERIFY2(text.isFinished, qPrintable(key(text)));
+        QVERIFY2(!text.forms.isEmpty() && !text.forms.contains(QString()), qPrintable(key(text)));
+    }
+}
+
+void TestTranslation::noTranslationHasFrenchLetters()
+{
+    static const QRegularExpression french(QStringLiteral("[àâçéèêëîïôùûüœÀÂÇÉÈÊ]"));
+    for (const auto& text : qAsConst(english_)) {
+        QVERIFY2(!text.forms.join(QString()).contains(french), qPrintable(key(text)));
+    }
+}
+
+void TestTranslation::numbersHaveBothPluralForms()
+{
+    int plurals = 0;
+    for (const auto& text : qAsConst(english_)) {
+        const bool counts = text.source.contains(QLatin1String("%n"));
+        QVERIFY2(text.hasPlural == counts, qPrintable(key(text)));
+        QVERIFY2(text.forms.size() == (counts ? 2 : 1), qPrintable(key(text)));
+        for (const QString& form : text.forms) {
+            QVERIFY2(form.contains(QLatin1String("%n")) == counts, qPrintable(form));
+        }
+        plurals += counts ? 1 : 0;
+    }
+    QCOMPARE(plurals, 2);
+}
+
+void TestTranslation::lineBreaksStayWhereTheyAre()
+{
+    const QLatin1Char lineBreak('\n');
+    for (const auto& text : qAsConst(english_)) {
+        for (const QString& form : text.forms) {
+            QVERIFY2(form.count(lineBreak) == text.source.count(lineBreak), qPrintable(form));
+            QVERIFY2(
+                form.startsWith(lineBreak) == text.source.startsWith(lineBreak), qPrintable(form));
+            QVERIFY2(form.endsWith(lineBreak) == text.source.endsWith(lineBreak), qPrintable(form));
+        }
+    }
+}
+
+void TestTranslation::blanksAroundATextStay()
+{
+    const QLatin1Char blank(' ');
+    const auto texts = found(catalogueContext);
+    for (const auto& text : texts) {
+        for (const QString& form : text.forms) {
+            QVERIFY2(form.startsWith(blank) == text.source.startsWith(blank), qPrintable(form));
+            QVERIFY2(form.endsWith(blank) == text.source.endsWith(blank), qPrintable(form));
+        }
+    }
+}
+
+void TestTranslation::placesOfInsertedTextsStay()
+{
+    for (const auto& text : qAsConst(english_)) {
+        for (const char* place : {"%1", "%2", "%3", "%4"}) {
+            for (const QString& form : text.forms) {
+                QVERIFY2(
+                    form.count(QLatin1String(place)) == text.source.count(QLatin1String(place)),
+                    qPrintable(form));
+            }
+        }
+    }
+}
+
+void TestTranslation::theMarkOfATitleLineStays()
+{
+    const auto texts = found(catalogueContext);
+    for (const auto& text : texts) {
+        if (text.source == QLatin1String("titre:")) {
+            QCOMPARE(text.forms, QStringList{QStringLiteral("titre:")});
+            return;
+        }
+    }
+    QFAIL("titre:");
+}
+
+void TestTranslation::receiptHeadingsKeepTheirColumns()
+{
+    QHash<QString, QString> headings;
+    const auto texts = found(catalogueContext);
+    for (const auto& text : texts) {
+        headings[text.source] = text.forms.first();
+    }
+    QCOMPARE(headings[QStringLiteral("Qtité  ")], QStringLiteral("Qty    "));
+    QCOMPARE(headings[QStringLiteral("Produit")], QStringLiteral("Product"));
+    QCOMPARE(headings[QStringLiteral("Prix U")], QStringLiteral("Unit price"));
+    QCOMPARE(headings[QStringLiteral("Prix * Qtité")], QStringLiteral("Price * Qty"));
+    QCOMPARE(headings[QStringLiteral("Total ticket")], QStringLiteral("Ticket total"));
+    QCOMPARE(headings[QStringLiteral("TVA ")], QStringLiteral("VAT "));
+    QCOMPARE(headings[QStringLiteral("TOTAL ")], QStringLiteral("TOTAL "));
+}
+
+void TestTranslation::qtsOwnTextsAreEnglishAgain()
+{
+    for (const auto& text : qAsConst(english_)) {
+        if (!qtContexts.contains(text.context)) {
+            continue;
+        }
+        const QString expected = text.source == QLatin1String("QT_LAYOUT_DIRECTION")
+            ? QStringLiteral("LTR")
+            : text.source;
+        QCOMPARE(text.forms, QStringList{expected});
+    }
+}
+
+void TestTranslation::noTextOfQtsContextsStaysFrench()
+{
+    const auto translated = keys(english_);
+    QSet<QString> contexts;
+    for (const auto& text : qAsConst(qtFrench_)) {
+        if (qtContexts.contains(text.context)) {
+            contexts << text.context;
+            QVERIFY2(translated.contains(key(text)), qPrintable(key(text)));
+        }
+    }
+    QCOMPARE(contexts.size(), qtContexts.size());
+}
+
+void TestTranslation::theTillFindsItsEnglish()
+{
+    QCOMPARE(Texts{"FormVendel"}(Messages::Messages89[0]), QStringLiteral("Pay"));
+    QCOMPARE(
+        Texts{"FormVendelMessages"}(Messages::Messages0[0]), QStringLiteral("The ticket is empty"));
+    QCOMPARE(Texts{"FormVendelMessages"}(Messages::Messages101[0]), QStringLiteral("."));
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "&Yes"), QStringLiteral("&Yes"));
+    QCOMPARE(QCoreApplication::translate("QLineEdit", "&Paste"), QStringLiteral("&Paste"));
+}
+
+void TestTranslation::theTillCountsInEnglish()
+{
+    const Texts texts{"FormVendelSaisieArticleMessages"};
+    QCOMPARE(
+        texts(Messages::Messages23[0], 1), QStringLiteral("Delete the 1 duplicate marked X..."));
+    QCOMPARE(
+        texts(Messages::Messages23[0], 2), QStringLiteral("Delete the 2 duplicates marked X..."));
+    QCOMPARE(texts(Messages::Messages26[0], 7),
+        QStringLiteral("Delete the 7 duplicates marked X...\nGo to the menu Vendel Item Entry"));
+}
+
+VENDEL_TEST_MAIN(TestTranslation)
+#include "tst_Translation.moc"
