@@ -59,13 +59,18 @@ await_no_window() { await "end of window \"$1\"" is_closed "$1"; }
 tip_is_shown() { xwininfo -root -tree | grep -Eq '"vendel": \("vendel" "vendel"\)  [0-9]{2,}x'; }
 no_tip_is_shown() { ! tip_is_shown; }
 
-# place_of FORM WIDGET: the widget's "x y width height", read from the form.
+# place_of FORM WIDGET: the widget's "x y width height", from the form or, where a layout places it,
+# from the laid out dialog.
 place_of() {
-    local number='([0-9]+)<[^>]*>\s*<[^>]*>' form
-    form=$(find "$root/app" "$root/forms" -name "$1.ui")
-    tr '\n' ' ' <"$form" | sed -E "s/.* name=\"$2\">\s*<property name=\"geometry\">\s*<rect>\s*<x>$(
-        printf '%s' "$number$number$number"
-    )([0-9]+).*/\1 \2 \3 \4/; t; d" | grep . || broken "$1 has no place for $2"
+    local number='([0-9]+)<[^>]*>\s*<[^>]*>'
+    if [ -f "$root/forms/$1.ui" ]; then
+        "$build/tests/support/form-places" "$1" | sed "s/^$2 //; t; d"
+    else
+        tr '\n' ' ' <"$root/app/$1.ui" \
+            | sed -E "s/.* name=\"$2\">\s*<property name=\"geometry\">\s*<rect>\s*<x>$(
+                printf '%s' "$number$number$number"
+            )([0-9]+).*/\1 \2 \3 \4/; t; d"
+    fi | grep . || broken "$1 has no place for $2"
 }
 
 # point_at FORM X Y: moves the mouse to a place of the form.
@@ -83,6 +88,25 @@ press() {
     xdotool click 1
 }
 
+# choose FORM X ENTRY: opens the menu that stands X pixels from the left of the menu bar, and takes
+# its entry, counted from 1.
+choose() {
+    local entry
+    point_at "$1" "$2" $((10 - ${top_of[$1]-0}))
+    xdotool click 1
+    for ((entry = 0; entry < $3; ++entry)); do
+        xdotool key Down
+    done
+    xdotool key Return
+}
+
+# write FORM FIELD TEXT: puts the text in the place of what the field holds.
+write() {
+    press "$1" "$2"
+    xdotool key ctrl+a BackSpace
+    xdotool type --delay 20 "$3"
+}
+
 # type_amount BUTTON...: the keypad's buttons by their number in the form.
 type_amount() {
     local button
@@ -91,13 +115,21 @@ type_amount() {
     done
 }
 
-# answer TITLE KEY [PICTURE]: waits for a box, and sends it away with a key.
+# answer TITLE KEY [PICTURE [FORM]]: waits for a box, and sends it away with a key; the picture shows
+# it on the window below it.
 answer() {
     await_window "$1"
     await "the keyboard for \"$1\"" has_keyboard "$1"
-    [ -z "${3-}" ] || picture "$3"
+    [ -z "${3-}" ] || picture "${@:3}"
     xdotool key "$2"
     await_no_window "$1"
+}
+
+# leave FORM: closes a dialog with Escape. Without a window manager nobody gives the keyboard back to
+# the window below a box.
+leave() {
+    xdotool windowfocus --sync "$(window_of "$1")"
+    answer "$1" Escape
 }
 
 # rows_of FORM VIEW X: the middle of each row that a list shows, below the form's top; X is a column
@@ -157,12 +189,13 @@ stands_still() {
     [ "$last_sum" = "$before" ]
 }
 
-# picture NAME: the sales screen with all that stands on it, once it stands still.
+# picture NAME [FORM]: the sales screen, or another window, with all that stands on it, once it
+# stands still.
 picture() {
     local WINDOW X Y WIDTH HEIGHT SCREEN
     last_sum=""
     await "a quiet screen" stands_still
-    eval "$(xdotool getwindowgeometry --shell "$(window_of FormVendel)")"
+    eval "$(xdotool getwindowgeometry --shell "$(window_of "${2-FormVendel}")")"
     import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage -strip +dither -colors 128 \
         "PNG8:$out/$1.png"
     say "  build/tour/$1.png"
