@@ -53,7 +53,7 @@ struct Moving
     }
 
     StockSample shop;
-    FormVendelSaisieStock stock;
+    FormVendelSaisieStock stock{nullptr};
     FormVendelSaisieStockCutPaste window{&stock};
 };
 } // namespace
