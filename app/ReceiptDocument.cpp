@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/ReceiptDocument.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
 #include <QTextCursor>
 #include <QTextEdit>
@@ -73,10 +72,6 @@ QString shownText(const ReceiptLine& line)
 void layOutPaper(QTextEdit& edit, const QFont& font, int width)
 {
     edit.setFont(font);
-    // The sheet has the same size in pixels on every screen, like the window: neither its own font
-    // nor its layout may take the resolution from the widget.
-    edit.document()->setDefaultFont(font);
-    edit.document()->documentLayout()->setPaintDevice(nullptr);
     edit.setTabStopDistance(tabColumns * columnWidth(font));
     edit.setWordWrapMode(QTextOption::WrapAnywhere);
     QTextFrameFormat frame = edit.document()->rootFrame()->frameFormat();

@@ -51,17 +51,3 @@ build() {
     (cd "$root" && logged "build-$preset" cmake --build --preset "$preset" -j "$(nproc)" \
         --target "$@") || fail "the build of the preset $preset failed, see build/build-$preset.log"
 }
-
-# prepare_shop DIRECTORY PICTURES: puts into the directory what the till expects to find there and
-# leaves alone what there is.
-prepare_shop() {
-    local shop=$1 pictures=$2 name
-    mkdir -p "$shop" 2>/dev/null || fail "cannot make the data directory $shop"
-    for name in EnteteFormulaire.dat PiedFormulaire.dat; do
-        [ -e "$shop/$name" ] || : >"$shop/$name" || fail "cannot write into $shop"
-    done
-    for name in Vendel.png AproposdeImage.png; do
-        [ -e "$shop/$name" ] || cp -- "$pictures/$name" "$shop/$name" \
-            || fail "cannot write into $shop"
-    done
-}

@@ -44,13 +44,14 @@ if $demo; then
     XDG_DATA_HOME=$(mktemp -d)
     export XDG_DATA_HOME
     trap 'rm -rf -- "$XDG_DATA_HOME"' EXIT
-    mkdir -- "$XDG_DATA_HOME/vendel"
     "$root/build/release/demo/vendel-demo" "$XDG_DATA_HOME/vendel" \
         || fail "the sample shop could not be made"
     say "Starting the till in a throw-away copy of the sample shop"
 else
-    say "Starting the till"
+    say "Starting the till; its data lies in ${XDG_DATA_HOME:-${HOME-}/.local/share}/vendel"
 fi
+
+# The launcher makes the data directory and looks after what lies there.
 status=0
 "$root/build/release/packaging/vendel" || status=$?
 # Qt aborts when the display turns it away.

@@ -53,7 +53,7 @@ bool isBlack(const stbi_uc* rgb)
 
 } // namespace
 
-DotMatrix EscPos::loadImage(std::string path)
+DotMatrix EscPos::loadImage(const std::string& path)
 {
     const File file{std::fopen(path.c_str(), "rb")};
     if (!file || !isOfPrintableSize(file.get()) || isUnreadablePnm(file.get())) {

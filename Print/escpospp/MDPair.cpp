@@ -32,7 +32,7 @@ bool MDPair::operator==(const MDPair& other) const
     return on == other.on && off == other.off;
 }
 
-MDPair MDPair::getMatching(std::string marker)
+MDPair MDPair::getMatching(const std::string& marker)
 {
     if (mdPairMap.empty()) {
         initializeMap();

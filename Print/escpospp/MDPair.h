@@ -15,7 +15,7 @@ public:
 
     /// A copy of the pair of \a marker; fills the map first when it is empty.
     /// Throws the int -1 when there is no such marker.
-    static MDPair getMatching(std::string marker);
+    static MDPair getMatching(const std::string& marker);
 
     /// Fills the map with "__" (thick underline) and "**" (bold); what is there stays.
     static void initializeMap();

@@ -92,7 +92,7 @@ void Printer::reset()
     raw(EscPos::RESET);
 }
 
-bool Printer::text(std::string s)
+bool Printer::text(const std::string& s)
 {
     Markdown markdown = renderMarkdown(s);
     if (!markdown.fault.empty()) {
@@ -103,9 +103,9 @@ bool Printer::text(std::string s)
     return true;
 }
 
-bool Printer::textCut(std::string s)
+bool Printer::textCut(const std::string& s)
 {
-    const bool sent = text(std::move(s));
+    const bool sent = text(s);
     if (sent) {
         cut();
     }

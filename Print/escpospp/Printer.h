@@ -41,10 +41,10 @@ public:
 
     /// Sends \a s with its markers (see MDPair) turned into commands.
     /// False, and nothing sent, when they don't nest or one is left open.
-    bool text(std::string s);
+    bool text(const std::string& s);
 
     /// The same, then cuts if the text was sent.
-    bool textCut(std::string s);
+    bool textCut(const std::string& s);
 
     /// Prints a picture: rows from top to bottom, dots from left to right, true is black.
     /// One without dots sends nothing. Throws the int -1, and sends nothing, when rows differ in

@@ -15,7 +15,12 @@ expect "settings" "$(ask "select group_concat(param || '=' || valeur) from Confi
 
 await_no_window FormVendelStart
 press FormVendel btn_Afficher
-answer Afficher Return empty-menu
+await_box Afficher
+expect "what is said" "$(seen box Afficher)" \
+    "Le menu est vide Ajouter des articles Allez dans le menu Vendel Saisie Article"
+answer Afficher OK empty-menu
 press FormVendel btn_Payer
-answer Payer Return
+await_box Payer
+expect "what is said" "$(seen box Payer)" "Le ticket est vide"
+answer Payer OK
 stop_till

@@ -6,7 +6,6 @@ start_printer
 paper_shop=$(new_shop paper)
 sqlite3 "$paper_shop/Vendel.db" "update Config set valeur = 1 where param = 'Epson TM-T20II'"
 start_till "$paper_shop"
-await_window FormVendelStart
 dismiss_splash
 show_menu
 sell "Café" 2

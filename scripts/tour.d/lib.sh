@@ -7,10 +7,6 @@ patience=30
 shop=""
 till_pid=""
 printer_pid=""
-# A window's title, and how far below its top the form's places begin (the menu bar's height).
-declare -A title_of=([FormVendel]="Vendel" [FormVendelStart]="Dialog"
-    [FormVendelTicket]="Impression Ticket")
-declare -A top_of=([FormVendel]=21)
 
 # broken WHAT: ends the tour; the screen as it was stays in build/tour/broken.png.
 broken() {
@@ -43,103 +39,109 @@ answers() { [ "$(ask "$1" 2>/dev/null)" = "$2" ]; }
 await_rows() { await "$1" answers "$2" "$3"; }
 quoted() { printf "'%s'" "${1//\'/\'\'}"; }
 
-# The windows
+# What stands on the screen, as tests/scripts/TourEye.cpp writes it down: a thing a line, its words
+# separated by tabs. A window goes by its class, a box by its title.
 
-window_of() {
-    xdotool search --onlyvisible --name "^${title_of[$1]-$1}\$" 2>/dev/null | head -n 1
+# seen WORD...: the last word of the first thing that begins with these words; fails without one.
+seen() {
+    local words
+    words=$(printf '%s\t' "$@")
+    awk -v words="${words//\\/\\\\}" 'BEGIN { FS = "\t" }
+        index($0 "\t", words) == 1 { print $NF; found = 1; exit }
+        END { exit !found }' "$work/eye" 2>/dev/null
 }
-is_open() { [ -n "$(window_of "$1")" ]; }
-is_closed() { [ -z "$(window_of "$1")" ]; }
-has_keyboard() { [ "$(window_of "$1")" = "$(xdotool getwindowfocus 2>/dev/null)" ]; }
-# A window is named by its class or, if it has none of its own, by its title.
-await_window() { await "window \"$1\"" is_open "$1"; }
-await_no_window() { await "end of window \"$1\"" is_closed "$1"; }
+is_gone() { ! seen "$@" >/dev/null; }
+is_seen() { seen "$@" >/dev/null; }
 
-# tip_is_shown: whether a window without a name of its own stands there, as only tips do.
-tip_is_shown() { xwininfo -root -tree | grep -Eq '"vendel": \("vendel" "vendel"\)  [0-9]{2,}x'; }
-no_tip_is_shown() { ! tip_is_shown; }
+await_window() { await "window \"$1\"" is_seen window "$1"; }
+await_no_window() { await "end of window \"$1\"" is_gone window "$1"; }
+await_box() { await "box \"$1\"" is_seen box "$1"; }
 
-# place_of FORM WIDGET: the widget's "x y width height", read from the form.
+# place_of KIND WINDOW NAME [TEXT]: the middle of a thing, as "x y". Rows and buttons without a name
+# are told by their text; a row's text is that of its columns, joined by "|", or of one of them.
 place_of() {
-    local number='([0-9]+)<[^>]*>\s*<[^>]*>' form
-    form=$(find "$root/app" "$root/forms" -name "$1.ui")
-    tr '\n' ' ' <"$form" | sed -E "s/.* name=\"$2\">\s*<property name=\"geometry\">\s*<rect>\s*<x>$(
-        printf '%s' "$number$number$number"
-    )([0-9]+).*/\1 \2 \3 \4/; t; d" | grep . || broken "$1 has no place for $2"
+    awk -v kind="$1" -v window="$2" -v name="$3" -v text="${4-}" 'BEGIN { FS = "\t" }
+        $1 != kind { next }
+        kind == "action" || kind == "item" { if ($2 == name) { found = $3 } next }
+        $2 != window { next }
+        kind == "menu" { if ($3 == name) { found = $4 } next }
+        $3 != name || found { next }
+        text == "" || $5 == text || index("|" $5 "|", "|" text "|") { found = $4 }
+        END { if (!found) { exit 1 } print found }' "$work/eye" 2>/dev/null
 }
+has_place() { place_of "$@" >/dev/null; }
 
-# point_at FORM X Y: moves the mouse to a place of the form.
+# point_at KIND WINDOW NAME [TEXT]: moves the mouse there, as soon as there is such a thing.
 point_at() {
-    local WINDOW X Y WIDTH HEIGHT SCREEN
-    eval "$(xdotool getwindowgeometry --shell "$(window_of "$1")")"
-    xdotool mousemove $((X + $2)) $((Y + ${top_of[$1]-0} + $3))
+    await "$*" has_place "$@"
+    # shellcheck disable=SC2046  # two numbers
+    xdotool mousemove $(place_of "$@")
 }
 
-# press FORM WIDGET: clicks the middle of a button.
-press() {
-    local x y width height
-    read -r x y width height < <(place_of "$1" "$2")
-    point_at "$1" $((x + width / 2)) $((y + height / 2))
+press_at() {
+    point_at "$@"
     xdotool click 1
 }
 
-# type_amount BUTTON...: the keypad's buttons by their number in the form.
-type_amount() {
-    local button
-    for button in "$@"; do
-        press FormVendel "btn_$button"
-    done
+# press WINDOW WIDGET
+press() { press_at widget "$1" "$2"; }
+# press_row WINDOW VIEW TEXT
+press_row() { press_at row "$@"; }
+double_press_row() {
+    point_at row "$@"
+    xdotool click --repeat 2 --delay 50 1
 }
 
-# answer TITLE KEY [PICTURE]: waits for a box, and sends it away with a key.
+# row_count WINDOW VIEW: the rows in view.
+row_count() { grep -c "^row	$1	$2	" "$work/eye"; }
+shows_rows() { [ "$(row_count "$1" "$2")" = "$3" ]; }
+# await_list WINDOW VIEW COUNT
+await_list() { await "$3 rows in $2" shows_rows "$@"; }
+await_row() { await "row \"$3\" in $2" has_place row "$@"; }
+
+# await_text WINDOW WIDGET TEXT
+has_text() { [ "$(seen_text "$1" "$2")" = "$3" ]; }
+seen_text() { awk -F '\t' -v window="$1" -v name="$2" \
+    '$1 == "widget" && $2 == window && $3 == name { print $5 }' "$work/eye"; }
+await_text() { await "\"$3\" in $2" has_text "$@"; }
+
+# choose WINDOW MENU ACTION
+choose() {
+    press_at menu "$1" "$2"
+    press_at action "" "$3"
+}
+
+# pick WINDOW COMBO_BOX ITEM
+pick() {
+    press "$1" "$2"
+    press_at item "" "$3"
+    await_text "$1" "$2" "$3"
+}
+
+# fill WINDOW FIELD TEXT: types the text in place of what the field holds.
+fill() {
+    press "$1" "$2"
+    xdotool key ctrl+a Delete
+    await_text "$1" "$2" ""
+    xdotool type --delay 5 -- "$3"
+    await_text "$1" "$2" "$3"
+}
+
+# answer TITLE BUTTON [PICTURE]: waits for a box, and sends it away.
 answer() {
-    await_window "$1"
-    await "the keyboard for \"$1\"" has_keyboard "$1"
+    await_box "$1"
     [ -z "${3-}" ] || picture "$3"
-    xdotool key "$2"
+    press_at widget "$1" "" "$2"
+    await "end of box \"$1\"" is_gone box "$1"
+}
+
+# leave WINDOW: closes a dialog as its user may.
+leave() {
+    # Without a window manager nobody gives the keyboard back when a window closes.
+    is_seen active "$1" || xdotool windowfocus "$(seen window "$1")"
+    await "the keyboard for $1" is_seen active "$1"
+    xdotool key Escape
     await_no_window "$1"
-}
-
-# rows_of FORM VIEW X: the middle of each row that a list shows, below the form's top; X is a column
-# of pixels, right of the view's left edge, in which the rows are blank.
-rows_of() {
-    local x y width height WINDOW X Y WIDTH HEIGHT SCREEN
-    read -r x y width height < <(place_of "$1" "$2")
-    eval "$(xdotool getwindowgeometry --shell "$(window_of "$1")")"
-    import -window root -crop "1x$height+$((X + x + $3))+$((Y + ${top_of[$1]-0} + y))" \
-        +repage -depth 8 txt:- | awk -v top="$y" '
-        NR == 1 { next }
-        $3 == colour { ++run; next }
-        { end(NR - 2) ; colour = $3; run = 1 }
-        END { end(NR - 1) }
-        # A row is a band of a colour; the blank rest of the list is higher.
-        function end(y) {
-            if (run < 10 || run > 100 || colour !~ /^#(FFFFFF|ADD8E6|FFFF00|308CC6)/) { return }
-            if (!first) { first = run }
-            if (run <= first + 2) { print int(top + y - run / 2) }
-        }'
-}
-
-find_row() {
-    mapfile -t rows < <(rows_of "$1" "$2" "$3")
-    [ -n "${rows[$4]-}" ]
-}
-
-# point_at_row FORM VIEW X ROW: rows are counted from 0 at the list's top.
-point_at_row() {
-    local x rows
-    await "row $4 of $2" find_row "$@"
-    x=$(place_of "$1" "$2" | cut -d ' ' -f 1)
-    point_at "$1" $((x + 100)) "${rows[$4]}"
-}
-
-# await_list FORM VIEW X COUNT: waits until the list shows that many rows.
-shows_rows() { [ "$(rows_of "$1" "$2" "$3" | wc -l)" = "$4" ]; }
-await_list() { await "$4 rows in $2" shows_rows "$@"; }
-
-press_row() {
-    point_at_row "$@"
-    xdotool click 1
 }
 
 # The pictures
@@ -157,14 +159,11 @@ stands_still() {
     [ "$last_sum" = "$before" ]
 }
 
-# picture NAME: the sales screen with all that stands on it, once it stands still.
+# picture NAME: the windows on the screen, once they stand still.
 picture() {
-    local WINDOW X Y WIDTH HEIGHT SCREEN
     last_sum=""
     await "a quiet screen" stands_still
-    eval "$(xdotool getwindowgeometry --shell "$(window_of FormVendel)")"
-    import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage -strip +dither -colors 128 \
-        "PNG8:$out/$1.png"
+    import -window root -trim +repage -strip +dither -colors 128 "PNG8:$out/$1.png"
     say "  build/tour/$1.png"
 }
 
@@ -173,15 +172,20 @@ picture() {
 # start_till DIRECTORY: starts the till there, with the emulated printer if that is switched on.
 start_till() {
     shop=$1
-    local surroundings=()
-    [ -z "${UMOCKDEV_DIR-}" ] || surroundings=(LD_PRELOAD=libumockdev-preload.so.0)
-    (cd "$shop" && exec env "${surroundings[@]}" "$build/vendel" >>"$out/till.log" 2>&1) &
+    local preload="$build/tests/scripts/libtour-eye.so"
+    [ -z "${UMOCKDEV_DIR-}" ] || preload="libumockdev-preload.so.0 $preload"
+    rm -f "$work/eye"
+    (cd "$shop" && VENDEL_TOUR_EYE="$work/eye" LD_PRELOAD=$preload exec "$build/vendel" \
+        >>"$out/till.log" 2>&1) &
     till_pid=$!
     await_window FormVendel
 }
 
 # The splash goes by itself after five seconds; the cashier need not wait for it.
-dismiss_splash() { answer FormVendelStart Escape; }
+dismiss_splash() {
+    await_window FormVendelStart
+    leave FormVendelStart
+}
 
 stop_till() {
     [ -n "$till_pid" ] || return 0
@@ -194,7 +198,7 @@ stop_till() {
 # new_shop NAME: makes a throw-away sample shop and names its directory.
 new_shop() {
     "$build/demo/vendel-demo" "$work/$1" || broken "the sample shop cannot be made"
-    prepare_shop "$work/$1" "$build/packaging"
+    cp "$build/packaging/Vendel.png" "$build/packaging/AproposdeImage.png" "$work/$1"
     say "$work/$1"
 }
 

@@ -2,45 +2,43 @@
 # shellcheck shell=bash disable=SC2034,SC2154
 # What a cashier does on the sales screen.
 
-# Blank columns of the two lists, in pixels.
-menu_blank=34
-ticket_blank=315
-
-# article_row NAME: the newest article's place in the menu, from 0.
-article_row() {
-    ask "select place from (select article, id, row_number() over (order by article, id) - 1
-        as place from Article) where article = $(quoted "$1") order by id desc limit 1"
+# type_amount BUTTON...: the keypad's buttons by their number in the form.
+type_amount() {
+    local button
+    for button in "$@"; do
+        press FormVendel "btn_$button"
+    done
 }
 
-# bring_into_view ROW: turns the wheel until the menu shows the row, and says where it then stands.
-bring_into_view() {
-    local rows_seen=19 rows_a_notch=3 count notches top
-    count=$(ask "select count(*) from Article")
-    notches=$((($1 - rows_seen + rows_a_notch) / rows_a_notch))
-    [ "$notches" -gt 0 ] || notches=0
-    point_at_row FormVendel tableView1 "$menu_blank" 5
+# scroll_menu_to NAME: turns the wheel until the menu shows the article.
+scroll_menu_to() {
+    await_row FormVendel tableView1 ""
+    has_place row FormVendel tableView1 "$1" && return
+    point_at row FormVendel tableView1
     xdotool click --repeat 30 --delay 1 4
-    [ "$notches" -eq 0 ] || xdotool click --repeat "$notches" --delay 1 5
-    top=$((notches * rows_a_notch))
-    [ $top -le $((count - rows_seen)) ] || top=$((count - rows_seen))
-    shown_row=$(($1 - top))
+    # shellcheck disable=SC2317  # awaited
+    scroll_on() {
+        has_place row FormVendel tableView1 "$1" || { xdotool click 5 && false; }
+    }
+    await "$1 in the menu" scroll_on "$1"
 }
-
-lines_of() { ask "select count(*) from Ticket where article = $(quoted "$1")"; }
 
 # sell NAME [TIMES]: clicks an article of the menu.
 sell() {
-    local before times=${2-1}
-    before=$(lines_of "$1")
-    bring_into_view "$(article_row "$1")"
-    point_at_row FormVendel tableView1 "$menu_blank" "$shown_row"
+    local before times=${2-1} lines
+    lines="select count(*) from Ticket where article = $(quoted "$1")"
+    before=$(ask "$lines")
+    scroll_menu_to "$1"
+    # The wheel may still be turning.
+    last_sum=""
+    await "a quiet screen" stands_still
+    point_at row FormVendel tableView1 "$1"
     xdotool click --repeat "$times" --delay 100 1
-    await_rows "$1 on the ticket" "select count(*) from Ticket where article = $(quoted "$1")" \
-        $((before + times))
+    await_rows "$1 on the ticket" "$lines" $((before + times))
 }
 
 # show_menu [PICTURE]: "Afficher" tells of the doubled name in the sample shop.
 show_menu() {
     press FormVendel btn_Afficher
-    answer Doublon Return "${1-}"
+    answer Doublon OK "${1-}"
 }

@@ -36,6 +36,7 @@ private slots:
     void thePrinterSwitchIsLogged();
     void aPrinterSwitchThatIsNoNumberIsLogged();
     void everyPrinterSwitchIsRead();
+    void closingTheWindowEndsTheProgram();
     void menuActionsOpenTheirWindows_data();
     void menuActionsOpenTheirWindows();
 };
@@ -81,7 +82,7 @@ void TestFormVendelShell::anExistingFileOfAnyKindStaysAsItIs()
 void TestFormVendelShell::theClockTicksTenTimesASecond()
 {
     const Shop shop;
-    const FormVendel form;
+    FormVendel form;
     const auto* clock = form.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
     QVERIFY(clock != nullptr);
     QVERIFY(clock->isActive());
@@ -238,6 +239,16 @@ void TestFormVendelShell::everyPrinterSwitchIsRead()
     other.show();
     QCOMPARE(log.debugs().size(), 2);
     QCOMPARE(log.criticals(), QStringList());
+}
+
+void TestFormVendelShell::closingTheWindowEndsTheProgram()
+{
+    const Shop shop;
+    FormVendel form;
+    form.show();
+    QTimer::singleShot(0, &form, &QWidget::close);
+    QCOMPARE(QApplication::exec(), 0);
+    QVERIFY(!form.isVisible());
 }
 
 void TestFormVendelShell::menuActionsOpenTheirWindows_data()

@@ -204,6 +204,7 @@ void TestConsumption::aQuoteInADateStaysText()
 {
     const Bar bar;
     bar.sell("Café", 3);
+    const AnswerBox box;
     CapturedOutput output;
     Consumed at(QStringLiteral("05/01/2019"), QStringLiteral("06/01/2019 10:00:00'000"));
     const QByteArray said = diagnostics(output);

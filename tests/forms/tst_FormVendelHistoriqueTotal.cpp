@@ -86,11 +86,14 @@ void TestFormVendelHistoriqueTotal::totalAddsAYellowRow()
 void TestFormVendelHistoriqueTotal::totalOfAYearKeepsItsCents()
 {
     History history;
-    history.sell("Mariage", "1234567.88", "2019-05-01 10:00:00.000");
-    history.sell("Bonbon", "0.01", "2019-06-01 10:00:00.000");
+    history.sell("Mariage", "1234567.89", "2019-05-01 10:00:00.000");
+    history.sell("Bonbon", "0.02", "2019-06-01 10:00:00.000");
     history.type("01/01/2019", "01/01/2020");
     click(history.window, "btn_Total");
-    QCOMPARE(rowTexts(history.window, "tableView1", 2).at(1), QStringLiteral("1,234,567.89$"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(1), QStringLiteral("1,234,567.89$"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 2).at(1), QStringLiteral("1,234,567.91$"));
+    QCOMPARE(rowTexts(history.window, "tableView3", 1),
+        texts({"1", "Mariage", "1,234,567.89$", "1,234,567.89$"}));
 }
 
 void TestFormVendelHistoriqueTotal::theTotalsRowIsNoDate()

@@ -9,7 +9,9 @@ Counter::Counter(const char* sql)
     shop.fill(sql);
     form.show();
     child<FormVendelStart>(form, "FormVendelStart").close();
-    if (!QTest::qWaitForWindowActive(&form)) {
+    const bool isExposed = QTest::qWaitForWindowExposed(&form);
+    form.activateWindow();
+    if (!isExposed || !QTest::qWaitForWindowActive(&form)) {
         qFatal("the sales screen does not open");
     }
 }

@@ -85,8 +85,8 @@ EmulatedPrinter::EmulatedPrinter()
 { }
 
 EmulatedPrinter::EmulatedPrinter(const Setup& setup)
+    : folder_(makeFolder())
 {
-    folder_ = makeFolder();
     start(argumentsFor(setup, folder_ + "/record"));
     const std::string directory = readLine();
     if (directory.empty()) {
@@ -119,6 +119,7 @@ void EmulatedPrinter::start(const std::vector<std::string>& arguments)
     }
     std::vector<std::string> copies = arguments;
     std::vector<char*> argv;
+    argv.reserve(copies.size() + 1);
     for (auto& argument : copies) {
         argv.push_back(argument.data());
     }

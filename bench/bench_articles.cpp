@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+// "Afficher" of the article editor, against the same statements through the C API: the question for
+// duplicates runs once for each article.
+#include "app/Application.h"
+#include "db/Db.h"
+#include "forms/FormVendelSaisieArticle.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPushButton>
+#include <QTableView>
+#include <QTemporaryDir>
+
+#include <stdexcept>
+#include <string>
+
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+namespace {
+constexpr const char* articles = "select * from Article order by Article asc";
+constexpr const char* duplicates
+    = "select d.id, d.article from (select b.article,b.id from (select article,max(id) from "
+      "Article group by article having count(article) > 1) as t, Article as b where t.article = "
+      "b.article) as d where d.id not in (select max(id) as id from Article group by article "
+      "having count(article) > 1)";
+constexpr const char* duplicateCount
+    = "select sum(z.art) as som from (select count(d.article) as art, d.article from (select "
+      "b.article,b.id from (select article,max(id) from Article group by article having "
+      "count(article) > 1) as t, Article as b where t.article = b.article) as d where d.id not in "
+      "(select max(id) as id from Article group by article having count(article) > 1) group by "
+      "article) as z";
+
+/// A temporary directory with a menu of so many articles, each name once: no box wants an answer.
+class Menu
+{
+public:
+    explicit Menu(benchmark::IterationCount size)
+    {
+        if (!folder_.isValid() || !QDir::setCurrent(folder_.path())) {
+            throw std::runtime_error("temporary directory");
+        }
+        Db::DbCreate();
+        const std::string fill
+            = "insert into Article (article, prix) with recursive n(i) as (select 1 union all "
+              "select i + 1 from n where i < "
+            + std::to_string(size) + ") select 'Article ' || i, i / 4.0 from n";
+        Db::DbLoad(fill.c_str());
+    }
+    ~Menu()
+    {
+        QDir::setCurrent(QStringLiteral("/"));
+    }
+    Menu(const Menu&) = delete;
+    Menu& operator=(const Menu&) = delete;
+    Menu(Menu&&) = delete;
+    Menu& operator=(Menu&&) = delete;
+
+private:
+    QTemporaryDir folder_;
+};
+
+/// Opens the database, reads all rows of one statement and closes it again; returns their number.
+int read(const char* sql)
+{
+    sqlite3* database = nullptr;
+    sqlite3_stmt* statement = nullptr;
+    int rows = 0;
+    if (sqlite3_open_v2("Vendel.db", &database, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK
+        && sqlite3_prepare_v2(database, sql, -1, &statement, nullptr) == SQLITE_OK) {
+        const int columns = sqlite3_column_count(statement);
+        while (sqlite3_step(statement) == SQLITE_ROW) {
+            ++rows;
+            for (int column = 0; column < columns; ++column) {
+                benchmark::DoNotOptimize(sqlite3_column_text(statement, column));
+            }
+        }
+    }
+    sqlite3_finalize(statement);
+    sqlite3_close(database);
+    return rows;
+}
+
+void check(benchmark::State& state, benchmark::IterationCount rows)
+{
+    if (rows != state.range(0)) {
+        state.SkipWithError("the menu was not read whole");
+    }
+}
+
+void showMenuByFloor(benchmark::State& state)
+{
+    const Menu menu(state.range(0));
+    for (auto _ : state) {
+        read(articles);
+        const int rows = read(articles);
+        for (int row = 0; row < rows; ++row) {
+            read(duplicates);
+        }
+        read(duplicateCount);
+        check(state, rows);
+    }
+}
+
+void showMenu(benchmark::State& state)
+{
+    const Menu menu(state.range(0));
+    FormVendelSaisieArticle editor;
+    editor.show();
+    auto* button = editor.findChild<QPushButton*>(QStringLiteral("btn_Afficher"));
+    const auto* list = editor.findChild<QTableView*>(QStringLiteral("tableView"));
+    for (auto _ : state) {
+        button->click();
+        QCoreApplication::processEvents();
+        check(state, list->model()->rowCount());
+    }
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application::setAttributes();
+    QApplication application(argc, argv);
+    Application::setUp(application);
+    for (const int size : {100, 300, 1000}) {
+        constexpr auto ms = benchmark::kMillisecond;
+        benchmark::RegisterBenchmark("article_editor/floor", showMenuByFloor)->Arg(size)->Unit(ms);
+        benchmark::RegisterBenchmark("article_editor/program", showMenu)->Arg(size)->Unit(ms);
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
