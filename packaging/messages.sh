@@ -23,6 +23,13 @@ hasDisplay() {
     [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]
 }
 
+# inLines: standard input in lines of 64 letters, since no dialog breaks a long path by itself. The
+# blanks that French has beside its marks hold together.
+inLines() {
+    sed -E 's/« /« /g; s/ ([»;:?])/ \1/g; s/[^ ]{64}/& /g' |
+        sed -E 's/.{1,64}( |$)/&\n/g; s/\n$//'
+}
+
 # box KIND MESSAGE: shows a dialog (error, warning or info) where there is a display. The lock is
 # not held meanwhile by anything that the dialog leaves behind.
 box() {
@@ -30,18 +37,18 @@ box() {
     (
         exec 9>&-
         useUtf8
+        lines=$(printf '%s\n' "$2" | inLines)
         if command -v zenity; then
-            zenity "--$1" --no-markup --width=420 --title=Vendel --text="$2"
+            zenity "--$1" --no-markup --no-wrap --title=Vendel --text="$lines"
         elif command -v kdialog; then
             case $1 in
-            error) kdialog --title Vendel --error "$2" ;;
-            warning) kdialog --title Vendel --sorry "$2" ;;
-            *) kdialog --title Vendel --msgbox "$2" ;;
+            error) kdialog --title Vendel --error "$lines" ;;
+            warning) kdialog --title Vendel --sorry "$lines" ;;
+            *) kdialog --title Vendel --msgbox "$lines" ;;
             esac
         elif command -v xmessage; then
-            printf '%s\n' "$2" | fold -s -w 64 |
-                xmessage -center -title Vendel -buttons OK -default OK \
-                    -xrm '*international: true' -file -
+            xmessage -center -title Vendel -buttons OK -default OK -xrm '*international: true' \
+                "$lines"
         fi
     ) >/dev/null 2>&1
     return 0

@@ -47,8 +47,8 @@ clean_up() {
 trap clean_up EXIT
 
 echo "Making a clean Debian $codename"
-debootstrap --variant=minbase "$codename" "$tree" "$mirror" >"$work/debootstrap.log" 2>&1 || {
-    tail -n 3 "$work/debootstrap.log"
+DEBIAN_FRONTEND=noninteractive debootstrap --variant=minbase "$codename" "$tree" "$mirror" >"$work/debootstrap.log" 2>&1 || {
+    tail -n 5 "$work/debootstrap.log" "$tree/debootstrap/debootstrap.log" 2>/dev/null || true
     skip "debootstrap made no system here"
 }
 
