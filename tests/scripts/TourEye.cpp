@@ -149,6 +149,9 @@ QString partsOf(const QWidget& top, const QString& window)
 QString everything()
 {
     QString text;
+    if (const auto* active = QApplication::activeWindow()) {
+        text += line({QStringLiteral("active"), className(*active)});
+    }
     for (const auto* top : QApplication::topLevelWidgets()) {
         if (!top->isVisible()) {
             continue;
@@ -163,7 +166,8 @@ QString everything()
         } else if (top->inherits("QComboBoxPrivateContainer")) {
             text += itemsOf(*top);
         } else {
-            text += line({QStringLiteral("window"), className(*top)});
+            text
+                += line({QStringLiteral("window"), className(*top), QString::number(top->winId())});
             text += partsOf(*top, className(*top));
         }
     }
