@@ -59,7 +59,7 @@ std::optional<QPoint> mouseMoveOver(
 QString textUnder(const QAbstractItemView& view, QPoint position, int column)
 {
     const QModelIndex index = view.indexAt(position);
-    const QString text = index.sibling(index.row(), column).data().toString();
+    QString text = index.sibling(index.row(), column).data().toString();
     if (text.size() <= longestTipCharacters) {
         return text;
     }

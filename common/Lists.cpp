@@ -59,6 +59,8 @@ void setUpList(QTableView& view, QStandardItemModel& model, const Texts& texts,
         QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
     view.setAlternatingRowColors(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // A row has one line: broken at its first comma, a wide amount would lose all behind it.
+    view.setWordWrap(false);
     // Tab walks through the window; the arrow keys walk through the list.
     view.setTabKeyNavigation(false);
     setUpHeaders(view);

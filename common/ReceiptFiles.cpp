@@ -4,28 +4,28 @@
 #include <QFile>
 #include <QSaveFile>
 
-std::optional<QString> ReceiptFiles::read(const QString& path)
+std::optional<QString> ReceiptFiles::read(const QString& file)
 {
-    QFile file(path);
+    QFile stored(file);
     // Not in text mode: Qt would take the "\r" of Windows line ends away.
-    if (!file.exists() || !file.open(QIODevice::ReadOnly)) {
+    if (!stored.exists() || !stored.open(QIODevice::ReadOnly)) {
         return std::nullopt;
     }
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = stored.readAll();
     const int end = bytes.indexOf('\0');
     return QString::fromUtf8(end < 0 ? bytes : bytes.left(end));
 }
 
-bool ReceiptFiles::replace(const QString& path, const QString& text)
+bool ReceiptFiles::replace(const QString& file, const QString& text)
 {
-    if (!QFile::exists(path)) {
+    if (!QFile::exists(file)) {
         return true;
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    QSaveFile saved(file);
+    if (!saved.open(QIODevice::WriteOnly)) {
         return false;
     }
     const QByteArray bytes = text.toUtf8();
     // A short write is no error to QSaveFile, which would put half a text in the file's place.
-    return file.write(bytes) == bytes.size() && file.flush() && file.commit();
+    return saved.write(bytes) == bytes.size() && saved.flush() && saved.commit();
 }

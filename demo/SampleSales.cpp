@@ -76,6 +76,7 @@ std::vector<std::chrono::milliseconds> drawTickets(Dice& dice, std::chrono::week
     const int count = (isBusy ? 38 : 22) + dice.below(10);
     const int openMs = static_cast<int>(std::chrono::milliseconds(closing - opening).count());
     std::vector<std::chrono::milliseconds> times;
+    times.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         times.push_back(opening + std::chrono::milliseconds(dice.below(openMs)));
     }

@@ -17,8 +17,7 @@ FormVendelAbout::FormVendelAbout(QWidget* parent)
         ui_->lbl_QPixmap->setPixmap(QPixmap(QStringLiteral("AproposdeImage.png")));
         const QString contact
             = tr("<p><b>%1</b><br>%2</p>"
-                 "<p>Caisse enregistreuse pour une boutique ou un bar</p>"
-                 "<p>Licence MIT</p>"
+                 "<p>Caisse enregistreuse sous licence MIT</p>"
                  "<p>Les données du magasin se trouvent dans le dossier<br>%3</p>");
         ui_->txt_Edit->setHtml(contact.arg(ui_->lbl_ProductName->text(), ui_->lbl_Version->text(),
             QDir::currentPath().toHtmlEscaped()));

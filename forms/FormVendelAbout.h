@@ -12,6 +12,7 @@ class Ui_FormVendelAbout;
 class FormVendelAbout : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelAbout)
 
 public:
     explicit FormVendelAbout(QWidget* parent = nullptr);

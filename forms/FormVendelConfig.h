@@ -12,6 +12,7 @@ class Ui_FormVendelConfig;
 class FormVendelConfig : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelConfig)
 
 public:
     explicit FormVendelConfig(QWidget* parent = nullptr);

@@ -13,6 +13,7 @@ class Ui_FormVendelFormulaireTicket;
 class FormVendelFormulaireTicket : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelFormulaireTicket)
 
 public:
     explicit FormVendelFormulaireTicket(QWidget* parent = nullptr);

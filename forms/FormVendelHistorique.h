@@ -22,6 +22,7 @@ class Ui_FormVendelHistorique;
 class FormVendelHistorique : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelHistorique)
 
 public:
     explicit FormVendelHistorique(QWidget* parent = nullptr);

@@ -19,6 +19,7 @@ class Ui_FormVendelSaisieArticle;
 class FormVendelSaisieArticle : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelSaisieArticle)
 
 public:
     explicit FormVendelSaisieArticle(QWidget* parent = nullptr);

@@ -13,6 +13,7 @@ class Ui_FormVendelSaisieStock;
 class FormVendelSaisieStock : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelSaisieStock)
 
 public:
     explicit FormVendelSaisieStock(QWidget* parent = nullptr);

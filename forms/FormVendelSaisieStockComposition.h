@@ -11,6 +11,7 @@ class Ui_FormVendelSaisieStockComposition;
 class FormVendelSaisieStockComposition : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelSaisieStockComposition)
 
 public:
     /// For the stock article \a id, named \a article; \a parent is the FormVendelSaisieStock whose

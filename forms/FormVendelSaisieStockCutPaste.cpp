@@ -16,7 +16,7 @@ using namespace StockLists;
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockCutPasteMessages"};
-constexpr QLatin1String separator(", ");
+const QLatin1String separator(", ");
 } // namespace
 
 FormVendelSaisieStockCutPaste::FormVendelSaisieStockCutPaste(QWidget* parent)

@@ -14,6 +14,7 @@ class Ui_FormVendelSaisieStockCutPaste;
 class FormVendelSaisieStockCutPaste : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelSaisieStockCutPaste)
 
 public:
     /// \a parent is the FormVendelSaisieStock whose recipe list a move empties.

@@ -12,6 +12,7 @@ class Ui_FormVendelSaisieStockMaj;
 class FormVendelSaisieStockMaj : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelSaisieStockMaj)
 
 public:
     /// \a parent is the FormVendelSaisieStock that shows the outcome.

@@ -12,6 +12,7 @@ class Ui_FormVendelStockCalculation;
 class FormVendelStockCalculation : public QDialog
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormVendelStockCalculation)
 
 public:
     /// For the sales from \a date1 to \a date2, month first with or without a time of day; a second

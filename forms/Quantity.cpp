@@ -7,7 +7,7 @@
 
 QString formatQuantity(const std::string& text, int decimals)
 {
-    const QString shown = QString::fromStdString(text);
+    QString shown = QString::fromStdString(text);
     if (!Tools::isNum(shown)) {
         return shown;
     }

@@ -11,11 +11,12 @@ declare -A packages=(
         desktop-file-utils appstream man-db"
     [lint]="git shellcheck clang-format clang-tidy clazy cppcheck reuse"
     [package]="dpkg-dev file lintian"
+    [package-test]="debootstrap sqlite3 xdotool xvfb"
     [bench]="libbenchmark-dev"
     [fuzz]="clang libclang-rt-dev"
 )
 usage="usage: scripts/install.sh [--list] GROUP...
-  groups: build run test lint package bench fuzz"
+  groups: build run test lint package package-test bench fuzz"
 
 list=false
 wanted=()

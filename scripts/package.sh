@@ -1,17 +1,26 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Builds the Debian package into build/package and shows it to lintian.
+# Builds the Debian package into build/package, shows it to lintian and, if asked, tries it in a
+# system that holds nothing else.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
-usage="usage: scripts/package.sh"
+usage="usage: scripts/package.sh [--test]
+  --test   installs the package in a clean Debian, starts the till there and removes it again;
+           takes some minutes, and is skipped where the machine does not allow it"
+
+try=false
 for argument in "$@"; do
     case $argument in
+        --test) try=true ;;
         -h | --help) say "$usage" && exit ;;
         *) unknown_option "$usage" "$argument" ;;
     esac
 done
 
 "$root/scripts/install.sh" build package
+if $try; then
+    "$root/scripts/install.sh" package-test
+fi
 
 # The distribution's own flags: hardened, and without the build's path in the program.
 flags() { DEB_BUILD_MAINT_OPTIONS=hardening=+all dpkg-buildflags --get "$1"; }
@@ -35,4 +44,10 @@ package=$(echo "$tree"/vendel_*.deb)
 say "Checking it with lintian"
 lintian --fail-on error,warning --tag-display-limit 0 "$package" \
     || fail "lintian is not content with $package"
+if $try; then
+    status=0
+    "$root/tests/packaging/clean_tree.sh" "$package" || status=$?
+    # 77 says that the machine does not allow the test, which is no fault of the package.
+    [ $status -eq 0 ] || [ $status -eq 77 ] || fail "the package failed in a clean system"
+fi
 say "The package is $package"

@@ -82,7 +82,7 @@ void TestFormVendelShell::anExistingFileOfAnyKindStaysAsItIs()
 void TestFormVendelShell::theClockTicksTenTimesASecond()
 {
     const Shop shop;
-    const FormVendel form;
+    FormVendel form;
     const auto* clock = form.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
     QVERIFY(clock != nullptr);
     QVERIFY(clock->isActive());

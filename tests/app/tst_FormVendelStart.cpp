@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendelStart.h"
+#include "tests/support/Captured.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
 #include <QLabel>
@@ -11,23 +13,51 @@ class TestFormVendelStart : public QObject
 
 private slots:
     void looksLikeTheSplash();
+    void showsItsTitle();
+    void isTranslated();
     void closesAtTheFifthTick();
+    void closesByItself();
+    void everySlotFindsItsWidget();
 };
 
 void TestFormVendelStart::looksLikeTheSplash()
 {
     QWidget opener;
     FormVendelStart splash(&opener);
+    QCOMPARE(splash.objectName(), QStringLiteral("FormVendelStart"));
     QCOMPARE(splash.size(), QSize(445, 186));
     QCOMPARE(splash.minimumSize(), QSize(445, 186));
     QCOMPARE(splash.maximumSize(), QSize(445, 186));
+    QCOMPARE(splash.sizeIncrement(), QSize(445, 186));
+    QCOMPARE(splash.layoutDirection(), Qt::LeftToRight);
+    QCOMPARE(splash.styleSheet(), QStringLiteral("background-color: rgb(114, 159, 207)"));
     QCOMPARE(splash.windowModality(), Qt::WindowModal);
     QVERIFY(splash.isModal());
+    QVERIFY(!splash.testAttribute(Qt::WA_DeleteOnClose));
     QCOMPARE(splash.windowTitle(), QStringLiteral("Dialog"));
+    QCOMPARE(splash.parentWidget(), &opener);
+}
+
+void TestFormVendelStart::showsItsTitle()
+{
+    QWidget opener;
+    FormVendelStart splash(&opener);
+    QCOMPARE(splash.findChildren<QLabel*>().size(), 1);
     const auto& title = child<QLabel>(splash, "lbl_Titre");
     QCOMPARE(title.text(), QStringLiteral("Système Vendel"));
     QCOMPARE(title.geometry(), QRect(16, 57, 417, 63));
     QCOMPARE(title.font().pointSize(), 40);
+    QCOMPARE(title.alignment(), Qt::Alignment(Qt::AlignCenter));
+}
+
+void TestFormVendelStart::isTranslated()
+{
+    Translation translation;
+    translation.add(QStringLiteral("FormVendelStart"), QStringLiteral("Système Vendel"),
+        QStringLiteral("Vendel System"));
+    QWidget opener;
+    FormVendelStart splash(&opener);
+    QCOMPARE(child<QLabel>(splash, "lbl_Titre").text(), QStringLiteral("Vendel System"));
 }
 
 void TestFormVendelStart::closesAtTheFifthTick()
@@ -41,6 +71,25 @@ void TestFormVendelStart::closesAtTheFifthTick()
     }
     QVERIFY(QMetaObject::invokeMethod(&splash, "on_timeout"));
     QVERIFY(!splash.isVisible());
+}
+
+void TestFormVendelStart::closesByItself()
+{
+    QWidget opener;
+    FormVendelStart splash(&opener);
+    splash.show();
+    QTest::qWait(4000);
+    QVERIFY(splash.isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!splash.isVisible(), 20000);
+}
+
+void TestFormVendelStart::everySlotFindsItsWidget()
+{
+    const CapturedLog log;
+    QWidget opener;
+    const FormVendelStart splash(&opener);
+    QCOMPARE(log.warnings(), QStringList());
+    QCOMPARE(log.criticals(), QStringList());
 }
 
 VENDEL_TEST_MAIN(TestFormVendelStart)

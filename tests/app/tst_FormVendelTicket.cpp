@@ -373,7 +373,7 @@ void TestFormVendelTicket::keepsTheTicketWhenItCannotBeTotalled()
     QWidget opener;
     FormVendelTicket window(&opener);
     QCOMPARE(log.criticals().size(), 1);
-    QVERIFY(log.criticals().first().startsWith(
+    QVERIFY(log.criticals().constFirst().startsWith(
         QStringLiteral("Errors FormVendelTicket Constructor : ")));
     QVERIFY(!output.text().contains("delete"));
     QCOMPARE(receiptOf(window).toPlainText(), QString());

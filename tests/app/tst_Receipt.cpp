@@ -3,6 +3,7 @@
 #include "tests/app/PrintedReceipt.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/Translation.h"
 
 #include <stdexcept>
 
@@ -34,6 +35,8 @@ private slots:
     void aRateThatIsNoNumberIsZero();
     void theRateIsFoundInAnyCase();
     void theRuleIsFortyEightDashes();
+    void aTranslationChangesTheReceiptAndTheTitleMark();
+    void theReceiptsOwnTranslationComesFirst();
     void withoutATicketTableThereIsNoReceipt();
 };
 
@@ -310,6 +313,58 @@ void TestReceipt::theRuleIsFortyEightDashes()
     const Shop shop;
     putOnTicket(shop, "Eau", "1");
     QVERIFY(printedReceipt().contains("\r\n" + QByteArray(48, '-') + "\r\n"));
+}
+
+void TestReceipt::aTranslationChangesTheReceiptAndTheTitleMark()
+{
+    const QString context = QStringLiteral("FormVendelMessages");
+    const Shop shop;
+    Translation english;
+    english.add(context, QStringLiteral("titre:"), QStringLiteral("title:"));
+    english.add(context, QStringLiteral("Produit"), QStringLiteral("Item"));
+    english.add(context, QStringLiteral("dd/MM/yyyy"), QStringLiteral("MM-dd-yyyy"));
+    english.add(context, QStringLiteral("Qtité  "), QStringLiteral("Qty    "));
+    english.add(context, QStringLiteral("Article"), QStringLiteral("Name"));
+    english.add(context, QStringLiteral("Prix U"), QStringLiteral("Price"));
+    english.add(context, QStringLiteral("Prix * Qtité"), QStringLiteral("Price * Qty"));
+    english.add(context, QStringLiteral("Total ticket"), QStringLiteral("Ticket"));
+    english.add(context, QStringLiteral("TVA "), QStringLiteral("VAT "));
+    english.add(context, QStringLiteral("TOTAL "), QStringLiteral("SUM "));
+    writeHeader(shop, "title:Paul\ntitre:Anne");
+    putOnTicket(shop, "Eau", "7.5");
+    COMPARE_BYTES(printedReceipt(),
+        "\x1b\x21\x30\x1b\x61\x01"
+        "Paul\r\n"
+        "\x1b\x21\x02\x1b\x61\x30"
+        "\x1b\x45\x01"
+        "                  titre:Anne                  \r\n"
+        "\x1b\x45\x02"
+        "\r\n"
+        "\r\n"
+        "Item\t\t\t     03-05-2024 09:07:03\r\n"
+        "\r\n"
+        "Qty    Name\t\tPrice   Price * Qty\r\n"
+        "\r\n"
+        "1  Eau            \t$7.50       $7.50\r\n"
+        "\r\n"
+        "->  Ticket\t\t    $7.50\r\n"
+        "->  VAT 0.00%\t\t\t    $0.00\r\n"
+        "------------------------------------------------\r\n"
+        "\x1b\x21\x20\x1b\x45\x01"
+        "->  SUM \t    $7.51\r\n"
+        "\x1b\x45\x02\x1b\x21\x02"
+        "\r\n");
+}
+
+void TestReceipt::theReceiptsOwnTranslationComesFirst()
+{
+    const Shop shop;
+    Translation english;
+    english.add(
+        QStringLiteral("FormVendelMessages"), QStringLiteral("Produit"), QStringLiteral("Item"));
+    english.add(QStringLiteral("FormVendelTicketMessages"), QStringLiteral("Produit"),
+        QStringLiteral("Product"));
+    QVERIFY(printedReceipt().startsWith("\r\n\r\nProduct\t\t\t     05/03/2024"));
 }
 
 void TestReceipt::withoutATicketTableThereIsNoReceipt()

@@ -33,7 +33,8 @@ inline bool showActive(QWidget& window)
 inline QByteArray diagnostics(CapturedOutput& output)
 {
     QByteArray lines;
-    for (const QByteArray& line : output.text().split('\n')) {
+    const auto written = output.text().split('\n');
+    for (const QByteArray& line : written) {
         if (line.startsWith("Errors Db::DbLoad")) {
             lines += line + '\n';
         }
@@ -44,7 +45,8 @@ inline QByteArray diagnostics(CapturedOutput& output)
 /// Whether any button of \a window is pressed by Return while another widget has the focus.
 inline bool anyAutoDefault(const QWidget& window)
 {
-    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+    const auto buttons = window.findChildren<QAbstractButton*>();
+    for (const auto* button : buttons) {
         if (button->property("autoDefault").toBool()) {
             return true;
         }
@@ -55,7 +57,8 @@ inline bool anyAutoDefault(const QWidget& window)
 /// Whether the shown tip stands beside \a cursor (screen pixels).
 inline bool tipStandsAt(QPoint cursor)
 {
-    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+    const auto widgets = QApplication::topLevelWidgets();
+    for (const QWidget* widget : widgets) {
         if (widget->inherits("QTipLabel") && widget->isVisible()) {
             return (widget->pos() - cursor).manhattanLength() < 40;
         }

@@ -112,9 +112,8 @@ void TestFormVendelAbout::theTextTellsNameVersionLicenceAndFolder()
     const Shop shop;
     FormVendelAbout window;
     QCOMPARE(child<QTextEdit>(window, "txt_Edit").toPlainText(),
-        QStringLiteral("Système Vendel\nVersion 1.0.0.0\nCaisse enregistreuse pour une boutique ou "
-                       "un bar\nLicence MIT\nLes données du magasin se trouvent dans le "
-                       "dossier\n")
+        QStringLiteral("Système Vendel\nVersion 1.0.0.0\nCaisse enregistreuse sous licence "
+                       "MIT\nLes données du magasin se trouvent dans le dossier\n")
             + shop.path());
 }
 
@@ -199,8 +198,8 @@ void TestFormVendelAbout::failuresAreLogged()
     disconnect(once);
     const FailingText failure("Version 1.0.0.0");
     const FormVendelAbout another;
-    QCOMPARE(
-        log.criticals().last(), QStringLiteral("Errors FormVendelAbout Constructor : no text"));
+    QCOMPARE(log.criticals().constLast(),
+        QStringLiteral("Errors FormVendelAbout Constructor : no text"));
     QCOMPARE(log.criticals().size(), 2);
 }
 

@@ -231,7 +231,7 @@ void TestFormVendelConfig::aMissingSettingIsLogged()
     FormVendelConfig window;
     window.show();
     QCOMPARE(log.criticals().size(), 1);
-    QVERIFY(log.criticals().front().startsWith(
+    QVERIFY(log.criticals().constFirst().startsWith(
         QLatin1String("Errors FormVendelConfig Constructor : ")));
     QCOMPARE(switchOf(window), QStringLiteral("OFF"));
     QCOMPARE(rateOf(window), QString());

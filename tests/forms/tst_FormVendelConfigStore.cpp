@@ -186,8 +186,8 @@ void TestFormVendelConfigStore::failuresAreLogged()
     }
     connect(&window, &QDialog::rejected, [] { throw std::runtime_error("no closing"); });
     click(window, "btn_Maj_Epson");
-    QCOMPARE(
-        log.criticals().last(), QStringLiteral("Errors on_btn_Maj_Epson_clicked : no closing"));
+    QCOMPARE(log.criticals().constLast(),
+        QStringLiteral("Errors on_btn_Maj_Epson_clicked : no closing"));
     QCOMPARE(log.criticals().size(), 2);
 }
 

@@ -28,7 +28,8 @@ const auto afterTheTip = QStringLiteral("\nPour sélectionner la date dans premi
 
 QWidget* shownTip()
 {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
         if (widget->inherits("QTipLabel") && widget->isVisible()) {
             return widget;
         }
@@ -153,6 +154,14 @@ void TestFormVendelHistorique::fitsASmallScreen()
         const int scrollBar = view.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         QVERIFY(view.viewport()->width() >= view.horizontalHeader()->length() + scrollBar);
     }
+    const auto& sales = child<QTableView>(history.window, "tableView1");
+    const int margins = 2 * (sales.style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 1;
+    const auto fits = [&](const QString& text, int column) {
+        return sales.fontMetrics().horizontalAdvance(text) + margins < sales.columnWidth(column);
+    };
+    QVERIFY(fits(QStringLiteral("1,234,567.89$"), 1));
+    QVERIFY(fits(QStringLiteral("05/01/2019 10:20:30.123"), 2));
+    QVERIFY(!sales.wordWrap());
     auto& field = child<QLineEdit>(history.window, "txt_First_Date");
     QVERIFY(field.fontMetrics().horizontalAdvance(QStringLiteral("05/01/2019 10:20:30.123"))
         < field.width() - 10);
@@ -161,7 +170,8 @@ void TestFormVendelHistorique::fitsASmallScreen()
 void TestFormVendelHistorique::noButtonListensToReturn()
 {
     History history;
-    for (const QPushButton* button : history.window.findChildren<QPushButton*>()) {
+    const auto buttons = history.window.findChildren<QPushButton*>();
+    for (const QPushButton* button : buttons) {
         QVERIFY(!button->autoDefault());
         QVERIFY(!button->isDefault());
     }

@@ -91,8 +91,8 @@ void TestFormVendelSaisieArticleFields::eachSurplusLetterHasItsBox()
     const AnswerBox box;
     editor.paste("txt_Article", QStringLiteral("ABCDEFGHIJKLMNOPQRST"));
     QCOMPARE(box.texts().size(), 5);
-    QCOMPARE(
-        box.texts().last(), QStringLiteral("Nombre de caractères ne doient pas dépasser : 15"));
+    QCOMPARE(box.texts().constLast(),
+        QStringLiteral("Nombre de caractères ne doient pas dépasser : 15"));
     QCOMPARE(editor.text("txt_Article"), QStringLiteral("ABCDEFGHIJKLMNO"));
 }
 
@@ -260,14 +260,14 @@ void TestFormVendelSaisieArticleFields::failuresAreLogged()
     {
         const FailingText failure("Menu\nDblClick sur : ");
         hoverCell(editor.window, "tableView", 0, 2);
-        QCOMPARE(log.criticals().last(), prefix("eventFilter"));
+        QCOMPARE(log.criticals().constLast(), prefix("eventFilter"));
     }
     connect(&child<QLineEdit>(editor.window, "txt_Montant"), &QLineEdit::textChanged,
         [] { throw std::runtime_error("no text"); });
     doubleClickCell(editor.window, "tableView", 0, 2);
-    QCOMPARE(log.criticals().last(), prefix("on_tableView_doubleClicked"));
+    QCOMPARE(log.criticals().constLast(), prefix("on_tableView_doubleClicked"));
     click(editor.window, "btn_Effacer_Saisie");
-    QCOMPARE(log.criticals().last(), prefix("on_btn_Effacer_Saisie_clicked"));
+    QCOMPARE(log.criticals().constLast(), prefix("on_btn_Effacer_Saisie_clicked"));
     QCOMPARE(log.criticals().size(), 4);
 }
 

@@ -164,7 +164,7 @@ void TestFormVendelSaisieArticleList::duplicatesAreAskedForWithEachRow()
           "column: id\n";
     QCOMPARE(said, question + question + question + count);
     QCOMPARE(log.criticals().size(), 1);
-    QVERIFY(log.criticals().front().startsWith(
+    QVERIFY(log.criticals().constFirst().startsWith(
         QLatin1String("Errors FormVendelSaisieArticle Display : ")));
 }
 

@@ -172,7 +172,7 @@ void TestFormVendelSaisieArticleSearch::theStatementsHoldTheTerm()
             "not in (select max(id) as id from Article group by article having count(article) > 1) "
             "group by article) as z no such table: Article\n"));
     QCOMPARE(log.criticals().size(), 1);
-    QVERIFY(log.criticals().front().startsWith(
+    QVERIFY(log.criticals().constFirst().startsWith(
         QLatin1String("Errors FormVendelSaisieArticle on_btn_Rechercher_clicked : ")));
 }
 

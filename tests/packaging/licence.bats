@@ -3,7 +3,7 @@
 # Every file says under which licence it stands.
 
 setup() {
-    cd "$VENDEL_SOURCE"
+    cd "$VENDEL_SOURCE" || return
 }
 
 # sources: every file that can hold a comment and is ours.

@@ -98,7 +98,8 @@ QString rowsOf(const QTableView& view, const QString& window)
 QString actionsOf(const QMenu& menu)
 {
     QString text;
-    for (const QAction* action : menu.actions()) {
+    const auto actions = menu.actions();
+    for (const QAction* action : actions) {
         text += line({QStringLiteral("action"), withoutMnemonic(action->text()),
             middle(menu, menu.actionGeometry(const_cast<QAction*>(action)))});
     }
@@ -121,12 +122,14 @@ QString itemsOf(const QWidget& popup)
 QString partsOf(const QWidget& top, const QString& window)
 {
     QString text;
-    for (const auto* widget : top.findChildren<QWidget*>()) {
+    const auto widgets = top.findChildren<QWidget*>();
+    for (const auto* widget : widgets) {
         if (!widget->isVisible() || widget->window() != &top) {
             continue;
         }
         if (const auto* bar = qobject_cast<const QMenuBar*>(widget)) {
-            for (QAction* action : bar->actions()) {
+            const auto menus = bar->actions();
+            for (QAction* action : menus) {
                 text += line({QStringLiteral("menu"), window, withoutMnemonic(action->text()),
                     middle(*bar, bar->actionGeometry(action))});
             }
@@ -152,7 +155,8 @@ QString everything()
     if (const auto* active = QApplication::activeWindow()) {
         text += line({QStringLiteral("active"), className(*active)});
     }
-    for (const auto* top : QApplication::topLevelWidgets()) {
+    const auto windows = QApplication::topLevelWidgets();
+    for (const auto* top : windows) {
         if (!top->isVisible()) {
             continue;
         }

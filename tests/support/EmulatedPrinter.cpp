@@ -85,8 +85,8 @@ EmulatedPrinter::EmulatedPrinter()
 { }
 
 EmulatedPrinter::EmulatedPrinter(const Setup& setup)
+    : folder_(makeFolder())
 {
-    folder_ = makeFolder();
     start(argumentsFor(setup, folder_ + "/record"));
     const std::string directory = readLine();
     if (directory.empty()) {

@@ -16,7 +16,7 @@ std::string padded(int number)
 }
 
 // Device, configuration, one printer interface, bulk OUT 0x01 and bulk IN 0x82.
-// Source: Universal Serial Bus Specification 2.0, chapter 9.6; printer class 1.1.
+// Source: Universal Serial Bus 2.0, chapter 9.6; printer class 1.1.
 std::string printerDescriptors(const EmulatedPrinterBus::Ids& ids)
 {
     const auto swapped = [](const std::string& id) { return id.substr(2) + id.substr(0, 2); };

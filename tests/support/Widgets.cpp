@@ -84,7 +84,8 @@ int rowCount(QWidget& window, const char* name)
 void chooseMenu(QWidget& window, const char* menu, const char* action)
 {
     auto& popup = child<QMenu>(window, menu);
-    for (QWidget* widget : popup.menuAction()->associatedWidgets()) {
+    const auto widgets = popup.menuAction()->associatedWidgets();
+    for (QWidget* widget : widgets) {
         if (auto* bar = qobject_cast<QMenuBar*>(widget)) {
             QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
                 bar->actionGeometry(popup.menuAction()).center());
@@ -104,7 +105,8 @@ QString tipText()
 
 QRect tipGeometry()
 {
-    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+    const auto widgets = QApplication::topLevelWidgets();
+    for (const QWidget* widget : widgets) {
         if (widget->inherits("QTipLabel") && widget->isVisible()) {
             return widget->geometry();
         }

@@ -200,7 +200,8 @@ void eachWindow()
 QStringList clippedIn(const Opening& opening)
 {
     QStringList clipped;
-    for (const ShownText& text : textsOf(opening)) {
+    const auto texts = textsOf(opening);
+    for (const ShownText& text : texts) {
         if (text.missing > 0) {
             clipped << QStringLiteral("%1: \"%2\" lacks %3 pixels")
                            .arg(text.place, text.text, QString::number(text.missing));
@@ -213,7 +214,8 @@ QStringList frenchWordsOf(const Opening& opening)
 {
     const InFrench french;
     QStringList words;
-    for (const ShownText& text : textsOf(opening)) {
+    const auto texts = textsOf(opening);
+    for (const ShownText& text : texts) {
         words << wordsOf(text.text);
     }
     return words;
@@ -231,8 +233,10 @@ void TestEnglishWindows::noWindowStillShowsFrench()
     const QStringList french = frenchWordsOf(windows()[number]);
     QVERIFY(!french.isEmpty());
     QStringList left;
-    for (const ShownText& text : textsOf(windows()[number])) {
-        for (const QString& word : wordsOf(text.text)) {
+    const auto texts = textsOf(windows()[number]);
+    for (const ShownText& text : texts) {
+        const auto words = wordsOf(text.text);
+        for (const QString& word : words) {
             if (french.contains(word) && !equalWords().contains(word)) {
                 left << text.place + QLatin1String(": ") + word;
             }

@@ -206,7 +206,8 @@ void TestTranslation::lineBreaksStayWhereTheyAre()
 void TestTranslation::blanksAroundATextStay()
 {
     const QLatin1Char blank(' ');
-    for (const auto& text : found(catalogueContext)) {
+    const auto texts = found(catalogueContext);
+    for (const auto& text : texts) {
         for (const QString& form : text.forms) {
             QVERIFY2(form.startsWith(blank) == text.source.startsWith(blank), qPrintable(form));
             QVERIFY2(form.endsWith(blank) == text.source.endsWith(blank), qPrintable(form));
@@ -229,7 +230,8 @@ void TestTranslation::placesOfInsertedTextsStay()
 
 void TestTranslation::theMarkOfATitleLineStays()
 {
-    for (const auto& text : found(catalogueContext)) {
+    const auto texts = found(catalogueContext);
+    for (const auto& text : texts) {
         if (text.source == QLatin1String("titre:")) {
             QCOMPARE(text.forms, QStringList{QStringLiteral("titre:")});
             return;
@@ -241,7 +243,8 @@ void TestTranslation::theMarkOfATitleLineStays()
 void TestTranslation::receiptHeadingsKeepTheirColumns()
 {
     QHash<QString, QString> headings;
-    for (const auto& text : found(catalogueContext)) {
+    const auto texts = found(catalogueContext);
+    for (const auto& text : texts) {
         headings[text.source] = text.forms.first();
     }
     QCOMPARE(headings[QStringLiteral("Qtité  ")], QStringLiteral("Qty    "));

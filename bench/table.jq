@@ -1,0 +1,31 @@
+# SPDX-License-Identifier: MIT
+# One line for each work from the reports of the measurements, in milliseconds of the processor. The
+# best of the repetitions counts: what else the machine does comes and goes.
+def shown:
+    if . == null then "-" elif type == "number" then . * 1000 | round / 1000 | tostring else . end;
+
+def measurement:
+    {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3} as $milliseconds
+    | {
+        work: (.run_name | gsub("/(manual_time|iterations:[0-9]+|program|floor)\\b"; "")),
+        isFloor: (.run_name | test("/floor\\b")),
+        time: ((if .run_name | test("/manual_time") then .real_time else .cpu_time end)
+            * $milliseconds[.time_unit]),
+        limit,
+        limit_ms
+    };
+
+def line:
+    (map(select(.isFloor | not).time) | min) as $program
+    | (map(select(.isFloor).time) | min) as $floor
+    | (if $floor then $program / $floor else null end) as $ratio
+    | .[0] as {$work, $limit, $limit_ms}
+    | [$work, $program, $floor, $ratio]
+    + if $limit then ["ratio \($limit)", if $ratio <= $limit then "kept" else "missed" end]
+      elif $limit_ms then ["\($limit_ms) ms", if $program <= $limit_ms then "kept" else "missed" end]
+      else ["-", "-"] end;
+
+["work", "program ms", "floor ms", "ratio", "limit", ""],
+([.[].benchmarks[] | select(.run_type == "iteration") | measurement] | group_by(.work)[] | line)
+| map(shown)
+| @tsv

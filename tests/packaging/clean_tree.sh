@@ -1,0 +1,121 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# clean_tree.sh PACKAGE: installs the package into a Debian system that holds nothing else, starts
+# the till there on a virtual display, and removes the package again. Ends with 77, and says why,
+# where the machine does not allow it. The packages come from where this machine's own apt has them.
+set -euo pipefail
+
+package=$(readlink -f "$1")
+
+skip() {
+    printf 'skipped: %s\n' "$*"
+    exit 77
+}
+
+fail() {
+    printf 'failed: %s\n' "$*" >&2
+    exit 1
+}
+
+[ "$(id -u)" -eq 0 ] || skip "only root makes a system of its own"
+for tool in debootstrap Xvfb xdotool sqlite3; do
+    command -v "$tool" >/dev/null || skip "there is no $tool here"
+done
+# Mounts end with the test, however it ends.
+if [ -z "${VENDEL_OWN_MOUNTS:-}" ]; then
+    unshare --mount true 2>/dev/null || skip "this machine lets nobody mount"
+    VENDEL_OWN_MOUNTS=1 exec unshare --mount "$0" "$@"
+fi
+
+codename=$(. /etc/os-release && echo "${VERSION_CODENAME:-}")
+# shellcheck disable=SC2016
+mirror=$(apt-get indextargets --format '$(CODENAME) $(COMPONENT) $(REPO_URI)' \
+    'Created-By: Packages' | sed -n "s/^$codename main //p" | head -n 1)
+[ -n "$mirror" ] || skip "this machine's apt knows no archive of Debian $codename"
+
+work=$(mktemp -d)
+tree=$work/tree
+display=
+till=
+clean_up() {
+    [ -z "$till" ] || kill "$till" 2>/dev/null || true
+    [ -z "$display" ] || kill "$display" 2>/dev/null || true
+    wait || true
+    ! mountpoint -q "$tree/proc" || umount "$tree/proc"
+    rm -rf "$work"
+}
+trap clean_up EXIT
+
+echo "Making a clean Debian $codename"
+debootstrap --variant=minbase "$codename" "$tree" "$mirror" >"$work/debootstrap.log" 2>&1 || {
+    tail -n 3 "$work/debootstrap.log"
+    skip "debootstrap made no system here"
+}
+
+echo "Installing the package and what it names"
+# This machine's apt resolves and fetches for the tree, which then needs no network of its own.
+cp "$package" "$tree/var/cache/apt/archives"
+apt-get -q -y --no-install-recommends --download-only \
+    -o Dir::State::status="$tree/var/lib/dpkg/status" \
+    -o Dir::Cache::archives="$tree/var/cache/apt/archives" \
+    install "$package" >"$work/fetch.log" 2>&1 || {
+    cat "$work/fetch.log"
+    grep -q 'unmet dependencies' "$work/fetch.log" && fail "the package names what there is not"
+    skip "apt fetched nothing"
+}
+mountpoint -q "$tree/proc" || mount -t proc proc "$tree/proc"
+in_tree() {
+    chroot "$tree" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 \
+        DEBIAN_FRONTEND=noninteractive "$@"
+}
+in_tree sh -c 'dpkg --unpack /var/cache/apt/archives/*.deb && dpkg --configure --pending' \
+    >"$work/install.log" 2>&1 || {
+    tail -n 20 "$work/install.log"
+    fail "the package could not be installed"
+}
+[ -z "$(in_tree dpkg --audit)" ] || fail "the package is not installed whole"
+[ -z "$(in_tree dpkg --verify vendel)" ] || fail "installed files differ from the package's"
+
+echo "Starting the till in it"
+in_tree useradd --create-home shop
+exec 3<>"$work/display"
+Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 >"$work/xvfb.log" 2>&1 &
+display=$!
+until [ -s "$work/display" ]; do
+    kill -0 "$display" || fail "Xvfb did not start"
+    sleep 0.05
+done
+DISPLAY=:$(cat "$work/display")
+export DISPLAY
+as_shop() {
+    chroot --userspec=shop:shop "$tree" env -i HOME=/home/shop PATH=/usr/bin:/bin \
+        LC_ALL=C.UTF-8 DISPLAY="$DISPLAY" "$@"
+}
+as_shop vendel >"$work/till.log" 2>&1 &
+till=$!
+data=$tree/home/shop/.local/share/vendel
+deadline=$((SECONDS + 60))
+until xdotool search --onlyvisible --name '^Vendel$' >/dev/null 2>&1; do
+    if ! kill -0 "$till" 2>/dev/null || [ $SECONDS -ge $deadline ]; then
+        cat "$work/till.log"
+        fail "the till shows no window"
+    fi
+    sleep 0.1
+done
+[ "$(sqlite3 -readonly "$data/Vendel.db" 'select count(*) from Config')" = 2 ] \
+    || fail "the till made no database"
+for file in EnteteFormulaire.dat PiedFormulaire.dat Vendel.png AproposdeImage.png; do
+    [ -e "$data/$file" ] || fail "the data directory lacks $file"
+done
+! grep -i -e 'could not' -e 'cannot' "$work/till.log" || fail "the till complained"
+as_shop env -u DISPLAY vendel 2>"$work/second.log" && fail "a second till started"
+grep -q 'déjà ouverte' "$work/second.log" || fail "the second till said something else"
+kill "$till"
+till=
+
+echo "Removing it"
+in_tree dpkg --purge vendel >"$work/purge.log" 2>&1 || fail "the package could not be removed"
+left=$(find "$tree/usr" "$tree/etc" "$tree/lib" -xdev -name '*vendel*')
+[ -z "$left" ] || fail "the package left $left"
+[ -s "$data/Vendel.db" ] || fail "the shop's data went with the package"
+echo "The package installs, runs and goes"
