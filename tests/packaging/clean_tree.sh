@@ -54,6 +54,7 @@ debootstrap --variant=minbase "$codename" "$tree" "$mirror" >"$work/debootstrap.
 
 echo "Installing the package and what it names"
 # This machine's apt resolves and fetches for the tree, which then needs no network of its own.
+rm -f "$tree"/var/cache/apt/archives/*.deb
 cp "$package" "$tree/var/cache/apt/archives"
 apt-get -q -y --no-install-recommends --download-only \
     -o Dir::State::status="$tree/var/lib/dpkg/status" \
