@@ -17,7 +17,7 @@
 namespace {
 
 // Held open, or iconv would load its modules anew for each input.
-[[maybe_unused]] const iconv_t held[] = {iconv_open("CP858", "UTF-8"), iconv_open("UTF-8", "CP858"),
+[[gnu::used]] const iconv_t held[] = {iconv_open("CP858", "UTF-8"), iconv_open("UTF-8", "CP858"),
     iconv_open("ISO-2022-JP", "UTF-8"), iconv_open("UTF-32", "UTF-8")};
 
 struct Release

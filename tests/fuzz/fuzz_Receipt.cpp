@@ -21,7 +21,7 @@
 namespace {
 
 // Held open, or iconv would load its module anew for each input.
-[[maybe_unused]] const iconv_t held = iconv_open("CP858", "UTF-8");
+[[gnu::used]] const iconv_t held = iconv_open("CP858", "UTF-8");
 
 constexpr char endOfField = '\xff';
 
