@@ -2,6 +2,7 @@
 // "Afficher" of the article editor, against the same statements through the C API: the question for
 // duplicates runs once for each article.
 #include "app/Application.h"
+#include "bench/Floor.h"
 #include "db/Db.h"
 #include "forms/FormVendelSaisieArticle.h"
 
@@ -15,9 +16,10 @@
 #include <string>
 
 #include <benchmark/benchmark.h>
-#include <sqlite3.h>
 
 namespace {
+constexpr double limit = 1.3;
+
 constexpr const char* articles = "select * from Article order by Article asc";
 constexpr const char* duplicates
     = "select d.id, d.article from (select b.article,b.id from (select article,max(id) from "
@@ -60,27 +62,6 @@ private:
     QTemporaryDir folder_;
 };
 
-/// Opens the database, reads all rows of one statement and closes it again; returns their number.
-int read(const char* sql)
-{
-    sqlite3* database = nullptr;
-    sqlite3_stmt* statement = nullptr;
-    int rows = 0;
-    if (sqlite3_open_v2("Vendel.db", &database, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK
-        && sqlite3_prepare_v2(database, sql, -1, &statement, nullptr) == SQLITE_OK) {
-        const int columns = sqlite3_column_count(statement);
-        while (sqlite3_step(statement) == SQLITE_ROW) {
-            ++rows;
-            for (int column = 0; column < columns; ++column) {
-                benchmark::DoNotOptimize(sqlite3_column_text(statement, column));
-            }
-        }
-    }
-    sqlite3_finalize(statement);
-    sqlite3_close(database);
-    return rows;
-}
-
 void check(benchmark::State& state, benchmark::IterationCount rows)
 {
     if (rows != state.range(0)) {
@@ -91,15 +72,16 @@ void check(benchmark::State& state, benchmark::IterationCount rows)
 void showMenuByFloor(benchmark::State& state)
 {
     const Menu menu(state.range(0));
-    for (auto _ : state) {
-        read(articles);
-        const int rows = read(articles);
-        for (int row = 0; row < rows; ++row) {
-            read(duplicates);
+    for ([[maybe_unused]] auto _ : state) {
+        loadByFloor(articles);
+        const DbRows rows = loadByFloor(articles);
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            loadByFloor(duplicates);
         }
-        read(duplicateCount);
-        check(state, rows);
+        loadByFloor(duplicateCount);
+        check(state, static_cast<benchmark::IterationCount>(rows.size()));
     }
+    state.counters["limit"] = limit;
 }
 
 void showMenu(benchmark::State& state)
@@ -109,11 +91,12 @@ void showMenu(benchmark::State& state)
     editor.show();
     auto* button = editor.findChild<QPushButton*>(QStringLiteral("btn_Afficher"));
     const auto* list = editor.findChild<QTableView*>(QStringLiteral("tableView"));
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         button->click();
         QCoreApplication::processEvents();
         check(state, list->model()->rowCount());
     }
+    state.counters["limit"] = limit;
 }
 } // namespace
 

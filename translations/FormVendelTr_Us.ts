@@ -696,8 +696,8 @@ Paste</translation>
         <translation>Information</translation>
     </message>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;%2&lt;/p&gt;&lt;p&gt;Caisse enregistreuse pour une boutique ou un bar&lt;/p&gt;&lt;p&gt;Licence MIT&lt;/p&gt;&lt;p&gt;Les données du magasin se trouvent dans le dossier&lt;br&gt;%3&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;%2&lt;/p&gt;&lt;p&gt;Cash register for a shop or a bar&lt;/p&gt;&lt;p&gt;MIT licence&lt;/p&gt;&lt;p&gt;The shop&apos;s data lies in the directory&lt;br&gt;%3&lt;/p&gt;</translation>
+        <source>&lt;p&gt;&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;%2&lt;/p&gt;&lt;p&gt;Caisse enregistreuse sous licence MIT&lt;/p&gt;&lt;p&gt;Les données du magasin se trouvent dans le dossier&lt;br&gt;%3&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;%2&lt;/p&gt;&lt;p&gt;Cash register under the MIT license&lt;/p&gt;&lt;p&gt;The shop&apos;s data lies in the directory&lt;br&gt;%3&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

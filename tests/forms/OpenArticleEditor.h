@@ -23,6 +23,10 @@ struct OpenArticleEditor
             shop.sql(("insert into Article (article, prix) values " + articles).c_str());
         }
         window.show();
+        // The window's activation takes any tip away.
+        if (!QTest::qWaitForWindowActive(&window)) {
+            qFatal("the article editor does not become active");
+        }
     }
 
     QString text(const char* field)

@@ -4,6 +4,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/ContextEcho.h"
 #include "tests/support/FailingText.h"
+#include "tests/support/LeakCheck.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Widgets.h"
@@ -186,6 +187,7 @@ void TestFormVendelAbout::theMenuOpensAndClosingDeletesIt()
 
 void TestFormVendelAbout::failuresAreLogged()
 {
+    const LeakCheckPause pause;
     const Shop shop;
     const CapturedLog log;
     FormVendelAbout window;

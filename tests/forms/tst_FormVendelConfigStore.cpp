@@ -4,6 +4,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
+#include "tests/support/LeakCheck.h"
 #include "tests/support/TestMain.h"
 
 #include <utility>
@@ -173,6 +174,7 @@ void TestFormVendelConfigStore::theStatementsAreSplicedFromTheFields()
 
 void TestFormVendelConfigStore::failuresAreLogged()
 {
+    const LeakCheckPause pause;
     const Shop shop;
     const CapturedLog log;
     FormVendelConfig window;

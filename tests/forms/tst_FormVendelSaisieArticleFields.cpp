@@ -3,6 +3,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
+#include "tests/support/LeakCheck.h"
 #include "tests/support/TestMain.h"
 
 #include <QMouseEvent>
@@ -245,6 +246,7 @@ void TestFormVendelSaisieArticleFields::onlyTheListIsWatchedAndNothingIsSwallowe
 
 void TestFormVendelSaisieArticleFields::failuresAreLogged()
 {
+    const LeakCheckPause pause;
     OpenArticleEditor editor("('Cafe', 1)");
     click(editor.window, "btn_Afficher");
     const CapturedLog log;

@@ -241,11 +241,8 @@ void TestFormVendelSaisieStockMaj::troubleIsLogged()
     }
     FormVendelSaisieStockMaj window;
     window.show();
-    {
-        const TroubleAt trouble(QEvent::Close, "FormVendelSaisieStockMaj");
-        const AnswerBox box;
-        click(window, "btn_Update");
-    }
+    const TroubleAt trouble(QEvent::Show, "QMessageBox");
+    click(window, "btn_Update");
     QCOMPARE(log.criticals(),
         cells({"Errors FormVendelSaisieStockMaj Constructor : trouble",
             "Errors FormVendelSaisieStock on_btn_Update_clicked : trouble"}));

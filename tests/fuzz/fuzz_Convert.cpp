@@ -2,6 +2,7 @@
 // Any text to the printer's code page and back: what comes back is what went in, but for a broken
 // end. The other charsets make the result grow, or end it with a shift state.
 #include "common/convert.h"
+#include "tests/fuzz/HeldConversion.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -12,13 +13,12 @@
 #include <optional>
 #include <string>
 
-#include <iconv.h>
-
 namespace {
 
-// Held open, or iconv would load its modules anew for each input.
-[[maybe_unused]] const iconv_t held[] = {iconv_open("CP858", "UTF-8"), iconv_open("UTF-8", "CP858"),
-    iconv_open("ISO-2022-JP", "UTF-8"), iconv_open("UTF-32", "UTF-8")};
+const HeldConversion toPrinter("CP858", "UTF-8");
+const HeldConversion fromPrinter("UTF-8", "CP858");
+const HeldConversion toJapanese("ISO-2022-JP", "UTF-8");
+const HeldConversion toWide("UTF-32", "UTF-8");
 
 struct Release
 {

@@ -4,6 +4,7 @@
 #include "app/Receipt.h"
 #include "app/ReceiptBytes.h"
 #include "common/convert.h"
+#include "tests/fuzz/HeldConversion.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -16,12 +17,9 @@
 #include <string>
 #include <vector>
 
-#include <iconv.h>
-
 namespace {
 
-// Held open, or iconv would load its module anew for each input.
-[[maybe_unused]] const iconv_t held = iconv_open("CP858", "UTF-8");
+const HeldConversion toPrinter("CP858", "UTF-8");
 
 constexpr char endOfField = '\xff';
 

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "forms/FormVendelSaisieStock.h"
+#include "forms/FormVendelSaisieStockComposition.h"
+#include "forms/FormVendelSaisieStockCutPaste.h"
+#include "forms/FormVendelSaisieStockMaj.h"
+#include "tests/forms/ConsumptionSample.h"
+#include "tests/forms/StockSample.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/Translation.h"
+#include "tests/support/Widgets.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableView>
+
+#include <memory>
+
+/// Whether the windows of the stock show all that stands on them.
+class TestStockLayout : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void captionsAreShownWhole_data();
+    void captionsAreShownWhole();
+    void listsNeedNoScrollingSideways();
+};
+
+namespace {
+std::unique_ptr<QWidget> makeWindow(const QString& name)
+{
+    if (name == QLatin1String("editor")) {
+        return std::make_unique<FormVendelSaisieStock>();
+    }
+    if (name == QLatin1String("composition")) {
+        return std::make_unique<FormVendelSaisieStockComposition>(
+            QStringLiteral("Café"), QStringLiteral("1"));
+    }
+    if (name == QLatin1String("update")) {
+        return std::make_unique<FormVendelSaisieStockMaj>();
+    }
+    if (name == QLatin1String("transfer")) {
+        return std::make_unique<FormVendelSaisieStockCutPaste>();
+    }
+    const QString moment = QStringLiteral("12/30/2019 23:59:59.999");
+    return std::make_unique<FormVendelStockCalculation>(moment, moment);
+}
+
+void speakEnglish(Translation& translation)
+{
+    const auto add = [&](const char* french, const char* english) {
+        translation.add(QStringLiteral("FormVendelMessages"), QString::fromUtf8(french),
+            QString::fromUtf8(english));
+    };
+    add("Afficher", "Display");
+    add("Ajouter", "Add");
+    add("Article :", "Article:");
+    add("Couper /\nColler", "Cut /\nPaste");
+    add("Mettre à jour", "Update");
+    add("Mise à Jour", "Update");
+    add("Modifier", "Change");
+    add("Pèriode du", "Period from");
+    add("Qtité", "Qty");
+    add("Consommation", "Consumption");
+    add("Supprimer", "Remove");
+    add("Unité", "Unit");
+    add("Validité", "Validity");
+    add("au", "to");
+}
+
+QStringList clippedCaptions(const QWidget& window)
+{
+    QStringList clipped;
+    for (const auto* widget : window.findChildren<QWidget*>()) {
+        const bool hasCaption = qobject_cast<const QPushButton*>(widget) != nullptr
+            || qobject_cast<const QLabel*>(widget) != nullptr;
+        const QSize needed = widget->minimumSizeHint();
+        const bool fits = needed.width() <= widget->width() && needed.height() <= widget->height()
+            && window.rect().contains(widget->geometry());
+        if (hasCaption && widget->parentWidget() == &window && !fits) {
+            clipped << widget->objectName();
+        }
+    }
+    return clipped;
+}
+
+/// The lists of \a window that scroll sideways or lack the bar that scrolls down.
+QStringList crampedLists(const QWidget& window)
+{
+    QStringList cramped;
+    for (const auto* list : window.findChildren<QTableView*>()) {
+        if (list->horizontalScrollBar()->isVisible() || !list->verticalScrollBar()->isVisible()) {
+            cramped << list->objectName();
+        }
+    }
+    return cramped;
+}
+} // namespace
+
+void TestStockLayout::captionsAreShownWhole_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isEnglish");
+    for (const char* name : {"editor", "composition", "update", "transfer", "consumption"}) {
+        QTest::newRow((QByteArray(name) + " in French").constData())
+            << QString::fromLatin1(name) << false;
+        QTest::newRow((QByteArray(name) + " in English").constData())
+            << QString::fromLatin1(name) << true;
+    }
+}
+
+void TestStockLayout::captionsAreShownWhole()
+{
+    QFETCH(const QString, name);
+    QFETCH(const bool, isEnglish);
+    const StockSample shop;
+    Translation translation;
+    if (isEnglish) {
+        speakEnglish(translation);
+    }
+    const auto window = makeWindow(name);
+    window->show();
+    QCOMPARE(clippedCaptions(*window), QStringList());
+}
+
+void TestStockLayout::listsNeedNoScrollingSideways()
+{
+    const Bar bar;
+    const QString many = QStringLiteral("with recursive row(n) as (select 100 union all select n "
+                                        "+ 1 from row where n < 220) select ");
+    for (const QString& insert : {QStringLiteral("insert into Article (id, article, prix) ") + many
+                 + QStringLiteral("n + 1000, 'Nouveau ' || n, 1 from row"),
+             QStringLiteral("insert into ArticleStock ") + many
+                 + QStringLiteral("n, 'Ancien ' || n from row"),
+             QStringLiteral("insert into DoseStock (id, composition, dose, unite) ") + many
+                 + QStringLiteral("100, 'Composition ' || n, 1234.5, 'fl. oz' from row")}) {
+        bar.sql(insert.toUtf8().constData());
+    }
+    bar.sell("Ancien 100", 100);
+
+    FormVendelSaisieStock editor;
+    editor.show();
+    editor.Display(true);
+    editor.Display_DoseStock(QStringLiteral("100"));
+    FormVendelSaisieStockCutPaste transfer;
+    transfer.show();
+    transfer.Display_DoseStock(QStringLiteral("100"));
+    FormVendelSaisieStockMaj update;
+    update.show();
+    Consumed at;
+    QTRY_COMPARE(crampedLists(editor), QStringList());
+    QTRY_COMPARE(crampedLists(transfer), QStringList());
+    QTRY_COMPARE(crampedLists(update), QStringList());
+    QTRY_COMPARE(crampedLists(at.window), QStringList());
+}
+
+VENDEL_TEST_MAIN(TestStockLayout)
+#include "tst_StockLayout.moc"
