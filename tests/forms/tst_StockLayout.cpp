@@ -72,7 +72,8 @@ void speakEnglish(Translation& translation)
 QStringList clippedCaptions(const QWidget& window)
 {
     QStringList clipped;
-    for (const auto* widget : window.findChildren<QWidget*>()) {
+    const auto widgets = window.findChildren<QWidget*>();
+    for (const auto* widget : widgets) {
         const bool hasCaption = qobject_cast<const QPushButton*>(widget) != nullptr
             || qobject_cast<const QLabel*>(widget) != nullptr;
         const QSize needed = widget->minimumSizeHint();
@@ -89,7 +90,8 @@ QStringList clippedCaptions(const QWidget& window)
 QStringList crampedLists(const QWidget& window)
 {
     QStringList cramped;
-    for (const auto* list : window.findChildren<QTableView*>()) {
+    const auto lists = window.findChildren<QTableView*>();
+    for (const auto* list : lists) {
         if (list->horizontalScrollBar()->isVisible() || !list->verticalScrollBar()->isVisible()) {
             cramped << list->objectName();
         }

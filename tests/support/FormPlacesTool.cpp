@@ -28,7 +28,8 @@ template <class Form> void printPlaces()
     Form form;
     form.setupUi(&window);
     window.show();
-    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    const auto widgets = window.findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
         if (widget->objectName().isEmpty() || !widget->isVisible()) {
             continue;
         }
