@@ -12,20 +12,27 @@ def measurement:
         time: ((if .run_name | test("/manual_time") then .real_time else .cpu_time end)
             * $milliseconds[.time_unit]),
         limit,
-        limit_ms
+        limit_ms,
+        limit_bytes,
+        bytes,
+        plan: .label
     };
 
 def line:
     (map(select(.isFloor | not).time) | min) as $program
     | (map(select(.isFloor).time) | min) as $floor
     | (if $floor then $program / $floor else null end) as $ratio
-    | .[0] as {$work, $limit, $limit_ms}
+    | .[0] as {$work, $limit, $limit_ms, $limit_bytes, $plan}
+    | (map(.bytes // 0) | max) as $bytes
     | [$work, $program, $floor, $ratio]
     + if $limit then ["ratio \($limit)", if $ratio <= $limit then "kept" else "missed" end]
       elif $limit_ms then ["\($limit_ms) ms", if $program <= $limit_ms then "kept" else "missed" end]
-      else ["-", "-"] end;
+      elif $limit_bytes then ["\($bytes | round) of \($limit_bytes) bytes a row",
+        if $bytes <= $limit_bytes then "kept" else "missed" end]
+      else ["-", "-"] end
+    | .[:4] + [$plan // "-"] + .[4:];
 
-["work", "program ms", "floor ms", "ratio", "limit", ""],
+["work", "program ms", "floor ms", "ratio", "how SQLite looks it up", "limit", ""],
 ([.[].benchmarks[] | select(.run_type == "iteration") | measurement] | group_by(.work)[] | line)
 | map(shown)
 | @tsv
