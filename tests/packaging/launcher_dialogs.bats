@@ -38,7 +38,7 @@ letters() {
 # dialog_says TEXT: whether the dialog was given the text, in lines that fit the screen.
 dialog_says() {
     letters <"$SAID" | grep -qF -- "$(letters <<<"$1")"
-    [ -z "$(grep -E '.{72}' "$SAID")" ]
+    ! grep -qE '.{72}' "$SAID" || return 1
 }
 
 @test "zenity shows what is wrong, as plain text" {
@@ -102,7 +102,7 @@ dialog_says() {
     touch "$HOME/$(printf 'é%.0s' {1..98})"
     XDG_DATA_HOME=$HOME/$(printf 'é%.0s' {1..98}) run "$launcher"
     [ "$status" -eq 1 ]
-    [ -z "$(grep -E '.{72}' "$SAID")" ]
+    ! grep -qE '.{72}' "$SAID" || return 1
     PATH=/usr/bin iconv -f UTF-8 -t UTF-8 "$SAID" >/dev/null
 }
 
