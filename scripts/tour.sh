@@ -31,37 +31,9 @@ fi
 . "$root/scripts/tour.d/lib.sh"
 . "$root/scripts/tour.d/sales.sh"
 
-work=$(mktemp -d)
-display_pid=""
-station=start
-clean_up() {
-    stop_till
-    stop_printer
-    if [ -n "$display_pid" ]; then
-        kill "$display_pid" 2>/dev/null || true
-        wait "$display_pid" 2>/dev/null || true
-    fi
-    rm -rf -- "$work"
-}
-trap clean_up EXIT
-trap 'exit 1' HUP INT TERM
-
-start_display() {
-    # A server that resets when its last client goes would refuse the next one for a moment.
-    Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 -noreset -nolisten tcp \
-        3>"$work/display" 2>"$work/display.log" &
-    display_pid=$!
-    await "a virtual display" test -s "$work/display"
-    DISPLAY=":$(<"$work/display")"
-    export DISPLAY
-}
-
 if ! { mkdir -p "$out" && rm -f -- "$out"/*; } 2>/dev/null; then
     fail "cannot write into $out"
 fi
-mkdir -m 700 "$work/runtime"
-export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 TZ=Europe/Paris XDG_RUNTIME_DIR="$work/runtime"
-unset WAYLAND_DISPLAY QT_STYLE_OVERRIDE QT_SCALE_FACTOR
 start_display
 
 for file in "$root"/scripts/tour.d/[0-9]*.sh; do

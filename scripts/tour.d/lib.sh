@@ -1,14 +1,43 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034,SC2154
-# What the stations of the tour do with: the screen, the till, its windows, its shop, its printer.
+# What the tour and the faults are played with: the screen, the till, its windows, its shop, its
+# printer.
 # Nothing sleeps for a fixed time: what must become true is awaited.
 
 patience=30
 shop=""
 till_pid=""
 printer_pid=""
+station=start
+work=$(mktemp -d)
+display_pid=""
+clean_up() {
+    stop_till
+    stop_printer
+    if [ -n "$display_pid" ]; then
+        kill "$display_pid" 2>/dev/null || true
+        wait "$display_pid" 2>/dev/null || true
+    fi
+    rm -rf -- "$work"
+}
+trap clean_up EXIT
+trap 'exit 1' HUP INT TERM
 
-# broken WHAT: ends the tour; the screen as it was stays in build/tour/broken.png.
+# start_display: a screen of its own for the till, in a session that nothing of the user's reaches.
+start_display() {
+    mkdir -m 700 "$work/runtime"
+    export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 TZ=Europe/Paris XDG_RUNTIME_DIR="$work/runtime"
+    unset WAYLAND_DISPLAY QT_STYLE_OVERRIDE QT_SCALE_FACTOR
+    # A server that resets when its last client goes would refuse the next one for a moment.
+    Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 -noreset -nolisten tcp \
+        3>"$work/display" 2>"$work/display.log" &
+    display_pid=$!
+    await "a virtual display" test -s "$work/display"
+    DISPLAY=":$(<"$work/display")"
+    export DISPLAY
+}
+
+# broken WHAT: ends the script; the screen as it was stays beside its other results as broken.png.
 broken() {
     import -window root "$out/broken.png" 2>/dev/null || true
     [ ! -s "$out/till.log" ] || tail -n 20 "$out/till.log" >&2
