@@ -67,6 +67,7 @@ private slots:
 
     void aDayGoesIntoTheChosenField();
     void aSaleGoesIntoTheChosenField();
+    void aClickOnNoRowLeavesTheFields();
     void effacerSaisieEmptiesBothFields();
 
     void saisieStockOpensTheStockEditor();
@@ -243,6 +244,18 @@ void TestFormVendelHistorique::aSaleGoesIntoTheChosenField()
     click(history.window, "rb_Second_Date");
     clickCell(history.window, "tableView1", 1, 2);
     QCOMPARE(history.second(), QStringLiteral("05/01/2019 11:00:00.500"));
+}
+
+void TestFormVendelHistorique::aClickOnNoRowLeavesTheFields()
+{
+    History history;
+    history.type("05/01/2019", "05/02/2019");
+    for (const char* slot : {"on_tableView1_clicked", "on_tableView2_clicked"}) {
+        QVERIFY(QMetaObject::invokeMethod(
+            &history.window, slot, Qt::DirectConnection, Q_ARG(QModelIndex, QModelIndex())));
+        QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
+        QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+    }
 }
 
 void TestFormVendelHistorique::effacerSaisieEmptiesBothFields()
