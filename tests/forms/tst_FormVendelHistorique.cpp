@@ -62,6 +62,7 @@ private slots:
     void listsAreLaidOutAndEmpty();
     void fitsASmallScreen();
     void noButtonListensToReturn();
+    void tabGoesFromTheDatesToTheLists();
     void theMainMenuOpensIt();
     void aTranslationOfTheCatalogueChangesIt();
 
@@ -180,6 +181,19 @@ void TestFormVendelHistorique::noButtonListensToReturn()
     QTest::keyClick(&child<QLineEdit>(history.window, "txt_First_Date"), Qt::Key_Return);
     QVERIFY(!box.wasShown());
     QVERIFY(history.window.isVisible());
+}
+
+void TestFormVendelHistorique::tabGoesFromTheDatesToTheLists()
+{
+    History history;
+    history.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&history.window));
+    for (const char* name : {"txt_First_Date", "txt_Second_Date", "btn_Del_Seizure",
+             "rb_First_Date", "btn_Show_Date", "btn_View_Historical", "btn_Total", "btn_Clear",
+             "tableView1", "tableView2", "tableView3", "txt_First_Date"}) {
+        QCOMPARE(history.window.focusWidget()->objectName(), QLatin1String(name));
+        QTest::keyClick(history.window.focusWidget(), Qt::Key_Tab);
+    }
 }
 
 void TestFormVendelHistorique::theMainMenuOpensIt()
