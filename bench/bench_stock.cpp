@@ -20,6 +20,7 @@
 #include <benchmark/benchmark.h>
 
 namespace {
+constexpr double limit = 1.2;
 constexpr std::array lists{"tableView1", "tableView2"};
 const QString from = QStringLiteral("2022-06-01");
 const QString to = QStringLiteral("2022-07-01");
@@ -148,6 +149,7 @@ void byProgram(benchmark::State& state)
         window.empty();
         state.ResumeTiming();
     }
+    state.counters["limit"] = limit;
     state.SetLabel(plan());
 }
 
@@ -171,6 +173,7 @@ void byFloor(benchmark::State& state)
         window.empty();
         state.ResumeTiming();
     }
+    state.counters["limit"] = limit;
     state.SetLabel(plan());
 }
 } // namespace

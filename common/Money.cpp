@@ -10,6 +10,12 @@ QLocale numberFormat()
 {
     return QLocale(QLocale::English, QLocale::AnyCountry);
 }
+
+/// The takings and doses of a year outgrow single precision.
+QString formatExact(const QString& number, int decimals = 2)
+{
+    return numberFormat().toString(number.toDouble(), 'f', decimals);
+}
 } // namespace
 
 QString formatAmount(float value, int decimals)
@@ -36,9 +42,13 @@ QString formatCell(const std::string& text)
 QString formatExactCell(const std::string& text)
 {
     const QString shown = QString::fromStdString(text);
-    return Tools::isNum(shown)
-        ? numberFormat().toString(shown.toDouble(), 'f', 2) + QLatin1Char('$')
-        : shown;
+    return Tools::isNum(shown) ? formatExact(shown) + QLatin1Char('$') : shown;
+}
+
+QString formatQuantity(const std::string& text, int decimals)
+{
+    const QString shown = QString::fromStdString(text);
+    return Tools::isNum(shown) ? formatExact(shown, decimals) : shown;
 }
 
 float readBack(const QString& shown)

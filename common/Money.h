@@ -20,6 +20,10 @@ QString formatCell(const std::string& text);
 /// The same in double precision, so that the takings of a year keep their cents.
 QString formatExactCell(const std::string& text);
 
+/// A stored dose or consumption as the stock windows show it: in double precision with \a decimals
+/// and without a sign ("1,234.50"); a text that is no number stays as it is.
+QString formatQuantity(const std::string& text, int decimals = 2);
+
 /// What the totals take \a shown for: "," counts as ".", in single precision. An amount of 1,000 or
 /// more therefore reads as 0, because its group separator makes it unreadable.
 float readBack(const QString& shown);

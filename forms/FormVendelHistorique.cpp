@@ -280,23 +280,22 @@ void FormVendelHistorique::showGroups(const Period& period)
 
 void FormVendelHistorique::on_tableView2_clicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendelHistorique on_tableView2_clicked : ",
-        [&] { pickDate(index.data().toString()); });
+    guarded("Errors FormVendelHistorique on_tableView2_clicked : ", [&] { pickDate(index); });
 }
 
 void FormVendelHistorique::on_tableView1_clicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendelHistorique on_tableView1_clicked : ", [&] {
-        const QString date = index.sibling(index.row(), SaleMoment).data().toString();
-        if (date != totalMark()) {
-            pickDate(date);
-        }
-    });
+    guarded("Errors FormVendelHistorique on_tableView1_clicked : ",
+        [&] { pickDate(index.sibling(index.row(), SaleMoment)); });
 }
 
-void FormVendelHistorique::pickDate(const QString& date)
+void FormVendelHistorique::pickDate(const QModelIndex& cell)
 {
-    (ui_->rb_First_Date->isChecked() ? ui_->txt_First_Date : ui_->txt_Second_Date)->setText(date);
+    const QString date = cell.data().toString();
+    if (cell.isValid() && date != totalMark()) {
+        (ui_->rb_First_Date->isChecked() ? ui_->txt_First_Date : ui_->txt_Second_Date)
+            ->setText(date);
+    }
 }
 
 void FormVendelHistorique::on_btn_Del_Seizure_clicked()

@@ -70,7 +70,7 @@ private:
     void showGroups(const Period& period);
     void showTotal();
     void purge();
-    void pickDate(const QString& date);
+    void pickDate(const QModelIndex& cell);
 
     std::unique_ptr<Ui_FormVendelHistorique> ui_;
     QStandardItemModel* modelSales_;

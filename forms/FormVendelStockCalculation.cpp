@@ -4,10 +4,10 @@
 #include "common/Lists.h"
 #include "common/MessageBoxes.h"
 #include "common/Messages.h"
+#include "common/Money.h"
 #include "common/SlotGuard.h"
 #include "common/Tools.h"
 #include "forms/Consumption.h"
-#include "forms/Quantity.h"
 #include "ui_FormVendelStockCalculation.h"
 
 namespace {

@@ -3,8 +3,8 @@
 
 #include "common/HoverTip.h"
 #include "common/Lists.h"
+#include "common/Money.h"
 #include "forms/Compositions.h"
-#include "forms/Quantity.h"
 
 #include <QCursor>
 #include <QShortcut>

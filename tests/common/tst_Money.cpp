@@ -15,6 +15,8 @@ private slots:
     void listsPutTheSignBehind();
     void cellsShowNumbersAsMoney_data();
     void cellsShowNumbersAsMoney();
+    void exactCellsKeepTheirCents_data();
+    void exactCellsKeepTheirCents();
     void aShownAmountIsReadBack_data();
     void aShownAmountIsReadBack();
     void commasBecomePoints();
@@ -90,6 +92,22 @@ void TestMoney::cellsShowNumbersAsMoney()
 {
     QFETCH(QByteArray, stored);
     QTEST(formatCell(stored.toStdString()), "cell");
+}
+
+void TestMoney::exactCellsKeepTheirCents_data()
+{
+    QTest::addColumn<QByteArray>("stored");
+    QTest::addColumn<QString>("cell");
+    QTest::newRow("a price") << QByteArray("12.5") << "12.50$";
+    QTest::newRow("a year") << QByteArray("1234567.91") << "1,234,567.91$";
+    QTest::newRow("an article") << QByteArray("Thé") << QStringLiteral("Thé");
+    QTest::newRow("empty") << QByteArray() << "";
+}
+
+void TestMoney::exactCellsKeepTheirCents()
+{
+    QFETCH(QByteArray, stored);
+    QTEST(formatExactCell(stored.toStdString()), "cell");
 }
 
 void TestMoney::aShownAmountIsReadBack_data()

@@ -62,11 +62,13 @@ private slots:
     void listsAreLaidOutAndEmpty();
     void fitsASmallScreen();
     void noButtonListensToReturn();
+    void tabGoesFromTheDatesToTheLists();
     void theMainMenuOpensIt();
     void aTranslationOfTheCatalogueChangesIt();
 
     void aDayGoesIntoTheChosenField();
     void aSaleGoesIntoTheChosenField();
+    void aClickOnNoRowLeavesTheFields();
     void effacerSaisieEmptiesBothFields();
 
     void saisieStockOpensTheStockEditor();
@@ -181,6 +183,19 @@ void TestFormVendelHistorique::noButtonListensToReturn()
     QVERIFY(history.window.isVisible());
 }
 
+void TestFormVendelHistorique::tabGoesFromTheDatesToTheLists()
+{
+    History history;
+    history.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&history.window));
+    for (const char* name : {"txt_First_Date", "txt_Second_Date", "btn_Del_Seizure",
+             "rb_First_Date", "btn_Show_Date", "btn_View_Historical", "btn_Total", "btn_Clear",
+             "tableView1", "tableView2", "tableView3", "txt_First_Date"}) {
+        QCOMPARE(history.window.focusWidget()->objectName(), QLatin1String(name));
+        QTest::keyClick(history.window.focusWidget(), Qt::Key_Tab);
+    }
+}
+
 void TestFormVendelHistorique::theMainMenuOpensIt()
 {
     const Shop shop;
@@ -243,6 +258,18 @@ void TestFormVendelHistorique::aSaleGoesIntoTheChosenField()
     click(history.window, "rb_Second_Date");
     clickCell(history.window, "tableView1", 1, 2);
     QCOMPARE(history.second(), QStringLiteral("05/01/2019 11:00:00.500"));
+}
+
+void TestFormVendelHistorique::aClickOnNoRowLeavesTheFields()
+{
+    History history;
+    history.type("05/01/2019", "05/02/2019");
+    for (const char* slot : {"on_tableView1_clicked", "on_tableView2_clicked"}) {
+        QVERIFY(QMetaObject::invokeMethod(
+            &history.window, slot, Qt::DirectConnection, Q_ARG(QModelIndex, QModelIndex())));
+        QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
+        QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+    }
 }
 
 void TestFormVendelHistorique::effacerSaisieEmptiesBothFields()

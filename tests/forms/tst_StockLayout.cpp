@@ -25,6 +25,8 @@ private slots:
     void captionsAreShownWhole_data();
     void captionsAreShownWhole();
     void listsNeedNoScrollingSideways();
+    void tabGoesAsTheEyeDoes_data();
+    void tabGoesAsTheEyeDoes();
 };
 
 namespace {
@@ -155,6 +157,32 @@ void TestStockLayout::listsNeedNoScrollingSideways()
     QTRY_COMPARE(crampedLists(transfer), QStringList());
     QTRY_COMPARE(crampedLists(update), QStringList());
     QTRY_COMPARE(crampedLists(at.window), QStringList());
+}
+
+void TestStockLayout::tabGoesAsTheEyeDoes_data()
+{
+    QTest::addColumn<QString>("order");
+    const auto row = [](const char* window, const char* order) {
+        QTest::newRow(window) << QString::fromLatin1(order);
+    };
+    row("editor", "tableView1 tableView2 btn_Display btn_Update btn_Remove btn_Cut_Paste");
+    row("update", "tableView btn_Update");
+    row("transfer", "cbx_Article btn_Modify tableView1 tableView2");
+    row("consumption", "btn_Display tableView1 tableView2");
+}
+
+void TestStockLayout::tabGoesAsTheEyeDoes()
+{
+    QFETCH(const QString, order);
+    const StockSample shop;
+    const auto window = makeWindow(QLatin1String(QTest::currentDataTag()));
+    QVERIFY(showActive(*window));
+    const QStringList names = order.split(QLatin1Char(' '));
+    for (const QString& name : names) {
+        QCOMPARE(window->focusWidget()->objectName(), name);
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(window->focusWidget()->objectName(), names.constFirst());
 }
 
 VENDEL_TEST_MAIN(TestStockLayout)

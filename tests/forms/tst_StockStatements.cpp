@@ -15,6 +15,8 @@ class TestStockStatements : public QObject
 private slots:
     void standWordForWord_data();
     void standWordForWord();
+    void theTwoOfASynchronisationStandWordForWord();
+    void theArticlesRemovalStandsWordForWord();
 };
 
 namespace {
@@ -109,6 +111,35 @@ void TestStockStatements::standWordForWord()
     statement.run();
     const QByteArray said = diagnostics(output);
     QCOMPARE(said, reported);
+}
+
+void TestStockStatements::theTwoOfASynchronisationStandWordForWord()
+{
+    const Shop shop(Shop::Database::None);
+    CapturedOutput output;
+    StockArticles::synchronise();
+    const QByteArray said = diagnostics(output);
+    QCOMPARE(said,
+        QByteArray("Errors Db::DbLoad sqlite3_errmsg : update ArticleStock set article = (select "
+                   "Article.article from Article where Article.id = ArticleStock.id) where "
+                   "ArticleStock.id in (select Article.id from Article) no such table: "
+                   "ArticleStock\n"
+                   "Errors Db::DbLoad sqlite3_errmsg : insert into ArticleStock (id,article) "
+                   "select Article.id,Article.article from Article left join ArticleStock on "
+                   "ArticleStock.id = Article.id where ArticleStock.id is null no such table: "
+                   "ArticleStock\n"));
+}
+
+void TestStockStatements::theArticlesRemovalStandsWordForWord()
+{
+    const StockSample shop;
+    shop.sql("drop table ArticleStock");
+    CapturedOutput output;
+    StockArticles::remove(QStringLiteral("1"));
+    const QByteArray said = diagnostics(output);
+    QCOMPARE(said,
+        QByteArray("Errors Db::DbLoad sqlite3_errmsg : delete from ArticleStock where id = 1 no "
+                   "such table: ArticleStock\n"));
 }
 
 VENDEL_TEST_MAIN(TestStockStatements)

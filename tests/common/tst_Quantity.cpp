@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms/Quantity.h"
+#include "common/Money.h"
 #include "tests/support/TestMain.h"
 
 class TestQuantity : public QObject
