@@ -23,7 +23,8 @@ setup() {
     load helpers
     make_tree
     all_installed
-    stub cmake 'mkdir -p build/release; : >build/release/build.ninja'
+    # Never an empty file in place of a real one, which a test may link to.
+    stub cmake 'mkdir -p build/release; : >>build/release/build.ninja'
     make_build
     run_sh="$tree/scripts/run.sh"
     export XDG_DATA_HOME="$BATS_TEST_TMPDIR/data" HOME="$BATS_TEST_TMPDIR/home"
