@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -69,6 +70,13 @@ QString textUnder(const QAbstractItemView& view, QPoint position, int column)
 
 void showTip(QWidget& window, QPoint point, const QString& text)
 {
+    // A platform may deliver waiting mouse moves while it makes the tip's window; a second tip
+    // would delete the first one under its hands.
+    static bool isShowing = false;
+    if (isShowing) {
+        return;
+    }
+    const QScopedValueRollback<bool> showing(isShowing, true);
     letTheMouseThroughTips();
     const QString plain
         = Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;

@@ -34,6 +34,7 @@ private slots:
     void aNameLikeATagIsPlainText();
     void aTipLetsTheMouseThrough();
     void aTipSurvivesQtsOwnRequest();
+    void aMoveWhileATipIsMadeLeavesItAlone();
     void aLongTipGoesAfterTenSeconds();
 };
 
@@ -220,6 +221,35 @@ void TestHoverTip::aTipSurvivesQtsOwnRequest()
     QTest::qWait(400);
     QVERIFY(QToolTip::isVisible());
     QCOMPARE(QToolTip::text(), QStringLiteral("Menu"));
+}
+
+void TestHoverTip::aMoveWhileATipIsMadeLeavesItAlone()
+{
+    /// Asks for a second tip in the middle of the making of the first one's window.
+    class Mover : public QObject
+    {
+    public:
+        int moves = 0;
+        QWidget window;
+
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == QEvent::PlatformSurface && moves == 0
+                && watched->objectName() == QLatin1String("QTipLabelClassWindow")) {
+                ++moves;
+                showTip(window, QPoint(150, 130), QStringLiteral("Ticket"));
+            }
+            return false;
+        }
+    };
+    Mover mover;
+    qApp->installEventFilter(&mover);
+    showTip(mover.window, QPoint(150, 130), QStringLiteral("Menu"));
+    QCOMPARE(mover.moves, 1);
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), QStringLiteral("Menu"));
+    showTip(mover.window, QPoint(150, 130), QStringLiteral("Ticket"));
+    QCOMPARE(QToolTip::text(), QStringLiteral("Ticket"));
 }
 
 void TestHoverTip::aLongTipGoesAfterTenSeconds()
