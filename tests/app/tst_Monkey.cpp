@@ -1,20 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendel.h"
+#include "common/Windows.h"
+#include "forms/FormVendelStockCalculation.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestMain.h"
 
-#include <QAbstractScrollArea>
+#include <QAction>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QLineEdit>
+#include <QMenuBar>
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QSet>
 #include <QTimer>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <functional>
-#include <iostream>
+#include <iterator>
 
 #include <unistd.h>
 
@@ -28,6 +33,7 @@ private slots:
 
 namespace {
 constexpr unsigned hangSeconds = 60;
+constexpr int mostSteps = 400000;
 
 /// Clicks, types and scrolls at random in whatever window is on top, boxes and menus included. The
 /// same seed plays the same game.
@@ -59,12 +65,13 @@ private:
     {
         QTimer::singleShot(0, this, [this] {
             ::alarm(hangSeconds);
-            if (isOver_() && isAlone()) {
+            const bool isOver = isOver_();
+            if (isOver && isAlone()) {
                 end_.quit();
                 return;
             }
             next();
-            isOver_() ? closeTopmost() : step();
+            isOver ? closeTopmost() : step();
         });
     }
 
@@ -111,12 +118,33 @@ private:
             window->close();
             return;
         }
+        if (number(40) == 0 && chooseFromMenu(*window)) {
+            return;
+        }
+        // Two dates in order are rarely typed by a monkey.
+        if (number(2000) == 0 && window->inherits("FormVendelHistorique")) {
+            openWindow<FormVendelStockCalculation>(
+                window, QStringLiteral("01/05/2019"), QStringLiteral("30/05/2019"));
+            return;
+        }
         const QPoint point(number(window->width()), number(window->height()));
         QWidget* widget = window->childAt(point);
         if (widget == nullptr) {
             widget = window;
         }
         act(*widget, widget->mapFrom(window, point));
+    }
+
+    bool chooseFromMenu(const QWidget& window)
+    {
+        const auto* bar = window.findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly);
+        if (bar == nullptr) {
+            return false;
+        }
+        const auto menus = bar->findChildren<QMenu*>();
+        const auto actions = menus.at(number(menus.size()))->actions();
+        actions.at(number(actions.size()))->trigger();
+        return true;
     }
 
     void act(QWidget& widget, const QPoint& point)
@@ -144,14 +172,19 @@ private:
         static constexpr Qt::Key keys[]{Qt::Key_Tab, Qt::Key_Return, Qt::Key_Backspace,
             Qt::Key_Delete, Qt::Key_Down, Qt::Key_Space, Qt::Key_Left, Qt::Key_Escape};
         static const QStringList texts{QStringLiteral("Thé"), QStringLiteral("L'été"),
-            QStringLiteral("2.50"), QStringLiteral("-1"), QStringLiteral("05/04/2019"),
-            QStringLiteral("05/05/2019 12:00:00.000"), QStringLiteral("%_\""),
-            QStringLiteral("abcdefghijklmnop"), QStringLiteral("1e999"), QStringLiteral("nan")};
+            QStringLiteral("2.50"), QStringLiteral("-1"), QStringLiteral("01/05/2019"),
+            QStringLiteral("30/05/2019"), QStringLiteral("05/05/2019 12:00:00.000"),
+            QStringLiteral("%_\""), QStringLiteral("abcdefghijklmnop"), QStringLiteral("1e999"),
+            QStringLiteral("nan")};
         QWidget* focus = widget.window()->focusWidget();
         const QPointer<QWidget> target = focus != nullptr ? focus : &widget;
         if (number(2) == 0) {
             press(target, keys[number(int(std::size(keys)))], QString());
             return;
+        }
+        // A field that is never emptied holds nothing but nonsense soon.
+        if (auto* field = qobject_cast<QLineEdit*>(target); field != nullptr && number(2) == 0) {
+            field->selectAll();
         }
         const QString text = texts.at(number(texts.size()));
         for (const QChar letter : text) {
@@ -202,6 +235,36 @@ void stock(const Shop& shop)
         "(2, 'Thé', 2.25, '2019-05-05 12:00:00.000');"
         "insert into Ticket (id, article, prix) values (1, 'Café', 1.5)");
 }
+
+/// The windows that a cashier reaches, sorted.
+const QStringList& everyWindow()
+{
+    static const QStringList names{QStringLiteral("FormVendel"), QStringLiteral("FormVendelAbout"),
+        QStringLiteral("FormVendelConfig"), QStringLiteral("FormVendelFormulaireTicket"),
+        QStringLiteral("FormVendelHistorique"), QStringLiteral("FormVendelSaisieArticle"),
+        QStringLiteral("FormVendelSaisieStock"), QStringLiteral("FormVendelSaisieStockComposition"),
+        QStringLiteral("FormVendelSaisieStockCutPaste"), QStringLiteral("FormVendelSaisieStockMaj"),
+        QStringLiteral("FormVendelStockCalculation"), QStringLiteral("FormVendelTicket"),
+        QStringLiteral("QMessageBox")};
+    return names;
+}
+
+bool isEveryWindowIn(const QSet<QString>& seen)
+{
+    const QStringList& names = everyWindow();
+    return std::all_of(
+        names.begin(), names.end(), [&](const QString& name) { return seen.contains(name); });
+}
+
+/// What Qt's offscreen platform says of itself is not the till's.
+QStringList ofTheTill(QStringList warnings)
+{
+    static const QString platform = QStringLiteral("This plugin does not support ");
+    warnings.erase(std::remove_if(warnings.begin(), warnings.end(),
+                       [](const QString& line) { return line.startsWith(platform); }),
+        warnings.end());
+    return warnings;
+}
 } // namespace
 
 void TestMonkey::anyMouseAndKeysLeaveTheTillStanding()
@@ -224,18 +287,22 @@ void TestMonkey::anyMouseAndKeysLeaveTheTillStanding()
         int steps = 0;
         QElapsedTimer timer;
         timer.start();
-        monkey.play([&] { return isLong ? timer.elapsed() > seconds * 1000 : ++steps > 4000; });
+        monkey.play([&] {
+            ++steps;
+            return isLong
+                ? timer.elapsed() > seconds * 1000
+                : steps == mostSteps || (steps > 4000 && isEveryWindowIn(monkey.windowsSeen()));
+        });
         ::alarm(0);
         windows = monkey.windowsSeen();
-        warnings = log.warnings();
+        warnings = ofTheTill(log.warnings());
         criticals = log.criticals();
     }
-    qInfo() << windows;
-    criticals.removeDuplicates();
-    warnings.removeDuplicates();
-    qInfo() << criticals;
-    qInfo() << warnings;
-    QVERIFY(windows.contains(QStringLiteral("QMessageBox")));
+    for (const QString& name : everyWindow()) {
+        QVERIFY2(windows.contains(name), qPrintable(name));
+    }
+    QCOMPARE(warnings, QStringList());
+    QCOMPARE(criticals, QStringList());
     QCOMPARE(shop.cell("pragma integrity_check"), QStringLiteral("ok"));
 }
 
