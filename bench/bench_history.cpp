@@ -1,26 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "app/Application.h"
+#include "bench/Support.h"
 #include "db/Db.h"
 #include "forms/FormVendelHistorique.h"
 
 #include <QApplication>
 #include <QDate>
 #include <QDir>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QTemporaryDir>
 
 #include <array>
+#include <functional>
 #include <memory>
-#include <stdexcept>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <sqlite3.h>
-#include <unistd.h>
 
 namespace {
 constexpr int salesOfAYear = 330000;
@@ -29,13 +28,6 @@ constexpr int salesOfTheYearBetween = 340000;
 constexpr QLatin1String bigDay("2022-06-15");
 constexpr double ratioLimit = 1.3;
 constexpr double rowLimitBytes = 1024;
-
-void check(bool holds, const char* what)
-{
-    if (!holds) {
-        throw std::runtime_error(what);
-    }
-}
 
 /// Writes sales into the journal in the order of a bar's days.
 class Journal
@@ -102,24 +94,25 @@ private:
     int article_ = 0;
 };
 
-/// A million sales of three years, one day of which has two thousand, in a temporary directory.
+/// A million sales of three years, or a part of them, in a temporary directory; one day has two
+/// thousand.
 class Bar
 {
 public:
-    Bar()
+    explicit Bar(int part = 1)
     {
-        check(folder_.isValid() && QDir::setCurrent(folder_.path()), "temporary directory");
+        enter();
         Db::DbCreate();
         Journal journal;
         const QDate between = QDate::fromString(bigDay, Qt::ISODate);
-        journal.sellThroughYear(2021, salesOfAYear);
-        const int others = salesOfTheYearBetween - salesOfTheBigDay;
+        journal.sellThroughYear(2021, salesOfAYear / part);
+        const int others = salesOfTheYearBetween / part - salesOfTheBigDay;
         int day = 0;
         for (QDate date(2022, 1, 1); date.year() == 2022; date = date.addDays(1)) {
             journal.sellThroughDay(
                 date, date == between ? salesOfTheBigDay : others / 364 + (day++ < others % 364));
         }
-        journal.sellThroughYear(2023, salesOfAYear);
+        journal.sellThroughYear(2023, salesOfAYear / part);
     }
     ~Bar()
     {
@@ -129,6 +122,11 @@ public:
     Bar& operator=(const Bar&) = delete;
     Bar(Bar&&) = delete;
     Bar& operator=(Bar&&) = delete;
+
+    void enter() const
+    {
+        check(QDir::setCurrent(folder_.path()), "temporary directory");
+    }
 
 private:
     QTemporaryDir folder_;
@@ -222,27 +220,9 @@ DbRows textsOf(const QTableView& view)
     return texts;
 }
 
-/// The least that shows \a texts: complete rows with their height, no text composed.
-void fill(QTableView& view, const DbRows& texts, int height)
+void listByProgram(benchmark::State& state, const Bar& bar, const Dates& dates, const char* slot)
 {
-    auto& model = static_cast<QStandardItemModel&>(*view.model());
-    view.setUpdatesEnabled(false);
-    view.verticalHeader()->setUpdatesEnabled(false);
-    for (const auto& row : texts) {
-        QList<QStandardItem*> items;
-        items.reserve(static_cast<int>(row.size()));
-        for (const std::string& text : row) {
-            items << new QStandardItem(QString::fromStdString(text));
-        }
-        model.appendRow(items);
-        view.setRowHeight(model.rowCount() - 1, height);
-    }
-    view.verticalHeader()->setUpdatesEnabled(true);
-    view.setUpdatesEnabled(true);
-}
-
-void listByProgram(benchmark::State& state, const Dates& dates, const char* slot)
-{
+    bar.enter();
     Window window(dates);
     for ([[maybe_unused]] auto _ : state) {
         window.press(slot);
@@ -254,8 +234,9 @@ void listByProgram(benchmark::State& state, const Dates& dates, const char* slot
     state.SetLabel(planOf(dates));
 }
 
-void listByFloor(benchmark::State& state, const Dates& dates, const char* slot)
+void listByFloor(benchmark::State& state, const Bar& bar, const Dates& dates, const char* slot)
 {
+    bar.enter();
     Window window(dates);
     window.press(slot);
     QTableView& sales = window.view("tableView1");
@@ -272,8 +253,8 @@ void listByFloor(benchmark::State& state, const Dates& dates, const char* slot)
         benchmark::DoNotOptimize(saleRows.data());
         benchmark::DoNotOptimize(sums.data());
         benchmark::DoNotOptimize(groupRows.data());
-        fill(sales, saleTexts, height);
-        fill(groups, groupTexts, height);
+        fillByFloor(sales, saleTexts, height);
+        fillByFloor(groups, groupTexts, height);
         state.PauseTiming();
         window.empty();
         state.ResumeTiming();
@@ -282,16 +263,10 @@ void listByFloor(benchmark::State& state, const Dates& dates, const char* slot)
     state.SetLabel(planOf(dates));
 }
 
-double residentBytes()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    check(file.open(QIODevice::ReadOnly), "statm");
-    return file.readAll().split(' ').at(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE));
-}
-
 /// A whole year, once: the memory that it holds while it stands.
-void openYear(benchmark::State& state)
+void openYear(benchmark::State& state, const Bar& bar)
 {
+    bar.enter();
     Window window(year);
     QCoreApplication::processEvents();
     malloc_trim(0);
@@ -313,15 +288,27 @@ int main(int argc, char* argv[])
     Application::setAttributes();
     const QApplication application(argc, argv);
     const Bar bar;
+    const Bar tenth(10);
+    const Bar hundredth(100);
     constexpr auto ms = benchmark::kMillisecond;
     constexpr auto view = "on_btn_View_Historical_clicked";
     constexpr auto total = "on_btn_Total_clicked";
-    benchmark::RegisterBenchmark("history_year/program", openYear)->Iterations(1)->Unit(ms);
-    benchmark::RegisterBenchmark("history_day/floor", listByFloor, day, view)->Unit(ms);
-    benchmark::RegisterBenchmark("history_day/program", listByProgram, day, view)->Unit(ms);
-    benchmark::RegisterBenchmark("history_month_total/floor", listByFloor, month, total)->Unit(ms);
-    benchmark::RegisterBenchmark("history_month_total/program", listByProgram, month, total)
+    benchmark::RegisterBenchmark("history_year/program", openYear, std::ref(bar))
+        ->Iterations(1)
         ->Unit(ms);
+    const auto compare
+        = [&](const std::string& work, const Bar& sales, const Dates& dates, const char* slot) {
+              benchmark::RegisterBenchmark(
+                  (work + "/floor").c_str(), listByFloor, std::ref(sales), dates, slot)
+                  ->Unit(ms);
+              benchmark::RegisterBenchmark(
+                  (work + "/program").c_str(), listByProgram, std::ref(sales), dates, slot)
+                  ->Unit(ms);
+          };
+    compare("history_day", bar, day, view);
+    compare("history_day_in_10000_sales", hundredth, day, view);
+    compare("history_day_in_100000_sales", tenth, day, view);
+    compare("history_month_total", bar, month, total);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -2,10 +2,10 @@
 #include "app/Application.h"
 #include "app/FormVendel.h"
 #include "bench/Floor.h"
+#include "bench/Support.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardItemModel>
@@ -13,15 +13,16 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <stdexcept>
+#include <string>
+#include <utility>
 
 #include <benchmark/benchmark.h>
-#include <time.h>
 
 namespace {
 constexpr double limit = 1.3;
-constexpr int articles = 10000;
-constexpr int doubles = 200;
+constexpr int mostArticles = 10000;
+/// Each fiftieth article is one that the menu holds already.
+constexpr int articlesForOneDouble = 50;
 
 constexpr auto menuSql = "select * from Article order by Article asc";
 constexpr auto countSql
@@ -35,21 +36,6 @@ constexpr auto idsSql
       "Article group by article having count(article) > 1) as t, Article as b where t.article = "
       "b.article) as d where d.id not in (select max(id) as id from Article group by article "
       "having count(article) > 1)";
-
-void check(bool holds, const char* what)
-{
-    if (!holds) {
-        throw std::runtime_error(what);
-    }
-}
-
-/// Seconds of work that the process has done; what other processes do does not count.
-double workedSeconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
-}
 
 /// Sends message boxes away and keeps what they cost out of the measured work.
 class Stopwatch : public QObject
@@ -100,8 +86,28 @@ struct Screen
     }
 };
 
-void showByProgram(benchmark::State& state)
+/// Makes the shop's menu one of \a articles, some of them doubled.
+void fillMenu(int articles)
 {
+    Db::DbLoad("delete from Article");
+    const std::string count = std::to_string(articles);
+    Db::DbLoad(("with recursive n(i) as (select 0 union all select i + 1 from n where i < " + count
+        + " - 1) insert into Article (article, prix) select 'Article ' || (i % (" + count + " - "
+        + std::to_string(articles / articlesForOneDouble) + ")), i / 4.0 from n")
+                   .c_str());
+}
+
+/// A short menu costs less than the box that tells of its doubles, and has no limit.
+void keepLimit(benchmark::State& state, int articles)
+{
+    if (articles == mostArticles) {
+        state.counters["limit"] = limit;
+    }
+}
+
+void showByProgram(benchmark::State& state, int articles)
+{
+    fillMenu(articles);
     Screen screen;
     auto& button = *screen.form.findChild<QPushButton*>(QStringLiteral("btn_Afficher"));
     Stopwatch watch;
@@ -112,12 +118,13 @@ void showByProgram(benchmark::State& state)
         check(screen.model.rowCount() == articles, "all articles");
         screen.empty();
     }
-    state.counters["limit"] = limit;
+    keepLimit(state, articles);
 }
 
 /// The least that shows the same: the statements, and complete rows with their heights.
-void showByFloor(benchmark::State& state)
+void showByFloor(benchmark::State& state, int articles)
 {
+    fillMenu(articles);
     Screen screen;
     const int height = screen.view.fontMetrics().height() + 4;
     Stopwatch watch;
@@ -133,10 +140,12 @@ void showByFloor(benchmark::State& state)
             screen.view.setRowHeight(screen.model.rowCount() - 1, height);
         }
         state.SetIterationTime(watch.seconds());
-        check(marked.size() == doubles && count[0][0] == std::to_string(doubles), "doubles");
+        check(marked.size() == static_cast<std::size_t>(articles / articlesForOneDouble)
+                && count[0][0] == std::to_string(articles / articlesForOneDouble),
+            "doubles");
         screen.empty();
     }
-    state.counters["limit"] = limit;
+    keepLimit(state, articles);
 }
 } // namespace
 
@@ -149,12 +158,15 @@ int main(int argc, char* argv[])
     const QTemporaryDir folder;
     check(QDir::setCurrent(folder.path()), "a working directory");
     Db::DbCreate();
-    Db::DbLoad("with recursive n(i) as (select 0 union all select i + 1 from n where i < 9999)"
-               "insert into Article (article, prix) select 'Article ' || (i % 9800), i / 4.0 "
-               "from n");
-    constexpr auto ms = benchmark::kMillisecond;
-    benchmark::RegisterBenchmark("menu_of_10000/floor", showByFloor)->Unit(ms)->UseManualTime();
-    benchmark::RegisterBenchmark("menu_of_10000/program", showByProgram)->Unit(ms)->UseManualTime();
+    for (const int articles : {100, 1000, mostArticles}) {
+        for (const auto& [side, way] :
+            {std::pair("/floor", &showByFloor), std::pair("/program", &showByProgram)}) {
+            const std::string name = "menu_of_" + std::to_string(articles) + side;
+            benchmark::RegisterBenchmark(name.c_str(), way, articles)
+                ->Unit(benchmark::kMillisecond)
+                ->UseManualTime();
+        }
+    }
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -22,7 +22,8 @@ def line:
     (map(select(.isFloor | not).time) | min) as $program
     | (map(select(.isFloor).time) | min) as $floor
     | (if $floor then $program / $floor else null end) as $ratio
-    | .[0] as {$work, $limit, $limit_ms, $limit_bytes, $plan}
+    | .[0] as {$work, $limit, $limit_ms, $limit_bytes}
+    | (map(.plan // empty) | unique | join(", ")) as $plan
     | (map(.bytes // 0) | max) as $bytes
     | [$work, $program, $floor, $ratio]
     + if $limit then ["ratio \($limit)", if $ratio <= $limit then "kept" else "missed" end]
@@ -30,9 +31,9 @@ def line:
       elif $limit_bytes then ["\($bytes | round) of \($limit_bytes) bytes a row",
         if $bytes <= $limit_bytes then "kept" else "missed" end]
       else ["-", "-"] end
-    | .[:4] + [$plan // "-"] + .[4:];
+    | .[:4] + [if $plan == "" then "-" else $plan end] + .[4:];
 
-["work", "program ms", "floor ms", "ratio", "how SQLite looks it up", "limit", ""],
+["work", "program ms", "floor ms", "ratio", "memory, or how SQLite looks it up", "limit", ""],
 ([.[].benchmarks[] | select(.run_type == "iteration") | measurement] | group_by(.work)[] | line)
 | map(shown)
 | @tsv

@@ -3,16 +3,16 @@
 # Measures the till's work beside the least that the same work costs, and prints one table.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
-usage="usage: scripts/bench.sh [SUBJECT]...   (subjects: db menu articles receipt printer history stock)"
+usage="usage: scripts/bench.sh [SUBJECT]...   (subjects: start db menu articles sale receipt printer history stock)"
 subjects=()
 for argument in "$@"; do
     case $argument in
         -h | --help) say "$usage" && exit ;;
-        db | menu | articles | receipt | printer | history | stock) subjects+=("$argument") ;;
+        start | db | menu | articles | sale | receipt | printer | history | stock) subjects+=("$argument") ;;
         *) unknown_option "$usage" "$argument" ;;
     esac
 done
-[ ${#subjects[@]} -gt 0 ] || subjects=(db menu articles receipt printer history stock)
+[ ${#subjects[@]} -gt 0 ] || subjects=(start db menu articles sale receipt printer history stock)
 
 "$root/scripts/install.sh" build run bench
 say "Building the preset bench"

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "bench/Support.h"
+
+#include <QFile>
+#include <QHeaderView>
+#include <QStandardItemModel>
+#include <QTableView>
+
+#include <stdexcept>
+
+#include <time.h>
+#include <unistd.h>
+
+void check(bool holds, const char* what)
+{
+    if (!holds) {
+        throw std::runtime_error(what);
+    }
+}
+
+double workedSeconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+double residentBytes()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    check(file.open(QIODevice::ReadOnly), "statm");
+    return file.readAll().split(' ').at(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE));
+}
+
+void fillByFloor(QTableView& view, const DbRows& texts, int height)
+{
+    auto& model = static_cast<QStandardItemModel&>(*view.model());
+    view.setUpdatesEnabled(false);
+    view.verticalHeader()->setUpdatesEnabled(false);
+    for (const auto& row : texts) {
+        QList<QStandardItem*> items;
+        items.reserve(static_cast<int>(row.size()));
+        for (const std::string& text : row) {
+            items << new QStandardItem(QString::fromStdString(text));
+        }
+        model.appendRow(items);
+        view.setRowHeight(model.rowCount() - 1, height);
+    }
+    view.verticalHeader()->setUpdatesEnabled(true);
+    view.setUpdatesEnabled(true);
+}
