@@ -14,6 +14,11 @@ if(VENDEL_SANITIZE)
   target_link_options(vendel_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(VENDEL_COVERAGE)
+  target_compile_options(vendel_options INTERFACE --coverage -fno-inline -fprofile-update=atomic)
+  target_link_options(vendel_options INTERFACE --coverage)
+endif()
+
 # A library of one folder: its sources are listed, what it may use is its link list.
 function(vendel_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})

@@ -12,11 +12,12 @@ declare -A packages=(
     [lint]="git shellcheck clang-format clang-tidy clazy cppcheck reuse"
     [package]="dpkg-dev file lintian"
     [package-test]="debootstrap sqlite3 xdotool xvfb"
-    [bench]="libbenchmark-dev"
+    [bench]="libbenchmark-dev jq bsdextrautils"
+    [coverage]="gcovr"
     [fuzz]="clang libclang-rt-dev"
 )
 usage="usage: scripts/install.sh [--list] GROUP...
-  groups: build run test lint package package-test bench fuzz"
+  groups: build run test lint package package-test bench coverage fuzz"
 
 list=false
 wanted=()
