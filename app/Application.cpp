@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/Application.h"
 
+#include "common/QtNames.h"
+
 #include <QApplication>
 #include <QFont>
-#include <QLibraryInfo>
 #include <QTranslator>
 
 namespace {
@@ -35,7 +36,6 @@ void Application::setUp(QApplication& application)
     QApplication::setFont(font);
 
     // The translation comes second, because Qt asks the last one first.
-    installTranslation(application, QStringLiteral("qtbase_fr"),
-        QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    installTranslation(application, QStringLiteral("qtbase_fr"), QtNames::translationsFolder());
     installTranslation(application, QStringLiteral("FormVendelTr_Us"), QString());
 }

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "common/HoverTip.h"
 
+#include "common/QtNames.h"
+
 #include <QAbstractItemView>
 #include <QCoreApplication>
-#include <QMouseEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QTextDocument>
@@ -54,7 +55,7 @@ std::optional<QPoint> mouseMoveOver(
     if (watched != view.viewport() || event->type() != QEvent::MouseMove) {
         return std::nullopt;
     }
-    return static_cast<const QMouseEvent*>(event)->localPos().toPoint();
+    return QtNames::position(*static_cast<const QMouseEvent*>(event)).toPoint();
 }
 
 QString textUnder(const QAbstractItemView& view, QPoint position, int column)

@@ -50,7 +50,7 @@ void setUpList(QTableView& view, QStandardItemModel& model, const Texts& texts,
     for (const std::string& label : labels) {
         captions << texts(label);
     }
-    model.setColumnCount(captions.size());
+    model.setColumnCount(static_cast<int>(captions.size()));
     model.setHorizontalHeaderLabels(captions);
 
     view.setModel(&model);

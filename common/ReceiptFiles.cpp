@@ -12,7 +12,7 @@ std::optional<QString> ReceiptFiles::read(const QString& file)
         return std::nullopt;
     }
     const QByteArray bytes = stored.readAll();
-    const int end = bytes.indexOf('\0');
+    const auto end = bytes.indexOf('\0');
     return QString::fromUtf8(end < 0 ? bytes : bytes.left(end));
 }
 

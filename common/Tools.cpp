@@ -14,15 +14,14 @@ constexpr int dateTimeLength = 23;
 /// The parts of a date in a new order with \a separator between them, a time of day (position 11,
 /// 12 characters) kept behind; a year's journal has 330,000 of them, so each is put together in one
 /// go.
-QString reordered(const QString& text, const QStringRef& first, const QStringRef& second,
-    const QStringRef& third, QLatin1Char separator)
+QString reordered(QStringView text, QStringView first, QStringView second, QStringView third,
+    QLatin1Char separator)
 {
     switch (text.size()) {
     case dateLength:
         return first % separator % second % separator % third;
     case dateTimeLength:
-        return first % separator % second % separator % third % QLatin1Char(' ')
-            % text.midRef(11, 12);
+        return first % separator % second % separator % third % QLatin1Char(' ') % text.mid(11, 12);
     default:
         return {};
     }
@@ -78,8 +77,8 @@ QString Tools::ConvDate::ToUs(QString text)
 {
     QString result;
     guarded("Errors ToUs : ", [&] {
-        result = reordered(
-            text, text.midRef(6, 4), text.midRef(0, 2), text.midRef(3, 2), QLatin1Char('-'));
+        const QStringView date(text);
+        result = reordered(date, date.mid(6, 4), date.mid(0, 2), date.mid(3, 2), QLatin1Char('-'));
     });
     return result;
 }
@@ -88,8 +87,8 @@ QString Tools::ConvDate::ToUs_mdy(QString text)
 {
     QString result;
     guarded("Errors ToFr : ", [&] {
-        result = reordered(
-            text, text.midRef(5, 2), text.midRef(8, 2), text.midRef(0, 4), QLatin1Char('/'));
+        const QStringView date(text);
+        result = reordered(date, date.mid(5, 2), date.mid(8, 2), date.mid(0, 4), QLatin1Char('/'));
     });
     return result;
 }

@@ -100,7 +100,7 @@ void FormVendelSaisieArticle::on_txt_Article_textChanged(const QString&)
 /// Takes one surplus letter back; the text then changes again, until none is left.
 void FormVendelSaisieArticle::checkLength()
 {
-    const int length = ui_->txt_Article->text().size();
+    const auto length = ui_->txt_Article->text().size();
     if (length > Tools::NbrChar) {
         notice(this, texts(Messages::Messages28[0]) + QString::number(Tools::NbrChar),
             texts(Messages::Messages28[1]));

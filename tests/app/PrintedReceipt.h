@@ -19,7 +19,7 @@ inline QByteArray printedItems()
 {
     const QByteArray headings = "Prix * Qtit\x82\r\n\r\n";
     const QByteArray receipt = printedReceipt();
-    const int begin = receipt.indexOf(headings) + headings.size();
+    const auto begin = receipt.indexOf(headings) + headings.size();
     return receipt.mid(begin, receipt.indexOf("\r\n->  Total ticket") - begin);
 }
 

@@ -46,7 +46,7 @@ QRect geometry(const QString& id)
     const QByteArray text
         = xdotool({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), id});
     const auto value = [&](const QByteArray& name) {
-        const int start = text.indexOf('\n' + name + '=') + name.size() + 2;
+        const auto start = text.indexOf('\n' + name + '=') + name.size() + 2;
         return text.mid(start, text.indexOf('\n', start) - start).toInt();
     };
     return {value("X"), value("Y"), value("WIDTH"), value("HEIGHT")};

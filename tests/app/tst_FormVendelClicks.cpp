@@ -71,9 +71,9 @@ struct OpenCounter : Counter
 void press(QTableView& view, int row, QEvent::Type type, Qt::MouseButton button)
 {
     const QPoint point = view.visualRect(view.model()->index(row, 2)).center();
-    QMouseEvent down(type, point, button, button, Qt::NoModifier);
+    QMouseEvent down(type, point, point, button, button, Qt::NoModifier);
     QApplication::sendEvent(view.viewport(), &down);
-    QMouseEvent up(QEvent::MouseButtonRelease, point, button, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent up(QEvent::MouseButtonRelease, point, point, button, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(view.viewport(), &up);
 }
 } // namespace

@@ -230,7 +230,7 @@ void TestFormVendelTicket::columnsStandUnderEachOther()
     const auto& edit = receiptOf(window);
     const auto column = [&](const char* start, const char* text) {
         const QTextBlock block = lineStarting(edit, QString::fromUtf8(start));
-        return xOf(block, block.text().indexOf(QString::fromUtf8(text)));
+        return xOf(block, int(block.text().indexOf(QString::fromUtf8(text))));
     };
     const double width = xOf(lineStarting(edit, QStringLiteral("---")), 1);
     QCOMPARE(column("Qtité", "Prix U"), 24 * width);
@@ -289,7 +289,7 @@ void TestFormVendelTicket::theTotalIsBoldAndTwiceAsWide()
     QVERIFY(qAbs(xOf(total, 10) - 20 * width) < 1);
     // The tab stops stay where they are.
     QCOMPARE(xOf(total, 11), 24 * width);
-    QVERIFY(qAbs(xOf(total, total.text().size()) - 44 * width) < 1);
+    QVERIFY(qAbs(xOf(total, int(total.text().size())) - 44 * width) < 1);
 }
 
 void TestFormVendelTicket::aLongNameIsWrappedAndNotLost()

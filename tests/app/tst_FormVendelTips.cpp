@@ -121,8 +121,8 @@ void TestFormVendelTips::everyColumnTellsTheName()
 void TestFormVendelTips::theTipStandsRightBelowItsPoint()
 {
     OpenCounter counter;
-    QMouseEvent move(
-        QEvent::MouseMove, QPointF(100.6, 5.4), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, QPointF(100.6, 5.4), QPointF(100.6, 5.4), Qt::NoButton,
+        Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(&counter.viewport("tableView1"), &move);
     // Qt puts a tip below a pointer of 16 pixels, 2 pixels to the right.
     QCOMPARE(tipPosition(), QPoint(101 + 150 + 2, 5 + 130 + 16));
@@ -143,8 +143,8 @@ void TestFormVendelTips::anEmptyAreaHidesTheTip()
     for (const auto* list : {"tableView1", "tableView2"}) {
         counter.hover(list, 0, 2);
         QVERIFY(QToolTip::isVisible());
-        QMouseEvent move(
-            QEvent::MouseMove, QPointF(200, 500), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, QPointF(200, 500), QPointF(200, 500), Qt::NoButton,
+            Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(&counter.viewport(list), &move);
         QTRY_VERIFY(!QToolTip::isVisible());
     }
@@ -153,8 +153,8 @@ void TestFormVendelTips::anEmptyAreaHidesTheTip()
 void TestFormVendelTips::anEmptyListHasNoTip()
 {
     OpenCounter counter("insert into Article (article, prix) values ('Thé', 1)");
-    QMouseEvent move(
-        QEvent::MouseMove, QPointF(20, 10), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, QPointF(20, 10), QPointF(20, 10), Qt::NoButton,
+        Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(&counter.viewport("tableView2"), &move);
     QVERIFY(!QToolTip::isVisible());
 }
@@ -222,7 +222,8 @@ void TestFormVendelTips::theListsProcessTheirEventsAsUsual()
     QObject& filter = counter.form;
     for (const auto type : {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
              QEvent::MouseButtonDblClick}) {
-        QMouseEvent event(type, QPointF(50, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent event(
+            type, QPointF(50, 5), QPointF(50, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QVERIFY(!filter.eventFilter(&counter.viewport("tableView1"), &event));
         QVERIFY(!filter.eventFilter(&counter.viewport("tableView2"), &event));
         QVERIFY(!filter.eventFilter(&counter.form, &event));

@@ -211,9 +211,9 @@ private:
         QCoreApplication::sendEvent(&widget, &event);
     }
 
-    int number(int below)
+    int number(qsizetype below)
     {
-        return random_.bounded(std::max(below, 1));
+        return random_.bounded(static_cast<int>(std::max<qsizetype>(below, 1)));
     }
 
     QRandomGenerator random_;

@@ -70,7 +70,7 @@ void TestPaymentOnPaper::aReceiptIsOneTransferAndACut()
     till.sellOnPaper();
     QList<QByteArray> bytes = jobs(printer);
     QCOMPARE(bytes.size(), 2);
-    const int time = bytes.at(0).indexOf("     ") + 5;
+    const auto time = bytes.at(0).indexOf("     ") + 5;
     bytes[0].replace(time, 19, "05/03/2024 09:07:03");
     COMPARE_BYTES(bytes.at(0),
         "\x1b\x21\x30\x1b\x61\x01"

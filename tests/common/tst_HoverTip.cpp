@@ -63,7 +63,7 @@ struct List : QTableView
 
 QMouseEvent moveTo(const QPointF& point)
 {
-    return {QEvent::MouseMove, point, Qt::NoButton, Qt::NoButton, Qt::NoModifier};
+    return {QEvent::MouseMove, point, point, Qt::NoButton, Qt::NoButton, Qt::NoModifier};
 }
 
 QWidget* shownTip()

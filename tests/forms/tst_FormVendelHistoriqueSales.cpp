@@ -76,7 +76,7 @@ void TestFormVendelHistoriqueSales::malformedDatesAreEmptyDays()
     for (int row = 0; row < 3; ++row) {
         days += rowTexts(history.window, "tableView2", row);
     }
-    const int emptyRow = days.indexOf(QString());
+    const auto emptyRow = static_cast<int>(days.indexOf(QString()));
     days.sort();
     QCOMPARE(days, texts({"", "", "05/01/2019"}));
     history.type("05/01/2019", "05/02/2019");

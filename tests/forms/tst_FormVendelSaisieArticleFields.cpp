@@ -208,7 +208,7 @@ void TestFormVendelSaisieArticleFields::theTopLeftPixelHasNoTip()
     click(editor.window, "btn_Afficher");
     QWidget& viewport = *child<QTableView>(editor.window, "tableView").viewport();
     const auto moveTo = [&viewport](QPoint point) {
-        QMouseEvent move(QEvent::MouseMove, point, viewport.mapToGlobal(point), Qt::NoButton,
+        QMouseEvent move(QEvent::MouseMove, point, point, viewport.mapToGlobal(point), Qt::NoButton,
             Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(&viewport, &move);
     };
@@ -236,7 +236,7 @@ void TestFormVendelSaisieArticleFields::onlyTheListIsWatchedAndNothingIsSwallowe
     click(editor.window, "btn_Afficher");
     auto& list = child<QTableView>(editor.window, "tableView");
     const QPoint point = list.visualRect(list.model()->index(0, 2)).center();
-    QMouseEvent move(QEvent::MouseMove, point, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, point, point, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QVERIFY(!editor.window.eventFilter(&list, &move));
     QVERIFY(tipText().isEmpty());
     QVERIFY(!editor.window.eventFilter(list.viewport(), &move));

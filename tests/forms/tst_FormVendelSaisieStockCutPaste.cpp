@@ -344,7 +344,8 @@ void TestFormVendelSaisieStockCutPaste::troubleIsLogged()
         &at.window, "on_tableViewSelection", Q_ARG(QModelIndex, index), Q_ARG(QModelIndex, index));
     click(at.window, "btn_Modify");
     child<QTableView>(at.window, "tableView2").resize(400, 300);
-    QMouseEvent move(QEvent::MouseMove, QPointF(5, 12), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, QPointF(5, 12), QPointF(5, 12), Qt::NoButton, Qt::NoButton,
+        Qt::NoModifier);
     QVERIFY(!static_cast<QObject&>(at.window).eventFilter(
         child<QTableView>(at.window, "tableView2").viewport(), &move));
     at.shop.sql("drop table DoseStock");

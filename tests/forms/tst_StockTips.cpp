@@ -39,7 +39,8 @@ void TestStockTips::tipsSayWhatADoubleClickDoes()
             "Composition\nDoubleClick sur : Lait\nPour supprimer l'article de la composition"));
 
     stock.Clear_List();
-    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), QPointF(5, 5), Qt::NoButton, Qt::NoButton,
+        Qt::NoModifier);
     QVERIFY(!static_cast<QObject&>(stock).eventFilter(
         child<QTableView>(stock, "tableView2").viewport(), &move));
     QTRY_VERIFY(!QToolTip::isVisible());
@@ -67,8 +68,8 @@ void TestStockTips::tipsIgnoreOtherEvents()
     QEvent paint(QEvent::Enter);
     QVERIFY(!static_cast<QObject&>(stock).eventFilter(
         child<QTableView>(stock, "tableView1").viewport(), &paint));
-    QMouseEvent elsewhere(
-        QEvent::MouseMove, QPointF(5, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent elsewhere(QEvent::MouseMove, QPointF(5, 5), QPointF(5, 5), Qt::NoButton,
+        Qt::NoButton, Qt::NoModifier);
     QVERIFY(!static_cast<QObject&>(stock).eventFilter(&stock, &elsewhere));
     QCOMPARE(QToolTip::text(),
         QStringLiteral("Article\nDoubleClick sur : Café\nPour faire composition"));
@@ -93,7 +94,8 @@ void TestStockTips::tipsSayHowToMove()
     QVERIFY(!static_cast<QObject&>(window).eventFilter(&viewport, &enter));
     QVERIFY(QToolTip::isVisible());
     window.Display_DoseStock(QStringLiteral("2"));
-    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), QPointF(5, 5), Qt::NoButton, Qt::NoButton,
+        Qt::NoModifier);
     QVERIFY(!static_cast<QObject&>(window).eventFilter(&viewport, &move));
     QTRY_VERIFY(!QToolTip::isVisible());
 }

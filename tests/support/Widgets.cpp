@@ -84,9 +84,9 @@ int rowCount(QWidget& window, const char* name)
 void chooseMenu(QWidget& window, const char* menu, const char* action)
 {
     auto& popup = child<QMenu>(window, menu);
-    const auto widgets = popup.menuAction()->associatedWidgets();
-    for (QWidget* widget : widgets) {
-        if (auto* bar = qobject_cast<QMenuBar*>(widget)) {
+    const auto bars = window.findChildren<QMenuBar*>();
+    for (QMenuBar* bar : bars) {
+        if (bar->actions().contains(popup.menuAction())) {
             QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
                 bar->actionGeometry(popup.menuAction()).center());
         }

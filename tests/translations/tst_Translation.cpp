@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "common/Messages.h"
+#include "common/QtNames.h"
 #include "common/Texts.h"
 #include "tests/support/TestMain.h"
 #include "tests/translations/TranslationFile.h"
 
 #include <QHash>
-#include <QLibraryInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
@@ -95,8 +95,8 @@ void TestTranslation::initTestCase()
             source + QLatin1String("common"), QStringLiteral("-ts"), designer});
     const QString qtFrench = folder.filePath(QStringLiteral("qt.ts"));
     runTool(QStringLiteral(VENDEL_LCONVERT),
-        {QLibraryInfo::location(QLibraryInfo::TranslationsPath) + QLatin1String("/qtbase_fr.qm"),
-            QStringLiteral("-o"), qtFrench});
+        {QtNames::translationsFolder() + QLatin1String("/qtbase_fr.qm"), QStringLiteral("-o"),
+            qtFrench});
 
     catalogue_ = readCatalogue(source + QLatin1String("common/Messages.cpp"));
     catalogue_.removeAll(QString());
