@@ -31,6 +31,8 @@ private slots:
     void theTicketIsEmptied();
     void emptyingAnEmptyTicketIsSaid();
     void emptyingClearsTotalsToo();
+    void listsAreEmptiedBeforeTheNotice();
+    void theTotalOfAnEmptyTicketLeavesTheList();
     void messagesAreTranslated();
     void rowsFitTheirFont();
     void aRefilledTicketShowsItsFirstLine();
@@ -274,6 +276,38 @@ void TestFormVendelLists::emptyingClearsTotalsToo()
     QCOMPARE(rowCount(counter.form, "tableView2"), 4);
     click(counter.form, "btn_Effacer_Ticket");
     QCOMPARE(rowCount(counter.form, "tableView2"), 0);
+}
+
+void TestFormVendelLists::listsAreEmptiedBeforeTheNotice()
+{
+    Counter counter("insert into Article (article, prix) values ('Thé', 1);"
+                    "insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    const auto rowsDuringTheNotice = [&](const char* button, const char* list) {
+        int rows = -1;
+        AnswerBox box(QMessageBox::Ok, [&](QMessageBox&) { rows = rowCount(counter.form, list); });
+        click(counter.form, button);
+        return rows;
+    };
+    click(counter.form, "btn_Afficher");
+    click(counter.form, "btn_Ticket");
+    counter.shop.fill("delete from Article; delete from Ticket");
+    QCOMPARE(rowsDuringTheNotice("btn_Afficher", "tableView1"), 0);
+    QCOMPARE(rowsDuringTheNotice("btn_Ticket", "tableView2"), 0);
+    counter.shop.sql("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    click(counter.form, "btn_Ticket");
+    counter.shop.sql("delete from Ticket");
+    QCOMPARE(rowsDuringTheNotice("btn_Effacer_Ticket", "tableView2"), 0);
+}
+
+void TestFormVendelLists::theTotalOfAnEmptyTicketLeavesTheList()
+{
+    Counter counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    click(counter.form, "btn_Ticket");
+    counter.shop.sql("delete from Ticket");
+    const AnswerBox box;
+    click(counter.form, "btn_Total_Ticket");
+    QCOMPARE(box.title(), QStringLiteral("Total"));
+    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
 }
 
 void TestFormVendelLists::messagesAreTranslated()

@@ -48,6 +48,7 @@ private slots:
     void twoQuickPressesAreOneReceipt();
     void withoutAPrinterTheTicketIsKept_data();
     void withoutAPrinterTheTicketIsKept();
+    void theSaleIsRecordedBeforeThePrinterIsMissed();
     void aPrinterThatIsPluggedInLaterPrints();
     void theFirstOfTwoPrintersPrints();
     void theKernelsDriverIsDetached();
@@ -228,6 +229,22 @@ void TestPaymentOnPaper::withoutAPrinterTheTicketIsKept()
     QCOMPARE(till.ticket().size(), 1);
     QVERIFY(printer.transfers().empty());
     QVERIFY(till.sellsOnScreen());
+}
+
+void TestPaymentOnPaper::theSaleIsRecordedBeforeThePrinterIsMissed()
+{
+    EmulatedPrinter printer;
+    printer.unplug();
+    Till till;
+    QStringList historyDuringTheNotice;
+    int linesDuringTheNotice = -1;
+    const AnswerBox box(QMessageBox::Ok, [&](QMessageBox&) {
+        historyDuringTheNotice = till.history();
+        linesDuringTheNotice = till.shownLines();
+    });
+    till.sellOnPaper();
+    QCOMPARE(historyDuringTheNotice, QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(linesDuringTheNotice, 0);
 }
 
 void TestPaymentOnPaper::aPrinterThatIsPluggedInLaterPrints()
