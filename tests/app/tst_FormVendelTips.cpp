@@ -28,6 +28,7 @@ private slots:
     void anEmptyListHasNoTip();
     void aNamelessArticleHasNoTip();
     void theCheckBoxSwitchesTipsOff();
+    void theCheckBoxTakesAStandingTipAway();
     void theCheckBoxSwitchesTipsOnAgain();
     void otherEventsTouchNoTip_data();
     void otherEventsTouchNoTip();
@@ -179,6 +180,18 @@ void TestFormVendelTips::theCheckBoxSwitchesTipsOff()
     counter.hover("tableView1", 0, 2);
     counter.hover("tableView2", 0, 2);
     QVERIFY(!QToolTip::isVisible());
+}
+
+void TestFormVendelTips::theCheckBoxTakesAStandingTipAway()
+{
+    OpenCounter counter;
+    auto& box = child<QCheckBox>(counter.form, "chkbx_ToolTip");
+    box.setFocus();
+    counter.hover("tableView1", 0, 2);
+    QVERIFY(QToolTip::isVisible());
+    QTest::keyClick(&box, Qt::Key_Space);
+    QVERIFY(!box.isChecked());
+    QTRY_VERIFY(!QToolTip::isVisible());
 }
 
 void TestFormVendelTips::theCheckBoxSwitchesTipsOnAgain()
