@@ -2,6 +2,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Counter.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
@@ -34,6 +35,7 @@ private slots:
     void listsAreEmptiedBeforeTheNotice();
     void theTotalOfAnEmptyTicketLeavesTheList();
     void messagesAreTranslated();
+    void noticesOfEmptyListsAreTranslated();
     void rowsFitTheirFont();
     void aRefilledTicketShowsItsFirstLine();
 };
@@ -326,6 +328,23 @@ void TestFormVendelLists::messagesAreTranslated()
     AnswerBox box;
     click(counter.form, "btn_Total_Ticket");
     compareNotice(box, counter, "Sum", "Nothing sold");
+}
+
+void TestFormVendelLists::noticesOfEmptyListsAreTranslated()
+{
+    Counter counter;
+    const MarkedContext marked("FormVendelMessages");
+    {
+        AnswerBox box;
+        click(counter.form, "btn_Ticket");
+        compareNotice(
+            box, counter, "FormVendelMessages:Ticket", "FormVendelMessages:Le ticket est vide");
+    }
+    AnswerBox box;
+    click(counter.form, "btn_Afficher");
+    compareNotice(box, counter, "FormVendelMessages:Afficher",
+        "FormVendelMessages:Le menu est vide\nAjouter des articles\nAllez dans le menu Vendel "
+        "Saisie Article");
 }
 
 void TestFormVendelLists::rowsFitTheirFont()

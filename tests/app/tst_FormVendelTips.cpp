@@ -306,9 +306,15 @@ void TestFormVendelTips::tipsAreTranslated()
     translation.add(context, QStringLiteral("Menu\nClick sur : "), QStringLiteral("Menu\nClick: "));
     translation.add(
         context, QStringLiteral("\nPour l'ajouter au ticket"), QStringLiteral("\nto add it"));
+    translation.add(
+        context, QStringLiteral("Ticket\nClick sur : "), QStringLiteral("Ticket\nClick: "));
+    translation.add(context, QStringLiteral("\nPour supprimer l'article du ticket"),
+        QStringLiteral("\nto take it off"));
     OpenCounter counter;
     counter.hover("tableView1", 0, 2);
     QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick: Eau\nto add it"));
+    counter.hover("tableView2", 0, 2);
+    QCOMPARE(QToolTip::text(), QStringLiteral("Ticket\nClick: Eau\nto take it off"));
 }
 
 void TestFormVendelTips::aNameOfTenThousandCharactersIsCut()

@@ -5,6 +5,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/EmulatedPrinter.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
 
 #include <QRegularExpression>
@@ -49,6 +50,7 @@ private slots:
     void withoutAPrinterTheTicketIsKept_data();
     void withoutAPrinterTheTicketIsKept();
     void theSaleIsRecordedBeforeThePrinterIsMissed();
+    void noticesAreTranslated();
     void aPrinterThatIsPluggedInLaterPrints();
     void theFirstOfTwoPrintersPrints();
     void theKernelsDriverIsDetached();
@@ -245,6 +247,24 @@ void TestPaymentOnPaper::theSaleIsRecordedBeforeThePrinterIsMissed()
     till.sellOnPaper();
     QCOMPARE(historyDuringTheNotice, QStringList(QStringLiteral("7 Thé 2.5")));
     QCOMPARE(linesDuringTheNotice, 0);
+}
+
+void TestPaymentOnPaper::noticesAreTranslated()
+{
+    EmulatedPrinter printer;
+    printer.unplug();
+    Till till;
+    const MarkedContext marked("FormVendelMessages");
+    {
+        const AnswerBox box;
+        till.pay();
+        QCOMPARE(box.title(), QStringLiteral("FormVendelMessages:Payer"));
+        QCOMPARE(box.text(), QStringLiteral("FormVendelMessages:Le ticket est vide"));
+    }
+    const AnswerBox box;
+    till.sellOnPaper();
+    QCOMPARE(box.title(), QStringLiteral("FormVendelMessages:Payer"));
+    QCOMPARE(box.text(), QStringLiteral("FormVendelMessages:Imprimante non connectée"));
 }
 
 void TestPaymentOnPaper::aPrinterThatIsPluggedInLaterPrints()
