@@ -42,6 +42,8 @@ FormVendel::FormVendel(QWidget* parent)
         setCaptions();
         watchMouse(*ui_->tableView1, *this);
         watchMouse(*ui_->tableView2, *this);
+        // A key unchecks the box while a tip stands; a press of the mouse hides it anyway.
+        connect(ui_->chkbx_ToolTip, &QCheckBox::toggled, this, &hideTip);
         if (!QFile::exists(QStringLiteral("Vendel.db"))) {
             Db::DbCreate();
         }

@@ -74,6 +74,7 @@ private:
     void showMenu();
     void showTotal();
     void addToTicket(const QModelIndex& index);
+    void removeFromTicket(const QModelIndex& index);
     bool refreshTicket();
     void putOnTicket(const QString& amount);
     void typeText(const QString& text);

@@ -12,6 +12,8 @@
 #include "forms/DuplicateArticles.h"
 #include "ui_FormVendel.h"
 
+#include <algorithm>
+
 namespace {
 enum MenuColumn
 {
@@ -87,9 +89,21 @@ void FormVendel::on_tableView2_clicked(const QModelIndex& index)
         if (isSecondPress_) {
             return;
         }
-        TicketTable::remove(keyOf(index));
-        refreshTicket();
+        removeFromTicket(index);
     });
+}
+
+/// Removes a line and leaves those around it where they stand: the next may be meant for removal.
+void FormVendel::removeFromTicket(const QModelIndex& index)
+{
+    const int firstInView = ui_->tableView2->rowAt(0);
+    TicketTable::remove(keyOf(index));
+    refreshTicket();
+    const int first = std::min(firstInView, modelTicket_->rowCount() - 1);
+    // The first scroll lays the list out, without which the second would find no way to go.
+    ui_->tableView2->scrollToBottom();
+    ui_->tableView2->scrollTo(
+        modelTicket_->index(first, TicketTable::Article), QAbstractItemView::PositionAtTop);
 }
 
 /// Shows the ticket as it is stored; returns whether it holds a line.

@@ -26,11 +26,15 @@ enum Output
     OnPaper = 1
 };
 
-/// Copies the ticket's lines into the history. Throws std::runtime_error when a line could not be
-/// written, so that the ticket keeps it.
+/// Copies the ticket's lines into the history. Throws std::runtime_error when they could not be
+/// read or one could not be written, so that the ticket keeps it.
 void recordSale()
 {
-    for (const auto& line : TicketTable::rows()) {
+    const DbRows lines = TicketTable::rows();
+    if (lines.empty()) {
+        throw std::runtime_error("the ticket could not be read");
+    }
+    for (const auto& line : lines) {
         const QString sql = QLatin1String("insert into Historique (id, article, prix) values(")
             + QString::fromStdString(line.at(TicketTable::ArticleId)) + QLatin1String(", '")
             + Tools::StringDblRating(line.at(TicketTable::Article)) + QLatin1String("', ")

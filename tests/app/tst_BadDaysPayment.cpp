@@ -7,6 +7,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTableView>
+
+#include <memory>
 
 #include <sys/stat.h>
 
@@ -31,6 +34,7 @@ class TestBadDaysPayment : public QObject
 private slots:
     void aDatabaseThatIsLockedForWritingKeepsTheTicket();
     void aDatabaseThatIsLockedForReadingShowsNoTicket();
+    void aLockThatComesBetweenKeepsTheTicket();
     void aShortLockIsWaitedFor();
     void aDatabaseThatIsReadOnlyKeepsTheTicket();
     void aDatabaseThatCannotGrowKeepsTheTicket();
@@ -87,6 +91,29 @@ void TestBadDaysPayment::aDatabaseThatIsLockedForReadingShowsNoTicket()
     till.pay();
     QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
     QVERIFY(!till.takeReceipt().isEmpty());
+}
+
+void TestBadDaysPayment::aLockThatComesBetweenKeepsTheTicket()
+{
+    Till till;
+    till.sell("Thé", "2.5");
+    {
+        std::unique_ptr<OtherProcess> repair;
+        connect(child<QTableView>(till.window, "tableView2").model(),
+            &QAbstractItemModel::rowsRemoved, &till.window,
+            [&] { repair = std::make_unique<OtherProcess>("begin exclusive", longTime); });
+        CapturedLog log;
+        CapturedOutput output;
+        till.pay();
+        QVERIFY(repair != nullptr);
+        QCOMPARE(log.criticals(),
+            QStringList(QStringLiteral(
+                "Errors FormVendel on_btn_Payer_clicked : the ticket could not be read")));
+        QCOMPARE(output.text(), diagnostic("select * from Ticket", "database is locked"));
+        QVERIFY(till.receipt() == nullptr);
+    }
+    QCOMPARE(till.history(), QStringList());
+    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
 }
 
 void TestBadDaysPayment::aShortLockIsWaitedFor()

@@ -34,6 +34,7 @@ private slots:
     void theLastLineGoesWithoutAMessage();
     void onlyTheClickedLineGoes();
     void theNewestLineIsInView();
+    void aRemovalDoesNotScrollTheTicket();
     void anAddedLineTakesTheTotalsAway();
     void aClickOnATotalRemovesNothing();
     void theTicketOutlivesTheWindow();
@@ -264,6 +265,27 @@ void TestFormVendelClicks::theNewestLineIsInView()
         QVERIFY2(view.viewport()->rect().contains(newest), qPrintable(QString::number(line)));
     }
     QVERIFY(view.verticalScrollBar()->maximum() > 0);
+}
+
+void TestFormVendelClicks::aRemovalDoesNotScrollTheTicket()
+{
+    OpenCounter counter("insert into Article (article, prix) values ('Thé', 1);"
+                        "with recursive n(i) as (select 1 union all select i + 1 from n "
+                        "where i < 60) insert into Ticket (id, article, prix) "
+                        "select 1, 'Thé ' || i, 1 from n");
+    auto& view = child<QTableView>(counter.form, "tableView2");
+    const auto removeAt = [&](QPoint point) {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, point);
+        return view.indexAt(QPoint(5, 5)).data().toString();
+    };
+    view.scrollToBottom();
+    view.scrollTo(view.model()->index(20, 2), QAbstractItemView::PositionAtTop);
+    QCOMPARE(removeAt(QPoint(50, 100)), QStringLiteral("Thé 21"));
+    QCOMPARE(removeAt(QPoint(50, 5)), QStringLiteral("Thé 22"));
+    view.scrollToBottom();
+    QCOMPARE(rowCount(counter.form, "tableView2"), 58);
+    clickCell(counter.form, "tableView2", 57, 2);
+    QVERIFY(view.viewport()->rect().contains(view.visualRect(view.model()->index(56, 2))));
 }
 
 void TestFormVendelClicks::anAddedLineTakesTheTotalsAway()

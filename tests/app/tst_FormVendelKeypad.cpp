@@ -31,6 +31,7 @@ private slots:
     void amountsAreSplicedAsTyped();
     void amountsThatSqlDoesNotKnowAreReported_data();
     void amountsThatSqlDoesNotKnowAreReported();
+    void theFieldShowsTheSignDuringTheRefusal();
     void refusalsAreTranslated();
     void aRefusedAmountLeavesTheListAlone();
     void anAddedAmountTakesTheTotalsAway();
@@ -300,6 +301,16 @@ void TestFormVendelKeypad::amountsThatSqlDoesNotKnowAreReported()
     QCOMPARE(keypad.names("tableView2"), QStringLiteral("Thé"));
     keypad.plus(QStringLiteral("2"));
     QCOMPARE(keypad.names("tableView2"), QStringLiteral("Thé|----"));
+}
+
+void TestFormVendelKeypad::theFieldShowsTheSignDuringTheRefusal()
+{
+    Keypad keypad;
+    QString shown;
+    AnswerBox box(QMessageBox::Ok, [&](QMessageBox&) { shown = keypad.field().text(); });
+    keypad.minus(QString());
+    QCOMPARE(shown, QStringLiteral("-"));
+    QCOMPARE(keypad.field().text(), QString());
 }
 
 void TestFormVendelKeypad::refusalsAreTranslated()

@@ -2,6 +2,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Counter.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
@@ -31,7 +32,10 @@ private slots:
     void theTicketIsEmptied();
     void emptyingAnEmptyTicketIsSaid();
     void emptyingClearsTotalsToo();
+    void listsAreEmptiedBeforeTheNotice();
+    void theTotalOfAnEmptyTicketLeavesTheList();
     void messagesAreTranslated();
+    void noticesOfEmptyListsAreTranslated();
     void rowsFitTheirFont();
     void aRefilledTicketShowsItsFirstLine();
 };
@@ -276,6 +280,38 @@ void TestFormVendelLists::emptyingClearsTotalsToo()
     QCOMPARE(rowCount(counter.form, "tableView2"), 0);
 }
 
+void TestFormVendelLists::listsAreEmptiedBeforeTheNotice()
+{
+    Counter counter("insert into Article (article, prix) values ('Thé', 1);"
+                    "insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    const auto rowsDuringTheNotice = [&](const char* button, const char* list) {
+        int rows = -1;
+        AnswerBox box(QMessageBox::Ok, [&](QMessageBox&) { rows = rowCount(counter.form, list); });
+        click(counter.form, button);
+        return rows;
+    };
+    click(counter.form, "btn_Afficher");
+    click(counter.form, "btn_Ticket");
+    counter.shop.fill("delete from Article; delete from Ticket");
+    QCOMPARE(rowsDuringTheNotice("btn_Afficher", "tableView1"), 0);
+    QCOMPARE(rowsDuringTheNotice("btn_Ticket", "tableView2"), 0);
+    counter.shop.sql("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    click(counter.form, "btn_Ticket");
+    counter.shop.sql("delete from Ticket");
+    QCOMPARE(rowsDuringTheNotice("btn_Effacer_Ticket", "tableView2"), 0);
+}
+
+void TestFormVendelLists::theTotalOfAnEmptyTicketLeavesTheList()
+{
+    Counter counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    click(counter.form, "btn_Ticket");
+    counter.shop.sql("delete from Ticket");
+    const AnswerBox box;
+    click(counter.form, "btn_Total_Ticket");
+    QCOMPARE(box.title(), QStringLiteral("Total"));
+    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
+}
+
 void TestFormVendelLists::messagesAreTranslated()
 {
     Translation translation;
@@ -292,6 +328,23 @@ void TestFormVendelLists::messagesAreTranslated()
     AnswerBox box;
     click(counter.form, "btn_Total_Ticket");
     compareNotice(box, counter, "Sum", "Nothing sold");
+}
+
+void TestFormVendelLists::noticesOfEmptyListsAreTranslated()
+{
+    Counter counter;
+    const MarkedContext marked("FormVendelMessages");
+    {
+        AnswerBox box;
+        click(counter.form, "btn_Ticket");
+        compareNotice(
+            box, counter, "FormVendelMessages:Ticket", "FormVendelMessages:Le ticket est vide");
+    }
+    AnswerBox box;
+    click(counter.form, "btn_Afficher");
+    compareNotice(box, counter, "FormVendelMessages:Afficher",
+        "FormVendelMessages:Le menu est vide\nAjouter des articles\nAllez dans le menu Vendel "
+        "Saisie Article");
 }
 
 void TestFormVendelLists::rowsFitTheirFont()

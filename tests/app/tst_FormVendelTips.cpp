@@ -28,6 +28,7 @@ private slots:
     void anEmptyListHasNoTip();
     void aNamelessArticleHasNoTip();
     void theCheckBoxSwitchesTipsOff();
+    void theCheckBoxTakesAStandingTipAway();
     void theCheckBoxSwitchesTipsOnAgain();
     void otherEventsTouchNoTip_data();
     void otherEventsTouchNoTip();
@@ -181,6 +182,18 @@ void TestFormVendelTips::theCheckBoxSwitchesTipsOff()
     QVERIFY(!QToolTip::isVisible());
 }
 
+void TestFormVendelTips::theCheckBoxTakesAStandingTipAway()
+{
+    OpenCounter counter;
+    auto& box = child<QCheckBox>(counter.form, "chkbx_ToolTip");
+    box.setFocus();
+    counter.hover("tableView1", 0, 2);
+    QVERIFY(QToolTip::isVisible());
+    QTest::keyClick(&box, Qt::Key_Space);
+    QVERIFY(!box.isChecked());
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
 void TestFormVendelTips::theCheckBoxSwitchesTipsOnAgain()
 {
     OpenCounter counter;
@@ -294,9 +307,15 @@ void TestFormVendelTips::tipsAreTranslated()
     translation.add(context, QStringLiteral("Menu\nClick sur : "), QStringLiteral("Menu\nClick: "));
     translation.add(
         context, QStringLiteral("\nPour l'ajouter au ticket"), QStringLiteral("\nto add it"));
+    translation.add(
+        context, QStringLiteral("Ticket\nClick sur : "), QStringLiteral("Ticket\nClick: "));
+    translation.add(context, QStringLiteral("\nPour supprimer l'article du ticket"),
+        QStringLiteral("\nto take it off"));
     OpenCounter counter;
     counter.hover("tableView1", 0, 2);
     QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick: Eau\nto add it"));
+    counter.hover("tableView2", 0, 2);
+    QCOMPARE(QToolTip::text(), QStringLiteral("Ticket\nClick: Eau\nto take it off"));
 }
 
 void TestFormVendelTips::aNameOfTenThousandCharactersIsCut()

@@ -2,6 +2,7 @@
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
 
 #include <QDateTime>
@@ -32,6 +33,7 @@ private slots:
     void theReceiptIsShownAndTheTicketEmptied();
     void theListWithItsTotalsIsEmptied();
     void theReceiptStandsOverTheSalesScreenAndIsDeleted();
+    void theReceiptsTitleIsTranslated();
     void theSalesScreenTakesNoPressWhileTheReceiptStands();
     void payingAgainWhileTheReceiptStandsSellsNothing();
     void twoQuickPressesAreOneSale();
@@ -140,6 +142,16 @@ void TestPayment::theReceiptStandsOverTheSalesScreenAndIsDeleted()
     receipt->close();
     QTRY_VERIFY(receipt.isNull());
     QVERIFY(till.window.isVisible());
+}
+
+void TestPayment::theReceiptsTitleIsTranslated()
+{
+    Till till;
+    till.sell("Thé", "2.5");
+    const MarkedContext marked("FormVendelMessages");
+    till.pay();
+    QVERIFY(till.receipt() != nullptr);
+    QCOMPARE(till.receipt()->windowTitle(), QStringLiteral("FormVendelMessages:Impression Ticket"));
 }
 
 void TestPayment::theSalesScreenTakesNoPressWhileTheReceiptStands()

@@ -5,6 +5,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/EmulatedPrinter.h"
+#include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
 
 #include <QRegularExpression>
@@ -48,6 +49,8 @@ private slots:
     void twoQuickPressesAreOneReceipt();
     void withoutAPrinterTheTicketIsKept_data();
     void withoutAPrinterTheTicketIsKept();
+    void theSaleIsRecordedBeforeThePrinterIsMissed();
+    void noticesAreTranslated();
     void aPrinterThatIsPluggedInLaterPrints();
     void theFirstOfTwoPrintersPrints();
     void theKernelsDriverIsDetached();
@@ -228,6 +231,40 @@ void TestPaymentOnPaper::withoutAPrinterTheTicketIsKept()
     QCOMPARE(till.ticket().size(), 1);
     QVERIFY(printer.transfers().empty());
     QVERIFY(till.sellsOnScreen());
+}
+
+void TestPaymentOnPaper::theSaleIsRecordedBeforeThePrinterIsMissed()
+{
+    EmulatedPrinter printer;
+    printer.unplug();
+    Till till;
+    QStringList historyDuringTheNotice;
+    int linesDuringTheNotice = -1;
+    const AnswerBox box(QMessageBox::Ok, [&](QMessageBox&) {
+        historyDuringTheNotice = till.history();
+        linesDuringTheNotice = till.shownLines();
+    });
+    till.sellOnPaper();
+    QCOMPARE(historyDuringTheNotice, QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(linesDuringTheNotice, 0);
+}
+
+void TestPaymentOnPaper::noticesAreTranslated()
+{
+    EmulatedPrinter printer;
+    printer.unplug();
+    Till till;
+    const MarkedContext marked("FormVendelMessages");
+    {
+        const AnswerBox box;
+        till.pay();
+        QCOMPARE(box.title(), QStringLiteral("FormVendelMessages:Payer"));
+        QCOMPARE(box.text(), QStringLiteral("FormVendelMessages:Le ticket est vide"));
+    }
+    const AnswerBox box;
+    till.sellOnPaper();
+    QCOMPARE(box.title(), QStringLiteral("FormVendelMessages:Payer"));
+    QCOMPARE(box.text(), QStringLiteral("FormVendelMessages:Imprimante non connectée"));
 }
 
 void TestPaymentOnPaper::aPrinterThatIsPluggedInLaterPrints()

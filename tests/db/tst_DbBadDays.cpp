@@ -9,6 +9,8 @@
 #include <QElapsedTimer>
 
 #include <iostream>
+#include <sstream>
+#include <streambuf>
 #include <string>
 
 #include <sys/stat.h>
@@ -21,6 +23,7 @@ private slots:
     void aDatabaseThatIsADirectoryCannotBeOpened();
     void nullOnADatabaseThatCannotBeOpenedSpoilsTheStream();
     void creatingASchemaInADirectoryOnlyComplains();
+    void anExceptionInTheCreationIsWrittenOnStandardError();
     void aFileThatIsNoDatabaseIsReported();
     void anEmptyFileLacksItsTables();
     void aMissingTableIsReported();
@@ -37,6 +40,16 @@ namespace {
 constexpr useconds_t aMinute = 60'000'000;
 constexpr auto addTea = "insert into Article (article, prix) values ('Thé', 2)";
 constexpr auto reported = "Errors Db::DbLoad sqlite3_errmsg : ";
+
+/// Takes no letter.
+class FullStream : public std::streambuf
+{
+protected:
+    int_type overflow(int_type) override
+    {
+        return traits_type::eof();
+    }
+};
 } // namespace
 
 void TestDbBadDays::aDatabaseThatIsADirectoryCannotBeOpened()
@@ -71,6 +84,26 @@ void TestDbBadDays::creatingASchemaInADirectoryOnlyComplains()
     QCOMPARE(output.text().count("Not open database successfully\n"), 9);
     QCOMPARE(output.text().count(" unable to open database file\n"), 9);
     QCOMPARE(output.text().count('\n'), 18);
+}
+
+void TestDbBadDays::anExceptionInTheCreationIsWrittenOnStandardError()
+{
+    const Shop shop(Shop::Database::None);
+    QVERIFY(QDir().mkdir(QStringLiteral("Vendel.db")));
+    FullStream full;
+    std::ostringstream errors;
+    std::streambuf* output = std::cout.rdbuf(&full);
+    std::streambuf* errorOutput = std::cerr.rdbuf(errors.rdbuf());
+    std::ostream* tied = std::cerr.tie(nullptr);
+    std::cout.exceptions(std::ios_base::badbit);
+    Db::DbCreate();
+    std::cout.exceptions(std::ios_base::goodbit);
+    std::cout.clear();
+    std::cerr.tie(tied);
+    std::cout.rdbuf(output);
+    std::cerr.rdbuf(errorOutput);
+    QCOMPARE(QByteArray::fromStdString(errors.str()),
+        QByteArray("Errors Db::DbLoad : basic_ios::clear: iostream error\n"));
 }
 
 void TestDbBadDays::aFileThatIsNoDatabaseIsReported()
