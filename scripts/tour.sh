@@ -47,8 +47,8 @@ if grep -E '^Errors ' "$out/till.log"; then
     fail "the till reported errors on the way"
 fi
 if $docs; then
-    for name in total receipt-on-screen receipt; do
-        install -D -m 644 "$out/$name.png" "$root/docs/images/$name.png"
+    for shown in "$root"/docs/images/*.png; do
+        install -m 644 "$out/${shown##*/}" "$shown"
     done
 fi
 say "The tour is over; its pictures lie in $out"

@@ -225,7 +225,7 @@ void TestHoverTip::aTipSurvivesQtsOwnRequest()
 
 void TestHoverTip::aMoveWhileATipIsMadeLeavesItAlone()
 {
-    /// Asks for a second tip in the middle of the making of the first one's window.
+    /// Asks for a second tip in the middle of the making of the first one.
     class Mover : public QObject
     {
     public:
@@ -234,8 +234,7 @@ void TestHoverTip::aMoveWhileATipIsMadeLeavesItAlone()
 
         bool eventFilter(QObject* watched, QEvent* event) override
         {
-            if (event->type() == QEvent::PlatformSurface && moves == 0
-                && watched->objectName() == QLatin1String("QTipLabelClassWindow")) {
+            if (event->type() == QEvent::Polish && watched->inherits("QTipLabel") && moves == 0) {
                 ++moves;
                 showTip(window, QPoint(150, 130), QStringLiteral("Ticket"));
             }

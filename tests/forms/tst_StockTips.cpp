@@ -29,6 +29,7 @@ void TestStockTips::tipsSayWhatADoubleClickDoes()
     stock.Display(true);
     stock.Display_DoseStock(QStringLiteral("1"));
     QCursor::setPos(300, 200);
+    QCoreApplication::processEvents();
     hoverCell(stock, "tableView1", 0, 2);
     QCOMPARE(QToolTip::text(),
         QStringLiteral("Article\nDoubleClick sur : Café\nPour faire composition"));
