@@ -30,6 +30,7 @@ private slots:
     void escapeKeepsTheArticle();
     void yesRemovesTheCurrentRowOnly();
     void aDeselectedRowIsStillTheCurrentOne();
+    void allSelectedWithoutACurrentRowRemovesNone();
     void removingTheLastArticleSaysSo();
     void aNameLikeATagIsAskedAsItStands();
     void renamingNeedsBothFieldsFirst_data();
@@ -119,6 +120,18 @@ void TestFormVendelSaisieArticleChanges::aDeselectedRowIsStillTheCurrentOne()
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Supprimer");
     QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Vin ..."));
+    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
+}
+
+void TestFormVendelSaisieArticleChanges::allSelectedWithoutACurrentRowRemovesNone()
+{
+    OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
+    click(editor.window, "btn_Afficher");
+    child<QTableView>(editor.window, "tableView").selectAll();
+    const CapturedOutput output;
+    const AnswerBox box(QMessageBox::Yes);
+    click(editor.window, "btn_Supprimer");
+    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer :  ..."));
     QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
 }
 
