@@ -9,6 +9,7 @@
 
 #include <libusb.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace {
 
@@ -41,6 +42,22 @@ std::ptrdiff_t openDescriptors()
     return std::distance(begin(entries), end(entries));
 }
 
+// What libusb itself says on standard error while body runs.
+template <class Body> QByteArray saidByLibusb(Body&& body)
+{
+    QTemporaryFile file;
+    if (!file.open()) {
+        qFatal("cannot open a file for standard error");
+    }
+    const int kept = dup(STDERR_FILENO);
+    dup2(file.handle(), STDERR_FILENO);
+    std::forward<Body>(body)();
+    dup2(kept, STDERR_FILENO);
+    close(kept);
+    file.seek(0);
+    return file.readAll();
+}
+
 } // namespace
 
 class TestPrinterLink : public QObject
@@ -65,6 +82,8 @@ private slots:
     void nothingStaysOpenBehindAPrinter();
     void nothingStaysOpenBehindAFailedStart_data();
     void nothingStaysOpenBehindAFailedStart();
+    void everyDeviceIsGivenBackToTheLibrary();
+    void theLibrarySpeaksOfItsErrors();
 };
 
 void TestPrinterLink::aPrinterIsOpenedAndClaimed()
@@ -249,6 +268,21 @@ void TestPrinterLink::nothingStaysOpenBehindAFailedStart()
         QCOMPARE(thrownByInitializing(), -1);
     }
     QCOMPARE(openDescriptors(), before);
+}
+
+void TestPrinterLink::everyDeviceIsGivenBackToTheLibrary()
+{
+    EmulatedPrinter bus;
+    FlushedOutput output;
+    QCOMPARE(saidByLibusb([] { Printer printer(ReceiptPrinter); }), QByteArray());
+}
+
+void TestPrinterLink::theLibrarySpeaksOfItsErrors()
+{
+    EmulatedPrinter bus({.openRefused = true});
+    FlushedOutput output;
+    const QByteArray said = saidByLibusb([] { thrownByInitializing(); });
+    QVERIFY(said.contains("libusb: error [get_usbfs_fd]"));
 }
 
 QTEST_GUILESS_MAIN(TestPrinterLink)
