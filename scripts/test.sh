@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing, builds everything and runs all tests: the release, then the same under
-# the address and undefined-behaviour sanitizers.
+# Installs what is missing, builds everything and runs all tests: the release, then those of the
+# code under the address and undefined-behaviour sanitizers, and with Qt 6.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
 usage="usage: scripts/test.sh"
@@ -12,9 +12,9 @@ for argument in "$@"; do
     esac
 done
 
-"$root/scripts/install.sh" build run test lint
+"$root/scripts/install.sh" build run test lint qt6
 failed=()
-for preset in release asan; do
+for preset in release asan qt6; do
     say "Building the preset $preset"
     configure "$preset"
     build "$preset" all

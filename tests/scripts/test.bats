@@ -11,20 +11,21 @@ setup() {
     test_sh="$tree/scripts/test.sh"
 }
 
-@test "the release is built and tested, then the sanitizers" {
+@test "the release is built and tested, then the sanitizers, then Qt 6" {
     run "$test_sh"
     [ "$status" -eq 0 ]
-    [ "$(grep -oE '^(cmake --build|cmake|ctest) --preset [a-z]+' "$calls" | tr '\n' ';')" = \
-        "cmake --preset release;cmake --build --preset release;ctest --preset release;cmake --preset asan;cmake --build --preset asan;ctest --preset asan;" ]
+    [ "$(grep -oE '^(cmake --build|cmake|ctest) --preset [a-z0-9]+' "$calls" | tr '\n' ';')" = \
+        "cmake --preset release;cmake --build --preset release;ctest --preset release;cmake --preset asan;cmake --build --preset asan;ctest --preset asan;cmake --preset qt6;cmake --build --preset qt6;ctest --preset qt6;" ]
     [ "${lines[-1]}" = "All tests passed" ]
     not_called apt-get
 }
 
-@test "failed tests of the release are told after the sanitizers ran too" {
+@test "failed tests of the release are told after the others ran too" {
     stub ctest '[[ "$*" != *release* ]]'
     run "$test_sh"
     [ "$status" -eq 1 ]
     called "ctest --preset asan"
+    called "ctest --preset qt6"
     [ "${lines[-1]}" = "test.sh: there are failed tests in: release" ]
 }
 
