@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Support.h"
 
+#include "app/Application.h"
+
+#include <QDir>
 #include <QFile>
 #include <QHeaderView>
 #include <QStandardItemModel>
@@ -10,6 +13,16 @@
 
 #include <time.h>
 #include <unistd.h>
+
+namespace {
+/// Says what Qt wants to know before the application object; returns \a argc.
+int& prepared(int& argc)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application::setAttributes();
+    return argc;
+}
+} // namespace
 
 void check(bool holds, const char* what)
 {
@@ -48,4 +61,30 @@ void fillByFloor(QTableView& view, const DbRows& texts, int height)
     }
     view.verticalHeader()->setUpdatesEnabled(true);
     view.setUpdatesEnabled(true);
+}
+
+DbRows textsOf(const QTableView& view)
+{
+    const QAbstractItemModel& model = *view.model();
+    DbRows texts(static_cast<std::size_t>(model.rowCount()));
+    for (int row = 0; row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            texts[static_cast<std::size_t>(row)].push_back(
+                model.index(row, column).data().toString().toStdString());
+        }
+    }
+    return texts;
+}
+
+BenchTill::BenchTill(int& argc, char** argv)
+    : application_(prepared(argc), argv)
+{
+    Application::setUp(application_);
+    check(folder_.isValid() && QDir::setCurrent(folder_.path()), "a working directory");
+    Db::DbCreate();
+}
+
+BenchTill::~BenchTill()
+{
+    QDir::setCurrent(QStringLiteral("/"));
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // "Afficher" of the article editor, against the same statements through the C API: the question for
 // duplicates runs once for each article.
-#include "app/Application.h"
 #include "bench/Floor.h"
+#include "bench/Support.h"
 #include "db/Db.h"
 #include "forms/FormVendelSaisieArticle.h"
 
@@ -102,10 +102,7 @@ void showMenu(benchmark::State& state)
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    Application::setAttributes();
-    QApplication application(argc, argv);
-    Application::setUp(application);
+    const BenchTill till(argc, argv);
     for (const int size : {100, 300, 1000}) {
         constexpr auto ms = benchmark::kMillisecond;
         benchmark::RegisterBenchmark("article_editor/floor", showMenuByFloor)->Arg(size)->Unit(ms);

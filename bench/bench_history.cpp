@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "app/Application.h"
 #include "bench/Support.h"
 #include "db/Db.h"
 #include "forms/FormVendelHistorique.h"
@@ -206,20 +205,6 @@ private:
     FormVendelHistorique window_;
 };
 
-/// What a list shows, as the database would hand it out.
-DbRows textsOf(const QTableView& view)
-{
-    const QAbstractItemModel& model = *view.model();
-    DbRows texts(static_cast<std::size_t>(model.rowCount()));
-    for (int row = 0; row < model.rowCount(); ++row) {
-        for (int column = 0; column < model.columnCount(); ++column) {
-            texts[static_cast<std::size_t>(row)].push_back(
-                model.index(row, column).data().toString().toStdString());
-        }
-    }
-    return texts;
-}
-
 void listByProgram(benchmark::State& state, const Bar& bar, const Dates& dates, const char* slot)
 {
     bar.enter();
@@ -284,9 +269,7 @@ void openYear(benchmark::State& state, const Bar& bar)
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    Application::setAttributes();
-    const QApplication application(argc, argv);
+    const BenchTill till(argc, argv);
     const Bar bar;
     const Bar tenth(10);
     const Bar hundredth(100);

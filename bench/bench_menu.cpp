@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "app/Application.h"
 #include "app/FormVendel.h"
 #include "bench/Floor.h"
 #include "bench/Support.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardItemModel>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <string>
@@ -151,13 +148,7 @@ void showByFloor(benchmark::State& state, int articles)
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    Application::setAttributes();
-    QApplication application(argc, argv);
-    Application::setUp(application);
-    const QTemporaryDir folder;
-    check(QDir::setCurrent(folder.path()), "a working directory");
-    Db::DbCreate();
+    const BenchTill till(argc, argv);
     for (const int articles : {100, 1000, mostArticles}) {
         for (const auto& [side, way] :
             {std::pair("/floor", &showByFloor), std::pair("/program", &showByProgram)}) {

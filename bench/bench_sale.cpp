@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "app/Application.h"
 #include "app/FormVendel.h"
 #include "app/FormVendelTicket.h"
 #include "bench/Floor.h"
 #include "bench/Support.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStandardItemModel>
 #include <QTableView>
-#include <QTemporaryDir>
 
 #include <string>
 
@@ -163,13 +160,7 @@ template <class Way> void compare(const std::string& work, Way program, Way floo
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    Application::setAttributes();
-    QApplication application(argc, argv);
-    Application::setUp(application);
-    const QTemporaryDir folder;
-    check(QDir::setCurrent(folder.path()), "a working directory");
-    Db::DbCreate();
+    const BenchTill till(argc, argv);
     Db::DbLoad(("with recursive n(i) as (select 1 union all select i + 1 from n where i < "
         + std::to_string(articles)
         + ") insert into Article (article, prix) select 'Article ' || i, i / 4.0 from n")

@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 // The consumption of a month among a million sales, against the same statements and a bare fill of
 // the same rows.
-#include "app/Application.h"
+#include "bench/Support.h"
 #include "db/Db.h"
 #include "forms/Consumption.h"
 #include "forms/FormVendelStockCalculation.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QHeaderView>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QTemporaryDir>
 
 #include <array>
-#include <stdexcept>
 #include <vector>
 
 #include <benchmark/benchmark.h>
@@ -32,9 +30,7 @@ class Bar
 public:
     Bar()
     {
-        if (!folder_.isValid() || !QDir::setCurrent(folder_.path())) {
-            throw std::runtime_error("temporary directory");
-        }
+        check(folder_.isValid() && QDir::setCurrent(folder_.path()), "temporary directory");
         Db::DbCreate();
         Db::DbLoad(
             "insert into Historique with recursive sale(n) as (select 0 union all select n "
@@ -48,9 +44,7 @@ public:
             "insert into DoseStock (id, composition, dose, unite) select id, 'Composition ' "
             "|| ((id * 3 + part) % 25), 1.5 + part, case part when 0 then 'oz' else 'cl' end "
             "from ArticleStock, (select 0 as part union select 1 union select 2)");
-        if (Consumption::details(from, to).size() < 120) {
-            throw std::runtime_error("a month's consumption");
-        }
+        check(Consumption::details(from, to).size() >= 120, "a month's consumption");
     }
     ~Bar()
     {
@@ -106,39 +100,6 @@ private:
     FormVendelStockCalculation window_;
 };
 
-using Texts = std::vector<QStringList>;
-
-Texts textsOf(const QTableView& list)
-{
-    Texts texts;
-    for (int row = 0; row < list.model()->rowCount(); ++row) {
-        auto& cells = texts.emplace_back();
-        for (int column = 0; column < list.model()->columnCount(); ++column) {
-            cells << list.model()->index(row, column).data().toString();
-        }
-    }
-    return texts;
-}
-
-/// The least that shows \a texts: complete rows with their height, no text composed.
-void fill(QTableView& list, const Texts& texts, int height)
-{
-    auto& model = static_cast<QStandardItemModel&>(*list.model());
-    list.setUpdatesEnabled(false);
-    list.verticalHeader()->setUpdatesEnabled(false);
-    for (const QStringList& row : texts) {
-        QList<QStandardItem*> items;
-        items.reserve(row.size());
-        for (const QString& text : row) {
-            items << new QStandardItem(text);
-        }
-        model.appendRow(items);
-        list.setRowHeight(model.rowCount() - 1, height);
-    }
-    list.verticalHeader()->setUpdatesEnabled(true);
-    list.setUpdatesEnabled(true);
-}
-
 void byProgram(benchmark::State& state)
 {
     Window window;
@@ -157,8 +118,8 @@ void byFloor(benchmark::State& state)
 {
     Window window;
     window.compute();
-    const Texts details = textsOf(window.list("tableView1"));
-    const Texts totals = textsOf(window.list("tableView2"));
+    const DbRows details = textsOf(window.list("tableView1"));
+    const DbRows totals = textsOf(window.list("tableView2"));
     const int height = window.list("tableView1").rowHeight(0);
     window.empty();
     for ([[maybe_unused]] auto _ : state) {
@@ -166,8 +127,8 @@ void byFloor(benchmark::State& state)
         const DbRows totalRows = Consumption::totals(from, to);
         benchmark::DoNotOptimize(detailRows.data());
         benchmark::DoNotOptimize(totalRows.data());
-        fill(window.list("tableView1"), details, height);
-        fill(window.list("tableView2"), totals, height);
+        fillByFloor(window.list("tableView1"), details, height);
+        fillByFloor(window.list("tableView2"), totals, height);
         state.PauseTiming();
         state.counters["rows"] = window.list("tableView1").model()->rowCount();
         window.empty();
@@ -180,9 +141,7 @@ void byFloor(benchmark::State& state)
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    Application::setAttributes();
-    const QApplication application(argc, argv);
+    const BenchTill till(argc, argv);
     const Bar bar;
     benchmark::RegisterBenchmark("stock_month/floor", byFloor)->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("stock_month/program", byProgram)->Unit(benchmark::kMillisecond);

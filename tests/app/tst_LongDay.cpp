@@ -3,9 +3,10 @@
 #include "tests/support/TestMain.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QPixmapCache>
 #include <QtGlobal>
+
+#include <ctime>
 
 #include <malloc.h>
 
@@ -33,6 +34,13 @@ qint64 heapBytes()
 {
     const auto heap = mallinfo2();
     return qint64(heap.uordblks) + qint64(heap.hblkhd);
+}
+
+/// Milliseconds that the processor worked for this process; what else the machine does is no
+/// sale's.
+double workedMs()
+{
+    return double(std::clock()) * 1000 / CLOCKS_PER_SEC;
 }
 
 Held held(const FormVendel& window)
@@ -67,17 +75,17 @@ void TestLongDay::aDayOfManySalesLeavesNothingBehind()
     till.run("insert into Article (article, prix) values ('Café', 1.5), ('Thé', 2.25)");
     click(till.window, "btn_Afficher");
 
-    QElapsedTimer timer;
-    timer.start();
+    const double begin = workedMs();
     for (int sale = 0; sale < warmUp; ++sale) {
         sellTwoArticles(till);
     }
-    const qint64 firstMs = timer.restart();
+    const double firstMs = workedMs() - begin;
     const Held before = held(till.window);
+    const double middle = workedMs();
     for (int sale = 0; sale < 2 * warmUp; ++sale) {
         sellTwoArticles(till);
     }
-    const qint64 nextMs = timer.elapsed();
+    const double nextMs = workedMs() - middle;
     const Held after = held(till.window);
 
     QCOMPARE(till.history().size(), 3 * warmUp * 2);
@@ -85,8 +93,8 @@ void TestLongDay::aDayOfManySalesLeavesNothingBehind()
     QCOMPARE(after.descriptors, before.descriptors);
     QCOMPARE(after.windows, before.windows);
     QCOMPARE(after.objects, before.objects);
-    qInfo("%d sales; first third %.2f ms a sale, the rest %.2f ms", 3 * warmUp,
-        double(firstMs) / warmUp, double(nextMs) / (2 * warmUp));
+    qInfo("%d sales; first third %.2f ms of the processor a sale, the rest %.2f ms", 3 * warmUp,
+        firstMs / warmUp, nextMs / (2 * warmUp));
     qInfo("held after a third: %.1f MB, %d descriptors, %d windows", double(before.bytes) / 1e6,
         before.descriptors, before.windows);
     qInfo("held at the end: %.1f MB, %d descriptors, %d windows", double(after.bytes) / 1e6,
