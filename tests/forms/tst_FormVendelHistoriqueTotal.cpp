@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/History.h"
 #include "tests/support/AnswerBox.h"
+#include "tests/support/BoxDiary.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestMain.h"
 
@@ -8,35 +9,20 @@
 #include <QTableView>
 
 namespace {
-/// Answers every box that comes with its Yes or OK and remembers what it said and what the lists
-/// held at that moment.
-class BoxDiary
+/// A diary that also notes how many rows the sales, the days and the grouped list have.
+struct HistoryDiary
 {
-public:
-    explicit BoxDiary(FormVendelHistorique& window)
-    {
-        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, &window] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr || !box->isVisible()) {
-                return;
-            }
-            said << box->windowTitle() + QStringLiteral(": ") + box->text();
+    explicit HistoryDiary(FormVendelHistorique& window)
+        : diary([this, &window] {
             listed << QStringLiteral("%1 %2 %3")
                           .arg(rowCount(window, "tableView1"))
                           .arg(rowCount(window, "tableView2"))
                           .arg(rowCount(window, "tableView3"));
-            auto* yes = box->button(QMessageBox::Yes);
-            (yes == nullptr ? box->button(QMessageBox::Ok) : yes)->click();
-        });
-        timer_.start(1);
-    }
+        })
+    { }
 
-    QStringList said;
-    /// Rows of the sales, the days and the grouped list.
     QStringList listed;
-
-private:
-    QTimer timer_;
+    BoxDiary diary;
 };
 } // namespace
 
@@ -209,13 +195,13 @@ void TestFormVendelHistoriqueTotal::purgeEmptiesTheListsBeforeItReports()
     history.sell("Bière", "2", "2019-05-01 10:00:00.002");
     history.type("05/01/2019 10:00:00.000", "05/01/2019 10:00:00.001");
     click(history.window, "btn_Total");
-    BoxDiary diary(history.window);
+    const HistoryDiary boxes(history.window);
     click(history.window, "btn_Clear");
-    QCOMPARE(diary.said,
+    QCOMPARE(boxes.diary.said,
         texts({"Purger: Voulez-vous purger de 05/01/2019 10:00:00.000 au 05/01/2019 10:00:00.001",
             "Historique: Historique est vide pour la pèriode du 05/01/2019 10:00:00.000 au "
             "05/01/2019 10:00:00.001"}));
-    QCOMPARE(diary.listed, texts({"3 0 2", "0 0 0"}));
+    QCOMPARE(boxes.listed, texts({"3 0 2", "0 0 0"}));
     QCOMPARE(history.shop.cell("select article from Historique"), QStringLiteral("Bière"));
     QCOMPARE(history.sold(), QStringLiteral("1"));
     QCOMPARE(rowCount(history.window, "tableView2"), 1);
@@ -230,13 +216,13 @@ void TestFormVendelHistoriqueTotal::purgeOfEverythingLeavesNoDay()
     click(history.window, "btn_Show_Date");
     QCOMPARE(rowCount(history.window, "tableView2"), 2);
     history.type("01/01/0001", "12/31/9999");
-    BoxDiary diary(history.window);
+    const HistoryDiary boxes(history.window);
     click(history.window, "btn_Clear");
-    QCOMPARE(diary.said,
+    QCOMPARE(boxes.diary.said,
         texts({"Purger: Voulez-vous purger de 01/01/0001 au 12/31/9999",
             "Historique: Historique est vide pour la pèriode du 01/01/0001 au 12/31/9999",
             "Historique: Historique est vide\nAjouter des articles et faite PAYER"}));
-    QCOMPARE(diary.listed, texts({"0 2 0", "0 2 0", "0 0 0"}));
+    QCOMPARE(boxes.listed, texts({"0 2 0", "0 2 0", "0 0 0"}));
     QCOMPARE(history.sold(), QStringLiteral("0"));
 }
 
@@ -248,9 +234,9 @@ void TestFormVendelHistoriqueTotal::aPurgeThatFailsListsTheSalesAgain()
                      "raise(abort, 'gardé'); end");
     history.type("05/01/2019", "05/02/2019");
     CapturedOutput output;
-    BoxDiary diary(history.window);
+    const HistoryDiary boxes(history.window);
     click(history.window, "btn_Clear");
-    QCOMPARE(diary.said.size(), 1);
+    QCOMPARE(boxes.diary.said.size(), 1);
     QCOMPARE(rowCount(history.window, "tableView1"), 1);
     QCOMPARE(rowCount(history.window, "tableView2"), 1);
     QVERIFY(output.text().contains(
