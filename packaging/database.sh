@@ -83,16 +83,19 @@ keepCopy() {
     fi
     part=$copies/.Vendel.neuf
     answer=
+    found=
     if mkdir -p "$copies" 2>/dev/null && rm -f "$part" "$part-journal" &&
         answer=$(sqlite "$database" ".backup main $part" 2>&1) &&
-        answer=$(sqlite "$part" 'pragma integrity_check' 2>&1) &&
-        [ "$answer" = ok ] && sync "$part" && mv "$part" "$copy"; then
+        found=$(sqlite "$part" 'pragma integrity_check' 2>&1) &&
+        [ "$found" = ok ] && sync "$part" && mv "$part" "$copy"; then
         pruneCopies
         return
     fi
     rm -f "$part" "$part-journal"
-    case $answer in
-    '' | ok | *full* | *I/O* | *'unable to open'* | *locked*) ;;
+    # Only what the check finds, or SQLite calls so, is damage: a copy fails for many reasons.
+    case $answer$found in
+    *malformed* | *'not a database'*) explainDatabase malformed ;;
+    '' | ok | *[Ee]rror*) ;;
     *) explainDatabase malformed ;;
     esac
     warn "$(text "La copie du jour de la base n'a pas pu être faite dans « $data/$copies »." \

@@ -176,6 +176,23 @@ SCHEMA
     [ "$output" = "$(unusable "un autre programme l'occupe")" ]
 }
 
+@test "a database that another program holds for a moment is waited for" {
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
+    hold_database
+    local holder=$COPROC_PID
+    (
+        until [ -e "$BATS_TEST_TMPDIR/asked" ]; do sleep 0.01; done
+        sleep 0.3
+        kill -KILL "$holder"
+    ) 3>&- &
+    stand_in sqlite3 "touch '$BATS_TEST_TMPDIR/asked'; exec $(command -v sqlite3) \"\$@\""
+    run "$launcher"
+    wait
+    [ "$status" -eq 0 ]
+    [ -z "$output" ]
+    [ -s "$TILL_LOG" ]
+}
+
 @test "in English it is said in English" {
     mkdir "$data/Vendel.db"
     run "$launcher" --langue en

@@ -119,6 +119,17 @@ dialog_says() {
     [ -s "$TILL_LOG" ]
 }
 
+@test "a database that is set aside asks for no answer" {
+    rm "$data"
+    mkdir "$data"
+    : >"$data/Vendel.db"
+    dialog zenity
+    run "$launcher"
+    [ "$status" -eq 0 ]
+    [ -n "$output" ]
+    [ ! -e "$SAID" ]
+}
+
 @test "a second till is told so while the first keeps its lock" {
     rm "$data"
     dialog zenity
@@ -157,6 +168,14 @@ if [ "$1" = --list ]; then cat >>"$SAID"; echo 2026-03-03; fi'
     [ "$(sqlite3 "$data/Vendel.db" 'select x from Config')" = 03 ]
     grep -qx 2026-03-04 "$SAID"
     dialog_says "--text=La copie « 2026-03-03 » est remise en place."
+}
+
+@test "on a terminal no dialog says that a copy is back" {
+    copies_of_two_days
+    dialog zenity
+    run "$(PATH=/usr/bin:/bin command -v script)" -qec "'$launcher' --restaurer 2026-03-03" /dev/null
+    [[ "$output" == *'La copie « 2026-03-03 » est remise en place.'* ]]
+    [ ! -e "$SAID" ]
 }
 
 @test "kdialog lets a copy be chosen" {

@@ -45,6 +45,23 @@ Vendel.db
 copies" ]
 }
 
+@test "copy and replaced database keep their rights and dates" {
+    chmod 640 "$data/copies/Vendel-2026-03-03.db"
+    touch -d '2026-03-03 09:00:00' "$data/copies/Vendel-2026-03-03.db"
+    chmod 600 "$data/Vendel.db"
+    touch -d '2026-03-05 12:00:00' "$data/Vendel.db"
+    "$launcher" --restaurer 2026-03-03
+    [ "$(stat -c '%a %y' "$data/Vendel.db")" = '640 2026-03-03 09:00:00.000000000 +0100' ]
+    [ "$(stat -c '%a %y' "$data/copies/Vendel-remplacee-2026-03-05-140731.db")" = '600 2026-03-05 12:00:00.000000000 +0100' ]
+}
+
+@test "a copy is on the disk before it takes the database's place" {
+    stand_in sync "cp Vendel.db '$BATS_TEST_TMPDIR/then.db'; cp \"\$1\" '$BATS_TEST_TMPDIR/synced.db'"
+    "$launcher" --restaurer 2026-03-03
+    [ "$(price_in "$BATS_TEST_TMPDIR/synced.db")" = 3 ]
+    [ "$(price_in "$BATS_TEST_TMPDIR/then.db")" = 5 ]
+}
+
 @test "two restorations of one second keep both databases" {
     "$launcher" --restaurer 2026-03-03
     "$launcher" --restaurer 2026-03-04
