@@ -44,15 +44,12 @@ checkDatabase() {
         databaseUnusable "elle ne peut pas être lue et écrite" "it cannot be read and written"
     fi
     ask "$tillTables"
-    if [ "$answer" = 6 ]; then
-        ask "select count(*) from Config"
-        if [ "$answer" -ge 2 ] || holdsRows; then
-            return
-        fi
-    elif holdsRows; then
+    tables=$answer
+    if ! holdsRows; then
+        setAsideUnfinished
+    elif [ "$tables" != 6 ]; then
         databaseUnusable "il lui manque des tables" "it lacks tables"
     fi
-    setAsideUnfinished
 }
 
 # nameKept KIND: a name among the copies that is not in use, of now and of this kind.
