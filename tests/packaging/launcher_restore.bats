@@ -200,6 +200,46 @@ copies" ]
     [ "$(price_in "$BATS_TEST_TMPDIR/elsewhere/shop.db")" = 3 ]
 }
 
+@test "nothing is restored to a place that is gone" {
+    rm "$data/Vendel.db"
+    ln -s "$BATS_TEST_TMPDIR/stick/shop.db" "$data/Vendel.db"
+    run "$launcher" --restaurer 2026-03-03
+    [ "$status" -eq 1 ]
+    [ "$output" = "La base de données « $data/Vendel.db » est inutilisable (ce n'est pas un fichier) ; les copies sont dans « $data/copies » et « vendel --restaurer » en remet une en place." ]
+    [ "$(ls -A "$data")" = ".verrou
+Vendel.db
+copies" ]
+}
+
+@test "a database that cannot be put in its place is said" {
+    stand_in mv 'case "$*" in *"/Vendel.db") exit 1 ;; esac
+exec /bin/mv "$@"'
+    run "$launcher" --restaurer 2026-03-03
+    [ "$status" -eq 1 ]
+    [ "$output" = "Le dossier de données « $data » est inutilisable (rien ne peut y être écrit) ; les copies de la base sont dans « $data/copies »." ]
+    [ "$(price_in "$data/Vendel.db")" = 5 ]
+    [ "$(ls -A "$data")" = ".verrou
+Vendel.db
+copies" ]
+}
+
+@test "a replaced database that cannot be kept stays in its place" {
+    stand_in cp 'case "$*" in *-remplacee-*) exit 1 ;; esac
+exec /bin/cp "$@"'
+    run "$launcher" --restaurer 2026-03-03
+    [ "$status" -eq 1 ]
+    [ "$output" = "Le dossier de données « $data » est inutilisable (la base à remplacer ne peut pas y être gardée) ; les copies de la base sont dans « $data/copies »." ]
+    [ "$(price_in "$data/Vendel.db")" = 5 ]
+    [ "$(ls -A "$data" "$data/copies")" = "$data:
+.verrou
+Vendel.db
+copies
+
+$data/copies:
+Vendel-2026-03-03.db
+Vendel-2026-03-04.db" ]
+}
+
 @test "without room nothing is changed" {
     run sh -c 'trap "" XFSZ; ulimit -f 16; exec "$0" --restaurer 2026-03-03' "$launcher"
     [ "$status" -eq 1 ]
