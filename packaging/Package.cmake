@@ -39,5 +39,6 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/postin
 # What is read or run by name, and so is not found among the libraries.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
   "fonts-crosextra-carlito, fonts-inconsolata, qttranslations5-l10n, sqlite3, x11-utils | zenity | kdialog")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "zenity | kdialog")
+# Without one of these a copy is chosen in a terminal only.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "zenity | kdialog")
 include(CPack)

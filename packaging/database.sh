@@ -44,15 +44,12 @@ checkDatabase() {
         databaseUnusable "elle ne peut pas être lue et écrite" "it cannot be read and written"
     fi
     ask "$tillTables"
-    if [ "$answer" = 6 ]; then
-        ask "select count(*) from Config"
-        if [ "$answer" -ge 2 ] || holdsRows; then
-            return
-        fi
-    elif holdsRows; then
+    tables=$answer
+    if ! holdsRows; then
+        setAsideUnfinished
+    elif [ "$tables" != 6 ]; then
         databaseUnusable "il lui manque des tables" "it lacks tables"
     fi
-    setAsideUnfinished
 }
 
 # nameKept KIND: a name among the copies that is not in use, of now and of this kind.
@@ -83,16 +80,19 @@ keepCopy() {
     fi
     part=$copies/.Vendel.neuf
     answer=
+    found=
     if mkdir -p "$copies" 2>/dev/null && rm -f "$part" "$part-journal" &&
         answer=$(sqlite "$database" ".backup main $part" 2>&1) &&
-        answer=$(sqlite "$part" 'pragma integrity_check' 2>&1) &&
-        [ "$answer" = ok ] && sync "$part" && mv "$part" "$copy"; then
+        found=$(sqlite "$part" 'pragma integrity_check' 2>&1) &&
+        [ "$found" = ok ] && sync "$part" && mv "$part" "$copy"; then
         pruneCopies
         return
     fi
     rm -f "$part" "$part-journal"
-    case $answer in
-    '' | ok | *full* | *I/O* | *'unable to open'* | *locked*) ;;
+    # Only what the check finds, or SQLite calls so, is damage: a copy fails for many reasons.
+    case $answer$found in
+    *malformed* | *'not a database'*) explainDatabase malformed ;;
+    '' | ok | *[Ee]rror*) ;;
     *) explainDatabase malformed ;;
     esac
     warn "$(text "La copie du jour de la base n'a pas pu être faite dans « $data/$copies »." \

@@ -72,11 +72,15 @@ note() {
 }
 
 usage() {
+    findData
+    # The tilde is for the reader.
+    # shellcheck disable=SC2088
+    shownData=${data:-'~/.local/share/vendel'}
     text "Usage : vendel [--langue en|fr]
         vendel --restaurer [COPIE]
         vendel --aide | --version
 
-Démarre la caisse dans « ${XDG_DATA_HOME:-~/.local/share}/vendel ».
+Démarre la caisse dans « $shownData ».
 
   --langue en|fr       démarre en anglais ou en français et s'en souvient
   --restaurer [COPIE]  montre les copies de la base et en remet une en place
@@ -86,7 +90,7 @@ Démarre la caisse dans « ${XDG_DATA_HOME:-~/.local/share}/vendel ».
        vendel --restaurer [COPY]
        vendel --help | --version
 
-Starts the till in \"${XDG_DATA_HOME:-~/.local/share}/vendel\".
+Starts the till in \"$shownData\".
 
   --langue en|fr      starts in English or French and remembers it
   --restaurer [COPY]  shows the copies of the database and puts one back

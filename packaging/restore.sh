@@ -63,12 +63,10 @@ restore() {
         die "$(text "Il n'y a pas de copie « $wanted » dans « $data/$copies »." \
             "There is no copy \"$wanted\" in \"$data/$copies\".")"
     fi
-    target=$(readlink -f "$database")
+    target=$(readlink -f "$database") ||
+        databaseUnusable "ce n'est pas un fichier" "it is not a file"
     part=$target.neuf
-    copyDatabase "$copy" "$part" || {
-        rm -f "$part" "$part-journal"
-        dataUnusable "rien ne peut y être écrit" "nothing can be written there"
-    }
+    copyDatabase "$copy" "$part" || partUnwritten
     if [ "$(sqlite "$part" 'pragma integrity_check' 2>&1)" != ok ] ||
         [ "$(sqlite "$part" "$tillTables" 2>&1)" != 6 ]; then
         rm -f "$part" "$part-journal"
@@ -77,11 +75,16 @@ restore() {
     fi
     sync "$part"
     keepReplaced
-    mv -f "$part" "$target"
+    mv -f "$part" "$target" 2>/dev/null || partUnwritten
     done=$(text "La copie « $wanted » est remise en place$kept." "The copy \"$wanted\" is back in place$kept.")
     printf '%s\n' "$done"
     [ -t 0 ] || box info "$done"
     exit 0
+}
+
+partUnwritten() {
+    rm -f "$part" "$part-journal"
+    dataUnusable "rien ne peut y être écrit" "nothing can be written there"
 }
 
 # copyDatabase FROM TO: the file and the journal of a change that was cut off, without which it may

@@ -27,7 +27,12 @@ press FormVendel btn_Effacer_Saisie
 type_amount 1 13
 await_rows "a discount" "select prix from Ticket where id = 0 and prix < 0" "-1"
 sell "Croque-monsieur"
-press_row FormVendel tableView2 "Croque-monsieur"
+point_at row FormVendel tableView2 "Croque-monsieur"
+correction="Ticket Click sur : Croque-monsieur Pour supprimer l'article du ticket"
+tells_how_to_correct() { [ "$(seen tip)" = "$correction" ]; }
+await "a tip over the ticket" tells_how_to_correct
+picture correction
+xdotool click 1
 await_rows "the line taken off" "select count(*) from Ticket" 9
 await_list FormVendel tableView2 9
 picture sale

@@ -1,10 +1,28 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034,SC2154
-# The printer switch is on: the receipt comes out of the printer.
+# The printer switch is on: without a printer the ticket stays, with one the receipt comes out.
 
-start_printer
 paper_shop=$(new_shop paper)
 sqlite3 "$paper_shop/Vendel.db" "update Config set valeur = 1 where param = 'Epson TM-T20II'"
+
+# A machine without any device, whatever is plugged in here.
+mkdir "$work/no-devices"
+export UMOCKDEV_DIR="$work/no-devices"
+start_till "$paper_shop"
+dismiss_splash
+type_amount 7 12
+await_rows "an amount" "select prix from Ticket" "7"
+press FormVendel btn_Payer
+await_box Payer
+expect "what is said" "$(seen box Payer)" "Imprimante non connectée"
+answer Payer OK no-printer
+expect "the ticket" "$(ask "select count(*) from Ticket")" 1
+press FormVendel btn_Effacer_Ticket
+await_rows "the ticket is empty" "select count(*) from Ticket" 0
+stop_till
+unset UMOCKDEV_DIR
+
+start_printer
 start_till "$paper_shop"
 dismiss_splash
 show_menu

@@ -17,6 +17,7 @@ choose FormVendel Vendel Config
 await_window FormVendelConfig
 await_text FormVendelConfig txt_TVA "5.50"
 pick FormVendelConfig cbx_Epson ON
+picture printer-on
 press FormVendelConfig btn_Maj_Epson
 await_no_window FormVendelConfig
 expect "the switch" "$(ask "select valeur from Config where param like 'Epson%'")" "1"

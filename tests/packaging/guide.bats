@@ -41,6 +41,21 @@ launcherTexts() {
         }' packaging/messages.sh packaging/database.sh packaging/restore.sh packaging/vendel.in
 }
 
+# captions: what is written on the windows' buttons, menus, boxes to tick and fields. Labels that the till fills or that
+# need no word are left out.
+captions() {
+    perl -0777 -ne '
+        while (m{<(?:widget class="(\w+)"|action)([^>]*)>\s*((?:<property.*?</property>\s*)*)}gs) {
+            my ($class, $properties) = ($1 // "QAction", $3);
+            next if $class !~ /^Q(PushButton|CheckBox|RadioButton|Menu|Action|GroupBox|Label)$/;
+            next if $properties !~ m{<property name="(?:text|title)">\s*<string[^>]*>([^<]*)<}s;
+            my $text = $1;
+            $text =~ s/&#10;/ /g;
+            next if $text =~ /^(DateTime|Article :|Pèriode du|au|Système Vendel|Version .*)$/;
+            print "$text\n" if $text =~ /\w{2}/;
+        }' app/*.ui forms/*.ui | sort -u
+}
+
 # explained: every line of standard input stands in the guide.
 explained() {
     lines=0
@@ -62,6 +77,10 @@ pictures() {
 @test "every message box is explained" {
     export noBoxes
     explained 90 < <(boxTexts)
+}
+
+@test "every button, menu, field and box to tick is named" {
+    explained 30 < <(captions)
 }
 
 @test "every sentence of the launcher is explained" {

@@ -228,6 +228,15 @@ PiedFormulaire.dat" ]
     [ ! -s "$TILL_LOG" ]
 }
 
+@test "the help names the data directory that is used" {
+    XDG_DATA_HOME=somewhere run "$launcher" --aide
+    [[ "$output" == *"Démarre la caisse dans « $data »."* ]]
+    XDG_DATA_HOME=/srv/shop run "$launcher" --unknown
+    [[ "$output" == *"Démarre la caisse dans « /srv/shop/vendel »."* ]]
+    run env -u HOME "$launcher" --langue en --help
+    [[ "$output" == *'Starts the till in "~/.local/share/vendel".'* ]]
+}
+
 @test "a missing program is said" {
     cp -a "$BATS_FILE_TMPDIR/tree" "$BATS_TEST_TMPDIR/tree"
     rm "$(find "$BATS_TEST_TMPDIR/tree" -path '*/vendel/vendel')"

@@ -105,6 +105,49 @@ Vendel-2026-03-06.db" ]
     [ -s "$TILL_LOG" ]
 }
 
+@test "copies that may not be written are said and the till starts" {
+    mkdir -p "$data/copies"
+    chmod a-w "$data/copies"
+    run as_user "$launcher"
+    chmod u+w "$data/copies"
+    [ "$status" -eq 0 ]
+    [ "$output" = "$(warning)" ]
+    [ -s "$TILL_LOG" ]
+}
+
+# backup_says ERROR: SQLite's shell, but for its backup, which ends with the error.
+backup_says() {
+    stand_in sqlite3 "case \"\$*\" in *.backup*) echo '$1' >&2; exit 1 ;; esac
+exec $(command -v sqlite3) \"\$@\""
+}
+
+@test "a copy that fails is no reason to call the database damaged" {
+    for error in 'Error: database or disk is full' 'Error: disk I/O error' \
+        'Error: database is locked' 'Error: unable to open database file'; do
+        : >"$TILL_LOG"
+        backup_says "$error"
+        run "$launcher"
+        [ "$status" -eq 0 ]
+        [ "$output" = "$(warning)" ]
+        [ -s "$TILL_LOG" ]
+        rm "$BATS_TEST_TMPDIR/stand-ins/sqlite3"
+    done
+}
+
+@test "a database that the backup finds damaged is said" {
+    backup_says 'Error: database disk image is malformed'
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [[ "$output" == *'inutilisable (elle est endommagée)'* ]]
+    [ ! -s "$TILL_LOG" ]
+}
+
+@test "a copy is on the disk before it has its name" {
+    stand_in sync "[ -s \"\$1\" ] && ls copies >>'$BATS_TEST_TMPDIR/synced' && echo \"\$1\" >>'$BATS_TEST_TMPDIR/synced'"
+    "$launcher"
+    [ "$(cat "$BATS_TEST_TMPDIR/synced")" = copies/.Vendel.neuf ]
+}
+
 @test "a user's own SQLite settings are not read" {
     stand_in sqlite3 "case \"\$*\" in *'-init /dev/null'*) exec $(command -v sqlite3) \"\$@\" ;; esac
 exit 1"

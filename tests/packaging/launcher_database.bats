@@ -145,6 +145,22 @@ SCHEMA
     [ "$output" = "$(unusable "elle ne peut pas être lue et écrite")" ]
 }
 
+@test "a database that may not be read is said" {
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
+    chmod 222 "$data/Vendel.db"
+    run as_user "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "$(unusable "elle ne peut pas être lue et écrite")" ]
+}
+
+@test "a link to a database that is gone is said, and no new one is made" {
+    ln -s "$BATS_TEST_TMPDIR/stick/shop.db" "$data/Vendel.db"
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "$(unusable "ce n'est pas un fichier")" ]
+    [ ! -s "$TILL_LOG" ]
+}
+
 @test "a damaged database is said at the day's first start" {
     cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
     damage "$data/Vendel.db"
@@ -174,6 +190,23 @@ SCHEMA
     release_database
     [ "$status" -eq 1 ]
     [ "$output" = "$(unusable "un autre programme l'occupe")" ]
+}
+
+@test "a database that another program holds for a moment is waited for" {
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
+    hold_database
+    local holder=$COPROC_PID
+    (
+        until [ -e "$BATS_TEST_TMPDIR/asked" ]; do sleep 0.01; done
+        sleep 0.3
+        kill -KILL "$holder"
+    ) 3>&- &
+    stand_in sqlite3 "touch '$BATS_TEST_TMPDIR/asked'; exec $(command -v sqlite3) \"\$@\""
+    run "$launcher"
+    wait
+    [ "$status" -eq 0 ]
+    [ -z "$output" ]
+    [ -s "$TILL_LOG" ]
 }
 
 @test "in English it is said in English" {

@@ -119,6 +119,17 @@ dialog_says() {
     [ -s "$TILL_LOG" ]
 }
 
+@test "a database that is set aside asks for no answer" {
+    rm "$data"
+    mkdir "$data"
+    : >"$data/Vendel.db"
+    dialog zenity
+    run "$launcher"
+    [ "$status" -eq 0 ]
+    [ -n "$output" ]
+    [ ! -e "$SAID" ]
+}
+
 @test "a second till is told so while the first keeps its lock" {
     rm "$data"
     dialog zenity
@@ -151,17 +162,27 @@ copies_of_two_days() {
 @test "zenity lets a copy be chosen and says that it is back" {
     copies_of_two_days
     stand_in zenity 'printf "%s\n" "$@" >>"$SAID"
+[ ! -e /proc/self/fd/9 ] || echo "holds the lock" >>"$SAID"
 if [ "$1" = --list ]; then cat >>"$SAID"; echo 2026-03-03; fi'
     run "$launcher" --restaurer </dev/null
     [ "$status" -eq 0 ]
     [ "$(sqlite3 "$data/Vendel.db" 'select x from Config')" = 03 ]
     grep -qx 2026-03-04 "$SAID"
+    ! grep -qx 'holds the lock' "$SAID" || return 1
     dialog_says "--text=La copie « 2026-03-03 » est remise en place."
+}
+
+@test "on a terminal no dialog says that a copy is back" {
+    copies_of_two_days
+    dialog zenity
+    run "$(PATH=/usr/bin:/bin command -v script)" -qec "'$launcher' --restaurer 2026-03-03" /dev/null
+    [[ "$output" == *'La copie « 2026-03-03 » est remise en place.'* ]]
+    [ ! -e "$SAID" ]
 }
 
 @test "kdialog lets a copy be chosen" {
     copies_of_two_days
-    stand_in kdialog 'case $3 in --menu) echo 2026-03-04 ;; esac'
+    stand_in kdialog 'case $3 in --menu) [ ! -e /proc/self/fd/9 ] && echo 2026-03-04 ;; esac'
     "$launcher" --restaurer </dev/null
     [ "$(sqlite3 "$data/Vendel.db" 'select x from Config')" = 04 ]
 }

@@ -45,6 +45,23 @@ Vendel.db
 copies" ]
 }
 
+@test "copy and replaced database keep their rights and dates" {
+    chmod 640 "$data/copies/Vendel-2026-03-03.db"
+    touch -d '2026-03-03 09:00:00' "$data/copies/Vendel-2026-03-03.db"
+    chmod 600 "$data/Vendel.db"
+    touch -d '2026-03-05 12:00:00' "$data/Vendel.db"
+    "$launcher" --restaurer 2026-03-03
+    [ "$(stat -c '%a %y' "$data/Vendel.db")" = '640 2026-03-03 09:00:00.000000000 +0100' ]
+    [ "$(stat -c '%a %y' "$data/copies/Vendel-remplacee-2026-03-05-140731.db")" = '600 2026-03-05 12:00:00.000000000 +0100' ]
+}
+
+@test "a copy is on the disk before it takes the database's place" {
+    stand_in sync "cp Vendel.db '$BATS_TEST_TMPDIR/then.db'; cp \"\$1\" '$BATS_TEST_TMPDIR/synced.db'"
+    "$launcher" --restaurer 2026-03-03
+    [ "$(price_in "$BATS_TEST_TMPDIR/synced.db")" = 3 ]
+    [ "$(price_in "$BATS_TEST_TMPDIR/then.db")" = 5 ]
+}
+
 @test "two restorations of one second keep both databases" {
     "$launcher" --restaurer 2026-03-03
     "$launcher" --restaurer 2026-03-04
@@ -181,6 +198,46 @@ copies" ]
     "$launcher" --restaurer 2026-03-03
     [ -L "$data/Vendel.db" ]
     [ "$(price_in "$BATS_TEST_TMPDIR/elsewhere/shop.db")" = 3 ]
+}
+
+@test "nothing is restored to a place that is gone" {
+    rm "$data/Vendel.db"
+    ln -s "$BATS_TEST_TMPDIR/stick/shop.db" "$data/Vendel.db"
+    run "$launcher" --restaurer 2026-03-03
+    [ "$status" -eq 1 ]
+    [ "$output" = "La base de données « $data/Vendel.db » est inutilisable (ce n'est pas un fichier) ; les copies sont dans « $data/copies » et « vendel --restaurer » en remet une en place." ]
+    [ "$(ls -A "$data")" = ".verrou
+Vendel.db
+copies" ]
+}
+
+@test "a database that cannot be put in its place is said" {
+    stand_in mv 'case "$*" in *"/Vendel.db") exit 1 ;; esac
+exec /bin/mv "$@"'
+    run "$launcher" --restaurer 2026-03-03
+    [ "$status" -eq 1 ]
+    [ "$output" = "Le dossier de données « $data » est inutilisable (rien ne peut y être écrit) ; les copies de la base sont dans « $data/copies »." ]
+    [ "$(price_in "$data/Vendel.db")" = 5 ]
+    [ "$(ls -A "$data")" = ".verrou
+Vendel.db
+copies" ]
+}
+
+@test "a replaced database that cannot be kept stays in its place" {
+    stand_in cp 'case "$*" in *-remplacee-*) exit 1 ;; esac
+exec /bin/cp "$@"'
+    run "$launcher" --restaurer 2026-03-03
+    [ "$status" -eq 1 ]
+    [ "$output" = "Le dossier de données « $data » est inutilisable (la base à remplacer ne peut pas y être gardée) ; les copies de la base sont dans « $data/copies »." ]
+    [ "$(price_in "$data/Vendel.db")" = 5 ]
+    [ "$(ls -A "$data" "$data/copies")" = "$data:
+.verrou
+Vendel.db
+copies
+
+$data/copies:
+Vendel-2026-03-03.db
+Vendel-2026-03-04.db" ]
 }
 
 @test "without room nothing is changed" {

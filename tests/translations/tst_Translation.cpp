@@ -24,6 +24,7 @@ private slots:
     void noTextIsTranslatedTwice();
     void everyTranslationIsFinished();
     void noTranslationHasFrenchLetters();
+    void noWordStaysFrench();
     void numbersHaveBothPluralForms();
     void lineBreaksStayWhereTheyAre();
     void blanksAroundATextStay();
@@ -83,6 +84,37 @@ QSet<QString> keys(const QVector<TranslatedText>& texts)
         all << key(text);
     }
     return all;
+}
+
+/// Words of the till in French that are the same in English, or that no language changes.
+const QSet<QString>& equalWords()
+{
+    static const QSet<QString> words{QStringLiteral("Click"), QStringLiteral("Composition"),
+        QStringLiteral("composition"), QStringLiteral("Config"), QStringLiteral("Conversion"),
+        QStringLiteral("Date"), QStringLiteral("date"), QStringLiteral("Dialog"),
+        QStringLiteral("Dose"), QStringLiteral("dose"), QStringLiteral("Epson"),
+        QStringLiteral("Id"), QStringLiteral("id"), QStringLiteral("II"), QStringLiteral("MIT"),
+        QStringLiteral("Menu"), QStringLiteral("menu"), QStringLiteral("OFF"), QStringLiteral("ON"),
+        QStringLiteral("Options"), QStringLiteral("Page"), QStringLiteral("Purge"),
+        QStringLiteral("Stock"), QStringLiteral("TM"), QStringLiteral("TOTAL"),
+        QStringLiteral("Ticket"), QStringLiteral("ticket"), QStringLiteral("Total"),
+        QStringLiteral("Vendel"), QStringLiteral("Version"), QStringLiteral("cl"),
+        QStringLiteral("list"), QStringLiteral("MM"), QStringLiteral("dd"), QStringLiteral("yyyy"),
+        QStringLiteral("titre")};
+    return words;
+}
+
+/// The words of two letters and more in \a text, without those of its HTML.
+QSet<QString> wordsOf(QString text)
+{
+    static const QRegularExpression tag(QStringLiteral("<[^>]*>"));
+    static const QRegularExpression word(QStringLiteral("\\p{L}{2,}"));
+    QSet<QString> words;
+    auto matches = word.globalMatch(text.replace(tag, QStringLiteral(" ")));
+    while (matches.hasNext()) {
+        words << matches.next().captured();
+    }
+    return words;
 }
 } // namespace
 
@@ -172,6 +204,24 @@ void TestTranslation::noTranslationHasFrenchLetters()
     static const QRegularExpression french(QStringLiteral("[àâçéèêëîïôùûüœÀÂÇÉÈÊ]"));
     for (const auto& text : qAsConst(english_)) {
         QVERIFY2(!text.forms.join(QString()).contains(french), qPrintable(key(text)));
+    }
+}
+
+void TestTranslation::noWordStaysFrench()
+{
+    QSet<QString> french;
+    QVector<TranslatedText> tills;
+    for (const auto& text : qAsConst(english_)) {
+        if (text.context.startsWith(QLatin1String("FormVendel"))) {
+            tills << text;
+            french += wordsOf(text.source);
+        }
+    }
+    QVERIFY(french.size() > 100);
+    french -= equalWords();
+    for (const auto& text : qAsConst(tills)) {
+        const QSet<QString> left = wordsOf(text.forms.join(QLatin1Char(' '))) & french;
+        QVERIFY2(left.isEmpty(), qPrintable(key(text)));
     }
 }
 
