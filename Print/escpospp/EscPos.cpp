@@ -6,7 +6,9 @@
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 #include <stb/stb_image.h>
 
@@ -55,6 +57,11 @@ bool isBlack(const stbi_uc* rgb)
 
 DotMatrix EscPos::loadImage(const std::string& path)
 {
+    // Opening a pipe would wait for somebody to write to it.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) {
+        return {};
+    }
     const File file{std::fopen(path.c_str(), "rb")};
     if (!file || !isOfPrintableSize(file.get()) || isUnreadablePnm(file.get())) {
         return {};

@@ -41,7 +41,7 @@ inline constexpr long long MaxPixels = 1LL << 24;
 
 /// The picture in the file at \a path (PNG, BMP, JPEG, GIF or PNM; a GIF's first frame) as dots:
 /// a pixel is black when 0.3 R + 0.59 G + 0.11 B is below 150.
-/// Empty when the file can't be read or decoded or has more than MaxPixels pixels.
+/// Empty when it isn't a regular file, can't be read or decoded or has more than MaxPixels pixels.
 DotMatrix loadImage(const std::string& path);
 
 } // namespace EscPos

@@ -6,11 +6,32 @@
 // a PNM's overlong number wraps around. A till loads its own shop's logo, nobody else's.
 #include "Print/escpospp/StbImage.h"
 
+#include "Print/escpospp/EscPos.h"
+
+#include <cstddef>
 #include <cstdlib>
+
+namespace {
+
+// In the hungriest of files, a PNG, a pixel has four samples of 16 bits and may be a row by itself,
+// with one byte ahead of it.
+constexpr std::size_t MaxBytesPerPixel = 9;
+
+// The decoder believes what a damaged file says of its own length, and asks for gigabytes. Its
+// buffers grow by doubling: no picture of a printable size needs more than this.
+constexpr std::size_t MaxBuffer = 2 * MaxBytesPerPixel * EscPos::MaxPixels;
+
+/// Like realloc, but without memory for more than MaxBuffer bytes; \a memory stays valid then.
+void* resized(void* memory, std::size_t size)
+{
+    return size <= MaxBuffer ? std::realloc(memory, size) : nullptr;
+}
+
+} // namespace
 
 // A damaged file leaves parts of a picture unwritten; they must not show what memory held before.
 #define STBI_MALLOC(size) std::calloc(1, size)
-#define STBI_REALLOC(memory, size) std::realloc(memory, size)
+#define STBI_REALLOC(memory, size) resized(memory, size)
 #define STBI_FREE(memory) std::free(memory)
 #define STB_IMAGE_IMPLEMENTATION
 #define STBI_ONLY_PNG

@@ -6,6 +6,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
 // Rows as text: '#' is a black dot.
@@ -46,7 +49,8 @@ private slots:
     void whatCannotBeDecodedIsEmpty_data();
     void whatCannotBeDecodedIsEmpty();
     void aMissingFileIsEmpty();
-    void aFolderIsEmpty();
+    void whatIsNoFileIsEmpty();
+    void anUnreadableFileIsEmpty();
     void theLargestPictureIsLoaded();
     void aLargerPictureIsNotDecoded();
 
@@ -232,9 +236,25 @@ void TestLogoImage::aMissingFileIsEmpty()
     QCOMPARE(EscPos::loadImage("").size(), 0U);
 }
 
-void TestLogoImage::aFolderIsEmpty()
+void TestLogoImage::whatIsNoFileIsEmpty()
 {
     QCOMPARE(EscPos::loadImage(folder_.path().toStdString()).size(), 0U);
+    QCOMPARE(EscPos::loadImage("/dev/zero").size(), 0U);
+    // Nobody ever writes to this one.
+    const std::string pipe = folder_.filePath("pipe").toStdString();
+    QCOMPARE(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    QCOMPARE(EscPos::loadImage(pipe).size(), 0U);
+}
+
+void TestLogoImage::anUnreadableFileIsEmpty()
+{
+    // Opens, but its first bytes are of no use to anybody, root included.
+    QCOMPARE(EscPos::loadImage("/proc/self/mem").size(), 0U);
+    const QString file = fileHolding(QByteArray("P5 1 1 255\n") + '\0');
+    QVERIFY(QFile::setPermissions(file, QFile::WriteOwner));
+    const DotMatrix dots = EscPos::loadImage(file.toStdString());
+    QVERIFY(QFile::remove(file));
+    QCOMPARE(dots.size(), geteuid() == 0 ? 1U : 0U);
 }
 
 void TestLogoImage::theLargestPictureIsLoaded()

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "Print/escpospp/EscPos.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <QtTest>
+
+#include <algorithm>
+#include <cstddef>
+
+namespace {
+/// The largest block asked for, in bytes.
+std::size_t largestRequest = 0;
+} // namespace
+
+// A sanitizer keeps its own books of the memory.
+#ifndef __SANITIZE_ADDRESS__
+extern "C" {
+void* __libc_realloc(void* block, std::size_t size);
+
+/// The C library's, watched.
+void* realloc(void* block, std::size_t size) noexcept
+{
+    largestRequest = std::max(largestRequest, size);
+    return __libc_realloc(block, size);
+}
+}
+#endif
+
+namespace {
+
+constexpr char RgbWithAlpha = 6;
+
+/// A PNG of 16 bits a sample, stored interlaced or row by row. The decoder leaves checksums alone.
+QByteArray pngHead(quint32 width, quint32 height, char colours, char interlaced)
+{
+    QByteArray head = QByteArray::fromHex("89504e470d0a1a0a"
+                                          "0000000d49484452");
+    for (const quint32 side : {width, height}) {
+        QByteArray bytes(4, '\0');
+        qToBigEndian(side, bytes.data());
+        head += bytes;
+    }
+    return head + '\x10' + colours + QByteArray(2, '\0') + interlaced + "sum.";
+}
+
+QByteArray chunk(const char* type, const QByteArray& data)
+{
+    QByteArray length(4, '\0');
+    qToBigEndian(static_cast<quint32>(data.size()), length.data());
+    return length + type + data + "sum.";
+}
+
+} // namespace
+
+/// What a picture may ask of the till's memory.
+class TestLogoMemory : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void aChunkThatClaimsAGigabyteGetsNoMemory();
+    void theHungriestPictureIsLoaded();
+
+private:
+    DotMatrix loaded(const QByteArray& bytes);
+
+    QTemporaryDir folder_;
+};
+
+void TestLogoMemory::initTestCase()
+{
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("a sanitizer keeps its own books of the memory");
+#endif
+}
+
+DotMatrix TestLogoMemory::loaded(const QByteArray& bytes)
+{
+    QFile file(folder_.filePath("picture"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        qFatal("cannot write the picture");
+    }
+    file.close();
+    largestRequest = 0;
+    return EscPos::loadImage(file.fileName().toStdString());
+}
+
+void TestLogoMemory::aChunkThatClaimsAGigabyteGetsNoMemory()
+{
+    const QByteArray png = pngHead(2, 1, 0, 0) + chunk("IDAT", "some data")
+        + QByteArray::fromHex("411f0245") + "IDAT" + "what follows";
+    QCOMPARE(loaded(png).size(), 0U);
+    QCOMPARE(largestRequest, std::size_t{4096});
+}
+
+void TestLogoMemory::theHungriestPictureIsLoaded()
+{
+    // Eight bytes a pixel, and one ahead of each of the 7,680 rows of the seven interlaced
+    // pictures. The decoder reckons with 4,096 rows and doubles: 2 * (8 * 4096 * 4096 + 4096).
+    const QByteArray rows = qCompress(QByteArray(8 * 4096 * 4096 + 7680, '\0'), 1).mid(4);
+    const DotMatrix dots = loaded(
+        pngHead(4096, 4096, RgbWithAlpha, 1) + chunk("IDAT", rows) + chunk("IEND", QByteArray()));
+    QCOMPARE(dots.size(), 4096U);
+    QCOMPARE(dots.back(), std::vector<bool>(4096, true));
+    QCOMPARE(largestRequest, std::size_t{268'443'648});
+}
+
+QTEST_GUILESS_MAIN(TestLogoMemory)
+
+#include "tst_LogoMemory.moc"
