@@ -204,6 +204,13 @@ PiedFormulaire.dat" ]
     [ ! -s "$TILL_LOG" ]
 }
 
+@test "a wrong option is answered in the till's language" {
+    "$launcher" --langue en
+    run "$launcher" --langue de
+    [ "$status" -eq 2 ]
+    [ "${lines[0]}" = 'Usage: vendel [--langue en|fr]' ]
+}
+
 @test "a language that is left out shows the usage" {
     run "$launcher" --langue
     [ "$status" -eq 2 ]
