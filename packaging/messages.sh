@@ -72,7 +72,6 @@ note() {
 }
 
 usage() {
-    findData
     # The tilde is for the reader.
     # shellcheck disable=SC2088
     shownData=${data:-'~/.local/share/vendel'}
@@ -100,6 +99,8 @@ Starts the till in \"$shownData\".
 }
 
 badUsage() {
+    findData
+    readLanguage
     usage >&2
     exit 2
 }

@@ -180,6 +180,15 @@ PiedFormulaire.dat" ]
     [ "$(cat "$data/FormVendelTr_Us.qm.2026-03-05-140731")" = own ]
 }
 
+@test "the shop's own translation is not lost when it cannot be moved aside" {
+    mkdir -p "$data"
+    echo own >"$data/FormVendelTr_Us.qm"
+    echo earlier >"$data/FormVendelTr_Us.qm.2026-03-05-140731"
+    "$launcher" --langue fr
+    [ "$(cat "$data/FormVendelTr_Us.qm")" = own ]
+    [ "$(cat "$data/FormVendelTr_Us.qm.2026-03-05-140731")" = earlier ]
+}
+
 @test "a translation that is not installed is said and the till starts" {
     cp -a "$BATS_FILE_TMPDIR/tree" "$BATS_TEST_TMPDIR/tree"
     rm "$BATS_TEST_TMPDIR/tree/share/vendel/FormVendelTr_Us.qm"
@@ -202,6 +211,13 @@ PiedFormulaire.dat" ]
     [ "${lines[0]}" = 'Usage : vendel [--langue en|fr]' ]
     [ ! -e "$data" ]
     [ ! -s "$TILL_LOG" ]
+}
+
+@test "a wrong option is answered in the till's language" {
+    "$launcher" --langue en
+    run "$launcher" --langue de
+    [ "$status" -eq 2 ]
+    [ "${lines[0]}" = 'Usage: vendel [--langue en|fr]' ]
 }
 
 @test "a language that is left out shows the usage" {
