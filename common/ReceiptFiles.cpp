@@ -12,6 +12,9 @@ std::optional<QString> ReceiptFiles::read(const QString& file)
         return std::nullopt;
     }
     const QByteArray bytes = stored.readAll();
+    if (stored.error() != QFileDevice::NoError) {
+        return std::nullopt;
+    }
     const auto end = bytes.indexOf('\0');
     return QString::fromUtf8(end < 0 ? bytes : bytes.left(end));
 }
@@ -20,6 +23,10 @@ bool ReceiptFiles::replace(const QString& file, const QString& text)
 {
     if (!QFile::exists(file)) {
         return true;
+    }
+    // Nobody has seen the text of an unreadable file, and no receipt would show the new one.
+    if (!read(file)) {
+        return false;
     }
     QSaveFile saved(file);
     if (!saved.open(QIODevice::WriteOnly)) {

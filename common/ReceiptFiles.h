@@ -15,6 +15,7 @@ inline const QLatin1String footer("PiedFormulaire.dat");
 std::optional<QString> read(const QString& file);
 
 /// Replaces what \a file holds by \a text as UTF-8, whole or not at all; symbolic links and the
-/// file's mode stay. A missing file stays missing. Returns false when writing fails.
+/// file's mode stay. A missing file stays missing. Returns false when writing fails, and leaves a
+/// file alone that cannot be read.
 bool replace(const QString& file, const QString& text);
 } // namespace ReceiptFiles

@@ -68,6 +68,8 @@ void FormVendelConfig::showSettings()
     ui_->cbx_Epson->setCurrentIndex(QString::fromStdString(printer).toInt() == On ? On : Off);
     ui_->txt_TVA->setText(
         formatAmount(firstValue(Db::DbLoad("select * from Config where param like 'TVA'"))));
+    // A new rate is typed over the old one.
+    ui_->txt_TVA->selectAll();
 }
 
 void FormVendelConfig::on_btn_Maj_TVA_clicked()

@@ -22,6 +22,8 @@ private slots:
     void aMegabyteIsReadWhole();
     void aDirectoryIsNothing();
     void anUnreadableFileIsNothing();
+    void aFileThatFailsWhileItIsReadIsNothing();
+    void anUnreadableFileIsNotReplaced();
 };
 
 void TestReceiptFiles::haveTheirNames()
@@ -90,6 +92,29 @@ void TestReceiptFiles::anUnreadableFileIsNothing()
     QVERIFY(chmod(".", 0777) == 0);
     const OrdinaryUser user;
     QVERIFY(!ReceiptFiles::read(ReceiptFiles::header).has_value());
+}
+
+// The first page of a process' memory opens like a file and fails like a damaged disk.
+void TestReceiptFiles::aFileThatFailsWhileItIsReadIsNothing()
+{
+    const Shop shop(Shop::Database::None);
+    QVERIFY(QFile::link(QStringLiteral("/proc/self/mem"), ReceiptFiles::header));
+    QVERIFY(!ReceiptFiles::read(ReceiptFiles::header).has_value());
+    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QStringLiteral("Bar")));
+}
+
+void TestReceiptFiles::anUnreadableFileIsNotReplaced()
+{
+    const Shop shop(Shop::Database::None);
+    shop.write(ReceiptFiles::header, "Bar");
+    QVERIFY(chmod("EnteteFormulaire.dat", 0222) == 0);
+    QVERIFY(chmod(".", 0777) == 0);
+    {
+        const OrdinaryUser user;
+        QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QStringLiteral("Rue")));
+    }
+    QVERIFY(chmod("EnteteFormulaire.dat", 0644) == 0);
+    QCOMPARE(shop.read(ReceiptFiles::header), QByteArray("Bar"));
 }
 
 VENDEL_TEST_MAIN(TestReceiptFiles)

@@ -36,6 +36,7 @@ private slots:
     void aFolderLikeATagIsShownAsItStands();
     void nothingIsClipped();
     void okClosesTheWindow();
+    void theButtonsEndTheDialog();
     void returnPressesOk();
     void escapeClosesTheWindow();
     void theMenuOpensAndClosingDeletesIt();
@@ -144,6 +145,19 @@ void TestFormVendelAbout::okClosesTheWindow()
     window.show();
     QTest::mouseClick(&okButton(window), Qt::LeftButton);
     QVERIFY(!window.isVisible());
+}
+
+void TestFormVendelAbout::theButtonsEndTheDialog()
+{
+    const Shop shop;
+    FormVendelAbout window;
+    window.show();
+    QTest::mouseClick(&okButton(window), Qt::LeftButton);
+    QCOMPARE(window.result(), int(QDialog::Accepted));
+    window.show();
+    emit child<QDialogButtonBox>(window, "btn_buttonBox").rejected();
+    QVERIFY(!window.isVisible());
+    QCOMPARE(window.result(), int(QDialog::Rejected));
 }
 
 void TestFormVendelAbout::returnPressesOk()

@@ -7,6 +7,9 @@
 #include "tests/support/LeakCheck.h"
 #include "tests/support/TestMain.h"
 
+#include <QApplication>
+
+#include <stdexcept>
 #include <utility>
 
 class TestFormVendelConfigStore : public QObject
@@ -24,7 +27,24 @@ private slots:
     void reopeningShowsWhatWasStored();
     void theStatementsAreSplicedFromTheFields();
     void failuresAreLogged();
+    void receiptsTextsThatDoNotOpenAreLogged();
 };
+
+namespace {
+/// Fails at the first showing of the receipt's texts.
+class FailingShow : public QObject
+{
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show
+            && watched->objectName() == QLatin1String("FormVendelFormulaireTicket")) {
+            throw std::runtime_error("no window");
+        }
+        return false;
+    }
+};
+} // namespace
 
 void TestFormVendelConfigStore::aRateIsStoredAndClosesTheWindow_data()
 {
@@ -191,6 +211,22 @@ void TestFormVendelConfigStore::failuresAreLogged()
     QCOMPARE(log.criticals().constLast(),
         QStringLiteral("Errors on_btn_Maj_Epson_clicked : no closing"));
     QCOMPARE(log.criticals().size(), 2);
+}
+
+void TestFormVendelConfigStore::receiptsTextsThatDoNotOpenAreLogged()
+{
+    const LeakCheckPause pause;
+    const Shop shop;
+    const CapturedLog log;
+    FormVendelConfig window;
+    window.show();
+    FailingShow failure;
+    qApp->installEventFilter(&failure);
+    click(window, "btn_Maj_Formulaire");
+    QCOMPARE(log.criticals(),
+        QStringList(
+            QStringLiteral("Errors FormVendelConfig on_btn_Maj_Formulaire_clicked : no window")));
+    QVERIFY(window.isVisible());
 }
 
 VENDEL_TEST_MAIN(TestFormVendelConfigStore)

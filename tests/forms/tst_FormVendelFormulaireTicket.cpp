@@ -38,6 +38,7 @@ private slots:
 
     void failuresAreLogged_data();
     void failuresAreLogged();
+    void aFailingConstructorIsLogged_data();
     void aFailingConstructorIsLogged();
 };
 
@@ -245,11 +246,19 @@ void TestFormVendelFormulaireTicket::failuresAreLogged()
     QCOMPARE(editor.shop.read(footerFile), QByteArray("Merci"));
 }
 
+void TestFormVendelFormulaireTicket::aFailingConstructorIsLogged_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("title") << QByteArray("Formulaire Impression Ticket");
+    QTest::newRow("first label") << QByteArray("Formulaire");
+}
+
 void TestFormVendelFormulaireTicket::aFailingConstructorIsLogged()
 {
+    QFETCH(QByteArray, text);
     const Shop shop(Shop::Database::None);
     const CapturedLog log;
-    const FailingText failure("Formulaire Impression Ticket");
+    const FailingText failure(text.constData());
     const FormVendelFormulaireTicket window;
     QCOMPARE(log.criticals(),
         QStringList(QStringLiteral("Errors FormVendelFormulaireTicket Constructor : no text")));

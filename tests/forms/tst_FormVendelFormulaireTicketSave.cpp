@@ -9,6 +9,9 @@
 #include <QClipboard>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QMimeData>
+
+#include <memory>
 
 #include <sys/stat.h>
 
@@ -46,6 +49,7 @@ private slots:
     void aTextLikeHtmlIsSavedWithoutItsTags();
     void windowsLineEndsBecomeLineFeeds();
     void pastedTextIsSavedAsPlainText();
+    void pastedTextComesWithoutItsLook();
     void aSavedTitleStandsOutOnTheReceipt();
 
     void aMissingFileStaysMissingAndNothingIsSaid_data();
@@ -59,6 +63,7 @@ private slots:
     void aFullDiskLeavesTheOldTextAndIsSaid();
     void aFolderInTheFilesPlaceIsSaid();
     void aFolderWithoutWriteAccessIsSaid();
+    void aTextThatCannotBeReadIsKeptAndSaid();
 };
 
 void TestFormVendelFormulaireTicketSave::savingAsksFirst_data()
@@ -187,6 +192,17 @@ void TestFormVendelFormulaireTicketSave::pastedTextIsSavedAsPlainText()
     QCOMPARE(editor.shop.read(headerFile), QByteArray("<b>Été</b>\nParis"));
 }
 
+void TestFormVendelFormulaireTicketSave::pastedTextComesWithoutItsLook()
+{
+    OpenReceiptTexts editor("", "Merci");
+    auto page = std::make_unique<QMimeData>();
+    page->setHtml(QStringLiteral("<h1>Chez Paul</h1><p>Paris</p>"));
+    page->setText(QStringLiteral("Chez Paul, Paris"));
+    QGuiApplication::clipboard()->setMimeData(page.release());
+    QTest::keyClick(&child<QTextEdit>(editor.window, "txt_Form"), Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(editor.text(), QStringLiteral("Chez Paul, Paris"));
+}
+
 void TestFormVendelFormulaireTicketSave::aSavedTitleStandsOutOnTheReceipt()
 {
     OpenReceiptTexts editor("", "");
@@ -313,6 +329,23 @@ void TestFormVendelFormulaireTicketSave::aFolderWithoutWriteAccessIsSaid()
     }
     QCOMPARE(chmod(qPrintable(editor.shop.path()), 0755), 0);
     QVERIFY(saidTheFailure(box));
+    QCOMPARE(editor.shop.read(headerFile), QByteArray("Chez Paul"));
+}
+
+void TestFormVendelFormulaireTicketSave::aTextThatCannotBeReadIsKeptAndSaid()
+{
+    OpenReceiptTexts editor("Chez Paul", "Merci");
+    QCOMPARE(chmod("EnteteFormulaire.dat", 0222), 0);
+    QCOMPARE(chmod(qPrintable(editor.shop.path()), 0777), 0);
+    const AnswerBox box(QMessageBox::Yes);
+    {
+        const OrdinaryUser user;
+        chooseMenu(editor.window, "menuAfficher", "actionEntete_Page");
+        QCOMPARE(editor.text(), QString());
+        click(editor.window, "btn_Entete_Page");
+    }
+    QVERIFY(saidTheFailure(box));
+    QCOMPARE(chmod("EnteteFormulaire.dat", 0644), 0);
     QCOMPARE(editor.shop.read(headerFile), QByteArray("Chez Paul"));
 }
 

@@ -78,7 +78,8 @@ void TestFormVendelSaisieArticle::looksLikeTheArticleEditor()
         QCOMPARE(button.font().pointSize(), 12);
         QVERIFY(!button.autoDefault());
         QVERIFY(!button.isDefault());
-        const bool isPlain = name == QLatin1String("btn_Effacer_Saisie");
+        const bool isPlain = name == QLatin1String("btn_Effacer_Saisie")
+            || name == QLatin1String("btn_Rechercher");
         QCOMPARE(button.styleSheet(),
             isPlain ? QString() : QStringLiteral("background-color: rgb(114, 159, 207)"));
     }

@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: MIT
+#include "forms/FormVendelConfig.h"
+#include "tests/forms/OpenArticleEditor.h"
+#include "tests/forms/OpenReceiptTexts.h"
+#include "tests/forms/Settings.h"
+#include "tests/support/TestMain.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <QWindow>
+
+/// The shopkeeper's windows without a mouse: each job is done from the first key to the last.
+class TestShopkeeperKeyboard : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void anArticleIsAdded();
+    void anArticleIsRenamed();
+    void anArticleIsRemoved();
+    void anArticleIsSearched();
+    void theFieldsAreEmptied();
+    void aRateIsTypedOverTheOldOne();
+    void thePrinterIsSwitchedOn();
+    void theSettingsLeadToTheReceiptsTexts();
+    void aHeaderIsSaved();
+    void theMenuShowsTheFooter();
+};
+
+namespace {
+/// Presses \a key \a times in whatever has the focus.
+void press(Qt::Key key, int times = 1)
+{
+    for (int time = 0; time < times; ++time) {
+        QWidget* popup = QApplication::activePopupWidget();
+        QTest::keyClick(popup != nullptr ? popup : QApplication::focusWidget(), key);
+    }
+}
+
+void type(const char* text)
+{
+    QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text));
+}
+
+QString focused()
+{
+    const QWidget* widget = QApplication::focusWidget();
+    return widget != nullptr ? widget->objectName() : QString();
+}
+
+/// Answers the message boxes with Return while it lives and remembers what they said.
+class ReturnOnBoxes
+{
+public:
+    ReturnOnBoxes()
+    {
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box != nullptr && box->isVisible() && box->focusWidget() != nullptr) {
+                texts_ << box->text();
+                QTest::keyClick(box->focusWidget(), Qt::Key_Return);
+            }
+        });
+        timer_.start(1);
+    }
+
+    QStringList texts() const
+    {
+        return texts_;
+    }
+
+private:
+    QTimer timer_;
+    QStringList texts_;
+};
+
+/// An article editor that lists its menu, the focus on the list.
+struct ListedArticles : OpenArticleEditor
+{
+    ListedArticles()
+        : OpenArticleEditor("('Cafe', 1), ('The', 2), ('Vin', 3)")
+    {
+        press(Qt::Key_Tab, 3);
+        press(Qt::Key_Space);
+        press(Qt::Key_Tab, 5);
+    }
+};
+
+/// The settings on the screen with the focus where it opens.
+struct OpenSettings
+{
+    Shop shop;
+    FormVendelConfig window;
+
+    OpenSettings()
+    {
+        window.show();
+        if (!QTest::qWaitForWindowActive(&window)) {
+            qFatal("the settings do not become active");
+        }
+    }
+};
+} // namespace
+
+void TestShopkeeperKeyboard::anArticleIsAdded()
+{
+    OpenArticleEditor editor("('Cafe', 1)");
+    type("Vin");
+    press(Qt::Key_Tab);
+    type("3,5");
+    press(Qt::Key_Tab, 3);
+    QCOMPARE(focused(), QStringLiteral("btn_Ajouter"));
+    press(Qt::Key_Space);
+    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 Vin 3.5"));
+    QCOMPARE(editor.names(), QStringList({QStringLiteral("Cafe"), QStringLiteral("Vin")}));
+}
+
+void TestShopkeeperKeyboard::anArticleIsRenamed()
+{
+    ListedArticles editor;
+    QCOMPARE(focused(), QStringLiteral("tableView"));
+    press(Qt::Key_Down);
+    press(Qt::Key_Tab);
+    type("The vert");
+    press(Qt::Key_Tab);
+    type("2,5");
+    press(Qt::Key_Tab, 5);
+    QCOMPARE(focused(), QStringLiteral("btn_Renommer"));
+    const ReturnOnBoxes boxes;
+    press(Qt::Key_Space);
+    QCOMPARE(boxes.texts(), QStringList(QStringLiteral("Voulez-vous renommer : The ...")));
+    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The vert 2.5; 3 Vin 3"));
+}
+
+void TestShopkeeperKeyboard::anArticleIsRemoved()
+{
+    ListedArticles editor;
+    press(Qt::Key_Down, 2);
+    press(Qt::Key_Backtab, 3);
+    QCOMPARE(focused(), QStringLiteral("btn_Supprimer"));
+    const ReturnOnBoxes boxes;
+    press(Qt::Key_Space);
+    QCOMPARE(boxes.texts(), QStringList(QStringLiteral("Voulez-vous supprimer : Vin ...")));
+    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
+}
+
+void TestShopkeeperKeyboard::anArticleIsSearched()
+{
+    OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
+    type("th");
+    press(Qt::Key_Backtab, 2);
+    QCOMPARE(focused(), QStringLiteral("btn_Rechercher"));
+    press(Qt::Key_Space);
+    QCOMPARE(editor.names(), QStringList(QStringLiteral("The")));
+    press(Qt::Key_Escape);
+    QVERIFY(!editor.window.isVisible());
+}
+
+void TestShopkeeperKeyboard::theFieldsAreEmptied()
+{
+    OpenArticleEditor editor;
+    type("Vin");
+    press(Qt::Key_Tab);
+    type("3");
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), QStringLiteral("btn_Effacer_Saisie"));
+    press(Qt::Key_Space);
+    QCOMPARE(editor.text("txt_Article"), QString());
+    QCOMPARE(editor.text("txt_Montant"), QString());
+}
+
+void TestShopkeeperKeyboard::aRateIsTypedOverTheOldOne()
+{
+    OpenSettings settings;
+    QCOMPARE(focused(), QStringLiteral("txt_TVA"));
+    type("5,5");
+    QCOMPARE(rateOf(settings.window), QStringLiteral("5,5"));
+    press(Qt::Key_Tab);
+    press(Qt::Key_Space);
+    QVERIFY(!settings.window.isVisible());
+    QCOMPARE(storedRate(settings.shop), QStringLiteral("5.5"));
+    FormVendelConfig reopened;
+    QCOMPARE(rateOf(reopened), QStringLiteral("5.50"));
+}
+
+void TestShopkeeperKeyboard::thePrinterIsSwitchedOn()
+{
+    OpenSettings settings;
+    press(Qt::Key_Tab, 2);
+    QCOMPARE(focused(), QStringLiteral("cbx_Epson"));
+    press(Qt::Key_Down);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Space);
+    QVERIFY(!settings.window.isVisible());
+    QCOMPARE(storedSwitch(settings.shop), QStringLiteral("1"));
+    FormVendelConfig reopened;
+    QCOMPARE(switchOf(reopened), QStringLiteral("ON"));
+}
+
+void TestShopkeeperKeyboard::theSettingsLeadToTheReceiptsTexts()
+{
+    OpenSettings settings;
+    press(Qt::Key_Tab, 4);
+    QCOMPARE(focused(), QStringLiteral("btn_Maj_Formulaire"));
+    press(Qt::Key_Space);
+    auto* texts = settings.window.findChild<FormVendelFormulaireTicket*>();
+    QVERIFY(texts != nullptr);
+    QTRY_COMPARE(focused(), QStringLiteral("txt_Form"));
+    press(Qt::Key_Escape);
+    QVERIFY(!texts->isVisible());
+    QVERIFY(settings.window.isVisible());
+}
+
+void TestShopkeeperKeyboard::aHeaderIsSaved()
+{
+    OpenReceiptTexts editor("Paris", "Merci");
+    QVERIFY(QTest::qWaitForWindowActive(&editor.window));
+    type("Chez Paul");
+    press(Qt::Key_Return);
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), QStringLiteral("btn_Entete_Page"));
+    const ReturnOnBoxes boxes;
+    press(Qt::Key_Space);
+    QCOMPARE(boxes.texts(), QStringList(QStringLiteral("Sauvegarde")));
+    QCOMPARE(editor.shop.read(headerFile), QByteArray("Chez Paul\nParis"));
+    QCOMPARE(editor.shop.read(footerFile), QByteArray("Merci"));
+}
+
+void TestShopkeeperKeyboard::theMenuShowsTheFooter()
+{
+    OpenReceiptTexts editor("Chez Paul", "Merci");
+    QVERIFY(QTest::qWaitForWindowActive(&editor.window));
+    QTest::keyClick(editor.window.windowHandle(), Qt::Key_Alt, Qt::AltModifier);
+    QCOMPARE(focused(), QStringLiteral("menubar"));
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QCOMPARE(editor.label(), QStringLiteral("Pied de page"));
+    QCOMPARE(editor.text(), QStringLiteral("Merci"));
+}
+
+VENDEL_TEST_MAIN(TestShopkeeperKeyboard)
+#include "tst_ShopkeeperKeyboard.moc"
