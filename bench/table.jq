@@ -27,7 +27,7 @@ def line:
     | (map(.bytes // 0) | max) as $bytes
     | [$work, $program, $floor, $ratio]
     + if $limit then ["ratio \($limit)", if $ratio <= $limit then "kept" else "missed" end]
-      elif $limit_ms then ["\($limit_ms) ms", if $program <= $limit_ms then "kept" else "missed" end]
+      elif $limit_ms then ["\($limit_ms * 1000 | round / 1000) ms", if $program <= $limit_ms then "kept" else "missed" end]
       elif $limit_bytes then ["\($bytes | round) of \($limit_bytes) bytes a row",
         if $bytes <= $limit_bytes then "kept" else "missed" end]
       else ["-", "-"] end

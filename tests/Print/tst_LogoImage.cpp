@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -51,6 +52,7 @@ private slots:
     void aMissingFileIsEmpty();
     void whatIsNoFileIsEmpty();
     void anUnreadableFileIsEmpty();
+    void aFileThatCannotBeOpenedIsEmpty();
     void theLargestPictureIsLoaded();
     void aLargerPictureIsNotDecoded();
 
@@ -217,6 +219,7 @@ void TestLogoImage::whatCannotBeDecodedIsEmpty_data()
                                                                "3a7e9b55"
                                                                "0000000049454e44ae426082");
     QTest::newRow("a size of nothing") << QByteArray("P6 0 0 255\n");
+    QTest::newRow("a width of nothing") << QByteArray("P6 0 2 255\n");
     QTest::newRow("a PPM that ends early") << QByteArray("P6 2 2 255\nabcdefghijk");
     QTest::newRow("a PGM that ends early") << whitePixels(299, "P5 300 1 255\n");
     QTest::newRow("a PGM of 16 bits") << QByteArray("P5 1 1 65535\n\0\0", 15);
@@ -255,6 +258,19 @@ void TestLogoImage::anUnreadableFileIsEmpty()
     const DotMatrix dots = EscPos::loadImage(file.toStdString());
     QVERIFY(QFile::remove(file));
     QCOMPARE(dots.size(), geteuid() == 0 ? 1U : 0U);
+}
+
+void TestLogoImage::aFileThatCannotBeOpenedIsEmpty()
+{
+    const std::string file = fileHolding(QByteArray("P5 1 1 255\n") + '\0').toStdString();
+    rlimit before{};
+    QCOMPARE(getrlimit(RLIMIT_NOFILE, &before), 0);
+    const rlimit none{0, before.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_NOFILE, &none), 0);
+    const DotMatrix dots = EscPos::loadImage(file);
+    QCOMPARE(setrlimit(RLIMIT_NOFILE, &before), 0);
+    QCOMPARE(dots.size(), 0U);
+    QCOMPARE(EscPos::loadImage(file).size(), 1U);
 }
 
 void TestLogoImage::theLargestPictureIsLoaded()

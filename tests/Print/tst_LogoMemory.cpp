@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include <malloc.h>
+
 namespace {
 /// The largest block asked for, in bytes.
 std::size_t largestRequest = 0;
@@ -63,6 +65,7 @@ private slots:
     void initTestCase();
     void aChunkThatClaimsAGigabyteGetsNoMemory();
     void theHungriestPictureIsLoaded();
+    void whatAFileLeavesOutIsBlack();
 
 private:
     DotMatrix loaded(const QByteArray& bytes);
@@ -106,6 +109,19 @@ void TestLogoMemory::theHungriestPictureIsLoaded()
     QCOMPARE(dots.size(), 4096U);
     QCOMPARE(dots.back(), std::vector<bool>(4096, true));
     QCOMPARE(largestRequest, std::size_t{268'443'648});
+}
+
+void TestLogoMemory::whatAFileLeavesOutIsBlack()
+{
+    // Memory that nobody clears reads as 0xAA, which is white.
+    QCOMPARE(mallopt(M_PERTURB, 0x55), 1);
+    // A grey JPEG of 8 x 1 pixels: its frame and its end, no scan between them.
+    const DotMatrix dots = loaded(QByteArray::fromHex("ffd8"
+                                                      "ffc0000b08000100080101"
+                                                      "1100"
+                                                      "ffd9"));
+    QCOMPARE(mallopt(M_PERTURB, 0), 1);
+    QCOMPARE(dots, DotMatrix{std::vector<bool>(8, true)});
 }
 
 QTEST_GUILESS_MAIN(TestLogoMemory)

@@ -40,6 +40,7 @@ private slots:
     void pairsAreEqualWhenTheirCommandsAre();
     void textBecomesBytes_data();
     void textBecomesBytes();
+    void theFirstTextHasItsMarkers();
     void anEmptyTextIsOneEmptyTransfer();
     void aLongTextIsOneTransfer();
     void aRejectedTextSendsNothing_data();
@@ -152,6 +153,9 @@ void TestStyledText::pairsAreEqualWhenTheirCommandsAre()
     QVERIFY(bold == MDPair::getMatching("**"));
     bold.off = EscPos::UNDERLINE_OFF;
     QVERIFY(!(bold == MDPair::getMatching("**")));
+    bold.off = EscPos::BOLD_OFF;
+    bold.on = EscPos::FONT_B;
+    QVERIFY(!(bold == MDPair::getMatching("**")));
 }
 
 void TestStyledText::textBecomesBytes_data()
@@ -197,6 +201,18 @@ void TestStyledText::textBecomesBytes()
     QVERIFY(printer.text(text));
     QCOMPARE(transfersOf(bus), QStringList(hexOf(bytes)));
     QCOMPARE(output.take(), std::string());
+}
+
+void TestStyledText::theFirstTextHasItsMarkers()
+{
+    EmulatedPrinter bus;
+    Printer printer(ReceiptPrinter);
+    std::map<std::string, MDPair*> kept;
+    kept.swap(MDPair::mdPairMap);
+    const bool sent = printer.text("**b**");
+    kept.swap(MDPair::mdPairMap);
+    QVERIFY(sent);
+    QCOMPARE(transfersOf(bus), QStringList("1b4501621b4500"));
 }
 
 void TestStyledText::anEmptyTextIsOneEmptyTransfer()

@@ -16,6 +16,9 @@
 namespace {
 
 constexpr unsigned HighSpeed = 3;
+// What the descriptors name.
+constexpr unsigned Interface = 0;
+constexpr unsigned char BulkOut = 0x01;
 // The mocked node always polls as ready: a client that is answered at once would spin.
 constexpr std::chrono::milliseconds NothingYet{3};
 
@@ -40,6 +43,12 @@ std::string hexOf(const std::string& bytes)
         hex += Digits[byte & 0xFU];
     }
     return hex.empty() ? "-" : hex;
+}
+
+// Whether a request is for the printer's interface; its number comes first in every Argument.
+template <class Argument> bool isForInterface(UMockdevIoctlData* arg)
+{
+    return as<unsigned>(resolve(arg, 0, sizeof(Argument)).get()) == Interface;
 }
 
 } // namespace
@@ -101,15 +110,12 @@ EmulatedPrinterDevice::Result EmulatedPrinterDevice::control(
         return giveDriver(arg);
     case USBDEVFS_IOCTL:
         return driverRequest(arg);
-    case USBDEVFS_DISCONNECT_CLAIM: {
-        const Result detached = driverBound_ ? detach() : 0;
-        return detached < 0 ? detached : claim();
-    }
+    case USBDEVFS_DISCONNECT_CLAIM:
+        return isForInterface<usbdevfs_disconnect_claim>(arg) ? detachAndClaim() : -EINVAL;
     case USBDEVFS_CLAIMINTERFACE:
-        return claim();
+        return isForInterface<unsigned>(arg) ? claim() : -ENOENT;
     case USBDEVFS_RELEASEINTERFACE:
-        record("release");
-        return 0;
+        return isForInterface<unsigned>(arg) ? release() : -EINVAL;
     case USBDEVFS_DISCARDURB:
         return -EINVAL;
     case USBDEVFS_CONNECTINFO:
@@ -124,7 +130,7 @@ EmulatedPrinterDevice::Result EmulatedPrinterDevice::control(
 
 EmulatedPrinterDevice::Result EmulatedPrinterDevice::giveDriver(UMockdevIoctlData* arg)
 {
-    if (!driverBound_) {
+    if (!driverBound_ || !isForInterface<usbdevfs_getdriver>(arg)) {
         return -ENODATA;
     }
     const auto data = resolve(arg, 0, sizeof(usbdevfs_getdriver));
@@ -134,6 +140,9 @@ EmulatedPrinterDevice::Result EmulatedPrinterDevice::giveDriver(UMockdevIoctlDat
 
 EmulatedPrinterDevice::Result EmulatedPrinterDevice::driverRequest(UMockdevIoctlData* arg)
 {
+    if (!isForInterface<usbdevfs_ioctl>(arg)) {
+        return -EINVAL;
+    }
     const auto data = resolve(arg, 0, sizeof(usbdevfs_ioctl));
     const auto code = static_cast<unsigned>(as<usbdevfs_ioctl>(data.get()).ioctl_code);
     return code == USBDEVFS_DISCONNECT ? detach() : 0;
@@ -161,6 +170,18 @@ EmulatedPrinterDevice::Result EmulatedPrinterDevice::claim()
     return 0;
 }
 
+EmulatedPrinterDevice::Result EmulatedPrinterDevice::detachAndClaim()
+{
+    const Result detached = driverBound_ ? detach() : 0;
+    return detached < 0 ? detached : claim();
+}
+
+EmulatedPrinterDevice::Result EmulatedPrinterDevice::release()
+{
+    record("release");
+    return 0;
+}
+
 EmulatedPrinterDevice::Result EmulatedPrinterDevice::submit(UMockdevIoctlData* arg)
 {
     if (gone_) {
@@ -168,6 +189,9 @@ EmulatedPrinterDevice::Result EmulatedPrinterDevice::submit(UMockdevIoctlData* a
     }
     auto urbData = resolve(arg, 0, sizeof(usbdevfs_urb));
     const auto& urb = as<usbdevfs_urb>(urbData.get());
+    if (urb.endpoint != BulkOut) {
+        return -ENOENT;
+    }
     const bool first = (urb.flags & USBDEVFS_URB_BULK_CONTINUATION) == 0;
     if (first && !beginTransfer(urb)) {
         return -ENODEV;

@@ -91,6 +91,8 @@ private:
     Result driverRequest(UMockdevIoctlData* arg);
     Result detach();
     Result claim();
+    Result detachAndClaim();
+    Result release();
     Result submit(UMockdevIoctlData* arg);
     Result reap(UMockdevIoctlData* arg);
     bool beginTransfer(const usbdevfs_urb& urb);
