@@ -74,6 +74,7 @@ void TestFormVendelConfig::looksLikeTheSettings()
     const auto& printer = child<QComboBox>(window, "cbx_Epson");
     QCOMPARE(printer.font().pointSize(), 12);
     QCOMPARE(printer.count(), 2);
+    QVERIFY(!printer.isEditable());
     QCOMPARE(printer.itemText(0), QStringLiteral("OFF"));
     QCOMPARE(printer.itemText(1), QStringLiteral("ON"));
 }

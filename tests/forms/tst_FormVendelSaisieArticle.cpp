@@ -173,6 +173,8 @@ void TestFormVendelSaisieArticle::fieldsStandBesideTheirLabels()
         QCOMPARE(button.left(), articleLabel.x());
         QCOMPARE(button.right(), article.right());
     }
+    QCOMPARE(child<QLabel>(window, "lbl_Menu").buddy(),
+        window.findChild<QWidget*>(QStringLiteral("tableView")));
     QCOMPARE(articleLabel.buddy(), window.findChild<QWidget*>(QStringLiteral("txt_Article")));
     QCOMPARE(amountLabel.buddy(), window.findChild<QWidget*>(QStringLiteral("txt_Montant")));
 }

@@ -177,7 +177,9 @@ void TestShopkeeperKeyboard::aRateIsTypedOverTheOldOne()
     type("5,5");
     QCOMPARE(rateOf(settings.window), QStringLiteral("5,5"));
     press(Qt::Key_Tab);
+    const ReturnOnBoxes boxes;
     press(Qt::Key_Space);
+    QCOMPARE(boxes.texts(), QStringList());
     QVERIFY(!settings.window.isVisible());
     QCOMPARE(storedRate(settings.shop), QStringLiteral("5.5"));
     FormVendelConfig reopened;
