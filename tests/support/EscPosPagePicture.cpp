@@ -14,7 +14,6 @@ constexpr int EdgeFeed = 24;
 
 void draw(QPainter& painter, const PageGlyph& glyph, int left, int bottom)
 {
-    const int width = glyph.style.fontB ? 9 : 12;
     const int height = glyph.style.fontB ? 17 : 24;
     QFont font(QStringLiteral("DejaVu Sans Mono"));
     font.setStyleHint(QFont::TypeWriter);
@@ -30,8 +29,10 @@ void draw(QPainter& painter, const PageGlyph& glyph, int left, int bottom)
     if (glyph.style.bold) {
         painter.drawText(1, baseline, text);
     }
-    painter.fillRect(0, height - glyph.style.underline, width, glyph.style.underline, Qt::black);
     painter.restore();
+    // The characters' size does not change its thickness.
+    const int underline = glyph.style.underline;
+    painter.fillRect(left, bottom - underline, glyph.style.cellWidth(), underline, Qt::black);
 }
 
 void draw(QPainter& painter, const PageBand& band, int left, int bottom)

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "app/ReceiptDocument.h"
+#include "tests/support/TestMain.h"
+
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QTextLayout>
+
+/// A receipt in a window where the face is too wide for the paper's columns.
+class TestReceiptDocument : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aWideFaceIsDrawnNarrower();
+    void aTotalIsTwiceAsWideAsTheNarrowFace();
+};
+
+namespace {
+constexpr int narrow = 300;
+
+QTextLine firstLine(const QTextEdit& edit, int block)
+{
+    return edit.document()->findBlockByNumber(block).layout()->lineAt(0);
+}
+
+void showNarrow(QTextEdit& edit, const Receipt& receipt)
+{
+    QFont font = edit.font();
+    font.setPointSize(12);
+    edit.setFont(font);
+    edit.setFixedWidth(narrow);
+    edit.show();
+    showReceipt(receipt, edit);
+}
+} // namespace
+
+void TestReceiptDocument::aWideFaceIsDrawnNarrower()
+{
+    QTextEdit edit;
+    showNarrow(edit, {{ReceiptLine::Style::Plain, QString(48, QLatin1Char('0'))}});
+    QCOMPARE(firstLine(edit, 0).textLength(), 48);
+    QVERIFY(firstLine(edit, 0).naturalTextWidth() <= narrow);
+}
+
+void TestReceiptDocument::aTotalIsTwiceAsWideAsTheNarrowFace()
+{
+    QTextEdit edit;
+    const QString digits(24, QLatin1Char('0'));
+    showNarrow(
+        edit, {{ReceiptLine::Style::Plain, digits}, {ReceiptLine::Style::GrandTotal, digits}});
+    const double plain = firstLine(edit, 0).naturalTextWidth();
+    const double wide = firstLine(edit, 1).naturalTextWidth();
+    QVERIFY(wide > 1.7 * plain);
+    QVERIFY(wide < 2.3 * plain);
+}
+
+VENDEL_TEST_MAIN(TestReceiptDocument)
+#include "tst_ReceiptDocument.moc"
