@@ -19,9 +19,18 @@ if(VENDEL_COVERAGE)
   target_link_options(vendel_options INTERFACE --coverage)
 endif()
 
-# A library of one folder: its sources are listed, what it may use is its link list.
+# A library of one folder: its sources are listed, what it may use is its link list. A changed form
+# is known before the build starts: automatic uic tells Ninja only of the build after it.
 function(vendel_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
+  set(forms ${ARG_SOURCES})
+  list(TRANSFORM forms REPLACE "\\.cpp$" ".ui")
+  foreach(form IN LISTS forms)
+    if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${form})
+      set_property(SOURCE ${ARG_SOURCES} APPEND PROPERTY
+        OBJECT_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${form})
+    endif()
+  endforeach()
   add_library(${name} STATIC ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC vendel_options ${ARG_USES})
 endfunction()

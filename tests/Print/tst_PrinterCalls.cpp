@@ -31,6 +31,9 @@ template <class Function> Function* libusbsOwn(Function*, const char* name)
 // The printer layer's calls pass here on their way to the library.
 extern "C" {
 
+// The signature is libusb's own, an enumeration before the dots; clang advises against that.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wvarargs"
 int LIBUSB_CALL libusb_set_option(libusb_context* context, libusb_option option, ...)
 {
     va_list arguments;
@@ -40,6 +43,7 @@ int LIBUSB_CALL libusb_set_option(libusb_context* context, libusb_option option,
     calls.options += QString("%1 = %2").arg(option).arg(value);
     return libusbsOwn(libusb_set_option, "libusb_set_option")(context, option, value);
 }
+#pragma GCC diagnostic pop
 
 int LIBUSB_CALL libusb_detach_kernel_driver(libusb_device_handle* handle, int interface)
 {
