@@ -4,6 +4,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/Counter.h"
 #include "tests/support/FailingText.h"
+#include "tests/support/LeakCheck.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
@@ -119,6 +120,7 @@ void TestFormVendelTroubles::aKeyIsLoggedUnderItsNumber_data()
 
 void TestFormVendelTroubles::aKeyIsLoggedUnderItsNumber()
 {
+    const LeakCheckPause pause;
     QFETCH(QString, digit);
     TroubledField till(digit);
     const CapturedLog log;
@@ -139,6 +141,7 @@ void TestFormVendelTroubles::theSeparatorIsLoggedUnderItsNumber()
 
 void TestFormVendelTroubles::plusIsLoggedUnderItsNumber()
 {
+    const LeakCheckPause pause;
     TroubledField till(QStringLiteral("7"));
     till.field().setText(QStringLiteral(" 7"));
     const CapturedLog log;
@@ -149,6 +152,7 @@ void TestFormVendelTroubles::plusIsLoggedUnderItsNumber()
 
 void TestFormVendelTroubles::minusIsLoggedUnderItsNumber()
 {
+    const LeakCheckPause pause;
     // The field goes from "13 " over "-13" to "13".
     TroubledField till(QStringLiteral("13"));
     till.field().setText(QStringLiteral("13 "));
@@ -230,6 +234,7 @@ void TestFormVendelTroubles::aTipIsLogged()
 
 void TestFormVendelTroubles::theSplashIsLogged()
 {
+    const LeakCheckPause pause;
     QWidget opener;
     FormVendelStart splash(&opener);
     splash.show();
