@@ -20,11 +20,6 @@ constexpr useconds_t longTime = 60'000'000;
 
 const QByteArray insertion
     = "insert into Historique (id, article, prix) values(7, 'Th\xc3\xa9', 2.5)";
-
-QByteArray diagnostic(const QByteArray& sql, const QByteArray& reason)
-{
-    return "Errors Db::DbLoad sqlite3_errmsg : " + sql + " " + reason + "\n";
-}
 } // namespace
 
 class TestBadDaysPayment : public QObject
@@ -63,7 +58,7 @@ void TestBadDaysPayment::aDatabaseThatIsLockedForWritingKeepsTheTicket()
         CapturedOutput output;
         till.pay();
         QCOMPARE(log.criticals(), QStringList(notWritten));
-        QCOMPARE(output.text(), diagnostic(insertion, "database is locked"));
+        QCOMPARE(output.text(), databaseReport(insertion, "database is locked"));
         QVERIFY(till.receipt() == nullptr);
     }
     QCOMPARE(till.ticket().size(), 2);
@@ -85,7 +80,7 @@ void TestBadDaysPayment::aDatabaseThatIsLockedForReadingShowsNoTicket()
         const AnswerBox box;
         till.pay();
         QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
-        QCOMPARE(output.text(), diagnostic("select * from Ticket", "database is locked"));
+        QCOMPARE(output.text(), databaseReport("select * from Ticket", "database is locked"));
     }
     QCOMPARE(till.ticket().size(), 1);
     till.pay();
@@ -109,7 +104,7 @@ void TestBadDaysPayment::aLockThatComesBetweenKeepsTheTicket()
         QCOMPARE(log.criticals(),
             QStringList(QStringLiteral(
                 "Errors FormVendel on_btn_Payer_clicked : the ticket could not be read")));
-        QCOMPARE(output.text(), diagnostic("select * from Ticket", "database is locked"));
+        QCOMPARE(output.text(), databaseReport("select * from Ticket", "database is locked"));
         QVERIFY(till.receipt() == nullptr);
     }
     QCOMPARE(till.history(), QStringList());
@@ -143,7 +138,7 @@ void TestBadDaysPayment::aDatabaseThatIsReadOnlyKeepsTheTicket()
             click(till.window, "btn_Ticket");
         }
         QCOMPARE(log.criticals(), QStringList(notWritten));
-        QCOMPARE(output.text(), diagnostic(insertion, "attempt to write a readonly database"));
+        QCOMPARE(output.text(), databaseReport(insertion, "attempt to write a readonly database"));
         QVERIFY(till.receipt() == nullptr);
         QCOMPARE(till.shownLines(), 1);
     }
@@ -199,7 +194,7 @@ void TestBadDaysPayment::withoutAHistoryTheTicketIsKept()
         CapturedOutput standardOutput;
         till.pay();
         QCOMPARE(log.criticals(), QStringList(notWritten));
-        QCOMPARE(standardOutput.text(), diagnostic(insertion, "no such table: Historique"));
+        QCOMPARE(standardOutput.text(), databaseReport(insertion, "no such table: Historique"));
     }
     QVERIFY(till.receipt() == nullptr);
     QVERIFY(printer.transfers().empty());
@@ -224,7 +219,7 @@ void TestBadDaysPayment::withoutSettingsTheTicketIsKept()
     QCOMPARE(log.criticals(),
         QStringList(QStringLiteral("Errors FormVendel on_btn_Payer_clicked : stoi")));
     QCOMPARE(output.text(),
-        diagnostic("select valeur from Config where param like 'Epson TM-T20II'",
+        databaseReport("select valeur from Config where param like 'Epson TM-T20II'",
             "no such table: Config"));
     QCOMPARE(till.ticket().size(), 1);
     QCOMPARE(till.history().size(), 1);
@@ -240,7 +235,7 @@ void TestBadDaysPayment::withoutATicketThereIsNothingToPay()
     const AnswerBox box;
     till.pay();
     QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
-    QCOMPARE(output.text(), diagnostic("select * from Ticket", "no such table: Ticket"));
+    QCOMPARE(output.text(), databaseReport("select * from Ticket", "no such table: Ticket"));
     QCOMPARE(till.history(), QStringList());
 }
 
@@ -273,7 +268,7 @@ void TestBadDaysPayment::aFileThatIsNoDatabaseHasNothingToPay()
     const AnswerBox box;
     till.pay();
     QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
-    QCOMPARE(output.text(), diagnostic("select * from Ticket", "file is not a database"));
+    QCOMPARE(output.text(), databaseReport("select * from Ticket", "file is not a database"));
     QCOMPARE(till.shop.read(QStringLiteral("Vendel.db")), QByteArray(8192, 'x'));
 }
 
@@ -330,7 +325,7 @@ void TestBadDaysPayment::aPriceThatIsNoNumberKeepsTheTicket()
         till.pay();
         QCOMPARE(log.criticals(), QStringList(notWritten));
         QCOMPARE(output.text(),
-            diagnostic(
+            databaseReport(
                 "insert into Historique (id, article, prix) values(7, 'Eau', " + spliced + ")",
                 reason));
     }
@@ -380,7 +375,7 @@ void TestBadDaysPayment::aTicketThatCannotBeEmptiedIsStillThere()
     {
         CapturedOutput output;
         till.pay();
-        QCOMPARE(output.text(), diagnostic("delete from Ticket", "no"));
+        QCOMPARE(output.text(), databaseReport("delete from Ticket", "no"));
     }
     QVERIFY(till.takeReceipt().contains(QStringLiteral("1  Thé")));
     QCOMPARE(till.ticket().size(), 1);

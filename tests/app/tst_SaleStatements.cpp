@@ -25,11 +25,6 @@ struct Case
 {
     std::function<void()> run;
 };
-
-QByteArray report(const QByteArray& sql, const QByteArray& reason)
-{
-    return "Errors Db::DbLoad sqlite3_errmsg : " + sql + ' ' + reason + '\n';
-}
 } // namespace
 Q_DECLARE_METATYPE(Case)
 
@@ -40,7 +35,7 @@ void TestSaleStatements::standWordForWord_data()
     const auto row = [](const char* name, std::function<void()> run, const char* sql,
                          const char* table = "Ticket") {
         QTest::newRow(name) << Case{std::move(run)}
-                            << report(sql, QByteArray("no such table: ") + table);
+                            << databaseReport(sql, QByteArray("no such table: ") + table);
     };
     row(
         "lines", [] { TicketTable::rows(); }, "select * from Ticket");
@@ -89,11 +84,12 @@ void TestSaleStatements::thatOfTheMenusDoublesStandsWordForWord()
     const AnswerBox box;
     click(counter.form, "btn_Afficher");
     QCOMPARE(output.text(),
-        report("select sum(z.art) as som from (select count(d.article) as art, d.article from "
-               "(select b.article,b.id from (select article,max(id) from Article group by article "
-               "having count(article) > 1) as t, Article as b where t.article = b.article) as d "
-               "where d.id not in (select max(id) as id from Article group by article having "
-               "count(article) > 1) group by article) as z",
+        databaseReport(
+            "select sum(z.art) as som from (select count(d.article) as art, d.article from "
+            "(select b.article,b.id from (select article,max(id) from Article group by article "
+            "having count(article) > 1) as t, Article as b where t.article = b.article) as d "
+            "where d.id not in (select max(id) as id from Article group by article having "
+            "count(article) > 1) group by article) as z",
             "no such column: id"));
     QCOMPARE(log.criticals().size(), 1);
     QVERIFY(log.criticals().at(0).startsWith(

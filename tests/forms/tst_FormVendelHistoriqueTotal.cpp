@@ -144,27 +144,26 @@ void TestFormVendelHistoriqueTotal::statementsStandWordForWord()
     history.shop.sql("alter table Historique rename column prix to tarif");
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.type("05/01/2019", "05/01/2019 10:00:00.250");
-    const auto reported = [](const char* sql, const char* trouble) {
-        return QByteArray("Errors Db::DbLoad sqlite3_errmsg : ") + sql + ' ' + trouble + '\n';
-    };
     CapturedOutput output;
     const AnswerBox box;
     click(history.window, "btn_View_Historical");
     QCOMPARE(output.text(),
-        reported("select distinct compte, article, prix, compte * prix as calcul from (select "
-                 "distinct count(article) as compte, article, prix from Historique where "
-                 "date_heure between '2019-05-01' and '2019-05-01 10:00:00.250' group by article, "
-                 "prix)",
+        databaseReport(
+            "select distinct compte, article, prix, compte * prix as calcul from (select "
+            "distinct count(article) as compte, article, prix from Historique where "
+            "date_heure between '2019-05-01' and '2019-05-01 10:00:00.250' group by article, "
+            "prix)",
             "no such column: prix"));
     history.shop.sql("drop table Historique");
     CapturedOutput without;
     click(history.window, "btn_View_Historical");
     click(history.window, "btn_Show_Date");
     QCOMPARE(without.text(),
-        reported("select * from Historique where date_heure between '2019-05-01' and '2019-05-01 "
-                 "10:00:00.250' order by date_heure asc",
+        databaseReport(
+            "select * from Historique where date_heure between '2019-05-01' and '2019-05-01 "
+            "10:00:00.250' order by date_heure asc",
             "no such table: Historique")
-            + reported("select distinct substr(date_heure,1,10) as date from Historique",
+            + databaseReport("select distinct substr(date_heure,1,10) as date from Historique",
                 "no such table: Historique"));
 }
 

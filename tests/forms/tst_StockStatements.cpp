@@ -3,6 +3,7 @@
 #include "forms/Consumption.h"
 #include "forms/StockArticles.h"
 #include "tests/forms/StockSample.h"
+#include "tests/support/Captured.h"
 #include "tests/support/TestMain.h"
 
 #include <functional>
@@ -34,8 +35,7 @@ void TestStockStatements::standWordForWord_data()
     const auto row = [](const char* name, std::function<void()> run, const char* sql,
                          const char* table = "ArticleStock") {
         QTest::newRow(name) << Case{std::move(run)}
-                            << QByteArray("Errors Db::DbLoad sqlite3_errmsg : ") + sql
-                + " no such table: " + table + '\n';
+                            << databaseReport(sql, QByteArray("no such table: ") + table);
     };
     const QString five = QStringLiteral("5");
     const QString from = QStringLiteral("2019-05-01");

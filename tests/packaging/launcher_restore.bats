@@ -28,6 +28,13 @@ price_in() {
     sql "$1" 'select prix from Article'
 }
 
+# nothingElse: the data directory holds the shop and its copies, and no trace of an attempt.
+nothingElse() {
+    [ "$(ls -A "$data")" = ".verrou
+Vendel.db
+copies" ]
+}
+
 @test "the named copy is put back and the replaced database kept" {
     run "$launcher" --restaurer 2026-03-03
     [ "$status" -eq 0 ]
@@ -40,9 +47,7 @@ price_in() {
 @test "restoring starts no till and leaves nothing behind" {
     "$launcher" --restaurer 2026-03-03
     [ ! -s "$TILL_LOG" ]
-    [ "$(ls -A "$data")" = ".verrou
-Vendel.db
-copies" ]
+    nothingElse
 }
 
 @test "copy and replaced database keep their rights and dates" {
@@ -141,9 +146,7 @@ on_terminal() {
     [ "$status" -eq 1 ]
     [ "$output" = "La copie « 2026-03-03 » est endommagée ; la base n'a pas été changée." ]
     [ "$(price_in "$data/Vendel.db")" = 5 ]
-    [ "$(ls -A "$data")" = ".verrou
-Vendel.db
-copies" ]
+    nothingElse
 }
 
 @test "a copy without the till's tables is refused" {
@@ -206,9 +209,7 @@ copies" ]
     run "$launcher" --restaurer 2026-03-03
     [ "$status" -eq 1 ]
     [ "$output" = "La base de données « $data/Vendel.db » est inutilisable (ce n'est pas un fichier) ; les copies sont dans « $data/copies » et « vendel --restaurer » en remet une en place." ]
-    [ "$(ls -A "$data")" = ".verrou
-Vendel.db
-copies" ]
+    nothingElse
 }
 
 @test "a database that cannot be put in its place is said" {
@@ -218,9 +219,7 @@ exec /bin/mv "$@"'
     [ "$status" -eq 1 ]
     [ "$output" = "Le dossier de données « $data » est inutilisable (rien ne peut y être écrit) ; les copies de la base sont dans « $data/copies »." ]
     [ "$(price_in "$data/Vendel.db")" = 5 ]
-    [ "$(ls -A "$data")" = ".verrou
-Vendel.db
-copies" ]
+    nothingElse
 }
 
 @test "a replaced database that cannot be kept stays in its place" {
@@ -245,9 +244,7 @@ Vendel-2026-03-04.db" ]
     [ "$status" -eq 1 ]
     [ "$output" = "Le dossier de données « $data » est inutilisable (rien ne peut y être écrit) ; les copies de la base sont dans « $data/copies »." ]
     [ "$(price_in "$data/Vendel.db")" = 5 ]
-    [ "$(ls -A "$data")" = ".verrou
-Vendel.db
-copies" ]
+    nothingElse
 }
 
 @test "in English it is said in English" {

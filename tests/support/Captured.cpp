@@ -75,6 +75,11 @@ QByteArray CapturedOutput::text()
     return text;
 }
 
+QByteArray databaseReport(const QByteArray& sql, const QByteArray& reason)
+{
+    return "Errors Db::DbLoad sqlite3_errmsg : " + sql + ' ' + reason + '\n';
+}
+
 CapturedLog::CapturedLog()
 {
     currentLog() = Log();

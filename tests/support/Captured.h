@@ -26,6 +26,9 @@ private:
     int before_;
 };
 
+/// The line that the database writes on standard output when SQLite refuses \a sql for \a reason.
+QByteArray databaseReport(const QByteArray& sql, const QByteArray& reason);
+
 /// Collects the Qt log while it lives; the lines do not reach the test's own log.
 class CapturedLog
 {
