@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/Clock.h"
 
+#include <QLocale>
+
 QString clockText(const QDateTime& now, const QString& datePattern)
 {
-    QString time = now.time().toString(QStringLiteral("hh:mm:ss"));
+    // Dates are typed with the digits of the C locale, whatever the system's are.
+    const QLocale digits = QLocale::c();
+    QString time = digits.toString(now, QStringLiteral("hh:mm:ss"));
     if (now.time().second() % 2 == 0) {
         time[2] = QLatin1Char(' ');
         time[5] = QLatin1Char(' ');
     }
-    return now.toString(datePattern) + QLatin1Char(' ') + time;
+    return digits.toString(now, datePattern) + QLatin1Char(' ') + time;
 }

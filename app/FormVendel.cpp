@@ -2,30 +2,41 @@
 #include "app/FormVendel.h"
 
 #include "app/Clock.h"
-#include "app/Configuration.h"
 #include "app/FormVendelStart.h"
 #include "app/FormVendelTexts.h"
-#include "app/TicketTable.h"
-#include "common/HoverTip.h"
-#include "common/Lists.h"
-#include "common/Messages.h"
+#include "app/FormVendelTicket.h"
+#include "app/Payment.h"
+#include "app/SalesLists.h"
+#include "common/Money.h"
 #include "common/SlotGuard.h"
-#include "common/Windows.h"
-#include "db/Db.h"
+#include "common/Tools.h"
 #include "forms/FormVendelAbout.h"
 #include "forms/FormVendelConfig.h"
 #include "forms/FormVendelHistorique.h"
 #include "forms/FormVendelSaisieArticle.h"
+#include "store/Articles.h"
+#include "store/Database.h"
+#include "store/Settings.h"
 #include "ui_FormVendel.h"
+#include "widgets/Captions.h"
+#include "widgets/HoverTip.h"
+#include "widgets/Lists.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/Windows.h"
 
-#include <QFile>
 #include <QMouseEvent>
 #include <QShowEvent>
+
+#include <algorithm>
 
 namespace {
 constexpr int clockMs = 100;
 constexpr QPoint tipOffset(150, 130);
+constexpr auto paymentPrefix = "Errors FormVendel on_btn_Payer_clicked : ";
+
 } // namespace
+
+using namespace FormVendelTexts;
 
 FormVendel::FormVendel(QWidget* parent)
     : QMainWindow(parent)
@@ -36,51 +47,20 @@ FormVendel::FormVendel(QWidget* parent)
 {
     guarded("Errors FormVendel Constructor : ", [this] {
         ui_->setupUi(this);
+        translateCaptions(*this);
         connect(&clock_, &QTimer::timeout, this, &FormVendel::on_timeout);
         clock_.start(clockMs);
-        setUpLists();
-        setCaptions();
+        SalesLists::setUpMenu(*ui_->tableView1, *modelMenu_);
+        SalesLists::setUpTicket(*ui_->tableView2, *modelTicket_);
         watchMouse(*ui_->tableView1, *this);
         watchMouse(*ui_->tableView2, *this);
-        // A key unchecks the box while a tip stands; a press of the mouse hides it anyway.
+        // A key can uncheck the box while a tip is shown; a mouse press hides the tip anyway.
         connect(ui_->chkbx_ToolTip, &QCheckBox::toggled, this, &hideTip);
-        if (!QFile::exists(QStringLiteral("Vendel.db"))) {
-            Db::DbCreate();
-        }
+        Database::createIfMissing();
     });
 }
 
 FormVendel::~FormVendel() = default;
-
-void FormVendel::setUpLists()
-{
-    setUpList(*ui_->tableView1, *modelMenu_, catalogueTexts, Messages::Messages97,
-        {50, 25, 210, 110}, {0});
-    setUpList(*ui_->tableView2, *modelTicket_, catalogueTexts, Messages::Messages99,
-        {50, 50, 210, 110}, {0, 1});
-}
-
-void FormVendel::setCaptions()
-{
-    constexpr Texts captions{"FormVendel"};
-    ui_->lbl_Menu->setText(captions(Messages::Messages80[0]));
-    ui_->lbl_Ticket->setText(captions(Messages::Messages81[0]));
-    ui_->lbl_Montant->setText(captions(Messages::Messages82[0]));
-    ui_->btn_Effacer_Saisie->setText(captions(Messages::Messages83[0]));
-    ui_->btn_Afficher->setText(captions(Messages::Messages84[0]));
-    ui_->btn_Ticket->setText(captions(Messages::Messages85[0]));
-    ui_->btn_Effacer_Ticket->setText(captions(Messages::Messages86[0]));
-    ui_->btn_Total_Ticket->setText(captions(Messages::Messages87[0]));
-    ui_->btn_11->setText(captions(Messages::Messages88[0]));
-    ui_->btn_Payer->setText(captions(Messages::Messages89[0]));
-    ui_->menuVendel->setTitle(captions(Messages::Messages90[0]));
-    ui_->actionConfig->setText(captions(Messages::Messages91[0]));
-    ui_->actionSaisie_Article->setText(captions(Messages::Messages92[0]));
-    ui_->actionHistorique->setText(captions(Messages::Messages93[0]));
-    ui_->menu->setTitle(captions(Messages::Messages94[0]));
-    ui_->actionA_propos_de->setText(captions(Messages::Messages95[0]));
-    setWindowTitle(captions(Messages::Messages96[0]));
-}
 
 void FormVendel::showEvent(QShowEvent* event)
 {
@@ -90,8 +70,8 @@ void FormVendel::showEvent(QShowEvent* event)
     }
     guarded("Errors FormVendel showEvent : ", [this] {
         showSplash();
-        for (const auto& row : Configuration::printerSwitches()) {
-            if (std::stoi(row.at(0)) == 1) {
+        for (const QString& value : Settings::printerSwitches()) {
+            if (std::stoi(value.toStdString()) == 1) {
                 qDebug("Warning Epson to 1 (ON)");
             }
         }
@@ -108,38 +88,31 @@ void FormVendel::showSplash()
 bool FormVendel::eventFilter(QObject* watched, QEvent* event)
 {
     guarded("Errors FormVendel eventFilter : ", [&] {
-        if (event->type() == QEvent::MouseButtonPress
-            || event->type() == QEvent::MouseButtonDblClick) {
-            isSecondPress_ = event->type() == QEvent::MouseButtonDblClick;
-            isLeftPress_ = static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton;
+        notePress(*event);
+        const auto isWanted
+            = [this](QPoint, const QString&) { return ui_->chkbx_ToolTip->isChecked(); };
+        for (const HoverTip& tip :
+            {HoverTip{*ui_->tableView1, SalesLists::MenuArticle, addTip, tipOffset},
+                HoverTip{*ui_->tableView2, SalesLists::TicketArticle, removeTip, tipOffset}}) {
+            showTipOver(*this, texts, tip, watched, event, isWanted);
         }
-        showHoverTip(*ui_->tableView1, watched, event, Messages::Messages65);
-        showHoverTip(*ui_->tableView2, watched, event, Messages::Messages66);
     });
     return false;
 }
 
-void FormVendel::showHoverTip(const QTableView& view, const QObject* watched, const QEvent* event,
-    const std::array<std::string, 2>& message)
+/// Remembers what clicked() does not say: the button, and whether it ended a double click.
+void FormVendel::notePress(const QEvent& event)
 {
-    const auto position = mouseMoveOver(view, watched, event);
-    if (!position) {
-        return;
-    }
-    const QString name = textUnder(view, *position, TicketTable::Article);
-    if (ui_->chkbx_ToolTip->isChecked() && !name.isEmpty()) {
-        showTip(*this, *position + tipOffset,
-            catalogueTexts(message[0]) + name + catalogueTexts(message[1]));
-    } else {
-        hideTip();
+    if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick) {
+        isSecondPress_ = event.type() == QEvent::MouseButtonDblClick;
+        isLeftPress_ = static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
     }
 }
 
 void FormVendel::on_timeout()
 {
     guarded("Errors FormVendel on_timeout : ", [this] {
-        ui_->lbl_DateTime->setText(
-            clockText(QDateTime::currentDateTime(), catalogueTexts(Messages::Messages98[0])));
+        ui_->lbl_DateTime->setText(clockText(QDateTime::currentDateTime(), texts(datePattern[0])));
     });
 }
 
@@ -165,4 +138,274 @@ void FormVendel::on_actionA_propos_de_triggered()
 {
     guarded("Errors FormVendel on_actionA_propos_de_triggered : ",
         [this] { openWindow<FormVendelAbout>(this); });
+}
+
+void FormVendel::on_btn_Afficher_clicked()
+{
+    guarded("Errors FormVendel on_btn_Afficher_clicked : ", [this] { showMenu(); });
+}
+
+void FormVendel::showMenu()
+{
+    clearList(*modelMenu_);
+    const std::vector<Article> articles = Articles::all();
+    if (articles.empty()) {
+        notice(this, texts, menuIsEmpty);
+        return;
+    }
+    SalesLists::fillMenu(*ui_->tableView1, *modelMenu_, articles);
+    const auto duplicates = Articles::countDuplicates();
+    if (!duplicates) {
+        return;
+    }
+    notice(this, texts, menuHasDuplicates, *duplicates);
+    markIds(*modelMenu_, Articles::duplicateIds(), SalesLists::MenuMark, QStringLiteral("X"));
+}
+
+void FormVendel::on_tableView1_clicked(const QModelIndex& index)
+{
+    guarded("Errors FormVendel on_tableView1_clicked : ", [&] { addToTicket(index); });
+}
+
+// Qt turns the second press of two quick ones into a double click; to the cashier it is one more.
+void FormVendel::on_tableView1_doubleClicked(const QModelIndex& index)
+{
+    guarded("Errors FormVendel on_tableView1_doubleClicked : ", [&] {
+        if (isLeftPress_) {
+            addToTicket(index);
+        }
+    });
+}
+
+void FormVendel::addToTicket(const QModelIndex& index)
+{
+    Ticket::addArticle(textAt(index, SalesLists::MenuId));
+    refreshTicket();
+    ui_->tableView2->scrollToBottom();
+}
+
+void FormVendel::on_tableView2_clicked(const QModelIndex& index)
+{
+    guarded("Errors FormVendel on_tableView2_clicked : ", [&] {
+        if (isSecondPress_) {
+            return;
+        }
+        removeFromTicket(index);
+    });
+}
+
+/// Removes a line without scrolling: the next one to remove is often its neighbour.
+void FormVendel::removeFromTicket(const QModelIndex& index)
+{
+    const int firstInView = ui_->tableView2->rowAt(0);
+    Ticket::remove(textAt(index, SalesLists::TicketKey));
+    refreshTicket();
+    const int first = std::min(firstInView, modelTicket_->rowCount() - 1);
+    // The first scroll lays the list out, without which the second would find no way to go.
+    ui_->tableView2->scrollToBottom();
+    ui_->tableView2->scrollTo(
+        modelTicket_->index(first, SalesLists::TicketArticle), QAbstractItemView::PositionAtTop);
+}
+
+/// Shows the ticket as it is stored; returns whether it has a line.
+bool FormVendel::refreshTicket()
+{
+    clearList(*modelTicket_);
+    const std::vector<TicketLine> lines = Ticket::lines();
+    SalesLists::fillTicket(*ui_->tableView2, *modelTicket_, lines);
+    return !lines.empty();
+}
+
+void FormVendel::on_btn_Ticket_clicked()
+{
+    guarded("Errors FormVendel on_btn_Ticket_clicked : ", [this] {
+        if (!refreshTicket()) {
+            notice(this, texts, nothingToShow);
+        }
+    });
+}
+
+void FormVendel::on_btn_Effacer_Ticket_clicked()
+{
+    guarded("Errors FormVendel on_btn_Effacer_Ticket_clicked : ", [this] {
+        clearList(*modelTicket_);
+        if (Ticket::lines().empty()) {
+            notice(this, texts, nothingToClear);
+        } else {
+            Ticket::clear();
+        }
+    });
+}
+
+void FormVendel::on_btn_Total_Ticket_clicked()
+{
+    guarded("Errors on_btn_Total_Ticket_clicked : ", [this] { showTotal(); });
+}
+
+void FormVendel::showTotal()
+{
+    if (Ticket::lines().empty()) {
+        notice(this, texts, nothingToTotal);
+        return;
+    }
+    refreshTicket();
+    SalesLists::appendTotals(
+        *ui_->tableView2, *modelTicket_, totalTicket(Ticket::sum(), Settings::taxRates()));
+    ui_->tableView2->scrollToBottom();
+}
+
+void FormVendel::on_btn_1_clicked()
+{
+    guarded("Errors on_btn_1_clicked : ", [this] { type(QStringLiteral("1")); });
+}
+
+void FormVendel::on_btn_2_clicked()
+{
+    guarded("Errors on_btn_2_clicked : ", [this] { type(QStringLiteral("2")); });
+}
+
+void FormVendel::on_btn_3_clicked()
+{
+    guarded("Errors on_btn_3_clicked : ", [this] { type(QStringLiteral("3")); });
+}
+
+void FormVendel::on_btn_4_clicked()
+{
+    guarded("Errors on_btn_4_clicked : ", [this] { type(QStringLiteral("4")); });
+}
+
+void FormVendel::on_btn_5_clicked()
+{
+    guarded("Errors on_btn_5_clicked : ", [this] { type(QStringLiteral("5")); });
+}
+
+void FormVendel::on_btn_6_clicked()
+{
+    guarded("Errors on_btn_6_clicked : ", [this] { type(QStringLiteral("6")); });
+}
+
+void FormVendel::on_btn_7_clicked()
+{
+    guarded("Errors on_btn_7_clicked : ", [this] { type(QStringLiteral("7")); });
+}
+
+void FormVendel::on_btn_8_clicked()
+{
+    guarded("Errors on_btn_8_clicked : ", [this] { type(QStringLiteral("8")); });
+}
+
+void FormVendel::on_btn_9_clicked()
+{
+    guarded("Errors on_btn_9_clicked : ", [this] { type(QStringLiteral("9")); });
+}
+
+void FormVendel::on_btn_10_clicked()
+{
+    guarded("Errors on_btn_10_clicked : ", [this] { type(QStringLiteral("0")); });
+}
+
+void FormVendel::on_btn_11_clicked()
+{
+    guarded("Errors on_btn_11_clicked : ", [this] { type(texts(decimalSeparator[0])); });
+}
+
+void FormVendel::on_btn_12_clicked()
+{
+    guarded(
+        "Errors on_btn_12_clicked : ", [this] { operator_more_or_less(ui_->txt_montant->text()); });
+}
+
+void FormVendel::on_btn_13_clicked()
+{
+    guarded("Errors on_btn_13_clicked : ", [this] {
+        operator_more_or_less(QLatin1Char('-') + ui_->txt_montant->text());
+        ui_->txt_montant->setText(ui_->txt_montant->text().mid(1));
+    });
+}
+
+void FormVendel::on_btn_Effacer_Saisie_clicked()
+{
+    guarded("Errors on_btn_Effacer_Saisie_clicked : ",
+        [this] { ui_->txt_montant->setText(QString()); });
+}
+
+void FormVendel::type(const QString& text)
+{
+    ui_->txt_montant->setText(ui_->txt_montant->text() + text);
+}
+
+void FormVendel::operator_more_or_less(QString amount)
+{
+    guarded("Errors operator_more_or_less : ", [&] { putOnTicket(amount.trimmed()); });
+}
+
+void FormVendel::putOnTicket(const QString& amount)
+{
+    ui_->txt_montant->setText(amount);
+    if (amount.isEmpty()) {
+        notice(this, texts, noAmount);
+        return;
+    }
+    const QString number = withPoint(amount);
+    if (amount == QLatin1String("-") || !Tools::isNum(number)) {
+        notice(this, texts, noValidAmount);
+        return;
+    }
+    Ticket::addAmount(number);
+    refreshTicket();
+    ui_->tableView2->scrollToBottom();
+}
+
+void FormVendel::on_btn_Payer_clicked()
+{
+    guarded(paymentPrefix, [this] {
+        try {
+            pay();
+        } catch (const PrinterNotConnected&) {
+            notice(this, texts, noPrinter);
+        }
+    });
+}
+
+void FormVendel::pay()
+{
+    if (Ticket::lines().empty()) {
+        notice(this, texts, nothingToPay);
+        return;
+    }
+    clearList(*modelTicket_);
+    bool isRecorded = false;
+    guarded(paymentPrefix, [&] {
+        Payment::record();
+        isRecorded = true;
+    });
+    if (!isRecorded) {
+        refreshTicket();
+        ui_->tableView2->scrollToBottom();
+        notice(this, texts, saleNotRecorded);
+        return;
+    }
+    switch (Payment::output()) {
+    case Payment::Output::Screen:
+        showReceipt();
+        break;
+    case Payment::Output::Paper:
+        if (Payment::printReceipt()) {
+            Ticket::clear();
+        }
+        break;
+    case Payment::Output::None:
+        break;
+    }
+}
+
+/// Opens the receipt's window, empty when there is no receipt: the ticket is then kept.
+void FormVendel::showReceipt()
+{
+    std::optional<Receipt> receipt;
+    guarded("Errors FormVendelTicket Constructor : ", [&] { receipt = Payment::receipt(); });
+    const auto* window = openWindow<FormVendelTicket>(this, receipt.value_or(Receipt()));
+    if (receipt && window->isFilled()) {
+        Ticket::clear();
+    }
 }

@@ -6,11 +6,8 @@
 #include <QStandardItemModel>
 #include <QTimer>
 
-#include <array>
 #include <memory>
-#include <string>
 
-class QTableView;
 class Ui_FormVendel;
 
 /// The sales screen: menu, ticket, keypad and payment, and the menu bar that opens the other
@@ -25,12 +22,13 @@ public:
     ~FormVendel() override;
 
     /// Puts the typed \a amount on the ticket as a line without an article, or says what is wrong
-    /// with it; the amount field then holds \a amount without blanks around it.
+    /// with it; the amount field then contains \a amount without blanks around it.
     void operator_more_or_less(QString amount);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     void showEvent(QShowEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private slots:
     void on_timeout();
@@ -65,11 +63,8 @@ private slots:
     void on_btn_Payer_clicked();
 
 private:
-    void setUpLists();
-    void setCaptions();
     void showSplash();
-    void showHoverTip(const QTableView& view, const QObject* watched, const QEvent* event,
-        const std::array<std::string, 2>& message);
+    void notePress(const QEvent& event);
 
     void showMenu();
     void showTotal();
@@ -77,8 +72,9 @@ private:
     void removeFromTicket(const QModelIndex& index);
     bool refreshTicket();
     void putOnTicket(const QString& amount);
-    void typeText(const QString& text);
+    void type(const QString& text);
     void pay();
+    void showReceipt();
 
     std::unique_ptr<Ui_FormVendel> ui_;
     QTimer clock_;

@@ -3,6 +3,7 @@
 
 #include "common/SlotGuard.h"
 #include "ui_FormVendelStart.h"
+#include "widgets/Captions.h"
 
 namespace {
 constexpr int tickMs = 1000;
@@ -16,6 +17,7 @@ FormVendelStart::FormVendelStart(QWidget* parent)
 {
     guarded("Errors FormVendelStart Constructor : ", [this] {
         ui_->setupUi(this);
+        translateCaptions(*this);
         connect(&timer_, &QTimer::timeout, this, &FormVendelStart::on_timeout);
         timer_.start(tickMs);
     });
@@ -30,7 +32,7 @@ void FormVendelStart::on_timeout()
             return;
         }
         timer_.stop();
-        // Closing a splash that the cashier sent away already would take a standing tip along.
+        // Closing a dismissed splash would also hide a visible tip.
         if (isVisible()) {
             close();
         }

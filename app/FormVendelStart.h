@@ -8,14 +8,14 @@
 
 class Ui_FormVendelStart;
 
-/// The splash: stands before the main window for about five seconds.
+/// The splash: shown in front of the main window for about five seconds.
 class FormVendelStart : public QDialog
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FormVendelStart)
 
 public:
-    explicit FormVendelStart(QWidget* parent);
+    explicit FormVendelStart(QWidget* parent = nullptr);
     ~FormVendelStart() override;
 
 private slots:

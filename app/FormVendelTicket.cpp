@@ -2,25 +2,23 @@
 #include "app/FormVendelTicket.h"
 
 #include "app/ReceiptDocument.h"
-#include "app/TicketTable.h"
-#include "common/Messages.h"
 #include "common/SlotGuard.h"
-#include "common/Texts.h"
 #include "ui_FormVendelTicket.h"
+#include "widgets/Captions.h"
 
 #include <QLayout>
 
-FormVendelTicket::FormVendelTicket(QWidget* parent)
+FormVendelTicket::FormVendelTicket(const Receipt& receipt, QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelTicket>())
 {
-    guarded("Errors FormVendelTicket Constructor : ", [this] {
+    guarded("Errors FormVendelTicket Constructor : ", [&] {
         ui_->setupUi(this);
-        setWindowTitle(Texts{"FormVendelTicket"}(Messages::Messages100[0]));
+        translateCaptions(*this);
         // The sheet is fitted to the window before the first show.
         layout()->activate();
-        showReceipt(composeReceipt(readSale(QDateTime::currentDateTime())), *ui_->txt_Ticket);
-        TicketTable::clear();
+        showReceipt(receipt, *ui_->txt_Ticket);
+        isFilled_ = true;
     });
 }
 

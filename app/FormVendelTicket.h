@@ -1,22 +1,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/Receipt.h"
+
 #include <QDialog>
 
 #include <memory>
 
 class Ui_FormVendelTicket;
 
-/// The receipt on the screen; making it empties the ticket.
+/// The receipt on the screen.
 class FormVendelTicket : public QDialog
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FormVendelTicket)
 
 public:
-    explicit FormVendelTicket(QWidget* parent);
+    explicit FormVendelTicket(const Receipt& receipt = {}, QWidget* parent = nullptr);
     ~FormVendelTicket() override;
+
+    /// Whether the receipt could be shown.
+    bool isFilled() const
+    {
+        return isFilled_;
+    }
 
 private:
     std::unique_ptr<Ui_FormVendelTicket> ui_;
+    bool isFilled_ = false;
 };

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/Receipt.h"
 
-#include "app/Configuration.h"
-#include "app/TicketTable.h"
 #include "app/TicketTotals.h"
 #include "common/Messages.h"
 #include "common/Money.h"
 #include "common/ReceiptFiles.h"
 #include "common/Texts.h"
 #include "common/Tools.h"
+#include "store/Settings.h"
 
+#include <QLocale>
 #include <QStringList>
 
 namespace {
@@ -19,6 +19,22 @@ constexpr Texts texts{"FormVendelTicketMessages"};
 constexpr int columns = 47;
 constexpr int quantityColumns = 2;
 constexpr int priceColumns = 9;
+
+/// \a text with a blank for each control character but the tab and the carriage return: sent to the
+/// printer, the others are commands, and a name could open the drawer.
+QString withoutCommands(QString text)
+{
+    constexpr char16_t firstPrintable = 0x20;
+    constexpr char16_t del = 0x7f;
+    for (QChar& character : text) {
+        const char16_t code = character.unicode();
+        const bool isControl = code < firstPrintable || code == del;
+        if (isControl && code != u'\t' && code != u'\r') {
+            character = QLatin1Char(' ');
+        }
+    }
+    return text;
+}
 
 class Composer
 {
@@ -34,7 +50,7 @@ public:
         add(QString());
     }
 
-    /// The lines of a header or footer: titles stand out, all others have the style \a plain.
+    /// The lines of a header or footer: titles get a style of their own, all others \a plain.
     void addFrame(const std::optional<QString>& frame, Style plain)
     {
         if (!frame) {
@@ -42,7 +58,8 @@ public:
         }
         const QString titleMark = texts(Messages::Messages62[0]);
         const QStringList parts = frame->split(QLatin1Char('\n'));
-        for (const QString& part : parts) {
+        for (const QString& line : parts) {
+            const QString part = withoutCommands(line);
             if (part.contains(titleMark)) {
                 add(part.section(QLatin1Char(':'), 1, 1), Style::Title);
             } else {
@@ -53,9 +70,11 @@ public:
 
     void addHeadings(const QDateTime& time)
     {
+        // The system may write other digits, which the printer lacks.
+        const QLocale digits = QLocale::c();
         add(texts(Messages::Messages7[0]) + QLatin1String("\t\t\t     ")
-            + time.toString(texts(Messages::Messages98[0])) + QLatin1Char(' ')
-            + time.toString(QStringLiteral("hh:mm:ss")));
+            + digits.toString(time, texts(Messages::Messages98[0])) + QLatin1Char(' ')
+            + digits.toString(time, QStringLiteral("hh:mm:ss")));
         addBlank();
         const auto& labels = Messages::Messages64;
         add(texts(labels[0]) + texts(labels[1]) + QLatin1String("\t\t") + texts(labels[2])
@@ -63,13 +82,16 @@ public:
         addBlank();
     }
 
-    void addItem(const std::vector<std::string>& item)
+    void addItem(const TicketGroup& item)
     {
-        const std::string price = '$' + formatAmount(item.at(2)).toStdString();
-        add(QString::fromStdString(Tools::Padding(item.at(0), quantityColumns, ' ') + ' '
-            + Tools::Padding(item.at(1), Tools::NbrChar, ' ') + '\t'
-            + Tools::Padding(price, priceColumns, ' ') + "   $"
-            + formatAmount(item.at(3)).toStdString()));
+        // Widths are in bytes: an accented letter counts twice.
+        const auto padded = [](const QString& text, int width) {
+            return QString::fromStdString(Tools::Padding(text.toStdString(), width, ' '));
+        };
+        add(withoutCommands(padded(item.count, quantityColumns) + QLatin1Char(' ')
+            + padded(item.article, Tools::NbrChar) + QLatin1Char('\t')
+            + padded(QLatin1Char('$') + formatAmount(item.price), priceColumns)
+            + QLatin1String("   $") + formatAmount(item.amount)));
     }
 
     void addTotals(const TicketTotals& totals)
@@ -89,7 +111,7 @@ public:
 
 Sale readSale(const QDateTime& time)
 {
-    return {TicketTable::groups(), TicketTable::sum(), Configuration::taxRates(),
+    return {Ticket::groups(), Ticket::sum(), Settings::taxRates(),
         ReceiptFiles::read(ReceiptFiles::header), ReceiptFiles::read(ReceiptFiles::footer), time};
 }
 
@@ -100,11 +122,11 @@ Receipt composeReceipt(const Sale& sale)
     composer.addBlank();
     composer.addBlank();
     composer.addHeadings(sale.time);
-    for (const auto& item : sale.items) {
+    for (const TicketGroup& item : sale.items) {
         composer.addItem(item);
     }
     composer.addBlank();
-    composer.addTotals(totalTicket(sale.sums, sale.taxRates));
+    composer.addTotals(totalTicket(sale.sum, sale.taxRates));
     composer.addBlank();
     composer.addFrame(sale.footer, Style::Footer);
     return std::move(composer.lines);

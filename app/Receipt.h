@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "db/Db.h"
+#include "store/Ticket.h"
 
 #include <QDateTime>
 #include <QString>
@@ -12,18 +12,18 @@
 /// All that a receipt is made of.
 struct Sale
 {
-    /// Count, article, price, count times price.
-    DbRows items;
-    DbRows sums;
-    /// VAT in per cent.
-    DbRows taxRates;
+    std::vector<TicketGroup> items;
+    /// The sum of all prices.
+    QString sum;
+    /// VAT in per cent, normally one.
+    std::vector<QString> taxRates;
     /// The texts that frame the receipt; nothing where there is none.
     std::optional<QString> header;
     std::optional<QString> footer;
     QDateTime time;
 };
 
-/// One line of a receipt, without a line end; tabs stand at every eighth column.
+/// One line of a receipt, without a line end; tab stops are at every eighth column.
 struct ReceiptLine
 {
     enum class Style
@@ -45,10 +45,11 @@ struct ReceiptLine
 
 using Receipt = std::vector<ReceiptLine>;
 
-/// Reads the ticket in progress, the tax rate and the two files.
+/// Reads the ticket in progress, the tax rate and the two files. Throws std::out_of_range when the
+/// database does not answer.
 Sale readSale(const QDateTime& time);
 
-/// Composes the receipt of \a sale. Throws std::out_of_range when a row that must exist is missing.
+/// Composes the receipt of \a sale.
 Receipt composeReceipt(const Sale& sale);
 
 /// A header or footer line centred in the receipt's 47 columns (bytes); a line of more than 48

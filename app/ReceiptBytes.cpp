@@ -1,55 +1,53 @@
 // SPDX-License-Identifier: MIT
 #include "app/ReceiptBytes.h"
 
+#include "base/Handle.h"
 #include "common/convert.h"
+#include "Print/escpospp/EscPos.h"
 
+#include <cerrno>
 #include <cstdlib>
-#include <memory>
 #include <stdexcept>
 #include <string_view>
 
 namespace {
-using namespace std::string_view_literals;
+constexpr std::string_view lineEnd = "\r\n";
 
-// Commands of the printer's reference (ESC E, ESC !, ESC a). The printer reads bit 0 alone of the
-// emphasis and the digit "0" like the value 0.
-constexpr auto emphasisOn = "\x1b\x45\x01"sv;
-constexpr auto emphasisOff = "\x1b\x45\x02"sv;
-constexpr auto bigText = "\x1b\x21\x30"sv;
-constexpr auto wideText = "\x1b\x21\x20"sv;
-constexpr auto normalText = "\x1b\x21\x02"sv;
-constexpr auto centre = "\x1b\x61\x01"sv;
-constexpr auto left = "\x1b\x61\x30"sv;
-constexpr auto lineEnd = "\r\n"sv;
-
-struct Release
+/// What \a error of convert() means for a receipt.
+const char* conversionFault(int error)
 {
-    void operator()(char* buffer) const
-    {
-        std::free(buffer);
+    switch (error) {
+    case EILSEQ:
+        return "a character of the receipt is not in code page 858";
+    case ENOMEM:
+        return "there is no memory left for the receipt";
+    default:
+        return "this system cannot write code page 858";
     }
-};
+}
 
 void append(std::string& bytes, const ReceiptLine& line)
 {
     using Style = ReceiptLine::Style;
+    using namespace EscPos;
     switch (line.style) {
     case Style::Plain:
         bytes.append(line.text.toStdString()).append(lineEnd);
         break;
     case Style::Header:
-        bytes.append(emphasisOn).append(centredLine(line.text)).append(lineEnd).append(emphasisOff);
+        bytes.append(BOLD_ON).append(centredLine(line.text)).append(lineEnd);
+        bytes.append(RECEIPT_BOLD_OFF);
         break;
     case Style::Footer:
         bytes.append(centredLine(line.text)).append(lineEnd);
         break;
     case Style::Title:
-        bytes.append(bigText).append(centre).append(line.text.toStdString()).append(lineEnd);
-        bytes.append(normalText).append(left);
+        bytes.append(DOUBLE_SIZE).append(CENTRE).append(line.text.toStdString()).append(lineEnd);
+        bytes.append(NORMAL_TEXT).append(LEFT);
         break;
     case Style::GrandTotal:
-        bytes.append(wideText).append(emphasisOn).append(line.text.toStdString()).append(lineEnd);
-        bytes.append(emphasisOff).append(normalText);
+        bytes.append(DOUBLE_WIDTH).append(BOLD_ON).append(line.text.toStdString()).append(lineEnd);
+        bytes.append(RECEIPT_BOLD_OFF).append(NORMAL_TEXT);
         break;
     }
 }
@@ -61,9 +59,9 @@ std::string receiptBytes(const Receipt& receipt)
     for (const ReceiptLine& line : receipt) {
         append(bytes, line);
     }
-    const std::unique_ptr<char, Release> converted(convert("UTF-8", "CP858", bytes.c_str()));
+    const Handle<char, std::free> converted(convert("UTF-8", "CP858", bytes.c_str()));
     if (converted == nullptr) {
-        throw std::runtime_error("a character of the receipt is not in code page 858");
+        throw std::runtime_error(conversionFault(errno));
     }
     return converted.get();
 }

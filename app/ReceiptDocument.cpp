@@ -68,7 +68,7 @@ QString shownText(const ReceiptLine& line)
     return text.remove(QLatin1Char('\r'));
 }
 
-/// Makes \a edit a sheet of the paper's width, in the middle beside the scroll bar.
+/// Gives \a edit margins that leave the paper's width, centred.
 void layOutPaper(QTextEdit& edit, const QFont& font, int width)
 {
     edit.setFont(font);

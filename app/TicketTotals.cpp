@@ -11,7 +11,7 @@ float sixDigits(float value)
 }
 
 /// The tax on \a total at \a rate per cent, half a cent added and nothing cut off. The till has
-/// always reckoned so: the product in single precision, the half cent in double.
+/// always computed it so: the product in single precision, the half cent in double.
 float taxOn(float total, float rate)
 {
     const float cents = rate / 100 * total * 100;
@@ -19,14 +19,14 @@ float taxOn(float total, float rate)
 }
 } // namespace
 
-TicketTotals totalTicket(const DbRows& sums, const DbRows& rates)
+TicketTotals totalTicket(const QString& sum, const std::vector<QString>& rates)
 {
     TicketTotals totals;
-    totals.sum = formatAmount(sums.at(0).at(0));
+    totals.sum = formatAmount(sum);
     const float total = readBack(totals.sum);
     float tax = 0;
-    for (const auto& row : rates) {
-        const QString rate = formatAmount(row.at(0));
+    for (const QString& stored : rates) {
+        const QString rate = formatAmount(stored);
         tax = taxOn(total, readBack(rate));
         totals.taxes.push_back({rate, formatAmount(tax)});
     }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "db/Db.h"
-
 #include <QString>
 
 #include <vector>
@@ -21,6 +19,5 @@ struct TicketTotals
     QString grandTotal;
 };
 
-/// Totals a ticket whose price sum stands in the first cell of \a sums, one tax for each row of
-/// \a rates (per cent). Throws std::out_of_range without a sum.
-TicketTotals totalTicket(const DbRows& sums, const DbRows& rates);
+/// Totals a ticket whose prices have the sum \a sum, one tax for each of \a rates (per cent).
+TicketTotals totalTicket(const QString& sum, const std::vector<QString>& rates);

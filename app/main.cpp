@@ -1,19 +1,24 @@
 // SPDX-License-Identifier: MIT
-#include "app/Application.h"
 #include "app/FormVendel.h"
+#include "widgets/Application.h"
+#include "widgets/Pictures.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QScreen>
 
+#include <csignal>
+
 int main(int argc, char* argv[])
 {
+    // The reader of the till's output may exit; that must not end a sale.
+    std::signal(SIGPIPE, SIG_IGN);
     Application::setAttributes();
     QApplication application(argc, argv);
     Application::setUp(application);
 
     FormVendel window;
-    window.setWindowIcon(QIcon(QStringLiteral("Vendel.png")));
+    window.setWindowIcon(Pictures::read(QStringLiteral("Vendel.png")));
     window.move(QGuiApplication::primaryScreen()->geometry().center() - window.rect().center());
     window.show();
     return QApplication::exec();

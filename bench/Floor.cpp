@@ -3,10 +3,16 @@
 
 #include <sqlite3.h>
 
-DbRows loadByFloor(const char* sql)
+namespace {
+sqlite3* open()
 {
     sqlite3* connection = nullptr;
     sqlite3_open_v2("Vendel.db", &connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    return connection;
+}
+
+DbRows run(sqlite3* connection, const char* sql)
+{
     sqlite3_stmt* statement = nullptr;
     sqlite3_prepare_v2(connection, sql, -1, &statement, nullptr);
     DbRows rows;
@@ -20,6 +26,25 @@ DbRows loadByFloor(const char* sql)
         }
     }
     sqlite3_finalize(statement);
+    return rows;
+}
+} // namespace
+
+DbRows loadByFloor(const char* sql)
+{
+    sqlite3* connection = open();
+    DbRows rows = run(connection, sql);
     sqlite3_close(connection);
     return rows;
+}
+
+void transactByFloor(const std::vector<std::string>& statements)
+{
+    sqlite3* connection = open();
+    run(connection, "begin immediate");
+    for (const std::string& statement : statements) {
+        run(connection, statement.c_str());
+    }
+    run(connection, "commit");
+    sqlite3_close(connection);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Support.h"
 
-#include "app/Application.h"
+#include "widgets/Application.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// "Afficher" of the article editor, against the same statements through the C API: the question for
-// duplicates runs once for each article.
+// "Afficher" of the article editor, against the same statements through the C API and complete rows
+// put into a bare list.
 #include "bench/Floor.h"
 #include "bench/Support.h"
 #include "db/Db.h"
@@ -72,14 +72,20 @@ void check(benchmark::State& state, benchmark::IterationCount rows)
 void showMenuByFloor(benchmark::State& state)
 {
     const Menu menu(state.range(0));
+    FormVendelSaisieArticle editor;
+    editor.show();
+    auto* list = editor.findChild<QTableView*>(QStringLiteral("tableView"));
+    const int height = list->fontMetrics().height() + 4;
+    editor.findChild<QPushButton*>(QStringLiteral("btn_Afficher"))->click();
+    const DbRows texts = textsOf(*list);
     for ([[maybe_unused]] auto _ : state) {
+        list->model()->removeRows(0, list->model()->rowCount());
         loadByFloor(articles);
-        const DbRows rows = loadByFloor(articles);
-        for (std::size_t row = 0; row < rows.size(); ++row) {
-            loadByFloor(duplicates);
-        }
+        loadByFloor(duplicates);
         loadByFloor(duplicateCount);
-        check(state, static_cast<benchmark::IterationCount>(rows.size()));
+        fillByFloor(*list, texts, height);
+        QCoreApplication::processEvents();
+        check(state, list->model()->rowCount());
     }
     state.counters["limit"] = limit;
 }

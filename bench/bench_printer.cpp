@@ -13,14 +13,12 @@
 #include <benchmark/benchmark.h>
 
 namespace {
-
-// A logo of 576 x 576 dots in 2 ms, texts at 100 MB/s.
+/// A logo of 576 x 576 dots in 2 ms, texts at 100 MB/s.
 constexpr double limitMsPerDot = 2.0 / (576 * 576);
 constexpr double limitMsPerByte = 1e3 / 100e6;
 constexpr double limitAllocated = 4;
 
 std::size_t allocatedBytes = 0;
-
 } // namespace
 
 [[gnu::noinline]] void* operator new(std::size_t size)
@@ -43,7 +41,6 @@ std::size_t allocatedBytes = 0;
 }
 
 namespace {
-
 DotMatrix checkered(std::size_t side)
 {
     DotMatrix dots(side, std::vector<bool>(side));
@@ -74,7 +71,7 @@ void measure(benchmark::State& state, std::size_t input, double limitMs, Render&
     state.SetComplexityN(static_cast<std::int64_t>(input));
 }
 
-// A square logo; bytes a second are dots a second here.
+/// A square logo; bytes a second are dots a second here.
 void image(benchmark::State& state)
 {
     const auto side = static_cast<std::size_t>(state.range(0));
@@ -106,7 +103,6 @@ void nothingButMarkers(benchmark::State& state)
 {
     textOf(state, "**__x__**");
 }
-
 } // namespace
 
 BENCHMARK(image)

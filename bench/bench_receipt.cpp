@@ -14,10 +14,11 @@ Sale longSale()
 {
     Sale sale;
     for (int line = 0; line < lines; ++line) {
-        sale.items.push_back({"3", "Thé à l'été " + std::to_string(line), "2.5", "7.5"});
+        sale.items.push_back({QStringLiteral("3"), QStringLiteral("Thé à l'été %1").arg(line),
+            QStringLiteral("2.5"), QStringLiteral("7.5")});
     }
-    sale.sums = {{"999.5"}};
-    sale.taxRates = {{"20"}};
+    sale.sum = QStringLiteral("999.5");
+    sale.taxRates = {QStringLiteral("20")};
     sale.header = QStringLiteral("titre:Chez Paul\n12 rue du Port\n");
     sale.footer = QStringLiteral("Merci de votre visite\ntitre:À bientôt\n");
     sale.time = QDateTime({2019, 3, 5}, {14, 7, 31});

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendel.h"
 #include "app/FormVendelTicket.h"
+#include "app/Payment.h"
 #include "bench/Floor.h"
 #include "bench/Support.h"
+#include "widgets/Windows.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -11,11 +13,14 @@
 #include <QTableView>
 
 #include <string>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
 namespace {
 constexpr int articles = 100;
+constexpr double paymentLimit = 1.3;
+constexpr double largestPaymentMs = 2000;
 
 /// Puts \a lines of the first articles on the ticket, and nothing else.
 void fillTicket(int lines)
@@ -44,41 +49,78 @@ void sendReceiptAway()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+/// "Payer" with a switch that asks for no receipt: the sale is recorded and the ticket stays.
 void payByProgram(benchmark::State& state, int lines)
 {
     FormVendel till;
     auto& button = named<QPushButton>(till, "btn_Payer");
+    Db::DbLoad("update Config set valeur = 2 where param = 'Epson TM-T20II'");
+    fillTicket(lines);
+    for ([[maybe_unused]] auto _ : state) {
+        Db::DbLoad("delete from Historique");
+        const double begin = workedSeconds();
+        button.click();
+        state.SetIterationTime(workedSeconds() - begin);
+        check(Db::DbLoad("select * from Historique").size() == static_cast<std::size_t>(lines),
+            "a recorded sale");
+    }
+    state.counters["limit"] = paymentLimit;
+}
+
+void payByFloor(benchmark::State& state, int lines)
+{
+    fillTicket(lines);
+    for ([[maybe_unused]] auto _ : state) {
+        Db::DbLoad("delete from Historique");
+        const double begin = workedSeconds();
+        loadByFloor("select * from Ticket");
+        std::vector<std::string> insertions;
+        for (const auto& line : loadByFloor("select * from Ticket")) {
+            insertions.push_back("insert into Historique (id, article, prix) values(" + line[1]
+                + ", '" + line[2] + "', " + line[3] + ")");
+        }
+        transactByFloor(insertions);
+        loadByFloor("select valeur from Config where param like 'Epson TM-T20II'");
+        state.SetIterationTime(workedSeconds() - begin);
+    }
+    state.counters["limit"] = paymentLimit;
+}
+
+/// The receipt's window: it reads the ticket, shows it and empties it.
+void showReceipt(benchmark::State& state, int lines)
+{
+    FormVendel till;
     for ([[maybe_unused]] auto _ : state) {
         fillTicket(lines);
         const double begin = workedSeconds();
-        button.click();
+        openWindow<FormVendelTicket>(&till, Payment::receipt());
+        Ticket::clear();
         state.SetIterationTime(workedSeconds() - begin);
         check(Db::DbLoad("select * from Ticket").empty(), "an empty ticket");
         sendReceiptAway();
     }
 }
 
-/// The statements of a payment whose receipt stands on the screen.
-void payByFloor(benchmark::State& state, int lines)
+/// "Payer" with the receipt on the screen, for a ticket of 20,000 lines, none like another.
+void payLargestTicket(benchmark::State& state)
 {
+    constexpr int lines = 20'000;
+    FormVendel till;
+    auto& button = named<QPushButton>(till, "btn_Payer");
+    Db::DbLoad("update Config set valeur = 0 where param = 'Epson TM-T20II'");
     for ([[maybe_unused]] auto _ : state) {
-        fillTicket(lines);
+        Db::DbLoad(("with recursive n(i) as (select 1 union all select i + 1 from n where i < "
+            + std::to_string(lines)
+            + ") insert into Ticket (id, article, prix) select i, 'Article ' || i, i / 4.0 from n")
+                       .c_str());
         const double begin = workedSeconds();
-        loadByFloor("select * from Ticket");
-        const DbRows ticket = loadByFloor("select * from Ticket");
-        for (const auto& line : ticket) {
-            loadByFloor(("insert into Historique (id, article, prix) values(" + line[1] + ", '"
-                + line[2] + "', " + line[3] + ")")
-                            .c_str());
-        }
-        loadByFloor("select valeur from Config where param like 'Epson TM-T20II'");
-        loadByFloor("select cpte, article, prix, cpte*prix as calcul from (select count(article) "
-                    "as cpte, article, prix from Ticket group by article, prix) as t");
-        loadByFloor("select sum(prix) from Ticket");
-        loadByFloor("select valeur from Config where param like 'TVA'");
-        loadByFloor("delete from Ticket");
+        button.click();
+        QCoreApplication::processEvents();
         state.SetIterationTime(workedSeconds() - begin);
+        check(Db::DbLoad("select * from Ticket").empty(), "an empty ticket");
+        sendReceiptAway();
     }
+    state.counters["limit_ms"] = largestPaymentMs;
 }
 
 void forgetLastLine()
@@ -171,6 +213,16 @@ int main(int argc, char* argv[])
     compare("payment_of_1_line", payByProgram, payByFloor, 1);
     compare("payment_of_20_lines", payByProgram, payByFloor, 20);
     compare("payment_of_200_lines", payByProgram, payByFloor, 200);
+    for (const int lines : {1, 20, 200}) {
+        const std::string work = "receipt_window_of_" + std::to_string(lines) + "/program";
+        benchmark::RegisterBenchmark(work.c_str(), showReceipt, lines)
+            ->Unit(benchmark::kMillisecond)
+            ->UseManualTime();
+    }
+    benchmark::RegisterBenchmark("payment_of_20000_lines/program", payLargestTicket)
+        ->Unit(benchmark::kMillisecond)
+        ->UseManualTime()
+        ->Iterations(1);
     benchmark::RegisterBenchmark("click_on_digit/floor", digitByFloor)->UseManualTime();
     benchmark::RegisterBenchmark("click_on_digit/program", digitByProgram)->UseManualTime();
     benchmark::Initialize(&argc, argv);

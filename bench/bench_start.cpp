@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/Application.h"
 #include "app/FormVendel.h"
 #include "bench/Support.h"
+#include "widgets/Application.h"
 
 #include <QApplication>
 #include <QDir>

@@ -3,8 +3,8 @@
 // the same rows.
 #include "bench/Support.h"
 #include "db/Db.h"
-#include "forms/Consumption.h"
 #include "forms/FormVendelStockCalculation.h"
+#include "store/Consumption.h"
 
 #include <QApplication>
 #include <QDir>

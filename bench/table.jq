@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# One line for each work from the reports of the measurements, in milliseconds of the processor. The
-# best of the repetitions counts: what else the machine does comes and goes.
+# One line for each work from the reports of the measurements, in milliseconds of CPU time. The best of
+# the repetitions counts, because other load on the machine only adds to it.
 def shown:
     if . == null then "-" elif type == "number" then . * 1000 | round / 1000 | tostring else . end;
 

@@ -1,13 +1,15 @@
 # SPDX-License-Identifier: MIT
-# One place for what every target is compiled with.
-add_library(vendel_options INTERFACE)
-target_include_directories(vendel_options INTERFACE ${PROJECT_SOURCE_DIR})
-target_compile_options(vendel_options INTERFACE
+# Warnings are set for the project's own folders only: they do not reach whoever links one of its
+# libraries. The presets turn them into errors.
+add_compile_options(
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor
-  -Woverloaded-virtual -Wformat=2 -Werror
+  -Woverloaded-virtual -Wformat=2
   # QSKIP and friends expand to variadic macros without arguments.
   $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>)
 
+# What every target is compiled with, and everything that links it.
+add_library(vendel_options INTERFACE)
+target_include_directories(vendel_options INTERFACE ${PROJECT_SOURCE_DIR})
 if(VENDEL_SANITIZE)
   target_compile_options(vendel_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -19,8 +21,36 @@ if(VENDEL_COVERAGE)
   target_link_options(vendel_options INTERFACE --coverage)
 endif()
 
+# Qt's headers take most of a compiler's time: they are read once for the till's libraries, and once
+# for the tests, which add Qt Test. Without them (the preset qt6) each source shows that it includes
+# what it uses.
+set(precompiled_headers <QApplication> <QComboBox> <QDateTime> <QDialog> <QFile> <QHeaderView>
+  <QLabel> <QLineEdit> <QMainWindow> <QMessageBox> <QPushButton> <QStandardItemModel> <QTableView>
+  <QTemporaryDir> <QTextEdit> <QTimer> <QTranslator> <algorithm> <array> <exception> <functional> <memory> <optional>
+  <span> <stdexcept> <string> <utility> <vector>)
+
+# A target NAME whose precompiled HEADERS other targets reuse; it links the libraries USES.
+function(vendel_precompile name)
+  cmake_parse_arguments(ARG "" "" "HEADERS;USES" ${ARGN})
+  file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp CONTENT "")
+  add_library(${name} OBJECT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+  target_link_libraries(${name} PRIVATE vendel_options ${ARG_USES})
+  target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+  target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
+endfunction()
+
+# Lets TARGET reuse the headers of vendel_precompile(NAME), if they are precompiled.
+function(vendel_use_precompiled target name)
+  if(VENDEL_PRECOMPILE)
+    target_precompile_headers(${target} REUSE_FROM ${name})
+    # ccache can then keep the objects.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+  endif()
+endfunction()
+
 # A library of one folder: its sources are listed, what it may use is its link list. A changed form
-# is known before the build starts: automatic uic tells Ninja only of the build after it.
+# is a dependency of its source: AUTOUIC reports it one build too late.
 function(vendel_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
   set(forms ${ARG_SOURCES})
@@ -39,4 +69,5 @@ endfunction()
 function(vendel_qt_library name)
   vendel_library(${name} ${ARGN})
   target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+  vendel_use_precompiled(${name} vendel_headers)
 endfunction()

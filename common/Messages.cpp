@@ -197,3 +197,5 @@ const Messages::Entry<1> Messages::Messages168{"Afficher"};
 const Messages::Entry<2> Messages::Messages169{"Pèriode du", "au"};
 const Messages::Entry<1> Messages::Messages170{""};
 const Messages::Entry<2> Messages::Messages171{"Le texte n'a pas pu être enregistré", "Sauvegarde"};
+const Messages::Entry<2> Messages::Messages172{
+    "La vente n'est pas enregistrée\nLe ticket est gardé", "Payer"};

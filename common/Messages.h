@@ -177,4 +177,5 @@ public:
     static const Entry<2> Messages169;
     static const Entry<1> Messages170;
     static const Entry<2> Messages171;
+    static const Entry<2> Messages172;
 };

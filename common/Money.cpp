@@ -23,9 +23,9 @@ QString formatAmount(float value, int decimals)
     return numberFormat().toString(value, 'f', decimals);
 }
 
-QString formatAmount(const std::string& value)
+QString formatAmount(const QString& value)
 {
-    return formatAmount(QString::fromStdString(value).toFloat());
+    return formatAmount(value.toFloat());
 }
 
 QString formatMoney(float value)
@@ -33,22 +33,19 @@ QString formatMoney(float value)
     return formatAmount(value) + QLatin1Char('$');
 }
 
-QString formatCell(const std::string& text)
+QString formatCell(const QString& text)
 {
-    const QString shown = QString::fromStdString(text);
-    return Tools::isNum(shown) ? formatMoney(shown.toFloat()) : shown;
+    return Tools::isNum(text) ? formatMoney(text.toFloat()) : text;
 }
 
-QString formatExactCell(const std::string& text)
+QString formatExactCell(const QString& text)
 {
-    const QString shown = QString::fromStdString(text);
-    return Tools::isNum(shown) ? formatExact(shown) + QLatin1Char('$') : shown;
+    return Tools::isNum(text) ? formatExact(text) + QLatin1Char('$') : text;
 }
 
-QString formatQuantity(const std::string& text, int decimals)
+QString formatQuantity(const QString& text, int decimals)
 {
-    const QString shown = QString::fromStdString(text);
-    return Tools::isNum(shown) ? formatExact(shown, decimals) : shown;
+    return Tools::isNum(text) ? formatExact(text, decimals) : text;
 }
 
 float readBack(const QString& shown)

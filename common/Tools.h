@@ -16,7 +16,7 @@ public:
     /// Whether \a text is a number by Qt's C-locale rules ("." as decimal separator).
     static bool isNum(QString text);
 
-    /// UTF-8 \a text with every single quote doubled, ready to stand between quotes in SQL.
+    /// UTF-8 \a text with every single quote doubled, ready to be put between quotes in SQL.
     static QString StringDblRating(std::string text);
 
     /// \a text padded with \a fill on the right to \a width bytes; a longer text is not cut.

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "common/convert.h"
 
+#include "base/Handle.h"
+
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 
 #include <iconv.h>
 
@@ -14,45 +15,15 @@ namespace {
 constexpr std::size_t terminatorSize = 4;
 constexpr auto iconvFailed = static_cast<std::size_t>(-1);
 
-class Descriptor
+using Buffer = Handle<char, std::free>;
+using Conversion = Handle<void, iconv_close>;
+
+/// Null, with errno set, when a charset is unknown; iconv_open itself returns -1 then.
+Conversion openConversion(const char* to, const char* from)
 {
-public:
-    Descriptor(const char* to, const char* from)
-        : handle_(iconv_open(to, from))
-    { }
-    ~Descriptor()
-    {
-        if (isOpen()) {
-            iconv_close(handle_);
-        }
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    Descriptor(Descriptor&&) = delete;
-    Descriptor& operator=(Descriptor&&) = delete;
-
-    bool isOpen() const
-    {
-        // iconv_open says failure with -1, not with null.
-        return reinterpret_cast<std::intptr_t>(handle_) != -1;
-    }
-    iconv_t get() const
-    {
-        return handle_;
-    }
-
-private:
-    iconv_t handle_;
-};
-
-struct Release
-{
-    void operator()(char* buffer) const
-    {
-        std::free(buffer);
-    }
-};
-using Buffer = std::unique_ptr<char, Release>;
+    const iconv_t handle = iconv_open(to, from);
+    return Conversion(reinterpret_cast<std::intptr_t>(handle) == -1 ? nullptr : handle);
+}
 
 bool resize(Buffer& buffer, std::size_t size)
 {
@@ -64,12 +35,14 @@ bool resize(Buffer& buffer, std::size_t size)
     buffer.reset(larger);
     return true;
 }
-} // namespace
 
-char* convert(const char* from, const char* to, const char* text)
+/// convert() without its promise about errno: \a error gets the reason of a failure.
+char* converted(const char* from, const char* to, const char* text, int& error)
 {
-    const Descriptor descriptor(to, from);
-    if (!descriptor.isOpen()) {
+    error = ENOMEM;
+    const Conversion conversion = openConversion(to, from);
+    if (conversion == nullptr) {
+        error = errno;
         return nullptr;
     }
     std::size_t inputLeft = std::strlen(text);
@@ -88,7 +61,7 @@ char* convert(const char* from, const char* to, const char* text)
         errno = 0;
         // Without an input, iconv writes what ends the text in a set with shift states.
         const bool done
-            = iconv(descriptor.get(), isRead ? nullptr : &input, &inputLeft, &output, &room)
+            = iconv(conversion.get(), isRead ? nullptr : &input, &inputLeft, &output, &room)
             != iconvFailed;
         const int reason = errno;
         written = size - room;
@@ -99,6 +72,7 @@ char* convert(const char* from, const char* to, const char* text)
         if (done || (reason == EINVAL && !isRead)) {
             isRead = true;
         } else if (reason != E2BIG) {
+            error = reason;
             return nullptr;
         } else {
             size += 8 + 2 * inputLeft;
@@ -107,4 +81,16 @@ char* convert(const char* from, const char* to, const char* text)
             }
         }
     }
+}
+} // namespace
+
+char* convert(const char* from, const char* to, const char* text)
+{
+    int error = 0;
+    char* result = converted(from, to, text, error);
+    // Closing the conversion may have changed it.
+    if (result == nullptr) {
+        errno = error;
+    }
+    return result;
 }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "db/Db.h"
 
+#include "base/Handle.h"
+
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <iostream>
-#include <memory>
-#include <string_view>
 
 #include <sqlite3.h>
 
@@ -32,16 +33,8 @@ constexpr std::array<const char*, 9> schema{
     "insert into Config (param,valeur) values ('Epson TM-T20II',0)",
 };
 
-template <auto End> struct EndWith
-{
-    template <class T> void operator()(T* handle) const noexcept
-    {
-        End(handle);
-    }
-};
-
-using Connection = std::unique_ptr<sqlite3, EndWith<sqlite3_close>>;
-using Statement = std::unique_ptr<sqlite3_stmt, EndWith<sqlite3_finalize>>;
+using Connection = Handle<sqlite3, sqlite3_close>;
+using Statement = Handle<sqlite3_stmt, sqlite3_finalize>;
 
 Connection openDatabase()
 {
@@ -84,18 +77,18 @@ DbRows readRows(sqlite3_stmt* statement)
 /// Reports what SQLite last said of \a connection; returns whether that was no error.
 bool report(sqlite3* connection, const char* sql)
 {
-    const char* message = sqlite3_errmsg(connection);
-    const std::string_view text = message == nullptr ? "" : message;
-    if (text == "not an error") {
+    if (sqlite3_errcode(connection) == SQLITE_OK) {
         return true;
     }
     std::cout << "Errors Db::DbLoad sqlite3_errmsg : ";
     if (sql == nullptr) {
+        // What writing a null text does to a stream: nothing more is printed from then on.
         std::cout.setstate(std::ios_base::failbit);
     } else {
         std::cout << sql;
     }
-    std::cout << ' ' << text << std::endl;
+    const char* message = sqlite3_errmsg(connection);
+    std::cout << ' ' << (message == nullptr ? "" : message) << std::endl;
     return false;
 }
 
@@ -105,26 +98,30 @@ struct Outcome
     bool done;
 };
 
-Outcome run(const char* sql)
+Outcome run(sqlite3* connection, const char* sql)
 {
-    const Connection connection = openDatabase();
     DbRows rows;
-    if (Statement statement = prepare(connection.get(), sql)) {
+    if (Statement statement = prepare(connection, sql)) {
         rows = readRows(statement.get());
     }
-    const bool done = report(connection.get(), sql);
+    const bool done = report(connection, sql);
     return {std::move(rows), done};
 }
 } // namespace
 
 DbRows Db::DbLoad(const char* sql)
 {
-    return run(sql).rows;
+    return run(openDatabase().get(), sql).rows;
 }
 
-bool Db::DbRun(const char* sql)
+bool Db::DbTransact(const std::vector<std::string>& statements)
 {
-    return run(sql).done;
+    // Whatever is not committed is rolled back when the connection is closed.
+    const Connection connection = openDatabase();
+    const auto isDone
+        = [&](const std::string& sql) { return run(connection.get(), sql.c_str()).done; };
+    return isDone("begin immediate") && std::all_of(statements.begin(), statements.end(), isDone)
+        && isDone("commit");
 }
 
 void Db::DbCreate()

@@ -25,7 +25,7 @@ constexpr const char* footer = "\n"
 
 void run(const std::string& sql)
 {
-    if (!Db::DbRun(sql.c_str())) {
+    if (!Db::DbTransact({sql})) {
         throw std::runtime_error("the database cannot be filled");
     }
 }

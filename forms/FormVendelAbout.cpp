@@ -3,9 +3,11 @@
 
 #include "common/SlotGuard.h"
 #include "ui_FormVendelAbout.h"
+#include "widgets/Captions.h"
+#include "widgets/Pictures.h"
 
 #include <QDir>
-#include <QPixmap>
+#include <QLayout>
 #include <QPushButton>
 
 FormVendelAbout::FormVendelAbout(QWidget* parent)
@@ -14,7 +16,8 @@ FormVendelAbout::FormVendelAbout(QWidget* parent)
 {
     guarded("Errors FormVendelAbout Constructor : ", [this] {
         ui_->setupUi(this);
-        ui_->lbl_QPixmap->setPixmap(QPixmap(QStringLiteral("AproposdeImage.png")));
+        translateCaptions(*this);
+        ui_->lbl_QPixmap->setPixmap(Pictures::read(QStringLiteral("AproposdeImage.png")));
         const QString contact
             = tr("<p><b>%1</b><br>%2</p>"
                  "<p>Caisse enregistreuse sous licence MIT</p>"
@@ -22,6 +25,8 @@ FormVendelAbout::FormVendelAbout(QWidget* parent)
         ui_->txt_Edit->setHtml(contact.arg(ui_->lbl_ProductName->text(), ui_->lbl_Version->text(),
             QDir::currentPath().toHtmlEscaped()));
         ui_->btn_buttonBox->button(QDialogButtonBox::Ok)->setFocus();
+        // Without it the picture gets its place only when the window is shown.
+        layout()->activate();
     });
 }
 

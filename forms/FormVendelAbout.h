@@ -8,7 +8,7 @@
 class QAbstractButton;
 class Ui_FormVendelAbout;
 
-/// Tells the till's name, version and licence, and where the shop's data lies.
+/// Shows the till's name, version and licence, and where the shop's data is.
 class FormVendelAbout : public QDialog
 {
     Q_OBJECT

@@ -24,7 +24,6 @@ private slots:
     void on_btn_Maj_Formulaire_clicked();
 
 private:
-    void setCaptions();
     void showSettings();
     void storeRate();
 

@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelFormulaireTicket.h"
 
-#include "common/MessageBoxes.h"
 #include "common/Messages.h"
 #include "common/ReceiptFiles.h"
 #include "common/SlotGuard.h"
 #include "ui_FormVendelFormulaireTicket.h"
+#include "widgets/Captions.h"
+#include "widgets/MessageBoxes.h"
 
 namespace {
 constexpr Texts texts{"FormVendelFormulaireTicketMessages"};
+const auto& headerLabel = Messages::Messages59;
+const auto& footerLabel = Messages::Messages60;
+const auto& saveQuestion = Messages::Messages61;
+const auto& notSaved = Messages::Messages171;
 } // namespace
 
 FormVendelFormulaireTicket::FormVendelFormulaireTicket(QWidget* parent)
@@ -17,34 +22,23 @@ FormVendelFormulaireTicket::FormVendelFormulaireTicket(QWidget* parent)
 {
     guarded("Errors FormVendelFormulaireTicket Constructor : ", [this] {
         ui_->setupUi(this);
-        setCaptions();
+        translateCaptions(*this);
         on_actionEntete_Page_triggered();
     });
 }
 
 FormVendelFormulaireTicket::~FormVendelFormulaireTicket() = default;
 
-void FormVendelFormulaireTicket::setCaptions()
-{
-    setWindowTitle(texts(Messages::Messages109[0]));
-    ui_->menuAfficher->setTitle(texts(Messages::Messages110[0]));
-    ui_->actionEntete_Page->setText(texts(Messages::Messages111[0]));
-    ui_->actionPied_Page->setText(texts(Messages::Messages112[0]));
-    ui_->lbl_Formulaire->setText(texts(Messages::Messages113[0]));
-    ui_->btn_Pied_Page->setText(texts(Messages::Messages114[0]));
-    ui_->btn_Entete_Page->setText(texts(Messages::Messages115[0]));
-}
-
 void FormVendelFormulaireTicket::on_actionEntete_Page_triggered()
 {
     guarded("Errors FormVendelFormulaireTicket on_actionEntete_Page_triggered : ",
-        [this] { showFile(ReceiptFiles::header, Messages::Messages59[0]); });
+        [this] { showFile(ReceiptFiles::header, headerLabel[0]); });
 }
 
 void FormVendelFormulaireTicket::on_actionPied_Page_triggered()
 {
     guarded("Errors FormVendelFormulaireTicket on_actionPied_Page_triggered : ",
-        [this] { showFile(ReceiptFiles::footer, Messages::Messages60[0]); });
+        [this] { showFile(ReceiptFiles::footer, footerLabel[0]); });
 }
 
 void FormVendelFormulaireTicket::showFile(const QString& file, const std::string& label)
@@ -68,10 +62,10 @@ void FormVendelFormulaireTicket::on_btn_Pied_Page_clicked()
 
 void FormVendelFormulaireTicket::save(const QString& file)
 {
-    if (!confirm(this, texts(Messages::Messages61[0]), texts(Messages::Messages61[1]))) {
+    if (!confirm(this, texts(saveQuestion[0]), texts(saveQuestion[1]))) {
         return;
     }
     if (!ReceiptFiles::replace(file, ui_->txt_Form->toPlainText())) {
-        notice(this, texts, Messages::Messages171);
+        notice(this, texts, notSaved);
     }
 }

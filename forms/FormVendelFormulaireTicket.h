@@ -26,7 +26,6 @@ private slots:
     void on_btn_Pied_Page_clicked();
 
 private:
-    void setCaptions();
     void showFile(const QString& file, const std::string& label);
     void save(const QString& file);
 

@@ -1,26 +1,41 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelHistorique.h"
 
-#include "common/HoverTip.h"
-#include "common/Lists.h"
-#include "common/MessageBoxes.h"
 #include "common/Messages.h"
 #include "common/Money.h"
 #include "common/SlotGuard.h"
 #include "common/Tools.h"
-#include "common/Windows.h"
 #include "forms/FormVendelSaisieStock.h"
 #include "forms/FormVendelStockCalculation.h"
 #include "ui_FormVendelHistorique.h"
+#include "widgets/Captions.h"
+#include "widgets/HoverTip.h"
+#include "widgets/Lists.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/Windows.h"
 
+#include <QHash>
 #include <QStandardItemModel>
 
-#include <unordered_map>
 #include <utility>
 
 namespace {
 constexpr Texts listTexts{"FormVendelMessages"};
 constexpr Texts texts{"FormVendelHistoriqueMessages"};
+const auto& saleLabels = Messages::Messages126;
+const auto& dayLabels = Messages::Messages127;
+const auto& groupLabels = Messages::Messages128;
+const auto& saleTip = Messages::Messages69;
+const auto& dayTip = Messages::Messages68;
+const auto& totalLabel = Messages::Messages37;
+const auto& purgeQuestion = Messages::Messages38;
+const auto& historyIsEmpty = Messages::Messages30;
+const auto& noSales = Messages::Messages34;
+const auto& wrongLength = Messages::Messages36;
+const auto& noDate = Messages::Messages32;
+const auto& endsBeforeItsFirstDay = Messages::Messages31;
+const auto& endsBeforeItStarts = Messages::Messages35;
+const auto& sameDay = Messages::Messages33;
 constexpr QPoint saleTipOffset(0, 80);
 constexpr QPoint dayTipOffset(650, 80);
 
@@ -34,14 +49,7 @@ enum DayColumn
     Day
 };
 
-enum StoredColumn
-{
-    StoredArticle = 1,
-    StoredPrice,
-    StoredMoment
-};
-
-/// What stands in place of a date in the row of the total.
+/// Shown in place of a date in the total's row.
 QString totalMark()
 {
     return QStringLiteral("<-");
@@ -52,37 +60,30 @@ QString totalMark()
 class CellTexts
 {
 public:
-    const QString& operator()(const std::string& stored)
+    const QString& operator()(const QString& stored)
     {
-        const auto [entry, isNew] = shown_.try_emplace(stored);
-        if (isNew) {
-            entry->second = formatExactCell(stored);
-        }
-        return entry->second;
+        const auto known = shown_.constFind(stored);
+        return known != shown_.constEnd() ? *known
+                                          : *shown_.insert(stored, formatExactCell(stored));
     }
 
 private:
-    std::unordered_map<std::string, QString> shown_;
+    QHash<QString, QString> shown_;
 };
-
-DbRows loadPeriod(const QString& sql, const Period& period)
-{
-    return Db::DbLoad(sql.arg(period.from(), period.to()).toUtf8().constData());
-}
 
 const std::array<std::string, 2>& refusalOf(Period::Fault fault)
 {
     switch (fault) {
     case Period::Fault::Length:
-        return Messages::Messages36;
+        return wrongLength;
     case Period::Fault::NoDate:
-        return Messages::Messages32;
+        return noDate;
     case Period::Fault::BackwardsInTime:
-        return Messages::Messages35;
+        return endsBeforeItStarts;
     case Period::Fault::SameDay:
-        return Messages::Messages33;
+        return sameDay;
     default:
-        return Messages::Messages31;
+        return endsBeforeItsFirstDay;
     }
 }
 } // namespace
@@ -96,11 +97,11 @@ FormVendelHistorique::FormVendelHistorique(QWidget* parent)
 {
     guarded("Errors FormVendelHistorique Contructor : ", [this] {
         ui_->setupUi(this);
+        translateCaptions(*this);
         setUpLists();
         ui_->rb_First_Date->setChecked(true);
         watchMouse(*ui_->tableView1, *this);
         watchMouse(*ui_->tableView2, *this);
-        setCaptions();
     });
 }
 
@@ -108,55 +109,23 @@ FormVendelHistorique::~FormVendelHistorique() = default;
 
 void FormVendelHistorique::setUpLists()
 {
-    setUpList(*ui_->tableView1, *modelSales_, listTexts, Messages::Messages126, {210, 100, 250});
-    setUpList(*ui_->tableView2, *modelDays_, listTexts, Messages::Messages127, {150});
-    setUpList(
-        *ui_->tableView3, *modelGroups_, listTexts, Messages::Messages128, {50, 210, 100, 100});
-}
-
-void FormVendelHistorique::setCaptions()
-{
-    constexpr Texts captions{"FormVendelHistorique"};
-    setWindowTitle(captions(Messages::Messages129[0]));
-    ui_->btn_View_Historical->setText(captions(Messages::Messages130[0]));
-    ui_->btn_Show_Date->setText(captions(Messages::Messages131[0]));
-    ui_->btn_Total->setText(captions(Messages::Messages132[0]));
-    ui_->btn_Clear->setText(captions(Messages::Messages133[0]));
-    ui_->lbl_First_Date->setText(captions(Messages::Messages134[0]));
-    ui_->lbl_Second_Date->setText(captions(Messages::Messages135[0]));
-    ui_->rb_First_Date->setText(captions(Messages::Messages136[0]));
-    ui_->rb_Second_Date->setText(captions(Messages::Messages137[0]));
-    ui_->btn_Del_Seizure->setText(captions(Messages::Messages138[0]));
-    ui_->menuStock->setTitle(captions(Messages::Messages139[0]));
-    ui_->actionSaisie_Stock->setText(captions(Messages::Messages140[0]));
-    ui_->actionCalcul_Stock->setText(captions(Messages::Messages141[0]));
-    ui_->groupBox->setTitle(captions(Messages::Messages142[0]));
+    setUpList(*ui_->tableView1, *modelSales_, listTexts, saleLabels, {210, 100, 250});
+    setUpList(*ui_->tableView2, *modelDays_, listTexts, dayLabels, {150});
+    setUpList(*ui_->tableView3, *modelGroups_, listTexts, groupLabels, {50, 210, 100, 100});
 }
 
 bool FormVendelHistorique::eventFilter(QObject* watched, QEvent* event)
 {
     guarded("Errors FormVendelHistorique eventFilter : ", [&] {
-        showHoverTip(
-            *ui_->tableView1, SaleMoment, saleTipOffset, Messages::Messages69, watched, event);
-        showHoverTip(*ui_->tableView2, Day, dayTipOffset, Messages::Messages68, watched, event);
+        const auto isWanted = [](QPoint position, const QString& date) {
+            return (position.x() > 0 || position.y() > 0) && date != totalMark();
+        };
+        for (const HoverTip& tip : {HoverTip{*ui_->tableView1, SaleMoment, saleTip, saleTipOffset},
+                 HoverTip{*ui_->tableView2, Day, dayTip, dayTipOffset}}) {
+            showTipOver(*this, texts, tip, watched, event, isWanted);
+        }
     });
     return false;
-}
-
-void FormVendelHistorique::showHoverTip(const QTableView& view, int column, QPoint offset,
-    const std::array<std::string, 2>& message, const QObject* watched, const QEvent* event)
-{
-    const auto position = mouseMoveOver(view, watched, event);
-    if (!position) {
-        return;
-    }
-    const QString date = textUnder(view, *position, column);
-    const bool isInside = position->x() > 0 || position->y() > 0;
-    if (isInside && !date.isEmpty() && date != totalMark()) {
-        showTip(*this, *position + offset, texts(message[0]) + date + texts(message[1]));
-    } else {
-        hideTip();
-    }
 }
 
 Period FormVendelHistorique::typedPeriod() const
@@ -192,18 +161,14 @@ std::optional<FormVendelHistorique::Sales> FormVendelHistorique::salesOfPeriod()
         notice(this, texts, refusalOf(Period::Fault::SameDay));
         return std::nullopt;
     }
-    DbRows rows = loadPeriod(
-        QStringLiteral(
-            "select * from Historique where date_heure between '%1' and '%2' order by date_heure "
-            "asc"),
-        period);
-    if (rows.empty()) {
-        const auto& message = Messages::Messages34;
+    std::vector<SoldLine> lines = History::lines(period);
+    if (lines.empty()) {
+        const auto& message = noSales;
         notice(this, texts(message[0]) + period.first() + texts(message[1]) + period.second(),
             texts(message[2]));
         return std::nullopt;
     }
-    return Sales{period, std::move(rows)};
+    return Sales{period, std::move(lines)};
 }
 
 void FormVendelHistorique::on_btn_Show_Date_clicked()
@@ -219,16 +184,13 @@ void FormVendelHistorique::Display_Date()
 void FormVendelHistorique::showDays()
 {
     clearList(*modelDays_);
-    const DbRows days
-        = Db::DbLoad("select distinct substr(date_heure,1,10) as date from Historique");
+    const std::vector<QString> days = History::days();
     if (days.empty()) {
-        notice(this, texts, Messages::Messages30);
+        notice(this, texts, historyIsEmpty);
         return;
     }
-    ListFiller filler(*ui_->tableView2, *modelDays_);
-    for (const auto& day : days) {
-        filler.add({Tools::ConvDate::ToUs_mdy(QString::fromStdString(day.at(0)))});
-    }
+    appendRows(*ui_->tableView2, *modelDays_, days,
+        [](const QString& day) { return QStringList{Tools::ConvDate::ToUs_mdy(day)}; });
 }
 
 void FormVendelHistorique::on_btn_View_Historical_clicked()
@@ -240,42 +202,31 @@ void FormVendelHistorique::on_btn_View_Historical_clicked()
 void FormVendelHistorique::Display_History()
 {
     guarded("Errors FormVendelHistorique Display_History : ", [this] {
-        if (auto sales = salesOfPeriod()) {
-            showSales(*std::move(sales));
+        if (const auto sales = salesOfPeriod()) {
+            showSales(*sales);
         }
     });
 }
 
-void FormVendelHistorique::showSales(Sales sales)
+void FormVendelHistorique::showSales(const Sales& sales)
 {
     clearList(*modelSales_);
-    {
-        CellTexts shown;
-        ListFiller filler(*ui_->tableView1, *modelSales_);
-        for (auto& stored : sales.rows) {
-            // Each row is given back once it is listed, so that a year is not held twice.
-            const auto row = std::move(stored);
-            filler.add({shown(row.at(StoredArticle)), shown(row.at(StoredPrice)),
-                Tools::ConvDate::ToUs_mdy(QString::fromStdString(row.at(StoredMoment)))});
-        }
-    }
+    CellTexts shown;
+    appendRows(*ui_->tableView1, *modelSales_, sales.lines, [&shown](const SoldLine& line) {
+        return QStringList{
+            shown(line.article), shown(line.price), Tools::ConvDate::ToUs_mdy(line.moment)};
+    });
     showGroups(sales.period);
 }
 
 void FormVendelHistorique::showGroups(const Period& period)
 {
     clearList(*modelGroups_);
-    const DbRows groups = loadPeriod(
-        QStringLiteral(
-            "select distinct compte, article, prix, compte * prix as calcul from (select distinct "
-            "count(article) as compte, article, prix from Historique where date_heure between "
-            "'%1' and '%2' group by article, prix)"),
-        period);
-    ListFiller filler(*ui_->tableView3, *modelGroups_);
-    for (const auto& group : groups) {
-        filler.add({QString::fromStdString(group.at(0)), formatExactCell(group.at(1)),
-            formatExactCell(group.at(2)), formatExactCell(group.at(3))});
-    }
+    appendRows(
+        *ui_->tableView3, *modelGroups_, History::groups(period), [](const SoldGroup& group) {
+            return QStringList{group.count, formatExactCell(group.article),
+                formatExactCell(group.price), formatExactCell(group.amount)};
+        });
 }
 
 void FormVendelHistorique::on_tableView2_clicked(const QModelIndex& index)
@@ -313,20 +264,17 @@ void FormVendelHistorique::on_btn_Total_clicked()
 
 void FormVendelHistorique::showTotal()
 {
-    auto sales = salesOfPeriod();
+    const auto sales = salesOfPeriod();
     if (!sales) {
         return;
     }
-    const DbRows sums = loadPeriod(
-        QStringLiteral("select sum(prix) from Historique where date_heure between '%1' and '%2'"),
-        sales->period);
-    const std::string& sum = sums.at(0).at(0);
-    if (sum.empty()) {
+    const QString sum = History::total(sales->period);
+    if (sum.isEmpty()) {
         return;
     }
-    showSales(*std::move(sales));
+    showSales(*sales);
     ListFiller(*ui_->tableView1, *modelSales_)
-        .addTotal({texts(Messages::Messages37[0]), formatExactCell(sum), totalMark()});
+        .addTotal({texts(totalLabel[0]), formatExactCell(sum), totalMark()});
     ui_->tableView1->scrollToBottom();
 }
 
@@ -341,13 +289,12 @@ void FormVendelHistorique::purge()
         return;
     }
     const Period period = typedPeriod();
-    const auto& question = Messages::Messages38;
+    const auto& question = purgeQuestion;
     if (!confirm(this, texts(question[0]) + period.first() + texts(question[1]) + period.second(),
             texts(question[2]))) {
         return;
     }
-    loadPeriod(
-        QStringLiteral("delete from Historique where date_heure between '%1' and '%2'"), period);
+    History::purge(period);
     clearList(*modelSales_);
     clearList(*modelGroups_);
     Display_History();

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "db/Db.h"
-#include "forms/Period.h"
+#include "store/History.h"
 
 #include <QDialog>
 #include <QPoint>
@@ -55,18 +54,15 @@ private:
     struct Sales
     {
         Period period;
-        DbRows rows;
+        std::vector<SoldLine> lines;
     };
 
     void setUpLists();
-    void setCaptions();
-    void showHoverTip(const QTableView& view, int column, QPoint offset,
-        const std::array<std::string, 2>& message, const QObject* watched, const QEvent* event);
 
     Period typedPeriod() const;
     std::optional<Sales> salesOfPeriod();
     void showDays();
-    void showSales(Sales sales);
+    void showSales(const Sales& sales);
     void showGroups(const Period& period);
     void showTotal();
     void purge();

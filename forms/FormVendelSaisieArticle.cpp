@@ -1,27 +1,43 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelSaisieArticle.h"
 
-#include "common/HoverTip.h"
-#include "common/Lists.h"
-#include "common/MessageBoxes.h"
 #include "common/Messages.h"
 #include "common/Money.h"
 #include "common/SlotGuard.h"
 #include "common/Tools.h"
-#include "forms/ArticleTable.h"
-#include "forms/DuplicateArticles.h"
+#include "store/Articles.h"
 #include "ui_FormVendelSaisieArticle.h"
+#include "widgets/Captions.h"
+#include "widgets/HoverTip.h"
+#include "widgets/Lists.h"
+#include "widgets/MessageBoxes.h"
 
 namespace {
 enum Column
 {
     Id,
     Mark,
-    Article,
+    Name,
     Price
 };
 
 constexpr Texts texts{"FormVendelSaisieArticleMessages"};
+const auto& labels = Messages::Messages97;
+const auto& articleTip = Messages::Messages67;
+const auto& tooManyCharacters = Messages::Messages28;
+const auto& lengthTip = Messages::Messages29;
+const auto& menuIsEmpty = Messages::Messages27;
+const auto& hasDuplicates = Messages::Messages23;
+const auto& foundDuplicates = Messages::Messages24;
+const auto& noSearchTerm = Messages::Messages22;
+const auto& incompleteArticle = Messages::Messages14;
+const auto& noValidPrice = Messages::Messages15;
+const auto& noArticleToRemove = Messages::Messages17;
+const auto& removalQuestion = Messages::Messages16;
+const auto& incompleteChange = Messages::Messages21;
+const auto& noArticleToChange = Messages::Messages20;
+const auto& noValidNewPrice = Messages::Messages18;
+const auto& changeQuestion = Messages::Messages19;
 constexpr QPoint hoverTipOffset(350, 130);
 constexpr QPoint lengthTipOffset(400, 20);
 } // namespace
@@ -33,50 +49,24 @@ FormVendelSaisieArticle::FormVendelSaisieArticle(QWidget* parent)
 {
     guarded("Errors FormVendelSaisieArticle Constructor : ", [this] {
         ui_->setupUi(this);
-        setUpList(*ui_->tableView, *model_, {"FormVendelMessages"}, Messages::Messages97,
-            {50, 25, 210, 110}, {Id});
+        translateCaptions(*this);
+        setUpList(
+            *ui_->tableView, *model_, {"FormVendelMessages"}, labels, {50, 25, 210, 110}, {Id});
         watchMouse(*ui_->tableView, *this);
-        setCaptions();
         ui_->txt_Article->setFocus();
     });
 }
 
 FormVendelSaisieArticle::~FormVendelSaisieArticle() = default;
 
-void FormVendelSaisieArticle::setCaptions()
-{
-    constexpr Texts captions{"FormVendelSaisieArticle"};
-    setWindowTitle(captions(Messages::Messages116[0]));
-    ui_->lbl_Menu->setText(captions(Messages::Messages117[0]));
-    ui_->lbl_Article->setText(captions(Messages::Messages118[0]));
-    ui_->lbl_Montant->setText(captions(Messages::Messages119[0]));
-    ui_->btn_Effacer_Saisie->setText(captions(Messages::Messages120[0]));
-    ui_->btn_Afficher->setText(captions(Messages::Messages121[0]));
-    ui_->btn_Ajouter->setText(captions(Messages::Messages122[0]));
-    ui_->btn_Supprimer->setText(captions(Messages::Messages123[0]));
-    ui_->btn_Renommer->setText(captions(Messages::Messages124[0]));
-    ui_->btn_Rechercher->setText(captions(Messages::Messages125[0]));
-}
-
 bool FormVendelSaisieArticle::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("Errors FormVendelSaisieArticle eventFilter : ", [&] { showHoverTip(watched, event); });
+    guarded("Errors FormVendelSaisieArticle eventFilter : ", [&] {
+        showTipOver(*this, texts, {*ui_->tableView, Name, articleTip, hoverTipOffset}, watched,
+            event,
+            [](QPoint position, const QString&) { return position.x() > 0 || position.y() > 0; });
+    });
     return false;
-}
-
-void FormVendelSaisieArticle::showHoverTip(const QObject* watched, const QEvent* event)
-{
-    const auto position = mouseMoveOver(*ui_->tableView, watched, event);
-    if (!position) {
-        return;
-    }
-    const QString name = textUnder(*ui_->tableView, *position, Article);
-    if ((position->x() > 0 || position->y() > 0) && !name.isEmpty()) {
-        showTip(*this, *position + hoverTipOffset,
-            texts(Messages::Messages67[0]) + name + texts(Messages::Messages67[1]));
-    } else {
-        hideTip();
-    }
 }
 
 void FormVendelSaisieArticle::on_tableView_doubleClicked(const QModelIndex& index)
@@ -85,9 +75,8 @@ void FormVendelSaisieArticle::on_tableView_doubleClicked(const QModelIndex& inde
         if (!ui_->tableView->selectionModel()->isSelected(index)) {
             return;
         }
-        ui_->txt_Article->setText(index.sibling(index.row(), Article).data().toString());
-        ui_->txt_Montant->setText(
-            index.sibling(index.row(), Price).data().toString().remove(QLatin1Char('$')));
+        ui_->txt_Article->setText(textAt(index, Name));
+        ui_->txt_Montant->setText(textAt(index, Price).remove(QLatin1Char('$')));
     });
 }
 
@@ -102,12 +91,12 @@ void FormVendelSaisieArticle::checkLength()
 {
     const auto length = ui_->txt_Article->text().size();
     if (length > Tools::NbrChar) {
-        notice(this, texts(Messages::Messages28[0]) + QString::number(Tools::NbrChar),
-            texts(Messages::Messages28[1]));
+        notice(this, texts(tooManyCharacters[0]) + QString::number(Tools::NbrChar),
+            texts(tooManyCharacters[1]));
         ui_->txt_Article->setText(ui_->txt_Article->text().remove(Tools::NbrChar, 1));
     } else {
         showTip(*this, geometry().topLeft() + lengthTipOffset,
-            texts(Messages::Messages29[0]) + QString::number(length));
+            texts(lengthTip[0]) + QString::number(length));
     }
 }
 
@@ -126,27 +115,28 @@ void FormVendelSaisieArticle::Display()
 
 void FormVendelSaisieArticle::showMenu()
 {
-    if (ArticleTable::rows().empty()) {
-        notice(this, texts, Messages::Messages27);
+    const std::vector<Article> articles = Articles::all();
+    if (articles.empty()) {
+        notice(this, texts, menuIsEmpty);
         return;
     }
-    append(ArticleTable::rows());
-    tellOfDuplicates(Messages::Messages23, DuplicateArticles::count());
+    append(articles);
+    reportDuplicates(hasDuplicates, Articles::countDuplicates());
 }
 
-void FormVendelSaisieArticle::append(const DbRows& articles)
+void FormVendelSaisieArticle::append(const std::vector<Article>& articles)
 {
-    ListFiller filler(*ui_->tableView, *model_);
-    for (const auto& article : articles) {
-        const std::string& id = article.at(ArticleTable::Id);
-        const bool isDuplicate = DuplicateArticles::contain(id);
-        filler.add({QString::fromStdString(id), isDuplicate ? QStringLiteral("X") : QString(),
-            formatCell(article.at(ArticleTable::Article)),
-            formatCell(article.at(ArticleTable::Price))});
-    }
+    const std::vector<int> duplicates
+        = articles.empty() ? std::vector<int>() : Articles::duplicateIds();
+    appendRows(*ui_->tableView, *model_, articles, [](const Article& article) {
+        // A name that is a number is shown like a price.
+        return QStringList{
+            article.id, QString(), formatCell(article.name), formatCell(article.price)};
+    });
+    markIds(*model_, duplicates, Mark, QStringLiteral("X"));
 }
 
-void FormVendelSaisieArticle::tellOfDuplicates(
+void FormVendelSaisieArticle::reportDuplicates(
     const std::array<std::string, 2>& message, std::optional<int> count)
 {
     if (count) {
@@ -172,12 +162,12 @@ void FormVendelSaisieArticle::search()
     ui_->txt_Article->setText(ui_->txt_Article->text().trimmed());
     const QString term = ui_->txt_Article->text();
     if (term.isEmpty()) {
-        notice(this, texts, Messages::Messages22);
+        notice(this, texts, noSearchTerm);
         return;
     }
     clearList(*model_);
-    append(ArticleTable::rowsLike(term));
-    tellOfDuplicates(Messages::Messages24, DuplicateArticles::countLike(term));
+    append(Articles::like(term));
+    reportDuplicates(foundDuplicates, Articles::countDuplicatesLike(term));
 }
 
 void FormVendelSaisieArticle::on_btn_Ajouter_clicked()
@@ -190,16 +180,16 @@ void FormVendelSaisieArticle::add()
     trimFields();
     const QString article = ui_->txt_Article->text();
     if (article.isEmpty() || ui_->txt_Montant->text().isEmpty()) {
-        notice(this, texts, Messages::Messages14);
+        notice(this, texts, incompleteArticle);
         return;
     }
     const QString price = withPoint(ui_->txt_Montant->text());
     if (!Tools::isNum(price)) {
-        notice(this, texts, Messages::Messages15);
+        notice(this, texts, noValidPrice);
         return;
     }
     clearList(*model_);
-    ArticleTable::add(article, price);
+    Articles::add(article, price);
     Display();
 }
 
@@ -212,13 +202,13 @@ void FormVendelSaisieArticle::on_btn_Supprimer_clicked()
 void FormVendelSaisieArticle::removeCurrent()
 {
     if (!ui_->tableView->selectionModel()->hasSelection()) {
-        notice(this, texts, Messages::Messages17);
+        notice(this, texts, noArticleToRemove);
         return;
     }
-    if (!confirm(this, texts, Messages::Messages16, currentCell(Article))) {
+    if (!confirm(this, texts, removalQuestion, currentCell(Name))) {
         return;
     }
-    ArticleTable::remove(currentCell(Id));
+    Articles::remove(currentCell(Id));
     clearList(*model_);
     Display();
 }
@@ -234,22 +224,22 @@ void FormVendelSaisieArticle::renameCurrent()
     trimFields();
     const QString article = ui_->txt_Article->text();
     if (article.isEmpty() || ui_->txt_Montant->text().isEmpty()) {
-        notice(this, texts, Messages::Messages21);
+        notice(this, texts, incompleteChange);
         return;
     }
     if (!ui_->tableView->selectionModel()->hasSelection()) {
-        notice(this, texts, Messages::Messages20);
+        notice(this, texts, noArticleToChange);
         return;
     }
     const QString price = withPoint(ui_->txt_Montant->text());
     if (!Tools::isNum(price)) {
-        notice(this, texts, Messages::Messages18);
+        notice(this, texts, noValidNewPrice);
         return;
     }
-    if (!confirm(this, texts, Messages::Messages19, currentCell(Article))) {
+    if (!confirm(this, texts, changeQuestion, currentCell(Name))) {
         return;
     }
-    ArticleTable::change(currentCell(Id), article, price);
+    Articles::change(currentCell(Id), article, price);
     clearList(*model_);
     Display();
 }
@@ -262,6 +252,5 @@ void FormVendelSaisieArticle::trimFields()
 
 QString FormVendelSaisieArticle::currentCell(int column) const
 {
-    const QModelIndex current = ui_->tableView->currentIndex();
-    return current.sibling(current.row(), column).data().toString();
+    return textAt(ui_->tableView->currentIndex(), column);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "db/Db.h"
+#include "store/Articles.h"
 
 #include <QDialog>
 #include <QModelIndex>
@@ -25,7 +25,7 @@ public:
     explicit FormVendelSaisieArticle(QWidget* parent = nullptr);
     ~FormVendelSaisieArticle() override;
 
-    /// Appends the whole menu to the list, and tells of an empty menu or of doubled names.
+    /// Appends the whole menu to the list; a notice says that it is empty or has duplicate names.
     void Display();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,13 +41,11 @@ private slots:
     void on_btn_Rechercher_clicked();
 
 private:
-    void setCaptions();
-    void showHoverTip(const QObject* watched, const QEvent* event);
     void checkLength();
 
     void showMenu();
-    void append(const DbRows& articles);
-    void tellOfDuplicates(const std::array<std::string, 2>& message, std::optional<int> count);
+    void append(const std::vector<Article>& articles);
+    void reportDuplicates(const std::array<std::string, 2>& message, std::optional<int> count);
 
     void search();
     void add();

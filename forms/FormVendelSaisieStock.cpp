@@ -1,33 +1,34 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelSaisieStock.h"
 
-#include "common/HoverTip.h"
-#include "common/Lists.h"
-#include "common/MessageBoxes.h"
 #include "common/Messages.h"
 #include "common/SlotGuard.h"
-#include "common/Windows.h"
-#include "forms/Compositions.h"
 #include "forms/FormVendelSaisieStockComposition.h"
 #include "forms/FormVendelSaisieStockCutPaste.h"
 #include "forms/FormVendelSaisieStockMaj.h"
-#include "forms/StockArticles.h"
 #include "forms/StockLists.h"
+#include "store/Recipes.h"
+#include "store/StockArticles.h"
 #include "ui_FormVendelSaisieStock.h"
+#include "widgets/Captions.h"
+#include "widgets/HoverTip.h"
+#include "widgets/Lists.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/Windows.h"
 
 using namespace StockLists;
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockMessages"};
-
-std::vector<int> withdrawnIds()
-{
-    std::vector<int> ids;
-    for (const auto& article : StockArticles::withdrawn()) {
-        ids.push_back(std::stoi(article.at(ArticleId)));
-    }
-    return ids;
-}
+const auto& articleLabels = Messages::Messages143;
+const auto& recipeLabels = Messages::Messages144;
+const auto& articleTip = Messages::Messages70;
+const auto& compositionTip = Messages::Messages71;
+const auto& noArticle = Messages::Messages39;
+const auto& valid = Messages::Messages40;
+const auto& expired = Messages::Messages41;
+const auto& noArticleChosen = Messages::Messages46;
+const auto& removalQuestion = Messages::Messages45;
 } // namespace
 
 FormVendelSaisieStock::FormVendelSaisieStock(QWidget* parent)
@@ -38,8 +39,8 @@ FormVendelSaisieStock::FormVendelSaisieStock(QWidget* parent)
 {
     guarded("Errors FormVendelSaisieStock Contructor : ", [this] {
         ui_->setupUi(this);
+        translateCaptions(*this);
         setUpLists();
-        setCaptions();
     });
 }
 
@@ -47,28 +48,21 @@ FormVendelSaisieStock::~FormVendelSaisieStock() = default;
 
 void FormVendelSaisieStock::setUpLists()
 {
-    setUpArticles(*ui_->tableView1, *modelArticles_, texts, Messages::Messages143);
-    setUpCompositions(*ui_->tableView2, *modelCompositions_, texts, Messages::Messages144);
+    setUpArticles(*ui_->tableView1, *modelArticles_, texts, articleLabels);
+    setUpCompositions(*ui_->tableView2, *modelCompositions_, texts, recipeLabels);
     watchMouse(*ui_->tableView1, *this);
     watchMouse(*ui_->tableView2, *this);
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &FormVendelSaisieStock::on_tableViewSelection);
+    // A click on a row number marks its row after it has become the current one.
+    connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        [this] { on_tableViewSelection({}, {}); });
 
     const auto compose = [this](const QModelIndex& index) { on_tableView1_doubleClicked(index); };
     onKey(*ui_->tableView1, Qt::Key_Return, compose);
     onKey(*ui_->tableView1, Qt::Key_Enter, compose);
     onKey(*ui_->tableView2, Qt::Key_Delete,
         [this](const QModelIndex& index) { on_tableView2_doubleClicked(index); });
-}
-
-void FormVendelSaisieStock::setCaptions()
-{
-    constexpr Texts captions{"FormVendelSaisieStock"};
-    setWindowTitle(captions(Messages::Messages160[0]));
-    ui_->btn_Display->setText(captions(Messages::Messages161[0]));
-    ui_->btn_Update->setText(captions(Messages::Messages162[0]));
-    ui_->btn_Remove->setText(captions(Messages::Messages163[0]));
-    ui_->btn_Cut_Paste->setText(captions(Messages::Messages164[0]));
 }
 
 void FormVendelSaisieStock::Display(bool)
@@ -79,13 +73,13 @@ void FormVendelSaisieStock::Display(bool)
 void FormVendelSaisieStock::showArticles()
 {
     clearList(*modelArticles_);
-    const DbRows articles = StockArticles::all();
+    const std::vector<StockArticle> articles = StockArticles::all();
     if (articles.empty()) {
-        notice(this, texts, Messages::Messages39);
+        notice(this, texts, noArticle);
         return;
     }
-    addArticles(*ui_->tableView1, *modelArticles_, articles, texts(Messages::Messages40[0]));
-    markIds(*modelArticles_, withdrawnIds(), ArticleValidity, texts(Messages::Messages41[0]));
+    addArticles(*ui_->tableView1, *modelArticles_, articles, texts(valid[0]));
+    markIds(*modelArticles_, StockArticles::withdrawnIds(), ArticleValidity, texts(expired[0]));
 }
 
 void FormVendelSaisieStock::Display_DoseStock(const QString& id)
@@ -102,10 +96,9 @@ void FormVendelSaisieStock::Clear_List()
 bool FormVendelSaisieStock::eventFilter(QObject* watched, QEvent* event)
 {
     guarded("Errors FormVendelSaisieStock eventFilter : ", [&] {
+        showTipOver(*this, texts, {*ui_->tableView1, ArticleName, articleTip, {}}, watched, event);
         showTipOver(
-            *this, *ui_->tableView1, watched, event, ArticleName, texts, Messages::Messages70);
-        showTipOver(
-            *this, *ui_->tableView2, watched, event, CompositionName, texts, Messages::Messages71);
+            *this, texts, {*ui_->tableView2, CompositionName, compositionTip, {}}, watched, event);
     });
     return false;
 }
@@ -135,40 +128,43 @@ void FormVendelSaisieStock::on_btn_Remove_clicked()
 void FormVendelSaisieStock::removeArticle()
 {
     if (modelArticles_->rowCount() == 0) {
-        notice(this, texts, Messages::Messages39);
+        notice(this, texts, noArticle);
         return;
     }
     const auto row = chosenRow(*ui_->tableView1);
     if (!row) {
-        notice(this, texts, Messages::Messages46);
+        notice(this, texts, noArticleChosen);
         return;
     }
     const QString id = textAt(*row, ArticleId);
     const QString name
         = textAt(*row, ArticleName) + QLatin1String(", ") + textAt(*row, ArticleValidity);
-    if (confirm(this, texts, Messages::Messages45, name)) {
-        StockArticles::remove(id);
+    if (confirm(this, texts, removalQuestion, name) && StockArticles::remove(id)) {
         Clear_List();
         Display(true);
     }
 }
 
-void FormVendelSaisieStock::on_tableView1_clicked(const QModelIndex& index)
+void FormVendelSaisieStock::on_tableView1_clicked(const QModelIndex& /*index*/)
 {
-    guarded("Errors FormVendelSaisieStock on_tableView1_clicked : ", [&] { showRecipeOf(index); });
+    guarded(
+        "Errors FormVendelSaisieStock on_tableView1_clicked : ", [this] { showMarkedRecipe(); });
 }
 
 void FormVendelSaisieStock::on_tableViewSelection(
-    const QModelIndex& current, const QModelIndex& /*previous*/)
+    const QModelIndex& /*current*/, const QModelIndex& /*previous*/)
 {
     guarded(
-        "Errors FormVendelSaisieStock on_tableViewSelection : ", [&] { showRecipeOf(current); });
+        "Errors FormVendelSaisieStock on_tableViewSelection : ", [this] { showMarkedRecipe(); });
 }
 
-void FormVendelSaisieStock::showRecipeOf(const QModelIndex& index)
+/// Never the recipe of an article that is not marked: a double click would remove a line of it.
+void FormVendelSaisieStock::showMarkedRecipe()
 {
-    if (const auto id = selectedKey(*ui_->tableView1, index)) {
+    if (const auto id = markedKey(*ui_->tableView1)) {
         Display_DoseStock(*id);
+    } else {
+        Clear_List();
     }
 }
 
@@ -181,6 +177,9 @@ void FormVendelSaisieStock::on_tableView1_doubleClicked(const QModelIndex& index
 void FormVendelSaisieStock::composeRecipeOf(const QModelIndex& index)
 {
     if (index.isValid()) {
+        if (markedKey(*ui_->tableView1) != textAt(index, ArticleId)) {
+            ui_->tableView1->setCurrentIndex(index);
+        }
         openWindow<FormVendelSaisieStockComposition>(
             this, textAt(index, ArticleName), textAt(index, ArticleId));
     }
@@ -199,6 +198,6 @@ void FormVendelSaisieStock::removeLine(const QModelIndex& index)
         return;
     }
     const QString article = textAt(index, CompositionArticle);
-    Compositions::remove(*line);
+    Recipes::remove(*line);
     Display_DoseStock(article);
 }

@@ -19,16 +19,15 @@ public:
     explicit FormVendelSaisieStock(QWidget* parent = nullptr);
     ~FormVendelSaisieStock() override;
 
-    /// Reads the stock articles anew; the argument changes nothing.
+    /// Reads the stock articles again; the argument changes nothing.
     void Display(bool);
 
-    /// Reads the recipe of the stock article \a id anew.
+    /// Reads the recipe of the stock article \a id again.
     void Display_DoseStock(const QString& id);
 
     /// Empties the recipe list.
     void Clear_List();
 
-protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private slots:
@@ -43,9 +42,8 @@ private slots:
 
 private:
     void setUpLists();
-    void setCaptions();
     void showArticles();
-    void showRecipeOf(const QModelIndex& index);
+    void showMarkedRecipe();
     void composeRecipeOf(const QModelIndex& index);
     void removeArticle();
     void removeLine(const QModelIndex& index);

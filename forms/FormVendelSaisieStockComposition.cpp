@@ -1,18 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelSaisieStockComposition.h"
 
-#include "common/MessageBoxes.h"
 #include "common/Messages.h"
 #include "common/Money.h"
 #include "common/SlotGuard.h"
 #include "common/Texts.h"
 #include "common/Tools.h"
-#include "forms/Compositions.h"
 #include "forms/FormVendelSaisieStock.h"
+#include "store/Recipes.h"
 #include "ui_FormVendelSaisieStockComposition.h"
+#include "widgets/Captions.h"
+#include "widgets/MessageBoxes.h"
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockCompositionMessages"};
+const auto& centilitre = Messages::Messages145;
+const auto& gram = Messages::Messages146;
+const auto& incompleteLine = Messages::Messages49;
+const auto& noValidDose = Messages::Messages47;
 
 /// Takes the blanks around the text of \a field away and returns what is left.
 QString trim(QLineEdit& field)
@@ -31,24 +36,13 @@ FormVendelSaisieStockComposition::FormVendelSaisieStockComposition(
 {
     guarded("Errors FormSaisieStockComposition Constructor : ", [this] {
         ui_->setupUi(this);
-        setCaptions();
-        ui_->cbx_Unit->addItems({texts(Messages::Messages145[0]), texts(Messages::Messages146[0])});
+        translateCaptions(*this);
+        ui_->lbl_Article->setText(article_);
+        ui_->cbx_Unit->addItems({texts(centilitre[0]), texts(gram[0])});
     });
 }
 
 FormVendelSaisieStockComposition::~FormVendelSaisieStockComposition() = default;
-
-void FormVendelSaisieStockComposition::setCaptions()
-{
-    constexpr Texts captions{"FormVendelSaisieStockComposition"};
-    setWindowTitle(captions(Messages::Messages148[0]));
-    ui_->lbl_Composition->setText(captions(Messages::Messages149[0]));
-    ui_->lbl_Dose->setText(captions(Messages::Messages150[0]));
-    ui_->lbl_Unit->setText(captions(Messages::Messages151[0]));
-    ui_->lbl_ArticleTitle->setText(captions(Messages::Messages152[0]));
-    ui_->btn_Add->setText(captions(Messages::Messages153[0]));
-    ui_->lbl_Article->setText(article_);
-}
 
 void FormVendelSaisieStockComposition::on_btn_Add_clicked()
 {
@@ -61,14 +55,14 @@ void FormVendelSaisieStockComposition::addComposition()
     const QString composition = trim(*ui_->txt_Composition);
     const QString dose = withPoint(trim(*ui_->txt_Dose));
     if (composition.isEmpty() || dose.isEmpty()) {
-        notice(this, texts, Messages::Messages49);
+        notice(this, texts, incompleteLine);
         return;
     }
     if (!Tools::isNum(dose)) {
-        notice(this, texts, Messages::Messages47);
+        notice(this, texts, noValidDose);
         return;
     }
-    Compositions::add(id_, composition, dose, ui_->cbx_Unit->currentText());
+    Recipes::add(id_, composition, dose, ui_->cbx_Unit->currentText());
     if (auto* stock = qobject_cast<FormVendelSaisieStock*>(parent())) {
         stock->Display_DoseStock(id_);
     }

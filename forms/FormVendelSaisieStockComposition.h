@@ -24,7 +24,6 @@ private slots:
     void on_btn_Add_clicked();
 
 private:
-    void setCaptions();
     void addComposition();
 
     std::unique_ptr<Ui_FormVendelSaisieStockComposition> ui_;

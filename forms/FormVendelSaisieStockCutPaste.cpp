@@ -1,21 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelSaisieStockCutPaste.h"
 
-#include "common/HoverTip.h"
-#include "common/Lists.h"
-#include "common/MessageBoxes.h"
 #include "common/Messages.h"
 #include "common/SlotGuard.h"
-#include "forms/Compositions.h"
 #include "forms/FormVendelSaisieStock.h"
-#include "forms/StockArticles.h"
 #include "forms/StockLists.h"
+#include "store/Recipes.h"
+#include "store/StockArticles.h"
 #include "ui_FormVendelSaisieStockCutPaste.h"
+#include "widgets/Captions.h"
+#include "widgets/HoverTip.h"
+#include "widgets/Lists.h"
+#include "widgets/MessageBoxes.h"
 
 using namespace StockLists;
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockCutPasteMessages"};
+const auto& articleLabels = Messages::Messages156;
+const auto& recipeLabels = Messages::Messages157;
+const auto& compositionTip = Messages::Messages72;
+const auto& valid = Messages::Messages50;
+const auto& expired = Messages::Messages51;
+const auto& recipeIsEmpty = Messages::Messages54;
+const auto& noLineChosen = Messages::Messages53;
+const auto& moveQuestion = Messages::Messages52;
 const QLatin1String separator(", ");
 } // namespace
 
@@ -27,9 +36,7 @@ FormVendelSaisieStockCutPaste::FormVendelSaisieStockCutPaste(QWidget* parent)
 {
     guarded("Errors FormVendelSaisieStockCutPaste Constructor : ", [this] {
         ui_->setupUi(this);
-        constexpr Texts captions{"FormVendelSaisieStockCutPaste"};
-        setWindowTitle(captions(Messages::Messages158[0]));
-        ui_->btn_Modify->setText(captions(Messages::Messages159[0]));
+        translateCaptions(*this);
         setUpLists();
         fillTargets();
         Display();
@@ -40,20 +47,21 @@ FormVendelSaisieStockCutPaste::~FormVendelSaisieStockCutPaste() = default;
 
 void FormVendelSaisieStockCutPaste::setUpLists()
 {
-    setUpArticles(*ui_->tableView1, *modelArticles_, texts, Messages::Messages156);
-    setUpCompositions(*ui_->tableView2, *modelCompositions_, texts, Messages::Messages157);
+    setUpArticles(*ui_->tableView1, *modelArticles_, texts, articleLabels);
+    setUpCompositions(*ui_->tableView2, *modelCompositions_, texts, recipeLabels);
     watchMouse(*ui_->tableView2, *this);
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &FormVendelSaisieStockCutPaste::on_tableViewSelection);
+    // A click on a row number marks its row after it has become the current one.
+    connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        [this] { on_tableViewSelection({}, {}); });
 }
 
 void FormVendelSaisieStockCutPaste::fillTargets()
 {
     QStringList targets;
-    for (const auto& article : StockArticles::current()) {
-        targets << QString::fromStdString(article.at(ArticleId)) + separator
-                + QString::fromStdString(article.at(ArticleName)) + separator
-                + texts(Messages::Messages50[0]);
+    for (const StockArticle& article : StockArticles::current()) {
+        targets << article.id + separator + article.name + separator + texts(valid[0]);
     }
     ui_->cbx_Article->addItems(targets);
 }
@@ -62,8 +70,8 @@ void FormVendelSaisieStockCutPaste::Display()
 {
     guarded("Errors FormVendelSaisieStockCutPaste Display : ", [this] {
         clearList(*modelArticles_);
-        addArticles(*ui_->tableView1, *modelArticles_, StockArticles::withdrawn(),
-            texts(Messages::Messages51[0]));
+        addArticles(
+            *ui_->tableView1, *modelArticles_, StockArticles::withdrawn(), texts(expired[0]));
     });
 }
 
@@ -77,27 +85,31 @@ bool FormVendelSaisieStockCutPaste::eventFilter(QObject* watched, QEvent* event)
 {
     guarded("Errors FormVendelSaisieStockCutPaste eventFilter : ", [&] {
         showTipOver(
-            *this, *ui_->tableView2, watched, event, CompositionName, texts, Messages::Messages72);
+            *this, texts, {*ui_->tableView2, CompositionName, compositionTip, {}}, watched, event);
     });
     return false;
 }
 
 void FormVendelSaisieStockCutPaste::on_tableViewSelection(
-    const QModelIndex& current, const QModelIndex& /*previous*/)
+    const QModelIndex& /*current*/, const QModelIndex& /*previous*/)
 {
     guarded(
-        "Errors FormVendelSaisieStock on_tableViewSelection : ", [&] { showRecipeOf(current); });
+        "Errors FormVendelSaisieStock on_tableViewSelection : ", [this] { showMarkedRecipe(); });
 }
 
-void FormVendelSaisieStockCutPaste::on_tableView1_clicked(const QModelIndex& index)
+void FormVendelSaisieStockCutPaste::on_tableView1_clicked(const QModelIndex& /*index*/)
 {
-    guarded("Errors FormVendelSaisieStock on_tableView1_clicked : ", [&] { showRecipeOf(index); });
+    guarded(
+        "Errors FormVendelSaisieStock on_tableView1_clicked : ", [this] { showMarkedRecipe(); });
 }
 
-void FormVendelSaisieStockCutPaste::showRecipeOf(const QModelIndex& index)
+/// Never the recipe of an article that is not marked: a double click would remove a line of it.
+void FormVendelSaisieStockCutPaste::showMarkedRecipe()
 {
-    if (const auto id = selectedKey(*ui_->tableView1, index)) {
+    if (const auto id = markedKey(*ui_->tableView1)) {
         Display_DoseStock(*id);
+    } else {
+        clearList(*modelCompositions_);
     }
 }
 
@@ -110,23 +122,23 @@ void FormVendelSaisieStockCutPaste::on_btn_Modify_clicked()
 void FormVendelSaisieStockCutPaste::moveLine()
 {
     if (modelCompositions_->rowCount() == 0) {
-        notice(this, texts, Messages::Messages54);
+        notice(this, texts, recipeIsEmpty);
         return;
     }
     const auto row = chosenRow(*ui_->tableView2);
     if (!row) {
-        notice(this, texts, Messages::Messages53);
+        notice(this, texts, noLineChosen);
         return;
     }
     const QString line = textAt(*row, CompositionLine);
     const QString source = textAt(*row, CompositionArticle);
     const QStringList target = ui_->cbx_Article->currentText().split(QLatin1Char(','));
-    const QString question = texts(Messages::Messages52[0]) + textAt(*row, CompositionName)
-        + texts(Messages::Messages52[1]) + target.value(1) + separator + target.value(2);
-    if (!confirm(this, question, texts(Messages::Messages52[2]))) {
+    const QString question = texts(moveQuestion[0]) + textAt(*row, CompositionName)
+        + texts(moveQuestion[1]) + target.value(1) + separator + target.value(2);
+    if (!confirm(this, question, texts(moveQuestion[2]))) {
         return;
     }
-    Compositions::move(line, target.value(0));
+    Recipes::move(line, target.value(0));
     Display_DoseStock(source);
     if (auto* stock = qobject_cast<FormVendelSaisieStock*>(parent())) {
         stock->Clear_List();

@@ -24,10 +24,9 @@ public:
     /// Fills the list of withdrawn articles.
     void Display();
 
-    /// Reads the recipe of the stock article \a id anew.
+    /// Reads the recipe of the stock article \a id again.
     void Display_DoseStock(const QString& id);
 
-protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private slots:
@@ -38,7 +37,7 @@ private slots:
 private:
     void setUpLists();
     void fillTargets();
-    void showRecipeOf(const QModelIndex& index);
+    void showMarkedRecipe();
     void moveLine();
 
     std::unique_ptr<Ui_FormVendelSaisieStockCutPaste> ui_;

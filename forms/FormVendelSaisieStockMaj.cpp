@@ -1,24 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelSaisieStockMaj.h"
 
-#include "common/Lists.h"
-#include "common/MessageBoxes.h"
 #include "common/Messages.h"
 #include "common/SlotGuard.h"
 #include "forms/FormVendelSaisieStock.h"
-#include "forms/StockArticles.h"
+#include "store/StockArticles.h"
 #include "ui_FormVendelSaisieStockMaj.h"
+#include "widgets/Captions.h"
+#include "widgets/Lists.h"
+#include "widgets/MessageBoxes.h"
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockMajMessages"};
-
-void addRows(ListFiller& filler, const DbRows& articles, const QString& change)
-{
-    for (const auto& article : articles) {
-        filler.add(
-            {QString::fromStdString(article.at(0)), QString::fromStdString(article.at(1)), change});
-    }
-}
+const auto& labels = Messages::Messages147;
+const auto& added = Messages::Messages42;
+const auto& renamed = Messages::Messages43;
+const auto& nothingToUpdate = Messages::Messages44;
 } // namespace
 
 FormVendelSaisieStockMaj::FormVendelSaisieStockMaj(QWidget* parent)
@@ -28,9 +25,7 @@ FormVendelSaisieStockMaj::FormVendelSaisieStockMaj(QWidget* parent)
 {
     guarded("Errors FormVendelSaisieStockMaj Constructor : ", [this] {
         ui_->setupUi(this);
-        constexpr Texts captions{"FormVendelSaisieStockMaj"};
-        setWindowTitle(captions(Messages::Messages154[0]));
-        ui_->btn_Update->setText(captions(Messages::Messages155[0]));
+        translateCaptions(*this);
         setUpPreview();
     });
 }
@@ -39,10 +34,14 @@ FormVendelSaisieStockMaj::~FormVendelSaisieStockMaj() = default;
 
 void FormVendelSaisieStockMaj::setUpPreview()
 {
-    setUpList(*ui_->tableView, *model_, texts, Messages::Messages147, {50, 210, 100});
-    ListFiller filler(*ui_->tableView, *model_);
-    addRows(filler, StockArticles::missing(), texts(Messages::Messages42[0]));
-    addRows(filler, StockArticles::renamed(), texts(Messages::Messages43[0]));
+    setUpList(*ui_->tableView, *model_, texts, labels, {50, 210, 100});
+    const auto append = [this](const std::vector<StockArticle>& articles, const QString& change) {
+        appendRows(*ui_->tableView, *model_, articles, [&change](const StockArticle& article) {
+            return QStringList{article.id, article.name, change};
+        });
+    };
+    append(StockArticles::missing(), texts(added[0]));
+    append(StockArticles::renamed(), texts(renamed[0]));
 }
 
 void FormVendelSaisieStockMaj::on_btn_Update_clicked()
@@ -53,7 +52,7 @@ void FormVendelSaisieStockMaj::on_btn_Update_clicked()
 void FormVendelSaisieStockMaj::synchronise()
 {
     if (model_->rowCount() == 0) {
-        notice(this, texts, Messages::Messages44);
+        notice(this, texts, nothingToUpdate);
     } else {
         StockArticles::synchronise();
         if (auto* stock = qobject_cast<FormVendelSaisieStock*>(parent())) {

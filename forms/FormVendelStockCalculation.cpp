@@ -1,44 +1,46 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelStockCalculation.h"
 
-#include "common/Lists.h"
-#include "common/MessageBoxes.h"
 #include "common/Messages.h"
 #include "common/Money.h"
 #include "common/SlotGuard.h"
 #include "common/Tools.h"
-#include "forms/Consumption.h"
+#include "store/Consumption.h"
 #include "ui_FormVendelStockCalculation.h"
+#include "widgets/Captions.h"
+#include "widgets/Lists.h"
+#include "widgets/MessageBoxes.h"
 
 namespace {
 constexpr Texts texts{"FormVendelStockCalculationMessages"};
-constexpr int conversionColumn = 3;
+const auto& partLabels = Messages::Messages165;
+const auto& totalLabels = Messages::Messages166;
+const auto& nothingConsumed = Messages::Messages55;
 constexpr int conversionDecimals = 3;
-constexpr int otherDecimals = 2;
 
-QStringList detailCells(const std::vector<std::string>& row)
+QString withUnit(const QString& quantity, const QString& unit)
 {
-    const auto withUnit = [&](std::size_t quantity, std::size_t unit) {
-        return formatQuantity(row.at(quantity)) + QLatin1Char(' ')
-            + QString::fromStdString(row.at(unit));
-    };
-    return {QString::fromStdString(row.at(0)), QString::fromStdString(row.at(1)),
-        QString::fromStdString(row.at(2)), withUnit(3, 4), withUnit(5, 6)};
+    return Tools::isNum(quantity) ? formatQuantity(quantity) + QLatin1Char(' ') + unit : quantity;
 }
 
-QStringList totalCells(const std::vector<std::string>& row)
+QStringList detailCells(const ConsumedPart& part)
 {
-    QStringList cells;
-    for (const std::string& text : row) {
-        cells << formatQuantity(
-            text, cells.size() == conversionColumn ? conversionDecimals : otherDecimals);
-    }
-    return cells;
+    return {part.sales, part.article, part.composition, withUnit(part.dose, part.doseUnit),
+        withUnit(part.amount, part.amountUnit)};
 }
 
-/// Writes a row for each of \a rows from the first row on; rows that a list holds beyond them stay.
-template <class Cells>
-void write(QTableView& view, QStandardItemModel& model, const DbRows& rows, Cells cellsOf)
+/// A composition whose name is a number is shown like a quantity.
+QStringList totalCells(const ConsumedTotal& total)
+{
+    return {formatQuantity(total.composition), formatQuantity(total.amount),
+        formatQuantity(total.unit), formatQuantity(total.converted, conversionDecimals),
+        formatQuantity(total.convertedUnit)};
+}
+
+/// Writes \a rows over those of the list, from the first on. Rows that the list has beyond them
+/// stay: the window has never emptied its lists.
+template <class Rows, class Cells>
+void write(QTableView& view, QStandardItemModel& model, const Rows& rows, Cells cellsOf)
 {
     const int held = model.rowCount();
     ListFiller filler(view, model);
@@ -68,8 +70,10 @@ FormVendelStockCalculation::FormVendelStockCalculation(
 {
     guarded("Errors FormVendelStockCalculation Constructor : ", [this] {
         ui_->setupUi(this);
+        translateCaptions(*this);
+        ui_->lbl_Period_Date1->setText(date1_);
+        ui_->lbl_To_Date2->setText(date2_);
         setUpLists();
-        setCaptions();
     });
 }
 
@@ -77,21 +81,8 @@ FormVendelStockCalculation::~FormVendelStockCalculation() = default;
 
 void FormVendelStockCalculation::setUpLists()
 {
-    setUpList(
-        *ui_->tableView1, *modelDetails_, texts, Messages::Messages165, {50, 180, 150, 130, 100});
-    setUpList(
-        *ui_->tableView2, *modelTotals_, texts, Messages::Messages166, {150, 140, 100, 140, 100});
-}
-
-void FormVendelStockCalculation::setCaptions()
-{
-    constexpr Texts captions{"FormVendelStockCalculation"};
-    setWindowTitle(captions(Messages::Messages167[0]));
-    ui_->btn_Display->setText(captions(Messages::Messages168[0]));
-    ui_->lbl_Period->setText(captions(Messages::Messages169[0]));
-    ui_->lbl_To->setText(captions(Messages::Messages169[1]));
-    ui_->lbl_Period_Date1->setText(date1_);
-    ui_->lbl_To_Date2->setText(date2_);
+    setUpList(*ui_->tableView1, *modelDetails_, texts, partLabels, {50, 180, 150, 130, 100});
+    setUpList(*ui_->tableView2, *modelTotals_, texts, totalLabels, {150, 140, 100, 140, 100});
 }
 
 void FormVendelStockCalculation::on_btn_Display_clicked()
@@ -104,9 +95,9 @@ void FormVendelStockCalculation::showConsumption()
 {
     const QString from = Tools::ConvDate::ToUs(date1_);
     const QString to = Tools::ConvDate::ToUs(date2_);
-    const DbRows details = Consumption::details(from, to);
+    const std::vector<ConsumedPart> details = Consumption::details(from, to);
     if (details.empty()) {
-        notice(this, texts, Messages::Messages55);
+        notice(this, texts, nothingConsumed);
         return;
     }
     write(*ui_->tableView1, *modelDetails_, details, detailCells);

@@ -26,7 +26,6 @@ private slots:
 
 private:
     void setUpLists();
-    void setCaptions();
     void showConsumption();
 
     std::unique_ptr<Ui_FormVendelStockCalculation> ui_;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "forms/StockLists.h"
 
-#include "common/HoverTip.h"
-#include "common/Lists.h"
 #include "common/Money.h"
-#include "forms/Compositions.h"
+#include "store/Recipes.h"
+#include "widgets/HoverTip.h"
+#include "widgets/Lists.h"
 
 #include <QCursor>
+#include <QSet>
 #include <QShortcut>
 #include <QStandardItemModel>
 #include <QTableView>
@@ -25,34 +26,22 @@ void StockLists::setUpCompositions(QTableView& view, QStandardItemModel& model, 
     setUpList(view, model, texts, labels, {50, 50, 180, 90, 50}, {CompositionArticle});
 }
 
-void StockLists::addArticles(
-    QTableView& view, QStandardItemModel& model, const DbRows& articles, const QString& validity)
+void StockLists::addArticles(QTableView& view, QStandardItemModel& model,
+    const std::vector<StockArticle>& articles, const QString& validity)
 {
-    ListFiller filler(view, model);
-    for (const auto& article : articles) {
-        filler.add({QString::fromStdString(article.at(0)), QString::fromStdString(article.at(1)),
-            validity});
-    }
+    appendRows(view, model, articles, [&validity](const StockArticle& article) {
+        return QStringList{article.id, article.name, validity};
+    });
 }
 
 void StockLists::showCompositions(
     QTableView& view, QStandardItemModel& model, const QString& article)
 {
     clearList(model);
-    const DbRows rows = Compositions::of(article);
-    ListFiller filler(view, model);
-    for (const auto& row : rows) {
-        filler.add({QString::fromStdString(row.at(CompositionLine)),
-            QString::fromStdString(row.at(CompositionArticle)),
-            QString::fromStdString(row.at(CompositionName)),
-            formatQuantity(row.at(CompositionDose)),
-            QString::fromStdString(row.at(CompositionUnit))});
-    }
-}
-
-QString StockLists::textAt(const QModelIndex& index, int column)
-{
-    return index.sibling(index.row(), column).data().toString();
+    appendRows(view, model, Recipes::of(article), [](const RecipeLine& line) {
+        return QStringList{
+            line.key, line.article, line.composition, formatQuantity(line.dose), line.unit};
+    });
 }
 
 std::optional<QString> StockLists::selectedKey(const QTableView& view, const QModelIndex& index)
@@ -63,6 +52,21 @@ std::optional<QString> StockLists::selectedKey(const QTableView& view, const QMo
     return textAt(index, 0);
 }
 
+std::optional<QString> StockLists::markedKey(const QTableView& view)
+{
+    const QItemSelectionModel& selection = *view.selectionModel();
+    const QModelIndex current = selection.currentIndex();
+    if (current.isValid() && selection.rowIntersectsSelection(current.row(), QModelIndex())) {
+        return textAt(current, 0);
+    }
+    QSet<QString> keys;
+    const QModelIndexList cells = selection.selectedIndexes();
+    for (const QModelIndex& cell : cells) {
+        keys << textAt(cell, 0);
+    }
+    return keys.size() == 1 ? std::make_optional(*keys.begin()) : std::nullopt;
+}
+
 std::optional<QModelIndex> StockLists::chosenRow(const QTableView& view)
 {
     const QItemSelectionModel& selection = *view.selectionModel();
@@ -70,21 +74,6 @@ std::optional<QModelIndex> StockLists::chosenRow(const QTableView& view)
         return std::nullopt;
     }
     return selection.currentIndex();
-}
-
-void StockLists::showTipOver(QWidget& window, const QTableView& view, const QObject* watched,
-    const QEvent* event, int column, const Texts& texts, const std::array<std::string, 2>& message)
-{
-    const auto position = mouseMoveOver(view, watched, event);
-    if (!position) {
-        return;
-    }
-    const QString text = textUnder(view, *position, column);
-    if (text.isEmpty()) {
-        hideTip();
-    } else {
-        showTip(window, QCursor::pos(), texts(message[0]) + text + texts(message[1]));
-    }
 }
 
 void StockLists::onKey(

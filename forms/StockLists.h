@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/Texts.h"
-#include "db/Db.h"
+#include "store/StockArticles.h"
 
 #include <QModelIndex>
 #include <QString>
@@ -46,27 +46,23 @@ void setUpArticles(QTableView& view, QStandardItemModel& model, const Texts& tex
 void setUpCompositions(QTableView& view, QStandardItemModel& model, const Texts& texts,
     std::span<const std::string> labels);
 
-/// Appends \a articles (id, name), all of the given \a validity.
-void addArticles(
-    QTableView& view, QStandardItemModel& model, const DbRows& articles, const QString& validity);
+/// Appends \a articles, all of the given \a validity.
+void addArticles(QTableView& view, QStandardItemModel& model,
+    const std::vector<StockArticle>& articles, const QString& validity);
 
 /// Fills the emptied recipe list with what is stored for \a article.
 void showCompositions(QTableView& view, QStandardItemModel& model, const QString& article);
 
-/// The text of \a column in the row of \a index.
-QString textAt(const QModelIndex& index, int column);
-
 /// The key in column 0 of the row of \a index while \a index is selected in \a view.
 std::optional<QString> selectedKey(const QTableView& view, const QModelIndex& index);
+
+/// The key of the marked article: of the current row while it is selected, else of the only
+/// selected one.
+std::optional<QString> markedKey(const QTableView& view);
 
 /// The row that a button acts on: the current one, however many are selected; nothing when none is
 /// selected.
 std::optional<QModelIndex> chosenRow(const QTableView& view);
-
-/// For a mouse move over \a view shows, at the cursor, head and tail of \a message around the text
-/// of \a column; without a text there any tip goes.
-void showTipOver(QWidget& window, const QTableView& view, const QObject* watched,
-    const QEvent* event, int column, const Texts& texts, const std::array<std::string, 2>& message);
 
 /// Runs \a action with the current index of \a view when \a key is pressed in it; held down, the
 /// key acts once.

@@ -20,8 +20,9 @@ set(CPACK_PACKAGE_DESCRIPTION
 it with its tax, and prints the receipt on a USB receipt printer or shows it
 on the screen.
 
-It keeps the history of sales, and reckons the stock from the recipes of what
-was sold. Its launcher keeps a checked copy of the data for each day.
+It keeps the history of sales, and computes the stock consumed from the
+recipes of what was sold. Its launcher keeps a checked copy of the data for
+each day.
 
 The screen is French, or English.")
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
@@ -36,9 +37,9 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/postinst)
-# What is read or run by name, and so is not found among the libraries.
+# Read or run by name, and so not found among the libraries.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
   "fonts-crosextra-carlito, fonts-inconsolata, qttranslations5-l10n, sqlite3, x11-utils | zenity | kdialog")
-# Without one of these a copy is chosen in a terminal only.
+# Without one of these, a copy can be chosen only in a terminal.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "zenity | kdialog")
 include(CPack)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=sh
-# Is the database usable, and its daily copy; runs in the data directory.
+# Checks the database and makes its daily copy; runs in the data directory.
 # shellcheck disable=SC2154
 
 # sqlite FILE STATEMENT: runs one statement or dot command of SQLite's shell.
@@ -8,17 +8,17 @@ sqlite() {
     sqlite3 -batch -bail -init /dev/null -cmd '.timeout 2000' "$1" "$2"
 }
 
-# ask STATEMENT: its answer from the database; ends the launcher when there is none.
+# ask STATEMENT: sets "answer" to its result; exits the launcher on an error.
 ask() {
     answer=$(sqlite "$database" "$1" 2>&1) || explainDatabase "$answer"
 }
 
-# How many of the till's six tables there are.
+# Counts the till's six tables.
 tillTables="select count(*) from sqlite_master where type = 'table' and name in
     ('Article', 'ArticleStock', 'Historique', 'DoseStock', 'Config', 'Ticket')"
 
-# holdsRows: whether any table holds a row that a first start alone does not leave behind when it
-# is cut off before its last setting.
+# holdsRows: whether any table has a row that is not left by a first start interrupted before its last
+# setting.
 holdsRows() {
     ask "select group_concat(case name
         when 'Config' then 'select * from (select 1 from Config
@@ -32,7 +32,7 @@ holdsRows() {
 }
 
 # checkDatabase: says why a database cannot be used; sets aside one that a first start did not
-# finish, so that the program makes it anew.
+# finish, so that the program makes a new one.
 checkDatabase() {
     if [ ! -e "$database" ] && [ ! -L "$database" ]; then
         return
@@ -52,7 +52,7 @@ checkDatabase() {
     fi
 }
 
-# nameKept KIND: a name among the copies that is not in use, of now and of this kind.
+# nameKept KIND: an unused name among the copies, with the present time and this kind.
 nameKept() {
     keptName=$copies/Vendel-$1-$(date +%F-%H%M%S)
     count=
@@ -72,7 +72,7 @@ setAsideUnfinished() {
         "An unfinished, empty database is set aside: \"$data/$unfinished\".")"
 }
 
-# keepCopy: the day's copy, made by SQLite itself so that it is whole, and only kept when it is.
+# keepCopy: today's copy, made by SQLite itself so that it is consistent, and kept only if it passes.
 keepCopy() {
     copy=$copies/Vendel-$(date +%F).db
     if [ ! -e "$database" ] || [ -e "$copy" ]; then
@@ -89,7 +89,7 @@ keepCopy() {
         return
     fi
     rm -f "$part" "$part-journal"
-    # Only what the check finds, or SQLite calls so, is damage: a copy fails for many reasons.
+    # A copy fails for many reasons: only what the check finds, or SQLite calls damaged, is damage.
     case $answer$found in
     *malformed* | *'not a database'*) explainDatabase malformed ;;
     '' | ok | *[Ee]rror*) ;;

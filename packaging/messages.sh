@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=sh
-# What the launcher says, in the till's language; uses data, database, copies and language.
+# The launcher's messages in the till's language; uses data, database, copies and language.
 # shellcheck disable=SC2154
 
 # text FRENCH ENGLISH: the one in the till's language.
@@ -12,7 +12,7 @@ text() {
     fi
 }
 
-# useUtf8: dialogs show accents only in a locale that knows them.
+# useUtf8: dialogs show accents only in a UTF-8 locale.
 useUtf8() {
     if [ "$(locale charmap 2>/dev/null)" != UTF-8 ]; then
         export LC_ALL=C.UTF-8
@@ -23,15 +23,15 @@ hasDisplay() {
     [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]
 }
 
-# inLines: standard input in lines of 64 letters, since no dialog breaks a long path by itself. The
-# blanks that French has beside its marks hold together.
+# inLines: standard input in lines of 64 letters, because no dialog wraps a long path. French blanks next
+# to punctuation do not break.
 inLines() {
     sed -E 's/« /« /g; s/ ([»;:?])/ \1/g; s/[^ ]{64}/& /g' |
         sed -E 's/.{1,64}( |$)/&\n/g; s/\n$//'
 }
 
-# box KIND MESSAGE: shows a dialog (error, warning or info) where there is a display. The lock is
-# not held meanwhile by anything that the dialog leaves behind.
+# box KIND MESSAGE: shows a dialog (error, warning or info) where there is a display. Nothing that
+# the dialog leaves running keeps the lock.
 box() {
     hasDisplay || return 0
     (
@@ -54,7 +54,7 @@ box() {
     return 0
 }
 
-# A message that ends the launcher, one that does not, and one that nobody has to answer.
+# die: exits; warn: waits for OK; note: stderr only.
 die() {
     printf '%s\n' "$1" >&2
     exec 9>&-
@@ -72,7 +72,7 @@ note() {
 }
 
 usage() {
-    # The tilde is for the reader.
+    # The tilde is shown, not expanded.
     # shellcheck disable=SC2088
     shownData=${data:-'~/.local/share/vendel'}
     text "Usage : vendel [--langue en|fr]
@@ -115,7 +115,7 @@ databaseUnusable() {
         "The database \"$data/$database\" cannot be used ($2); the copies are in \"$data/$copies\" and \"vendel --restaurer\" puts one back.")"
 }
 
-# explainDatabase ERROR: what SQLite said, in a shopkeeper's words.
+# explainDatabase ERROR: SQLite's error in a shopkeeper's words.
 explainDatabase() {
     case $1 in
     *locked*) databaseUnusable "un autre programme l'occupe" "another program is using it" ;;

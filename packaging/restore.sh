@@ -3,11 +3,11 @@
 # Shows the copies of the database and puts one back; runs in the data directory.
 # shellcheck disable=SC2154
 
-# listCopies: one line each, name as --restaurer takes it and size: newest first, replaced
+# listCopies: one line each, the name that --restaurer takes and the size: newest first, replaced
 # databases after the daily copies.
 listCopies() {
     for kind in '[0-9]' remplacee-; do
-        # The pattern is to be matched, not quoted.
+        # The pattern must stay unquoted to match.
         # shellcheck disable=SC2231
         for file in "$copies"/Vendel-$kind*.db; do
             [ -f "$file" ] || continue
@@ -17,7 +17,7 @@ listCopies() {
     done
 }
 
-# chooseCopy: asks which copy, on the terminal or in a dialog; the answer stands in "wanted".
+# chooseCopy: asks which copy, on the terminal or in a dialog, and sets "wanted".
 chooseCopy() {
     question=$(text "Quelle copie de la base remettre en place ?" \
         "Which copy of the database shall be put back?")
@@ -39,7 +39,7 @@ chooseCopy() {
         )
     elif hasDisplay && command -v kdialog >/dev/null; then
         useUtf8
-        # A copy's name holds no blank: the list falls into words as kdialog takes them.
+        # A copy's name has no blank: the list splits into the words that kdialog expects.
         # shellcheck disable=SC2046
         wanted=$(kdialog --title Vendel --menu "$question" $(listCopies) 9>&- 2>/dev/null)
     else
@@ -49,7 +49,7 @@ vendel --restaurer $(text COPIE COPY)"
     fi
 }
 
-# restore: puts a copy back and keeps what it replaces, whose journal must not be played into the
+# restore: puts a copy back and keeps what it replaces, whose journal must not be applied to the
 # restored file.
 restore() {
     if [ -z "$(listCopies)" ]; then
@@ -87,8 +87,8 @@ partUnwritten() {
     dataUnusable "rien ne peut y être écrit" "nothing can be written there"
 }
 
-# copyDatabase FROM TO: the file and the journal of a change that was cut off, without which it may
-# be half changed.
+# copyDatabase FROM TO: the file and the journal of an interrupted change, without which the file may be
+# half changed.
 copyDatabase() {
     rm -f "$2-journal"
     if [ -f "$1-journal" ]; then
@@ -97,7 +97,7 @@ copyDatabase() {
     cp -p "$1" "$2" 2>/dev/null
 }
 
-# keepReplaced: puts the database in place among the copies, whatever it is.
+# keepReplaced: keeps the present database among the copies, whatever it is.
 keepReplaced() {
     kept=
     [ -e "$target" ] || return

@@ -1,18 +1,23 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Measures the till's work beside the least that the same work costs, and prints one table.
+# Benchmarks against a minimal baseline, in one table. A limit that is missed is an error.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
-usage="usage: scripts/bench.sh [SUBJECT]...   (subjects: start db menu articles sale receipt printer history stock)"
+all=(start db menu articles sale receipt printer history stock)
+usage="usage: scripts/bench.sh [--docs] [SUBJECT]...
+  --docs  writes the table of all subjects, each as it was last measured, into docs/quality.md
+  subjects: ${all[*]}"
 subjects=()
+docs=false
 for argument in "$@"; do
     case $argument in
+        --docs) docs=true ;;
         -h | --help) say "$usage" && exit ;;
         start | db | menu | articles | sale | receipt | printer | history | stock) subjects+=("$argument") ;;
         *) unknown_option "$usage" "$argument" ;;
     esac
 done
-[ ${#subjects[@]} -gt 0 ] || subjects=(start db menu articles sale receipt printer history stock)
+[ ${#subjects[@]} -gt 0 ] || subjects=("${all[@]}")
 
 "$root/scripts/install.sh" build run bench
 say "Building the preset bench"
@@ -30,6 +35,28 @@ for subject in "${subjects[@]}"; do
         || fail "the measurement failed, see build/bench/results/$subject.log"
 done
 
-jq --slurp --raw-output --from-file "$root/bench/table.jq" "${subjects[@]/%/.json}" \
-    | column -t -s $'\t' -R 2,3,4 | tee table.txt
+# rows SUBJECT...: the measurements, a line each, columns separated by tabs.
+rows() { jq --slurp --raw-output --from-file "$root/bench/table.jq" "${@/%/.json}"; }
+
+# page: the rows of standard input as docs/quality.md shows them.
+page() {
+    printf '| work | till ms | floor ms | ratio | memory, or how SQLite looks it up | limit |\n'
+    printf '|---|---:|---:|---:|---|---|\n'
+    sed 1d | sort -t $'\t' -k 1,1V | awk -F '\t' -v OFS=' | ' '{
+        gsub("_", " ", $1)
+        gsub("/", ", ", $1)
+        for (column = 1; column <= 6; ++column) {
+            if ($column == "-") { $column = "" }
+        }
+        print "| " $1, $2, $3, $4, $5, $6 " |"
+    }' | sed -E 's/  +/ /g'
+}
+
+rows "${subjects[@]}" | column -t -s $'\t' -R 2,3,4 | tee table.txt
 ! grep -q ' missed$' table.txt || fail "a limit is missed"
+if $docs; then
+    for subject in "${all[@]}"; do
+        [ -s "$subject.json" ] || fail "$subject has not been measured yet"
+    done
+    rows "${all[@]}" | page | write_figures benchmarks
+fi

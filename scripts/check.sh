@@ -1,29 +1,58 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Holds the tree against its house rules: layout of the code, shell scripts, and what three
-# analysers find. Without a name all checks run.
+# Checks the tree against its house rules: layout of the code, shell scripts, includes, licence lines,
+# and what three analysers find. Without a name all checks run.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
-checks=(format shell tidy clazy cppcheck)
-usage="usage: scripts/check.sh [${checks[*]}]..."
+fast=(format shell layers licence)
+checks=("${fast[@]}" tidy clazy cppcheck)
+usage="usage: scripts/check.sh [--staged] [${checks[*]}]...
+  --staged  checks only the files that are staged, as they are staged: ${fast[*]}"
+staged=false
 wanted=()
 for argument in "$@"; do
     case $argument in
+        --staged) staged=true ;;
         -h | --help) say "$usage" && exit ;;
-        format | shell | tidy | clazy | cppcheck) wanted+=("$argument") ;;
+        format | shell | layers | licence | tidy | clazy | cppcheck) wanted+=("$argument") ;;
         *) unknown_option "$usage" "$argument" ;;
     esac
 done
-[ ${#wanted[@]} -gt 0 ] || wanted=("${checks[@]}")
+if [ ${#wanted[@]} -eq 0 ]; then
+    $staged && wanted=("${fast[@]}") || wanted=("${checks[@]}")
+fi
 
-cd "$root"
 build="$root/build/release"
 
 # The tree may belong to another user.
-git() { command git -c safe.directory='*' "$@"; }
+git() { (cd "$root" && command git -c safe.directory='*' "$@"); }
 
-# tracked PATTERN...: the files under version control.
-tracked() { git ls-files -- "$@"; }
+# What is staged may differ from the files of the working tree, so it is checked in a tree of its own.
+tree=$root
+if $staged; then
+    tree=$(mktemp -d)
+    trap 'rm -rf -- "$tree"' EXIT
+    git checkout-index --all --prefix="$tree/"
+fi
+cd "$tree"
+
+# tracked PATTERN...: the files under version control, or those of them that are staged.
+tracked() {
+    if $staged; then
+        git diff --cached --name-only --diff-filter=ACMR -- "$@"
+    else
+        git ls-files -- "$@"
+    fi
+}
+
+# The analysers read the build's commands without what precompiled headers add to them, which only
+# the compiler that made the headers understands.
+analysed="$root/build/check"
+prepare_commands() {
+    mkdir -p "$analysed"
+    sed -E 's/ -Winvalid-pch//; s/ -include [^ ]*cmake_pch\.hxx//; s/ -fpch-preprocess//' \
+        "$build/compile_commands.json" >"$analysed/compile_commands.json"
+}
 
 # compiled: the sources that the release build knows how to compile.
 compiled() {
@@ -39,22 +68,40 @@ each() { xargs -r -P "$(nproc)" -n 1 "$@"; }
 check_format() { tracked '*.cpp' '*.h' | xargs -r clang-format --dry-run -Werror; }
 
 check_shell() {
-    { tracked '*.sh' '*.bash' '*.bats' && git grep -lE '^#!.*sh$' -- .ci packaging; } \
-        | sort -u | xargs -r shellcheck
+    {
+        tracked '*.sh' '*.bash' '*.bats'
+        tracked .ci .githooks packaging | xargs -r grep -lE '^#!.*sh$' || true
+    } | sort -u | xargs -r shellcheck
 }
 
-headers="^$root/(app|bench|common|db|demo|forms|Print|tests)/.*"
+check_layers() {
+    [ -z "$(tracked '*.cpp' '*.h')" ] || cmake -DROOT="$tree" -P tests/layers.cmake
+}
 
-# The till and its tools; the tests are held by the compiler, clazy and cppcheck.
+check_licence() {
+    local file missing=false
+    while read -r file; do
+        case $(head -n 2 "$file") in
+            *"SPDX-License-Identifier"': MIT'*) ;;
+            *) say "$file does not name its licence in its first two lines" && missing=true ;;
+        esac
+    done < <(tracked '*.cpp' '*.h' '*.sh' '*.bash' '*.bats' '*.cmake' '*CMakeLists.txt' \
+        '*.svg' '*.xml' '*.in' '*.rules' '*.desktop' '*.[1-9]')
+    ! $missing
+}
+
+headers="^$root/(app|base|bench|common|db|demo|forms|Print|store|tests|widgets)/.*"
+
+# The till and its tools; the tests are checked by the compiler, clazy and cppcheck.
 check_tidy() {
-    compiled | grep -v '^tests/' | each clang-tidy --quiet -p "$build" --header-filter="$headers"
+    compiled | grep -v '^tests/' | each clang-tidy --quiet -p "$analysed" --header-filter="$headers"
 }
 
 # Tests may build their constants before main; the till may not.
 check_clazy() {
-    compiled | grep -v '^tests/' | each clazy-standalone -p "$build" \
+    compiled | grep -v '^tests/' | each clazy-standalone -p "$analysed" \
         -checks=level1,no-connect-by-name -header-filter="$headers" || return
-    compiled | grep '^tests/' | each clazy-standalone -p "$build" \
+    compiled | grep '^tests/' | each clazy-standalone -p "$analysed" \
         -checks=level1,no-connect-by-name,no-non-pod-global-static -header-filter="$headers"
 }
 
@@ -68,9 +115,13 @@ check_cppcheck() {
 
 failed=()
 for check in "${wanted[@]}"; do
+    if $staged && [[ " ${fast[*]} " != *" $check "* ]]; then
+        fail "$check reads the whole tree: run it without --staged"
+    fi
     if [[ $check == tidy || $check == clazy ]] && [ ! -e "$build/compile_commands.json" ]; then
         fail "$check needs the release preset to be configured: cmake --preset release"
     fi
+    [[ $check != tidy && $check != clazy ]] || prepare_commands
     say "Checking $check"
     "check_$check" || failed+=("$check")
 done

@@ -1,31 +1,38 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Cuts the till off: the real executable is killed at random moments of payments, additions and
-# purges, and the shop's database is looked at afterwards. Then come the tests of the bad days and
-# of a long day.
+# Crash tests of the real till: at each system call by which an act reaches the database it is killed,
+# and each such call fails once as on a broken disk and once as on a full one. Then the tests of bad
+# days and of a long day run.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
-usage="usage: scripts/faults.sh [--built] [--kills NUMBER] [--sales NUMBER] [--seed NUMBER]
-  --built  takes the release build as it stands
-  --kills  how often the till is killed (300)
-  --sales  how many sales the long day has (10000); without any there is no day, good or bad
-  --seed   what the moments are drawn from (1)"
+usage="usage: scripts/faults.sh [--built] [--acts NAMES] [--every NUMBER] [--sales NUMBER] [--docs]
+  --built  takes the release build as it is
+  --acts   which of \"payment line stock article purge\" are tried (all)
+  --every  tries only every NUMBERth fault (1)
+  --sales  sales of the long day (10000); 0 leaves out the bad days and the long day
+  --docs   writes the table of the faults and the figures of the long day into docs/quality.md"
 
 built=false
-kills=300
+docs=false
+acts="payment line stock article purge"
+every=1
 sales=10000
-seed=1
 number() { [[ ${1-} =~ ^[0-9]{1,7}$ ]] || unknown_option "$usage" "${1-}"; }
 while [ $# -gt 0 ]; do
     case $1 in
         --built) built=true ;;
-        --kills) number "${2-}" && kills=$2 && shift ;;
-        --sales) number "${2-}" && sales=$2 && shift ;;
-        --seed) number "${2-}" && seed=$2 && shift ;;
+        --docs) docs=true ;;
+        --acts) acts=${2-} && shift ;;
+        --every) number "${2-}" && every=$((10#$2)) && shift ;;
+        --sales) number "${2-}" && sales=$((10#$2)) && shift ;;
         -h | --help) say "$usage" && exit ;;
         *) unknown_option "$usage" "$1" ;;
     esac
     shift
+done
+[ "$every" -gt 0 ] || unknown_option "$usage" "$every"
+for act in $acts; do
+    [[ " payment line stock article purge " == *" $act "* ]] || unknown_option "$usage" "$act"
 done
 
 build="$root/build/release"
@@ -36,25 +43,27 @@ if ! $built; then
     configure release
     build release all
 fi
-if ! { mkdir -p "$out" && rm -f -- "$out"/*; } 2>/dev/null; then
+if ! { mkdir -p "$out" && rm -rf -- "${out:?}"/*; } 2>/dev/null; then
     fail "cannot write into $out"
 fi
 
-. "$root/scripts/tour.d/lib.sh"
-. "$root/scripts/faults.d/kills.sh"
-start_display
-RANDOM=$seed
-declare -A outcomes=()
-for ((round = 1; round <= kills; ++round)); do
-    case $((round % 3)) in
-        0) cut_off payment ;;
-        1) cut_off additions ;;
-        2) cut_off purge ;;
-    esac
+. "$root/scripts/faults.d/shop.sh"
+. "$root/scripts/faults.d/calls.sh"
+. "$root/scripts/faults.d/outcomes.sh"
+make_shop
+for act in $acts; do
+    list_calls "$act"
 done
-for outcome in "${!outcomes[@]}"; do
-    say "  $outcome: ${outcomes[$outcome]}"
-done | sort
+try_all
+table >"$out/table.md"
+cat "$out/table.md"
+if [ -s "$out/broken" ]; then
+    head -n 20 "$out/broken" >&2
+    fail "$(wc -l <"$out/broken") faults ended badly, see build/faults/broken"
+fi
+if $docs; then
+    write_figures faults <"$out/table.md"
+fi
 
 if [ "$sales" -eq 0 ]; then
     say "Nothing is lost"
@@ -70,5 +79,9 @@ say "A day of $sales sales"
 VENDEL_SALES=$sales QTEST_FUNCTION_TIMEOUT=$((300000 + sales * 300)) QT_QPA_PLATFORM=offscreen \
     "$build/tests/app/tst_LongDay" >"$out/long-day.log" 2>&1 \
     || { cat "$out/long-day.log" >&2 && fail "the long day ended badly"; }
-sed -n 's/^QINFO *: [^ ]* /  /p' "$out/long-day.log"
+sed -nE 's/^QINFO *: [^ ]+ //p' "$out/long-day.log" >"$out/long-day.txt"
+sed 's/^/  /' "$out/long-day.txt"
+if $docs; then
+    sed 's/^/- /' "$out/long-day.txt" | write_figures "long day"
+fi
 say "Nothing is lost"

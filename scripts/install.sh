@@ -7,8 +7,8 @@ declare -A packages=(
     [build]="g++ cmake ninja-build pkg-config qtbase5-dev libsqlite3-dev libusb-1.0-0-dev
         libstb-dev librsvg2-bin qttools5-dev qttools5-dev-tools"
     [run]="fonts-crosextra-carlito fonts-inconsolata qttranslations5-l10n sqlite3 x11-utils"
-    [test]="libumockdev-dev umockdev xvfb xauth xdotool imagemagick x11-utils bats sqlite3
-        desktop-file-utils appstream man-db"
+    [test]="libumockdev-dev umockdev strace xvfb xauth xdotool imagemagick x11-utils bats sqlite3
+        desktop-file-utils appstream man-db jq bsdextrautils"
     [lint]="git shellcheck clang-format clang-tidy clazy cppcheck reuse"
     [package]="dpkg-dev file lintian"
     [package-test]="debootstrap sqlite3 xdotool xvfb"
@@ -63,7 +63,7 @@ fi
 say "Installing ${missing[*]} (log: build/install.log)"
 apt=("${as_root[@]}" apt-get -q -y -o DPkg::Lock::Timeout=120)
 install_missing() {
-    # A stale package list may still do: only the installation decides.
+    # A stale package list may be enough: only the installation decides.
     "${apt[@]}" update || true
     "${apt[@]}" install --no-install-recommends "${missing[@]}"
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Builds the Debian package into build/package, shows it to lintian and, if asked, tries it in a
-# system that holds nothing else.
+# Builds the Debian package in build/package, checks it with lintian and, with --test, tries it in an
+# otherwise empty system.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
 usage="usage: scripts/package.sh [--test]
@@ -43,11 +43,11 @@ package=$(echo "$tree"/vendel_*.deb)
 
 say "Checking it with lintian"
 lintian --fail-on error,warning --tag-display-limit 0 "$package" \
-    || fail "lintian is not content with $package"
+    || fail "lintian reports problems in $package"
 if $try; then
     status=0
     "$root/tests/packaging/clean_tree.sh" "$package" || status=$?
-    # 77 says that the machine does not allow the test, which is no fault of the package.
+    # 77: the machine does not allow the test, which says nothing about the package.
     [ $status -eq 0 ] || [ $status -eq 77 ] || fail "the package failed in a clean system"
 fi
 say "The package is $package"

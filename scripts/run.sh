@@ -4,7 +4,8 @@
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
 usage="usage: scripts/run.sh [--demo]
-  --demo   starts the till in a throw-away copy of the sample shop"
+  --demo   starts the till in a throw-away copy of the sample shop
+Missing Debian packages are installed with sudo."
 
 demo=false
 for argument in "$@"; do
@@ -15,7 +16,7 @@ for argument in "$@"; do
     esac
 done
 
-# Whether the X server that DISPLAY names listens, found out without any X program.
+# Whether the X server that DISPLAY names is listening; needs no X program.
 has_display() {
     [ -n "${WAYLAND_DISPLAY-}" ] && return
     local host=${DISPLAY%:*} number=${DISPLAY##*:}
@@ -48,12 +49,12 @@ if $demo; then
         || fail "the sample shop could not be made"
     say "Starting the till in a throw-away copy of the sample shop"
 else
-    say "Starting the till; its data lies in ${XDG_DATA_HOME:-${HOME-}/.local/share}/vendel"
+    say "Starting the till; its data is in ${XDG_DATA_HOME:-${HOME-}/.local/share}/vendel"
 fi
 
-# The launcher makes the data directory and looks after what lies there.
+# The launcher makes the data directory and looks after its files.
 status=0
 "$root/build/release/packaging/vendel" || status=$?
-# Qt aborts when the display turns it away.
+# Qt aborts when the display refuses it.
 [ $status -ne 134 ] || fail "the till was aborted; without a usable display, $no_display"
 exit $status

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Plays a day at the counter with the real till on a virtual display, real mouse clicks and keys and
+# Plays a day in the shop with the real till on a virtual display, with real mouse clicks and keys and
 # an emulated printer, and leaves pictures and the printed receipt in build/tour.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
 usage="usage: scripts/tour.sh [--built] [--docs]
-  --built  takes the release build as it stands
+  --built  takes the release build as it is
   --docs   copies the pictures that the documents show to docs/images"
 
 built=false
@@ -51,4 +51,4 @@ if $docs; then
         install -m 644 "$out/${shown##*/}" "$shown"
     done
 fi
-say "The tour is over; its pictures lie in $out"
+say "The tour is over; its pictures are in $out"

@@ -658,6 +658,12 @@ Paste</translation>
         <source>Le texte n&apos;a pas pu être enregistré</source>
         <translation>The text could not be saved</translation>
     </message>
+    <message>
+        <source>La vente n&apos;est pas enregistrée
+Le ticket est gardé</source>
+        <translation>The sale is not recorded
+The ticket is kept</translation>
+    </message>
 </context>
 <context>
     <name>FormVendel</name>

@@ -1,50 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include "Print/escpospp/EscPos.h"
 
+#include "base/Handle.h"
 #include "Print/escpospp/StbImage.h"
 
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <memory>
 #include <system_error>
 
 #include <stb/stb_image.h>
 
 namespace {
+using File = Handle<std::FILE, std::fclose>;
+using Pixels = Handle<stbi_uc, stbi_image_free>;
 
-struct CloseFile
-{
-    void operator()(std::FILE* file) const noexcept
-    {
-        std::fclose(file);
-    }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
+/// Red, green and blue, whatever the file holds.
+constexpr int samplesPerPixel = 3;
 
-struct FreePixels
-{
-    void operator()(stbi_uc* pixels) const noexcept
-    {
-        stbi_image_free(pixels);
-    }
-};
-using Pixels = std::unique_ptr<stbi_uc, FreePixels>;
-
-constexpr int Channels = 3;
-
+/// Whether the picture in \a file has a size, and no more than maxPixels pixels. Reads its head
+/// only, and leaves the file at its start.
 bool isOfPrintableSize(std::FILE* file)
 {
     int width = 0;
     int height = 0;
     int channels = 0;
-    // The height of a BMP stored from its top down is negative here.
+    // The height of a BMP whose rows go from top to bottom is negative here.
     return stbi_info_from_file(file, &width, &height, &channels) != 0 && width > 0 && height != 0
-        && width * std::abs(static_cast<long long>(height)) <= EscPos::MaxPixels;
+        && width * std::abs(static_cast<long long>(height)) <= EscPos::maxPixels;
 }
 
-// The sum is kept in single precision: on colours whose exact luminance is 150 this decides.
+/// Whether a pixel is printed. The sum is in single precision, which decides for colours whose
+/// exact luminance is 150.
 bool isBlack(const stbi_uc* rgb)
 {
     auto luminance = static_cast<float>(0.3 * rgb[0]);
@@ -52,7 +40,6 @@ bool isBlack(const stbi_uc* rgb)
     luminance = static_cast<float>(luminance + 0.11 * rgb[2]);
     return luminance < 150.0F;
 }
-
 } // namespace
 
 DotMatrix EscPos::loadImage(const std::string& path)
@@ -69,7 +56,8 @@ DotMatrix EscPos::loadImage(const std::string& path)
     int width = 0;
     int height = 0;
     int channels = 0;
-    const Pixels pixels{stbi_load_from_file(file.get(), &width, &height, &channels, Channels)};
+    const Pixels pixels{
+        stbi_load_from_file(file.get(), &width, &height, &channels, samplesPerPixel)};
     if (!pixels) {
         return {};
     }
@@ -77,7 +65,7 @@ DotMatrix EscPos::loadImage(const std::string& path)
     DotMatrix dots(static_cast<std::size_t>(height), std::vector<bool>(columns));
     const stbi_uc* rgb = pixels.get();
     for (auto& row : dots) {
-        for (std::size_t x = 0; x < columns; ++x, rgb += Channels) {
+        for (std::size_t x = 0; x < columns; ++x, rgb += samplesPerPixel) {
             row[x] = isBlack(rgb);
         }
     }

@@ -8,7 +8,7 @@
 #include <vector>
 
 namespace {
-
+/// Adds a pair to the map, unless its marker is there.
 void addPair(const std::string& marker, const std::string& on, const std::string& off)
 {
     if (MDPair::mdPairMap.contains(marker)) {
@@ -20,7 +20,6 @@ void addPair(const std::string& marker, const std::string& on, const std::string
     pair->off = off;
     MDPair::mdPairMap[marker] = pair.get();
 }
-
 } // namespace
 
 MDPair::MDPair(std::string markerText)

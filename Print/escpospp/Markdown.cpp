@@ -11,9 +11,9 @@
 #include <vector>
 
 namespace {
+constexpr std::size_t markerLength = 2;
 
-constexpr std::size_t MarkerLength = 2;
-
+/// The pairs of MDPair, for a fast look-up.
 class MarkerTable
 {
 public:
@@ -28,9 +28,10 @@ public:
         }
     }
 
-    // The first character alone rules out nearly every position of a text.
+    /// The pair whose marker is the two characters at \a two; null when there is none.
     const MDPair* at(const char* two) const
     {
+        // The first character alone rules out nearly every position of a text.
         if (!isFirst_[static_cast<unsigned char>(two[0])]) {
             return nullptr;
         }
@@ -44,7 +45,6 @@ private:
     std::array<bool, std::numeric_limits<unsigned char>::max() + 1> isFirst_{};
     std::vector<const MDPair*> pairs_;
 };
-
 } // namespace
 
 Markdown renderMarkdown(std::string_view text)
@@ -71,7 +71,7 @@ Markdown renderMarkdown(std::string_view text)
         } else {
             return {{}, "Incorrect text string with markdown"};
         }
-        i += MarkerLength;
+        i += markerLength;
         pending = i;
     }
     if (!open.empty()) {

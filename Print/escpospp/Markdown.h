@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// What becomes of a text with markers.
+/// A text whose markers were replaced, or the reason why they were not.
 struct Markdown
 {
     /// The text with its markers replaced by commands; empty when there is a fault.

@@ -2,42 +2,37 @@
 #include "Print/escpospp/Printer.h"
 
 #include "Print/escpospp/Bitmap.h"
-#include "Print/escpospp/EscPos.h"
 #include "Print/escpospp/Markdown.h"
 
 #include <cstddef>
 #include <iostream>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <utility>
 
-#include <libusb.h>
-
 namespace {
+constexpr int interfaceNumber = 0;
+constexpr unsigned char bulkOut = 0x01;
+/// In ms: a printer that waits for paper takes its bytes later.
+constexpr unsigned noTimeLimit = 0;
 
-constexpr int Interface = 0;
-constexpr unsigned char BulkOut = 0x01;
-constexpr unsigned NoTimeLimit = 0;
-
+/// Writes \a line to standard output, at once.
 void report(std::string_view line)
 {
     std::cout << line << std::endl;
 }
 
+/// Also gives each device of the list back to the library; an open one stays with its handle.
+void endDeviceList(libusb_device** list)
+{
+    libusb_free_device_list(list, 1);
+}
+using DeviceList = Handle<libusb_device*, endDeviceList>;
 } // namespace
 
 Printer* Printer::instance = nullptr;
-
-void Printer::EndContext::operator()(libusb_context* context) const noexcept
-{
-    libusb_exit(context);
-}
-
-void Printer::CloseDevice::operator()(libusb_device_handle* handle) const noexcept
-{
-    libusb_close(handle);
-}
 
 void Printer::initializePrinter(std::pair<int, int> ids)
 {
@@ -63,7 +58,7 @@ Printer::Printer(std::pair<int, int> ids)
 
 Printer::~Printer()
 {
-    const int result = libusb_release_interface(handle_.get(), Interface);
+    const int result = libusb_release_interface(handle_.get(), interfaceNumber);
     report(result == 0 ? "Released Interface" : "Cannot Release Interface");
 }
 
@@ -72,9 +67,9 @@ void Printer::raw(std::string bytes)
     int transferred = 0;
     int result = LIBUSB_ERROR_OVERFLOW;
     if (bytes.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max())) {
-        result = libusb_bulk_transfer(handle_.get(), BulkOut,
+        result = libusb_bulk_transfer(handle_.get(), bulkOut,
             reinterpret_cast<unsigned char*>(bytes.data()), static_cast<int>(bytes.size()),
-            &transferred, NoTimeLimit);
+            &transferred, noTimeLimit);
     }
     if (result != 0 || static_cast<std::size_t>(transferred) != bytes.size()) {
         report("Write Error");
@@ -112,7 +107,7 @@ bool Printer::textCut(const std::string& s)
     return sent;
 }
 
-void Printer::image(const std::vector<std::vector<bool>>& dots)
+void Printer::image(const DotMatrix& dots)
 {
     std::optional<std::string> bands = renderBitmap(dots, imageMode_);
     if (!bands) {
@@ -144,6 +139,7 @@ void Printer::openFirst(std::pair<int, int> ids)
     libusb_device** list = nullptr;
     // A negative count means that the bus could not be read, and that there is no list.
     const ssize_t count = libusb_get_device_list(context_.get(), &list);
+    const DeviceList owner(count < 0 ? nullptr : list);
     for (ssize_t i = 0; i < count; ++i) {
         libusb_device_descriptor descriptor{};
         if (libusb_get_device_descriptor(list[i], &descriptor) == 0
@@ -155,9 +151,6 @@ void Printer::openFirst(std::pair<int, int> ids)
             break;
         }
     }
-    if (count >= 0) {
-        libusb_free_device_list(list, static_cast<int>(count));
-    }
     if (!handle_) {
         report("Cannot open device");
         throw -1;
@@ -166,13 +159,13 @@ void Printer::openFirst(std::pair<int, int> ids)
 
 void Printer::claim()
 {
-    if (libusb_kernel_driver_active(handle_.get(), Interface) == 1) {
+    if (libusb_kernel_driver_active(handle_.get(), interfaceNumber) == 1) {
         report("Kernel Driver Active");
-        if (libusb_detach_kernel_driver(handle_.get(), Interface) == 0) {
+        if (libusb_detach_kernel_driver(handle_.get(), interfaceNumber) == 0) {
             report("Kernel Driver Detached!");
         }
     }
-    if (libusb_claim_interface(handle_.get(), Interface) < 0) {
+    if (libusb_claim_interface(handle_.get(), interfaceNumber) < 0) {
         report("Cannot Claim Interface");
         throw -1;
     }

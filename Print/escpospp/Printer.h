@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
+#include "base/Handle.h"
+#include "Print/escpospp/EscPos.h"
+
 #include <string>
 #include <utility>
-#include <vector>
 
-struct libusb_context;
-struct libusb_device_handle;
+#include <libusb.h>
 
-/// The receipt printer on the USB bus: found by its ids, taken from the system's driver, and held
-/// until the process ends. Diagnostics go to standard output. To be used from one thread.
+/// The receipt printer on the USB bus: found by its ids, taken over from the system's driver, and
+/// kept until the process ends. Diagnostics go to standard output. For one thread only.
 class Printer
 {
 public:
@@ -19,7 +19,7 @@ public:
     /// Throws the int -1 when no such device can be opened and claimed; `instance` is null then.
     static void initializePrinter(std::pair<int, int> ids);
 
-    /// The process's printer, or null.
+    /// The process's printer, or null. The caller does not own it.
     static Printer* getPrinter();
 
     /// Opens the first device with the vendor and product ids and claims its interface 0.
@@ -29,47 +29,38 @@ public:
     Printer(const Printer&) = delete;
     Printer& operator=(const Printer&) = delete;
 
-    /// Sends \a bytes in one transfer, an empty one included, and waits until the printer has
-    /// taken them. A failure is only printed ("Write Error").
+    /// Sends \a bytes in one transfer, also when there are none, and waits without a time limit
+    /// until the printer has taken them. A failure is only printed ("Write Error").
     void raw(std::string bytes);
 
-    /// Feeds and cuts.
+    /// Sends EscPos::CUT: feeds the paper and cuts it.
     void cut();
 
     /// Sends EscPos::RESET.
     void reset();
 
     /// Sends \a s with its markers (see MDPair) turned into commands.
-    /// False, and nothing sent, when they don't nest or one is left open.
+    /// Returns false and sends nothing when the markers do not nest or one is left open.
     bool text(const std::string& s);
 
-    /// The same, then cuts if the text was sent.
+    /// Like text(), then cuts if the text was sent.
     bool textCut(const std::string& s);
 
-    /// Prints a picture: rows from top to bottom, dots from left to right, true is black.
-    /// One without dots sends nothing. Throws the int -1, and sends nothing, when rows differ in
-    /// length or are wider than 65,535 dots.
-    void image(const std::vector<std::vector<bool>>& dots);
+    /// Prints a picture; one without dots sends nothing. Throws the int -1, and sends nothing, when
+    /// rows differ in length or are wider than 65,535 dots.
+    void image(const DotMatrix& dots);
 
-    /// The process's printer; null until initializePrinter succeeds. It is never destroyed.
+    /// The process's printer; null until initializePrinter succeeds. It is not destroyed at the
+    /// end.
     static Printer* instance;
 
 private:
-    struct EndContext
-    {
-        void operator()(libusb_context* context) const noexcept;
-    };
-    struct CloseDevice
-    {
-        void operator()(libusb_device_handle* handle) const noexcept;
-    };
-
     void initializeContext();
     void openFirst(std::pair<int, int> ids);
     void claim();
 
     int imageMode_ = 0;
-    std::unique_ptr<libusb_context, EndContext> context_;
-    std::unique_ptr<libusb_device_handle, CloseDevice> handle_;
+    Handle<libusb_context, libusb_exit> context_;
+    Handle<libusb_device_handle, libusb_close> handle_;
     bool writeFailed_ = false;
 };

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The one home of stb_image's code, with the formats that a shop logo comes in.
+// The only file that compiles stb_image, with the formats that a shop's logo may have.
 //
 // Known of the distribution's version 2.27, and not ours to correct: a damaged JPEG whose Huffman
 // tables claim more than 256 codes is written past those tables, into the decoder's other fields;
-// a PNM's overlong number wraps around. A till loads its own shop's logo, nobody else's.
+// a number in a PNM that is too long wraps around. A till loads only its own shop's logo.
 #include "Print/escpospp/StbImage.h"
 
 #include "Print/escpospp/EscPos.h"
@@ -12,24 +12,21 @@
 #include <cstdlib>
 
 namespace {
+/// Worst case, PNG: four samples of 16 bits, and one pixel per row plus its filter byte.
+constexpr std::size_t maxBytesPerPixel = 9;
 
-// In the hungriest of files, a PNG, a pixel has four samples of 16 bits and may be a row by itself,
-// with one byte ahead of it.
-constexpr std::size_t MaxBytesPerPixel = 9;
+/// In bytes. The decoder trusts the lengths in a damaged file and asks for gigabytes; its buffers
+/// grow by doubling, so no picture of a printable size needs more than this.
+constexpr std::size_t maxBuffer = 2 * maxBytesPerPixel * EscPos::maxPixels;
 
-// The decoder believes what a damaged file says of its own length, and asks for gigabytes. Its
-// buffers grow by doubling: no picture of a printable size needs more than this.
-constexpr std::size_t MaxBuffer = 2 * MaxBytesPerPixel * EscPos::MaxPixels;
-
-/// Like realloc, but without memory for more than MaxBuffer bytes; \a memory stays valid then.
+/// Like realloc, but without memory for more than maxBuffer bytes; \a memory stays valid then.
 void* resized(void* memory, std::size_t size)
 {
-    return size <= MaxBuffer ? std::realloc(memory, size) : nullptr;
+    return size <= maxBuffer ? std::realloc(memory, size) : nullptr;
 }
-
 } // namespace
 
-// A damaged file leaves parts of a picture unwritten; they must not show what memory held before.
+// The decoder does not write the parts that a damaged file lacks; they must not show old memory.
 #define STBI_MALLOC(size) std::calloc(1, size)
 #define STBI_REALLOC(memory, size) resized(memory, size)
 #define STBI_FREE(memory) std::free(memory)

@@ -11,7 +11,7 @@ point_at row FormVendel tableView1 "Bière blonde"
 await "a tip over the menu" is_seen tip
 expect "the tip" "$(seen tip)" "Menu Click sur : Bière blonde Pour l'ajouter au ticket"
 picture tip
-# The tip stands under the mouse, and a click goes through it.
+# The tip is under the mouse, and a click goes through it.
 xdotool click 1
 await_rows "an article through the tip" "select article from Ticket" "Bière blonde"
 press_row FormVendel tableView2 "Bière blonde"

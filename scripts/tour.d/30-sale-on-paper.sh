@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034,SC2154
-# The printer switch is on: without a printer the ticket stays, with one the receipt comes out.
+# The printer switch is on: without a printer the ticket stays, with one the receipt is printed.
 
 paper_shop=$(new_shop paper)
 sqlite3 "$paper_shop/Vendel.db" "update Config set valeur = 1 where param = 'Epson TM-T20II'"

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034,SC2154
-# The owner puts an article on the menu, looks one up, re-prices it and takes a doubled one off.
+# The owner puts an article on the menu, looks one up, changes its price and removes a duplicate.
 
 start_till "$(new_shop articles)"
 dismiss_splash
@@ -44,7 +44,7 @@ await_rows "the doubled article is gone" \
     "select group_concat(prix) from Article where article = 'Limonade'" "2.9"
 leave FormVendelSaisieArticle
 
-# Nothing is doubled any more: the menu comes without a box.
+# There is no duplicate any more: the menu comes without a box.
 press FormVendel btn_Afficher
 scroll_menu_to "Sirop d'orgeat"
 stop_till

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034,SC2154
-# The rate, the printer switch, the receipt's header, and what the till says of itself.
+# The rate, the printer switch, the receipt's header, and the about window.
 
 start_till "$(new_shop settings)"
 dismiss_splash

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034,SC2154
-# New articles come into the stock, one gets a recipe, a withdrawn one's recipe moves to its
-# successor, and the month's consumption is reckoned.
+# New articles are added to the stock, one gets a recipe, a withdrawn one's recipe moves to its
+# successor, and the month's consumption is computed.
 
 start_till "$(new_shop stock)"
 dismiss_splash

@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034,SC2154
-# What the tour and the faults are played with: the screen, the till, its windows, its shop, its
-# printer.
-# Nothing sleeps for a fixed time: what must become true is awaited.
+# What the tour uses: the screen, the till, its windows, its shop, its printer. It never sleeps for a
+# fixed time: it waits for what must become true.
 
 patience=30
 shop=""
@@ -23,12 +22,12 @@ clean_up() {
 trap clean_up EXIT
 trap 'exit 1' HUP INT TERM
 
-# start_display: a screen of its own for the till, in a session that nothing of the user's reaches.
+# start_display: a private X server and session.
 start_display() {
     mkdir -m 700 "$work/runtime"
     export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 TZ=Europe/Paris XDG_RUNTIME_DIR="$work/runtime"
     unset WAYLAND_DISPLAY QT_STYLE_OVERRIDE QT_SCALE_FACTOR
-    # A server that resets when its last client goes would refuse the next one for a moment.
+    # A server that resets after its last client refuses the next one for a moment.
     Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 -noreset -nolisten tcp \
         3>"$work/display" 2>"$work/display.log" &
     display_pid=$!
@@ -37,7 +36,7 @@ start_display() {
     export DISPLAY
 }
 
-# broken WHAT: ends the script; the screen as it was stays beside its other results as broken.png.
+# broken WHAT: ends the script, and leaves a picture of the screen with its other results: broken.png.
 broken() {
     import -window root "$out/broken.png" 2>/dev/null || true
     [ ! -s "$out/till.log" ] || tail -n 20 "$out/till.log" >&2
@@ -68,10 +67,10 @@ answers() { [ "$(ask "$1" 2>/dev/null)" = "$2" ]; }
 await_rows() { await "$1" answers "$2" "$3"; }
 quoted() { printf "'%s'" "${1//\'/\'\'}"; }
 
-# What stands on the screen, as tests/scripts/TourEye.cpp writes it down: a thing a line, its words
-# separated by tabs. A window goes by its class, a box by its title.
+# What is on the screen, as tests/scripts/TourEye.cpp writes it: one thing on a line, its words separated
+# by tabs. A window is known by its class, a box by its title.
 
-# seen WORD...: the last word of the first thing that begins with these words; fails without one.
+# seen WORD...: the last word of the first line that begins with these words; fails without one.
 seen() {
     local words
     words=$(printf '%s\t' "$@")
@@ -87,7 +86,7 @@ await_no_window() { await "end of window \"$1\"" is_gone window "$1"; }
 await_box() { await "box \"$1\"" is_seen box "$1"; }
 
 # place_of KIND WINDOW NAME [TEXT]: the middle of a thing, as "x y". Rows and buttons without a name
-# are told by their text; a row's text is that of its columns, joined by "|", or of one of them.
+# are found by their text; a row's text is that of its columns, joined by "|", or of one of them.
 place_of() {
     awk -v kind="$1" -v window="$2" -v name="$3" -v text="${4-}" 'BEGIN { FS = "\t" }
         $1 != kind { next }
@@ -147,7 +146,7 @@ pick() {
     await_text "$1" "$2" "$3"
 }
 
-# fill WINDOW FIELD TEXT: types the text in place of what the field holds.
+# fill WINDOW FIELD TEXT: replaces the field's text by typing.
 fill() {
     press "$1" "$2"
     xdotool key ctrl+a Delete
@@ -156,7 +155,7 @@ fill() {
     await_text "$1" "$2" "$3"
 }
 
-# answer TITLE BUTTON [PICTURE]: waits for a box, and sends it away.
+# answer TITLE BUTTON [PICTURE]: waits for a box and presses its button.
 answer() {
     await_box "$1"
     [ -z "${3-}" ] || picture "$3"
@@ -166,7 +165,7 @@ answer() {
 
 # leave WINDOW: closes a dialog as its user may.
 leave() {
-    # Without a window manager nobody gives the keyboard back when a window closes.
+    # Without a window manager, nothing restores the keyboard focus when a window closes.
     is_seen active "$1" || xdotool windowfocus "$(seen window "$1")"
     await "the keyboard for $1" is_seen active "$1"
     xdotool key Escape
@@ -176,7 +175,7 @@ leave() {
 # The pictures
 
 screen_sum() {
-    # The clock never stands still.
+    # The clock always changes.
     import -window root -depth 8 rgb:- \
         | convert -size 1366x768 -depth 8 rgb:- -fill black -draw 'rectangle 980,95 1210,121' rgb:- \
         | md5sum
@@ -188,7 +187,7 @@ stands_still() {
     [ "$last_sum" = "$before" ]
 }
 
-# picture NAME: the windows on the screen, once they stand still.
+# picture NAME: the windows on the screen, once they stop changing.
 picture() {
     last_sum=""
     await "a quiet screen" stands_still
@@ -210,7 +209,7 @@ start_till() {
     await_window FormVendel
 }
 
-# The splash goes by itself after five seconds; the cashier need not wait for it.
+# The splash closes itself after five seconds; the cashier need not wait for it.
 dismiss_splash() {
     await_window FormVendelStart
     leave FormVendelStart
@@ -241,7 +240,7 @@ start_printer() {
     export UMOCKDEV_DIR
 }
 
-# The printer ends after the till, which would be ended by its next request otherwise.
+# The printer ends after the till, whose next request to it would otherwise end the till.
 stop_printer() {
     unset UMOCKDEV_DIR
     [ -n "$printer_pid" ] || return 0

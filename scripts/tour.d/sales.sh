@@ -2,7 +2,7 @@
 # shellcheck shell=bash disable=SC2034,SC2154
 # What a cashier does on the sales screen.
 
-# type_amount BUTTON...: the keypad's buttons by their number in the form.
+# type_amount BUTTON...: presses keypad buttons, by their number in the form.
 type_amount() {
     local button
     for button in "$@"; do
@@ -37,7 +37,7 @@ sell() {
     await_rows "$1 on the ticket" "$lines" $((before + times))
 }
 
-# show_menu [PICTURE]: "Afficher" tells of the doubled name in the sample shop.
+# show_menu [PICTURE]: "Afficher" reports the duplicate name in the sample shop.
 show_menu() {
     press FormVendel btn_Afficher
     answer Doublon OK "${1-}"

@@ -8,9 +8,17 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <string>
 #include <utility>
 
-inline constexpr std::pair<int, int> ReceiptPrinter{0x04B8, 0x0E15};
+/// The vendor and product ids of the printer that receipts go to.
+inline constexpr std::pair<int, int> receiptPrinter{0x04B8, 0x0E15};
+
+/// \a bytes as hexadecimal text.
+inline QByteArray hexOf(const std::string& bytes)
+{
+    return QByteArray::fromStdString(bytes).toHex();
+}
 
 /// The bytes of each transfer as hexadecimal text; one that was not taken whole has its result
 /// in front.
@@ -18,7 +26,7 @@ inline QStringList transfersOf(const EmulatedPrinter& printer)
 {
     QStringList list;
     for (const auto& transfer : printer.transfers()) {
-        const QString hex = QString::fromLatin1(QByteArray::fromStdString(transfer.bytes).toHex());
+        const QString hex = QString::fromLatin1(hexOf(transfer.bytes));
         list += transfer.result == "taken" ? hex
                                            : QString::fromStdString(transfer.result) + ' ' + hex;
     }
@@ -49,5 +57,5 @@ template <class Body> int thrownInt(Body&& body)
 /// The same for taking the printer over.
 inline int thrownByInitializing()
 {
-    return thrownInt([] { Printer::initializePrinter(ReceiptPrinter); });
+    return thrownInt([] { Printer::initializePrinter(receiptPrinter); });
 }

@@ -17,10 +17,27 @@ public:
     Shop shop;
     FormVendel window;
 
-    Till()
+    /// The statements \a sql fill the shop's database before the sales screen opens.
+    explicit Till(const char* sql = "")
     {
+        shop.fill(sql);
         window.show();
-        window.findChild<FormVendelStart*>()->close();
+        child<FormVendelStart>(window, "FormVendelStart").close();
+        const bool isExposed = QTest::qWaitForWindowExposed(&window);
+        window.activateWindow();
+        if (!isExposed || !QTest::qWaitForWindowActive(&window)) {
+            qFatal("the sales screen does not open");
+        }
+    }
+
+    /// The names in the list "tableView1" (menu) or "tableView2" (ticket), parted by "|".
+    QString names(const char* list)
+    {
+        QStringList texts;
+        for (int row = 0; row < rowCount(window, list); ++row) {
+            texts << rowTexts(window, list, row).at(2);
+        }
+        return texts.join(QLatin1Char('|'));
     }
 
     /// Sets the printer's switch.
@@ -126,6 +143,15 @@ inline bool saysNotConnected(const AnswerBox& box, const Till& till)
 {
     return box.title() == QStringLiteral("Payer")
         && box.text() == QStringLiteral("Imprimante non connectée")
+        && box.icon() == QMessageBox::Information && box.buttons() == QMessageBox::Ok
+        && box.parent() == &till.window && box.strays() == 0;
+}
+
+/// Whether \a box is the notice that the sale is not in the history and the ticket is kept.
+inline bool saysNotRecorded(const AnswerBox& box, const Till& till)
+{
+    return box.title() == QStringLiteral("Payer")
+        && box.text() == QStringLiteral("La vente n'est pas enregistrée\nLe ticket est gardé")
         && box.icon() == QMessageBox::Information && box.buttons() == QMessageBox::Ok
         && box.parent() == &till.window && box.strays() == 0;
 }

@@ -26,6 +26,10 @@
 <context>
     <name>FormVendel</name>
     <message>
+        <source>Vendel</source>
+        <translation>The till</translation>
+    </message>
+    <message>
         <source>Payer</source>
         <translation>Pay now</translation>
     </message>

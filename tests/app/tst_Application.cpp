@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "app/Application.h"
 #include "app/FormVendel.h"
 #include "app/FormVendelStart.h"
 #include "common/Messages.h"
+#include "tests/support/BoxGuard.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
 #include "tests/support/Widgets.h"
+#include "widgets/Application.h"
 
 #include <QApplication>
 #include <QFontInfo>
@@ -14,6 +15,8 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTranslator>
+
+#include <sys/stat.h>
 
 class TestApplication : public QObject
 {
@@ -27,7 +30,16 @@ private slots:
     void withoutATranslationTheTextsAreFrench();
     void qtsOwnTextsAreFrench();
     void theTranslationOfTheWorkingDirectoryIsShown();
-    void theTranslationMayHaveItsSuffix();
+    void theTranslationIsFoundUnderEachOfItsNames_data();
+    void theTranslationIsFoundUnderEachOfItsNames();
+    void noOtherNameIsTried_data();
+    void noOtherNameIsTried();
+    void theFirstFileOfTheNamesDecides();
+    void aFileThatMustNotBeReadCountsAsMissing();
+    void aTranslationThatNamesAnotherFileIsRefused_data();
+    void aTranslationThatNamesAnotherFileIsRefused();
+    void theTranslationOutlivesItsFile();
+    void theTillIsFrenchAgainWithoutItsTranslation();
     void theTranslationMayReplaceQtsTexts();
     void pluralsOfTheTranslationFollowTheCount();
     void aBrokenTranslationIsNoError();
@@ -114,12 +126,113 @@ void TestApplication::theTranslationOfTheWorkingDirectoryIsShown()
     QCOMPARE(child<QLabel>(splash, "lbl_Titre").text(), QStringLiteral("Vendel System"));
 }
 
-void TestApplication::theTranslationMayHaveItsSuffix()
+void TestApplication::theTranslationIsFoundUnderEachOfItsNames_data()
 {
+    QTest::addColumn<QString>("name");
+    for (const char* name :
+        {"FormVendelTr_Us.qm", "FormVendelTr_Us", "FormVendelTr.qm", "FormVendelTr"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void TestApplication::theTranslationIsFoundUnderEachOfItsNames()
+{
+    QFETCH(QString, name);
     const Shop shop;
-    installTranslationFile(translationName + QStringLiteral(".qm"));
+    const CapturedLog log;
+    installTranslationFile(name);
     setUp();
     QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Ticket total"));
+    QCOMPARE(log.criticals(), QStringList());
+}
+
+void TestApplication::noOtherNameIsTried_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"FormVendel.qm", "FormVendel", "FormVendelTr_", "FormVendelTr_Us.ts",
+             "FormVendelTr_Us.qm.qm", "formvendeltr_us.qm"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void TestApplication::noOtherNameIsTried()
+{
+    QFETCH(QString, name);
+    const Shop shop;
+    installTranslationFile(name);
+    setUp();
+    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
+}
+
+void TestApplication::theFirstFileOfTheNamesDecides()
+{
+    const Shop shop;
+    shop.write(QStringLiteral("FormVendelTr_Us.qm"), "not a translation");
+    installTranslationFile(translationName);
+    setUp();
+    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
+    QVERIFY(QFile::rename(QStringLiteral("FormVendelTr_Us.qm"), QStringLiteral("FormVendelTr.qm")));
+    setUp();
+    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Ticket total"));
+}
+
+void TestApplication::aFileThatMustNotBeReadCountsAsMissing()
+{
+    const Shop shop;
+    const CapturedLog log;
+    QVERIFY(mkfifo("FormVendelTr_Us.qm", 0600) == 0);
+    installTranslationFile(translationName);
+    QVERIFY(QFile::resize(translationName, 4'194'305));
+    installTranslationFile(QStringLiteral("FormVendelTr"));
+    setUp();
+    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Ticket total"));
+    QCOMPARE(log.criticals(),
+        (QStringList{QStringLiteral("FormVendelTr_Us.qm is not read: it is not a regular file"),
+            QStringLiteral("FormVendelTr_Us is not read: it is larger than 4 MB")}));
+}
+
+void TestApplication::aTranslationThatNamesAnotherFileIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const Shop shop;
+    const QByteArray recursive = shop.read(QStringLiteral(RECURSIVE_TRANSLATION_FILE));
+    const auto magic = recursive.left(16);
+    const QByteArray section(
+        "\x96\0\0\0\x22\0\0\0\x1e\0F\0o\0r\0m\0V\0e\0n\0d\0e\0l\0T\0r\0_\0U\0s", 39);
+    QTest::newRow("as the compiler writes it") << recursive;
+    QTest::newRow("alone") << magic + section;
+    QTest::newRow("behind another section") << magic + QByteArray("\x42\0\0\0\x01x", 6) + section;
+    QTest::newRow("behind an empty section") << magic + QByteArray("\x42\0\0\0\0", 5) + section;
+}
+
+void TestApplication::aTranslationThatNamesAnotherFileIsRefused()
+{
+    QFETCH(QByteArray, bytes);
+    const Shop shop;
+    const CapturedLog log;
+    shop.write(translationName, bytes);
+    setUp();
+    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
+    QCOMPARE(log.criticals(),
+        QStringList(QStringLiteral("FormVendelTr_Us is not shown: it names another file to load")));
+}
+
+void TestApplication::theTranslationOutlivesItsFile()
+{
+    const Shop shop;
+    installTranslationFile(translationName);
+    setUp();
+    shop.write(translationName, "not a translation");
+    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Ticket total"));
+}
+
+void TestApplication::theTillIsFrenchAgainWithoutItsTranslation()
+{
+    const Shop shop;
+    installTranslationFile(translationName);
+    setUp();
+    cleanup();
+    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
 }
 
 void TestApplication::theTranslationMayReplaceQtsTexts()
@@ -164,6 +277,7 @@ int main(int argc, char* argv[])
 {
     Application::setAttributes();
     QApplication application(argc, argv);
+    const BoxGuard guard;
     TestApplication tests;
     return QTest::qExec(&tests, argc, argv);
 }

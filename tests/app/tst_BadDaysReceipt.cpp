@@ -4,6 +4,8 @@
 #include "tests/support/EmulatedPrinter.h"
 #include "tests/support/TestMain.h"
 
+#include <sys/stat.h>
+
 class TestBadDaysReceipt : public QObject
 {
     Q_OBJECT
@@ -11,10 +13,30 @@ class TestBadDaysReceipt : public QObject
 private slots:
     void anyNameIsSoldOnTheScreen_data();
     void anyNameIsSoldOnTheScreen();
+    void controlCharactersAreBlanksOnTheScreen();
+    void controlCharactersAreBlanksOnPaper();
     void aNameOfTenThousandLettersIsPrinted();
     void aHeaderThatIsNoUtf8KeepsTheTicketOnPaperAndNotOnTheScreen();
     void aHeaderOfAMegabyteIsPrinted();
+    void framesThatMustNotBeReadAreLeftOutOnPaper();
+    void framesThatMustNotBeReadAreLeftOutOnTheScreen();
 };
+
+namespace {
+/// A header that nobody writes to, and a footer of a terabyte.
+void makeUnreadableFrames(const Till& till)
+{
+    QVERIFY(mkfifo("EnteteFormulaire.dat", 0600) == 0);
+    till.shop.write(QStringLiteral("PiedFormulaire.dat"), "Merci");
+    QVERIFY(QFile::resize(QStringLiteral("PiedFormulaire.dat"), 1LL << 40));
+}
+
+QStringList linesAboutFrames()
+{
+    return {QStringLiteral("EnteteFormulaire.dat is not read: it is not a regular file"),
+        QStringLiteral("PiedFormulaire.dat is not read: it is larger than 4 MB")};
+}
+} // namespace
 
 void TestBadDaysReceipt::anyNameIsSoldOnTheScreen_data()
 {
@@ -22,7 +44,6 @@ void TestBadDaysReceipt::anyNameIsSoldOnTheScreen_data()
     QTest::newRow("10,000 letters") << QString(10'000, QLatin1Char('x'));
     QTest::newRow("10,000 quotes") << QString(10'000, QLatin1Char('\''));
     QTest::newRow("quotes and semicolons") << QStringLiteral("l'eau\";'); drop table Ticket; --");
-    QTest::newRow("control characters") << QStringLiteral("a\x01\x1b\x7f\tz");
     QTest::newRow("an emoji") << QStringLiteral("Bière 🍺");
     QTest::newRow("right-to-left text") << QStringLiteral("قهوة");
     QTest::newRow("a ligature") << QStringLiteral("cœur");
@@ -44,6 +65,42 @@ void TestBadDaysReceipt::anyNameIsSoldOnTheScreen()
     QVERIFY(till.takeReceipt().contains(QLatin1String("\n1  ") + name));
     QCOMPARE(till.ticket(), QStringList());
     QVERIFY(till.sellsOnScreen());
+}
+
+void TestBadDaysReceipt::controlCharactersAreBlanksOnTheScreen()
+{
+    Till till;
+    till.shop.write(QStringLiteral("EnteteFormulaire.dat"), "titre:Chez\x1bp0 Paul\n12\x1drue X");
+    till.shop.write(QStringLiteral("PiedFormulaire.dat"), "Merci\x7f!");
+    till.sell("a\x01\x1b\x7f\tz", "2.5");
+    till.pay();
+    const QString receipt = till.takeReceipt();
+    QVERIFY(receipt.startsWith(
+        QStringLiteral("Chez p0 Paul\n                   12 rue X                   \n")));
+    QVERIFY(receipt.contains(QStringLiteral("\n1  a   \tz         \t$2.50       $2.50\n")));
+    QVERIFY(
+        receipt.contains(QStringLiteral("\n                    Merci !                    \n")));
+    // The history keeps the name as it was sold.
+    QCOMPARE(till.history(), QStringList(QStringLiteral("7 a\x01\x1b\x7f\tz 2.5")));
+}
+
+void TestBadDaysReceipt::controlCharactersAreBlanksOnPaper()
+{
+    const EmulatedPrinter printer;
+    Till till;
+    till.setSwitch("1");
+    till.shop.write(QStringLiteral("EnteteFormulaire.dat"), "titre:Chez\x1bp0 Paul\n12\x1drue X");
+    till.shop.write(QStringLiteral("PiedFormulaire.dat"), "Merci\x7f!");
+    till.sell("\x1bp0zz", "2.5");
+    till.pay();
+    QCOMPARE(printer.transfers().size(), 2U);
+    const QByteArray bytes = QByteArray::fromStdString(printer.transfers().at(0).bytes);
+    QVERIFY(bytes.startsWith("\x1b\x21\x30\x1b\x61\x01"
+                             "Chez p0 Paul\r\n\x1b\x21\x02\x1b\x61\x30\x1b\x45\x01"
+                             "                   12 rue X                   \r\n\x1b\x45\x02"));
+    QVERIFY(bytes.contains("\r\n1   p0zz          \t$2.50       $2.50\r\n"));
+    QVERIFY(bytes.endsWith("\r\n                    Merci !                    \r\n"));
+    QCOMPARE(till.history(), QStringList(QStringLiteral("7 \x1bp0zz 2.5")));
 }
 
 void TestBadDaysReceipt::aNameOfTenThousandLettersIsPrinted()
@@ -95,6 +152,33 @@ void TestBadDaysReceipt::aHeaderOfAMegabyteIsPrinted()
     QVERIFY(receipt.requested > 55 * 100'000U);
     QCOMPARE(till.ticket(), QStringList());
     QVERIFY(till.sellsOnScreen());
+}
+
+void TestBadDaysReceipt::framesThatMustNotBeReadAreLeftOutOnPaper()
+{
+    const EmulatedPrinter printer;
+    Till till;
+    makeUnreadableFrames(till);
+    const CapturedLog log;
+    till.sellOnPaper();
+    QCOMPARE(printer.transfers().size(), 2U);
+    const QByteArray bytes = QByteArray::fromStdString(printer.transfers().at(0).bytes);
+    QVERIFY(bytes.startsWith("\r\n\r\nProduit"));
+    QVERIFY(bytes.endsWith("\x1b\x45\x02\x1b\x21\x02\r\n"));
+    QCOMPARE(till.ticket(), QStringList());
+    QCOMPARE(log.criticals(), linesAboutFrames());
+}
+
+void TestBadDaysReceipt::framesThatMustNotBeReadAreLeftOutOnTheScreen()
+{
+    Till till;
+    makeUnreadableFrames(till);
+    const CapturedLog log;
+    till.sell("Thé", "2.5");
+    till.pay();
+    QVERIFY(till.takeReceipt().startsWith(QStringLiteral("\n\nProduit")));
+    QCOMPARE(till.ticket(), QStringList());
+    QCOMPARE(log.criticals(), linesAboutFrames());
 }
 
 VENDEL_TEST_MAIN(TestBadDaysReceipt)

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "tests/app/StartedTill.h"
 #include "tests/support/Shop.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QImage>
-#include <QProcess>
+#include <QRect>
 #include <QTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 /// The program itself, started in a shop on a screen of 1366 x 768.
 class TestExecutable : public QObject
@@ -15,76 +20,37 @@ class TestExecutable : public QObject
 private slots:
     void opensInTheMiddleOfTheScreenBehindItsSplash();
     void showsTheIconOfItsFolder();
+    void startsWithAnIconThatNobodyWrites();
     void startsInAnEmptyFolder();
     void saysThatThePrinterIsOn();
+    void livesOnWhenNobodyReadsItsOutput();
 };
 
 namespace {
-QByteArray run(const QString& tool, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(tool, arguments);
-    process.waitForFinished();
-    return process.readAllStandardOutput();
-}
-
-QByteArray xdotool(const QStringList& arguments)
-{
-    return run(QStringLiteral("xdotool"), arguments);
-}
-
-/// The X identity of the visible window with the given title, empty when there is none.
-QString window(const char* title)
-{
-    const QByteArray found = xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-        QStringLiteral("--name"), QLatin1Char('^') + QString::fromUtf8(title) + QLatin1Char('$')});
-    return QString::fromLatin1(found.left(found.indexOf('\n'))).trimmed();
-}
-
 QRect geometry(const QString& id)
 {
-    const QByteArray text
-        = xdotool({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), id});
+    const QByteArray text = outputOf(QStringLiteral("xdotool"),
+        {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), id});
     const auto value = [&](const QByteArray& name) {
         const auto start = text.indexOf('\n' + name + '=') + name.size() + 2;
         return text.mid(start, text.indexOf('\n', start) - start).toInt();
     };
     return {value("X"), value("Y"), value("WIDTH"), value("HEIGHT")};
 }
-
-/// The till, started in the working directory.
-struct Till
-{
-    QProcess process;
-
-    Till()
-    {
-        process.start(QStringLiteral(TILL), QStringList());
-    }
-    ~Till()
-    {
-        process.terminate();
-        process.waitForFinished();
-    }
-    Till(const Till&) = delete;
-    Till& operator=(const Till&) = delete;
-    Till(Till&&) = delete;
-    Till& operator=(Till&&) = delete;
-};
 } // namespace
 
 void TestExecutable::opensInTheMiddleOfTheScreenBehindItsSplash()
 {
     const Shop shop;
-    const Till till;
-    QTRY_VERIFY_WITH_TIMEOUT(!window("Dialog").isEmpty(), 20000);
+    const StartedTill till;
+    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Dialog").isEmpty(), 20000);
     QElapsedTimer timer;
     timer.start();
-    QCOMPARE(geometry(window("Vendel")), QRect(158, 71, 1050, 626));
-    QCOMPARE(geometry(window("Dialog")), QRect(302, 220, 445, 186));
-    QTRY_VERIFY_WITH_TIMEOUT(window("Dialog").isEmpty(), 20000);
+    QCOMPARE(geometry(windowTitled("Vendel")), QRect(158, 71, 1050, 626));
+    QCOMPARE(geometry(windowTitled("Dialog")), QRect(302, 220, 445, 186));
+    QTRY_VERIFY_WITH_TIMEOUT(windowTitled("Dialog").isEmpty(), 20000);
     QVERIFY2(timer.elapsed() > 3500, qPrintable(QString::number(timer.elapsed())));
-    QVERIFY(!window("Vendel").isEmpty());
+    QVERIFY(!windowTitled("Vendel").isEmpty());
 }
 
 void TestExecutable::showsTheIconOfItsFolder()
@@ -93,19 +59,29 @@ void TestExecutable::showsTheIconOfItsFolder()
     QImage icon(4, 4, QImage::Format_ARGB32);
     icon.fill(QColor(1, 2, 3));
     QVERIFY(icon.save(QStringLiteral("Vendel.png")));
-    const Till till;
-    QTRY_VERIFY_WITH_TIMEOUT(!window("Vendel").isEmpty(), 20000);
-    const QByteArray property = run(QStringLiteral("xprop"),
-        {QStringLiteral("-id"), window("Vendel"), QStringLiteral("-f"),
+    const StartedTill till;
+    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
+    const QByteArray property = outputOf(QStringLiteral("xprop"),
+        {QStringLiteral("-id"), windowTitled("Vendel"), QStringLiteral("-f"),
             QStringLiteral("_NET_WM_ICON"), QStringLiteral("32c"), QStringLiteral("_NET_WM_ICON")});
     QVERIFY2(property.contains("4, 4, 4278256131"), property.constData());
+}
+
+void TestExecutable::startsWithAnIconThatNobodyWrites()
+{
+    const Shop shop;
+    QVERIFY(mkfifo("Vendel.png", 0600) == 0);
+    StartedTill till;
+    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
+    QVERIFY(till.process.readAllStandardError().contains(
+        "Vendel.png is not read: it is not a regular file\n"));
 }
 
 void TestExecutable::startsInAnEmptyFolder()
 {
     const Shop shop(Shop::Database::None);
-    Till till;
-    QTRY_VERIFY_WITH_TIMEOUT(!window("Vendel").isEmpty(), 20000);
+    StartedTill till;
+    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
     QCOMPARE(shop.sql("select param, valeur from Config"),
         (DbRows{{"TVA", "0"}, {"Epson TM-T20II", "0"}}));
     QCOMPARE(till.process.readAllStandardOutput(), QByteArray());
@@ -116,10 +92,31 @@ void TestExecutable::saysThatThePrinterIsOn()
 {
     const Shop shop;
     shop.sql("update Config set valeur = 1 where param = 'Epson TM-T20II'");
-    Till till;
+    StartedTill till;
     QByteArray log;
     QTRY_VERIFY_WITH_TIMEOUT(
         (log += till.process.readAllStandardError()).contains("Warning Epson to 1 (ON)\n"), 20000);
+}
+
+void TestExecutable::livesOnWhenNobodyReadsItsOutput()
+{
+    const Shop shop;
+    shop.sql("drop table Config");
+    shop.sql("drop table Ticket");
+    QVERIFY(mkfifo("output", 0600) == 0);
+    const int reader = open("output", O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    QVERIFY(reader >= 0);
+    StartedTill till(0, QStringLiteral("output"));
+    QVERIFY(till.process.waitForStarted());
+    close(reader);
+    // The start reads the settings, "Payer" the ticket: two reports that nobody takes.
+    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Dialog").isEmpty(), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(windowTitled("Dialog").isEmpty(), 20000);
+    outputOf(QStringLiteral("xdotool"),
+        {QStringLiteral("mousemove"), QStringLiteral("1068"), QStringLiteral("662"),
+            QStringLiteral("click"), QStringLiteral("1")});
+    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Payer").isEmpty(), 20000);
+    QCOMPARE(till.process.state(), QProcess::Running);
 }
 
 QTEST_GUILESS_MAIN(TestExecutable)

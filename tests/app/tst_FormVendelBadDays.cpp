@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/BadDays.h"
 #include "tests/support/Captured.h"
-#include "tests/support/Counter.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Widgets.h"
 
@@ -40,13 +40,13 @@ constexpr auto oneLine = "insert into Article (article, prix) values ('Thé', 2)
 
 /// Presses every button of the sales screen but "Payer", sends their boxes away and returns the
 /// titles of the boxes.
-QStringList pressEverything(QWidget& form)
+QStringList pressEverything(QWidget& window)
 {
     QStringList titles;
     for (const auto* button : {"btn_Afficher", "btn_Ticket", "btn_Total_Ticket", "btn_1", "btn_12",
              "btn_13", "btn_Effacer_Saisie", "btn_Effacer_Ticket"}) {
         AnswerBox box;
-        click(form, button);
+        click(window, button);
         if (box.wasShown()) {
             titles << box.title();
         }
@@ -64,11 +64,11 @@ void TestFormVendelBadDays::aDatabaseThatIsADirectoryLeavesTheWindowUsable()
     QVERIFY(QDir().mkdir(QStringLiteral("Vendel.db")));
     const CapturedLog log;
     CapturedOutput output;
-    FormVendel form;
-    form.show();
-    QCOMPARE(pressEverything(form), titlesOfAnEmptyShop);
+    FormVendel window;
+    window.show();
+    QCOMPARE(pressEverything(window), titlesOfAnEmptyShop);
     QCOMPARE(log.criticals(), QStringList());
-    QVERIFY(form.isVisible());
+    QVERIFY(window.isVisible());
     const QByteArray lines = output.text();
     QVERIFY(lines.startsWith("Not open database successfully\n"
                              "Errors Db::DbLoad sqlite3_errmsg : select valeur from Config where "
@@ -84,9 +84,9 @@ void TestFormVendelBadDays::aFileThatIsNoDatabaseLeavesTheWindowUsable()
     shop.write(QStringLiteral("Vendel.db"), letter);
     const CapturedLog log;
     CapturedOutput output;
-    FormVendel form;
-    form.show();
-    QCOMPARE(pressEverything(form), titlesOfAnEmptyShop);
+    FormVendel window;
+    window.show();
+    QCOMPARE(pressEverything(window), titlesOfAnEmptyShop);
     QCOMPARE(log.criticals(), QStringList());
     QVERIFY(output.text().contains("Errors Db::DbLoad sqlite3_errmsg : select * from Ticket "
                                    "file is not a database\n"));
@@ -95,10 +95,10 @@ void TestFormVendelBadDays::aFileThatIsNoDatabaseLeavesTheWindowUsable()
 
 void TestFormVendelBadDays::aMissingTableIsAnEmptyOne()
 {
-    Counter counter("drop table Ticket; drop table Article");
+    Till counter("drop table Ticket; drop table Article");
     const CapturedLog log;
     CapturedOutput output;
-    QCOMPARE(pressEverything(counter.form), titlesOfAnEmptyShop);
+    QCOMPARE(pressEverything(counter.window), titlesOfAnEmptyShop);
     QCOMPARE(log.criticals(), QStringList());
     QVERIFY(output.text().contains("Errors Db::DbLoad sqlite3_errmsg : select * from Article "
                                    "order by Article asc no such table: Article\n"));
@@ -108,62 +108,62 @@ void TestFormVendelBadDays::aMissingTableIsAnEmptyOne()
 
 void TestFormVendelBadDays::aReadOnlyDatabaseKeepsItsTicket()
 {
-    Counter counter(oneLine);
-    click(counter.form, "btn_Afficher");
+    Till counter(oneLine);
+    click(counter.window, "btn_Afficher");
     QVERIFY(chmod("Vendel.db", 0444) == 0);
     QVERIFY(chmod(".", 0777) == 0);
     const OrdinaryUser user;
     const CapturedLog log;
     CapturedOutput output;
-    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(output.text(),
         QByteArray("Errors Db::DbLoad sqlite3_errmsg : insert into Ticket (id, article, prix) "
                    "values (1, 'Thé', 2) attempt to write a readonly database\n"));
     QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
-    clickCell(counter.form, "tableView2", 0, 2);
+    clickCell(counter.window, "tableView2", 0, 2);
     QVERIFY(output.text().endsWith("Errors Db::DbLoad sqlite3_errmsg : delete from Ticket where "
                                    "idlig = 1 attempt to write a readonly database\n"));
     QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
-    click(counter.form, "btn_Effacer_Ticket");
-    QCOMPARE(rowCount(counter.form, "tableView2"), 0);
-    click(counter.form, "btn_Ticket");
+    click(counter.window, "btn_Effacer_Ticket");
+    QCOMPARE(rowCount(counter.window, "tableView2"), 0);
+    click(counter.window, "btn_Ticket");
     QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
     QCOMPARE(log.criticals(), QStringList());
 }
 
 void TestFormVendelBadDays::aFullFileSystemKeepsTheTicket()
 {
-    Counter counter(oneLine);
+    Till counter(oneLine);
     counter.shop.fill("insert into Article (article, prix) values (hex(zeroblob(50000)), 1)");
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     const CapturedLog log;
     CapturedOutput output;
     {
         const FileSizeLimit limit(static_cast<rlim_t>(QFile(QStringLiteral("Vendel.db")).size()));
-        clickCell(counter.form, "tableView1", 0, 2);
+        clickCell(counter.window, "tableView1", 0, 2);
         QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
     }
     QCOMPARE(counter.shop.cell("select count(*) from Ticket"), QStringLiteral("1"));
-    clickCell(counter.form, "tableView1", 1, 2);
+    clickCell(counter.window, "tableView1", 1, 2);
     QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé|Thé"));
     QCOMPARE(log.criticals(), QStringList());
 }
 
 void TestFormVendelBadDays::aLockedDatabaseKeepsTheTicket()
 {
-    Counter counter(oneLine);
-    child<QLineEdit>(counter.form, "txt_montant").setText(QStringLiteral("5"));
+    Till counter(oneLine);
+    child<QLineEdit>(counter.window, "txt_montant").setText(QStringLiteral("5"));
     CapturedOutput output;
     {
         // A reader of long patience: reading goes on, writing waits in vain.
         const OtherProcess backup("begin; select * from Config", 60'000'000);
-        click(counter.form, "btn_12");
+        click(counter.window, "btn_12");
     }
     QCOMPARE(output.text(),
         QByteArray("Errors Db::DbLoad sqlite3_errmsg : insert into Ticket(id, article, prix) "
                    "values (0, '----', 5) database is locked\n"));
     QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
-    click(counter.form, "btn_12");
+    click(counter.window, "btn_12");
     QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé|----"));
 }
 
@@ -193,26 +193,26 @@ void TestFormVendelBadDays::exceptionsAreLoggedUnderTheirNames_data()
 void TestFormVendelBadDays::exceptionsAreLoggedUnderTheirNames()
 {
     // Tables of another program that lack a column.
-    Counter counter("drop table Ticket; create table Ticket (idlig, id, article);"
-                    "insert into Ticket values (1, 1, 'Thé');"
-                    "drop table Article; create table Article (id, article);"
-                    "insert into Article values (1, 'Thé')");
-    child<QLineEdit>(counter.form, "txt_montant").setText(QStringLiteral("5"));
+    Till counter("drop table Ticket; create table Ticket (idlig, id, article);"
+                 "insert into Ticket values (1, 1, 'Thé');"
+                 "drop table Article; create table Article (id, article);"
+                 "insert into Article values (1, 'Thé')");
+    child<QLineEdit>(counter.window, "txt_montant").setText(QStringLiteral("5"));
     const CapturedLog log;
     CapturedOutput output;
-    click(counter.form, QTest::currentDataTag());
+    click(counter.window, QTest::currentDataTag());
     QTEST(log.criticals(), "criticals");
-    QVERIFY(counter.form.isVisible());
-    QVERIFY(child<QTableView>(counter.form, "tableView1").updatesEnabled());
-    QVERIFY(child<QTableView>(counter.form, "tableView2").updatesEnabled());
-    QCOMPARE(child<QLineEdit>(counter.form, "txt_montant").text(), QStringLiteral("5"));
+    QVERIFY(counter.window.isVisible());
+    QVERIFY(child<QTableView>(counter.window, "tableView1").updatesEnabled());
+    QVERIFY(child<QTableView>(counter.window, "tableView2").updatesEnabled());
+    QCOMPARE(child<QLineEdit>(counter.window, "txt_montant").text(), QStringLiteral("5"));
 }
 
 void TestFormVendelBadDays::anExceptionBehindAClickIsLogged()
 {
-    Counter counter(oneLine);
-    click(counter.form, "btn_Afficher");
-    click(counter.form, "btn_Ticket");
+    Till counter(oneLine);
+    click(counter.window, "btn_Afficher");
+    click(counter.window, "btn_Ticket");
     counter.shop.fill("alter table Ticket drop column prix;"
                       "insert into Ticket (id, article) values (1, 'Eau')");
     const QString missing = QStringLiteral("vector::_M_range_check: __n (which is 3) >= "
@@ -220,23 +220,23 @@ void TestFormVendelBadDays::anExceptionBehindAClickIsLogged()
     CapturedOutput output;
     {
         const CapturedLog log;
-        clickCell(counter.form, "tableView2", 0, 2);
+        clickCell(counter.window, "tableView2", 0, 2);
         QCOMPARE(log.criticals(),
             QStringList(QLatin1String("Errors FormVendel on_tableView2_clicked : ") + missing));
     }
     const CapturedLog log;
-    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(log.criticals(),
         QStringList(QLatin1String("Errors FormVendel on_tableView1_clicked : ") + missing));
 }
 
 void TestFormVendelBadDays::anExceptionInTheTotalsIsLogged()
 {
-    Counter counter("drop table Ticket; create table Ticket (idlig, id, article, preis);"
-                    "insert into Ticket values (1, 1, 'Thé', 2)");
+    Till counter("drop table Ticket; create table Ticket (idlig, id, article, preis);"
+                 "insert into Ticket values (1, 1, 'Thé', 2)");
     const CapturedLog log;
     CapturedOutput output;
-    click(counter.form, "btn_Total_Ticket");
+    click(counter.window, "btn_Total_Ticket");
     QCOMPARE(log.criticals(),
         QStringList(QStringLiteral("Errors on_btn_Total_Ticket_clicked : vector::_M_range_check: "
                                    "__n (which is 0) >= this->size() (which is 0)")));
@@ -245,16 +245,16 @@ void TestFormVendelBadDays::anExceptionInTheTotalsIsLogged()
 
 void TestFormVendelBadDays::aPriceThatIsNoNumberCannotBeSold()
 {
-    Counter counter("insert into Article (article, prix) values ('Thé', 'cher'), ('Vin', '2,5'),"
-                    "('Eau', '')");
-    click(counter.form, "btn_Afficher");
-    QCOMPARE(rowTexts(counter.form, "tableView1", 0).at(3), QString());
-    QCOMPARE(rowTexts(counter.form, "tableView1", 1).at(3), QStringLiteral("cher"));
-    QCOMPARE(rowTexts(counter.form, "tableView1", 2).at(3), QStringLiteral("2,5"));
+    Till counter("insert into Article (article, prix) values ('Thé', 'cher'), ('Vin', '2,5'),"
+                 "('Eau', '')");
+    click(counter.window, "btn_Afficher");
+    QCOMPARE(rowTexts(counter.window, "tableView1", 0).at(3), QString());
+    QCOMPARE(rowTexts(counter.window, "tableView1", 1).at(3), QStringLiteral("cher"));
+    QCOMPARE(rowTexts(counter.window, "tableView1", 2).at(3), QStringLiteral("2,5"));
     const CapturedLog log;
     CapturedOutput output;
     for (const int row : {0, 1, 2}) {
-        clickCell(counter.form, "tableView1", row, 2);
+        clickCell(counter.window, "tableView1", row, 2);
     }
     const QByteArray insert = "Errors Db::DbLoad sqlite3_errmsg : insert into Ticket (id, article, "
                               "prix) values (";
@@ -262,17 +262,17 @@ void TestFormVendelBadDays::aPriceThatIsNoNumberCannotBeSold()
         insert + "3, 'Eau', ) near \")\": syntax error\n" + insert
             + "1, 'Thé', cher) no such column: cher\n" + insert
             + "2, 'Vin', 2,5) 4 values for 3 columns\n");
-    QCOMPARE(rowCount(counter.form, "tableView2"), 0);
+    QCOMPARE(rowCount(counter.window, "tableView2"), 0);
     QCOMPARE(log.criticals(), QStringList());
 }
 
 void TestFormVendelBadDays::aPriceThatIsNoNumberCountsAsNothing()
 {
-    Counter counter("insert into Ticket (id, article, prix) values (1, 'Thé', 'cher'),"
-                    "(1, 'Eau', 2)");
-    click(counter.form, "btn_Total_Ticket");
-    QCOMPARE(rowTexts(counter.form, "tableView2", 0).at(3), QStringLiteral("cher"));
-    QCOMPARE(rowTexts(counter.form, "tableView2", 2).at(3), QStringLiteral("2.00$"));
+    Till counter("insert into Ticket (id, article, prix) values (1, 'Thé', 'cher'),"
+                 "(1, 'Eau', 2)");
+    click(counter.window, "btn_Total_Ticket");
+    QCOMPARE(rowTexts(counter.window, "tableView2", 0).at(3), QStringLiteral("cher"));
+    QCOMPARE(rowTexts(counter.window, "tableView2", 2).at(3), QStringLiteral("2.00$"));
 }
 
 void TestFormVendelBadDays::namesOfAnyKindAreSold_data()
@@ -297,7 +297,7 @@ void TestFormVendelBadDays::namesOfAnyKindAreSold_data()
 void TestFormVendelBadDays::namesOfAnyKindAreSold()
 {
     QFETCH(QString, name);
-    Counter counter;
+    Till counter;
     QString quoted = name;
     quoted.replace(QLatin1Char('\''), QLatin1String("''"));
     counter.shop.sql((QLatin1String("insert into Article (article, prix) values ('") + quoted
@@ -306,14 +306,14 @@ void TestFormVendelBadDays::namesOfAnyKindAreSold()
                          .constData());
     const CapturedLog log;
     CapturedOutput output;
-    click(counter.form, "btn_Afficher");
-    QCOMPARE(rowTexts(counter.form, "tableView1", 0).at(2), name);
-    clickCell(counter.form, "tableView1", 0, 2);
-    QCOMPARE(rowTexts(counter.form, "tableView2", 0).at(2), name);
+    click(counter.window, "btn_Afficher");
+    QCOMPARE(rowTexts(counter.window, "tableView1", 0).at(2), name);
+    clickCell(counter.window, "tableView1", 0, 2);
+    QCOMPARE(rowTexts(counter.window, "tableView2", 0).at(2), name);
     QCOMPARE(counter.shop.cell("select article from Ticket"), name);
-    click(counter.form, "btn_Total_Ticket");
-    QCOMPARE(rowCount(counter.form, "tableView2"), 4);
-    clickCell(counter.form, "tableView2", 0, 2);
+    click(counter.window, "btn_Total_Ticket");
+    QCOMPARE(rowCount(counter.window, "tableView2"), 4);
+    clickCell(counter.window, "tableView2", 0, 2);
     QVERIFY(counter.shop.sql("select * from Ticket").empty());
     QCOMPARE(log.criticals(), QStringList());
     QCOMPARE(output.text(), QByteArray());
@@ -321,8 +321,8 @@ void TestFormVendelBadDays::namesOfAnyKindAreSold()
 
 void TestFormVendelBadDays::anArticleNamedInfinityIsMoney()
 {
-    Counter counter("insert into Article (article, prix) values ('inf', 1), ('nan', 1)");
-    click(counter.form, "btn_Afficher");
+    Till counter("insert into Article (article, prix) values ('inf', 1), ('nan', 1)");
+    click(counter.window, "btn_Afficher");
     QCOMPARE(counter.names("tableView1"), QStringLiteral("inf$|nan$"));
 }
 

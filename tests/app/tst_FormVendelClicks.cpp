@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/Counter.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Widgets.h"
 
@@ -47,14 +47,14 @@ constexpr auto menuAndTicket
       "insert into Ticket (id, article, prix) values (1, 'Un', 1), (1, 'Deux', 2), (1, 'Trois', 3)";
 
 /// The sales screen with its menu shown, and its ticket where there is one.
-struct OpenCounter : Counter
+struct OpenCounter : Till
 {
     explicit OpenCounter(const char* sql)
-        : Counter(sql)
+        : Till(sql)
     {
-        click(form, "btn_Afficher");
+        click(window, "btn_Afficher");
         if (!shop.sql("select 1 from Ticket").empty()) {
-            click(form, "btn_Ticket");
+            click(window, "btn_Ticket");
         }
     }
 
@@ -82,12 +82,12 @@ void press(QTableView& view, int row, QEvent::Type type, Qt::MouseButton button)
 void TestFormVendelClicks::aClickPutsTheArticleOnTheTicket()
 {
     OpenCounter counter(menu);
-    clickCell(counter.form, "tableView1", 1, 2);
-    QCOMPARE(rowCount(counter.form, "tableView2"), 1);
-    QCOMPARE(rowTexts(counter.form, "tableView2", 0).join(QLatin1Char('|')),
+    clickCell(counter.window, "tableView1", 1, 2);
+    QCOMPARE(rowCount(counter.window, "tableView2"), 1);
+    QCOMPARE(rowTexts(counter.window, "tableView2", 0).join(QLatin1Char('|')),
         QStringLiteral("1|2|Café|1.20$"));
-    clickCell(counter.form, "tableView1", 0, 2);
-    QCOMPARE(rowTexts(counter.form, "tableView2", 1).join(QLatin1Char('|')),
+    clickCell(counter.window, "tableView1", 0, 2);
+    QCOMPARE(rowTexts(counter.window, "tableView2", 1).join(QLatin1Char('|')),
         QStringLiteral("2|1|Bière|4.50$"));
     QCOMPARE(counter.shop.sql("select * from Ticket"),
         (DbRows{{"1", "2", "Café", "1.2"}, {"2", "1", "Bière", "4.5"}}));
@@ -97,7 +97,7 @@ void TestFormVendelClicks::everyColumnOfTheMenuIsClicked()
 {
     OpenCounter counter(menu);
     for (const int column : {1, 2, 3}) {
-        clickCell(counter.form, "tableView1", 0, column);
+        clickCell(counter.window, "tableView1", 0, column);
     }
     QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière|Bière"));
 }
@@ -105,26 +105,26 @@ void TestFormVendelClicks::everyColumnOfTheMenuIsClicked()
 void TestFormVendelClicks::aDoubleClickPutsTwoOnTheTicket()
 {
     OpenCounter counter(menu);
-    doubleClickCell(counter.form, "tableView1", 0, 2);
+    doubleClickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière"));
 }
 
 void TestFormVendelClicks::threeQuickPressesAreThreeLines()
 {
     OpenCounter counter(menu);
-    doubleClickCell(counter.form, "tableView1", 0, 2);
-    clickCell(counter.form, "tableView1", 0, 2);
+    doubleClickCell(counter.window, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière|Bière"));
 }
 
 void TestFormVendelClicks::fiveQuickPressesAreFiveLines()
 {
     OpenCounter counter(menu);
-    doubleClickCell(counter.form, "tableView1", 0, 2);
+    doubleClickCell(counter.window, "tableView1", 0, 2);
     QTest::qWait(100);
-    doubleClickCell(counter.form, "tableView1", 0, 2);
+    doubleClickCell(counter.window, "tableView1", 0, 2);
     QTest::qWait(100);
-    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière|Bière|Bière|Bière"));
     QCOMPARE(counter.stored(), QStringLiteral("Bière|Bière|Bière|Bière|Bière"));
 }
@@ -132,7 +132,7 @@ void TestFormVendelClicks::fiveQuickPressesAreFiveLines()
 void TestFormVendelClicks::quickPressesOnTwoArticlesAreOneLineEach()
 {
     OpenCounter counter(menu);
-    auto& view = child<QTableView>(counter.form, "tableView1");
+    auto& view = child<QTableView>(counter.window, "tableView1");
     press(view, 0, QEvent::MouseButtonPress, Qt::LeftButton);
     press(view, 1, QEvent::MouseButtonDblClick, Qt::LeftButton);
     QCOMPARE(counter.ticket(), QStringLiteral("Bière|Café"));
@@ -142,12 +142,12 @@ void TestFormVendelClicks::theRightButtonSellsNothing()
 {
     OpenCounter counter(menuAndTicket);
     for (const auto* name : {"tableView1", "tableView2"}) {
-        auto& view = child<QTableView>(counter.form, name);
+        auto& view = child<QTableView>(counter.window, name);
         press(view, 0, QEvent::MouseButtonPress, Qt::RightButton);
         press(view, 0, QEvent::MouseButtonDblClick, Qt::RightButton);
     }
     QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
-    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois|Bière"));
 }
 
@@ -155,7 +155,7 @@ void TestFormVendelClicks::aClickBesideTheRowsDoesNothing()
 {
     OpenCounter counter(menuAndTicket);
     for (const auto* name : {"tableView1", "tableView2"}) {
-        QTest::mouseClick(child<QTableView>(counter.form, name).viewport(), Qt::LeftButton,
+        QTest::mouseClick(child<QTableView>(counter.window, name).viewport(), Qt::LeftButton,
             Qt::NoModifier, QPoint(200, 450));
     }
     QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
@@ -165,7 +165,7 @@ void TestFormVendelClicks::aClickOnAHeaderDoesNothing()
 {
     OpenCounter counter(menuAndTicket);
     for (const auto* name : {"tableView1", "tableView2"}) {
-        auto& view = child<QTableView>(counter.form, name);
+        auto& view = child<QTableView>(counter.window, name);
         QTest::mouseClick(
             view.horizontalHeader()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 10));
         QTest::mouseClick(
@@ -178,7 +178,7 @@ void TestFormVendelClicks::whatIsStoredIsSold()
 {
     OpenCounter counter(menu);
     counter.shop.fill("update Article set article = 'Bière d''abbaye', prix = 5 where id = 1");
-    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(counter.shop.sql("select id, article, prix from Ticket"),
         (DbRows{{"1", "Bière d'abbaye", "5"}}));
 }
@@ -188,7 +188,7 @@ void TestFormVendelClicks::anArticleThatIsGoneIsNotSold()
     OpenCounter counter(menuAndTicket);
     counter.shop.fill("delete from Article where id = 1; delete from Ticket where idlig = 1");
     CapturedOutput output;
-    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(counter.ticket(), QStringLiteral("Deux|Trois"));
     QCOMPARE(output.text(), QByteArray());
 }
@@ -196,7 +196,7 @@ void TestFormVendelClicks::anArticleThatIsGoneIsNotSold()
 void TestFormVendelClicks::aQuoteInANameStandsOnTheTicket()
 {
     OpenCounter counter("insert into Article (article, prix) values ('l''eau', 1)");
-    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(counter.ticket(), QStringLiteral("l'eau"));
     QCOMPARE(counter.stored(), QStringLiteral("l'eau"));
 }
@@ -204,7 +204,7 @@ void TestFormVendelClicks::aQuoteInANameStandsOnTheTicket()
 void TestFormVendelClicks::aClickOnALineRemovesIt()
 {
     OpenCounter counter(menuAndTicket);
-    clickCell(counter.form, "tableView2", 1, 2);
+    clickCell(counter.window, "tableView2", 1, 2);
     QCOMPARE(counter.ticket(), QStringLiteral("Un|Trois"));
     QCOMPARE(counter.stored(), QStringLiteral("Un|Trois"));
 }
@@ -212,55 +212,55 @@ void TestFormVendelClicks::aClickOnALineRemovesIt()
 void TestFormVendelClicks::aDoubleClickRemovesOneLine()
 {
     OpenCounter counter(menuAndTicket);
-    doubleClickCell(counter.form, "tableView2", 0, 2);
+    doubleClickCell(counter.window, "tableView2", 0, 2);
     QCOMPARE(counter.ticket(), QStringLiteral("Deux|Trois"));
-    doubleClickCell(counter.form, "tableView2", 1, 3);
+    doubleClickCell(counter.window, "tableView2", 1, 3);
     QCOMPARE(counter.stored(), QStringLiteral("Deux"));
 }
 
 void TestFormVendelClicks::threeQuickPressesRemoveTwoLines()
 {
     OpenCounter counter(menuAndTicket);
-    doubleClickCell(counter.form, "tableView2", 0, 2);
-    clickCell(counter.form, "tableView2", 0, 2);
+    doubleClickCell(counter.window, "tableView2", 0, 2);
+    clickCell(counter.window, "tableView2", 0, 2);
     QCOMPARE(counter.stored(), QStringLiteral("Trois"));
 }
 
 void TestFormVendelClicks::twoSlowClicksRemoveTwoLines()
 {
     OpenCounter counter(menuAndTicket);
-    clickCell(counter.form, "tableView2", 0, 2);
-    clickCell(counter.form, "tableView2", 0, 3);
+    clickCell(counter.window, "tableView2", 0, 2);
+    clickCell(counter.window, "tableView2", 0, 3);
     QCOMPARE(counter.stored(), QStringLiteral("Trois"));
 }
 
 void TestFormVendelClicks::theLastLineGoesWithoutAMessage()
 {
     OpenCounter counter(menu);
-    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     AnswerBox box;
-    clickCell(counter.form, "tableView2", 0, 2);
+    clickCell(counter.window, "tableView2", 0, 2);
     QTest::qWait(50);
     QVERIFY(!box.wasShown());
-    QCOMPARE(rowCount(counter.form, "tableView2"), 0);
+    QCOMPARE(rowCount(counter.window, "tableView2"), 0);
     QCOMPARE(counter.stored(), QString());
 }
 
 void TestFormVendelClicks::onlyTheClickedLineGoes()
 {
     OpenCounter counter(menu);
-    clickCell(counter.form, "tableView1", 0, 2);
-    clickCell(counter.form, "tableView1", 0, 2);
-    clickCell(counter.form, "tableView2", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView2", 0, 2);
     QCOMPARE(counter.shop.sql("select idlig, article from Ticket"), (DbRows{{"2", "Bière"}}));
 }
 
 void TestFormVendelClicks::theNewestLineIsInView()
 {
     OpenCounter counter(menu);
-    auto& view = child<QTableView>(counter.form, "tableView2");
+    auto& view = child<QTableView>(counter.window, "tableView2");
     for (int line = 1; line <= 30; ++line) {
-        clickCell(counter.form, "tableView1", line % 2, 2);
+        clickCell(counter.window, "tableView1", line % 2, 2);
         const QRect newest = view.visualRect(view.model()->index(line - 1, 2));
         QVERIFY2(view.viewport()->rect().contains(newest), qPrintable(QString::number(line)));
     }
@@ -273,7 +273,7 @@ void TestFormVendelClicks::aRemovalDoesNotScrollTheTicket()
                         "with recursive n(i) as (select 1 union all select i + 1 from n "
                         "where i < 60) insert into Ticket (id, article, prix) "
                         "select 1, 'Thé ' || i, 1 from n");
-    auto& view = child<QTableView>(counter.form, "tableView2");
+    auto& view = child<QTableView>(counter.window, "tableView2");
     const auto removeAt = [&](QPoint point) {
         QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, point);
         return view.indexAt(QPoint(5, 5)).data().toString();
@@ -283,17 +283,17 @@ void TestFormVendelClicks::aRemovalDoesNotScrollTheTicket()
     QCOMPARE(removeAt(QPoint(50, 100)), QStringLiteral("Thé 21"));
     QCOMPARE(removeAt(QPoint(50, 5)), QStringLiteral("Thé 22"));
     view.scrollToBottom();
-    QCOMPARE(rowCount(counter.form, "tableView2"), 58);
-    clickCell(counter.form, "tableView2", 57, 2);
+    QCOMPARE(rowCount(counter.window, "tableView2"), 58);
+    clickCell(counter.window, "tableView2", 57, 2);
     QVERIFY(view.viewport()->rect().contains(view.visualRect(view.model()->index(56, 2))));
 }
 
 void TestFormVendelClicks::anAddedLineTakesTheTotalsAway()
 {
     OpenCounter counter(menuAndTicket);
-    click(counter.form, "btn_Total_Ticket");
-    QCOMPARE(rowCount(counter.form, "tableView2"), 6);
-    clickCell(counter.form, "tableView1", 0, 2);
+    click(counter.window, "btn_Total_Ticket");
+    QCOMPARE(rowCount(counter.window, "tableView2"), 6);
+    clickCell(counter.window, "tableView1", 0, 2);
     QCOMPARE(counter.ticket(), QStringLiteral("Un|Deux|Trois|Bière"));
 }
 
@@ -301,8 +301,8 @@ void TestFormVendelClicks::aClickOnATotalRemovesNothing()
 {
     for (const int total : {3, 4, 5}) {
         OpenCounter counter(menuAndTicket);
-        click(counter.form, "btn_Total_Ticket");
-        clickCell(counter.form, "tableView2", total, 2);
+        click(counter.window, "btn_Total_Ticket");
+        clickCell(counter.window, "tableView2", total, 2);
         QCOMPARE(counter.ticket(), QStringLiteral("Un|Deux|Trois"));
         QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
     }
@@ -311,7 +311,7 @@ void TestFormVendelClicks::aClickOnATotalRemovesNothing()
 void TestFormVendelClicks::theTicketOutlivesTheWindow()
 {
     OpenCounter counter(menu);
-    clickCell(counter.form, "tableView1", 0, 2);
+    clickCell(counter.window, "tableView1", 0, 2);
     FormVendel other;
     click(other, "btn_Ticket");
     QCOMPARE(rowTexts(other, "tableView2", 0).at(2), QStringLiteral("Bière"));

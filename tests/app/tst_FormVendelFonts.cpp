@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendelStart.h"
-#include "tests/support/Counter.h"
+#include "tests/app/Till.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Widgets.h"
 
@@ -58,8 +58,8 @@ void TestFormVendelFonts::textsFitTheirColumns_data()
 void TestFormVendelFonts::textsFitTheirColumns()
 {
     QFETCH(int, column);
-    Counter counter;
-    const auto& view = child<QTableView>(counter.form, "tableView1");
+    Till counter;
+    const auto& view = child<QTableView>(counter.window, "tableView1");
     const int needed = cellWidth(view, QString::fromUtf8(QTest::currentDataTag()));
     QVERIFY2(needed > 10, qPrintable(QString::number(needed)));
     QVERIFY2(needed <= view.columnWidth(column), qPrintable(QString::number(needed)));
@@ -67,19 +67,19 @@ void TestFormVendelFonts::textsFitTheirColumns()
 
 void TestFormVendelFonts::columnsFitTheList()
 {
-    Counter counter("with recursive n(i) as (select 1 union all select i + 1 from n where i < 999)"
-                    "insert into Article (article, prix) select 'Article ' || i, i from n");
-    click(counter.form, "btn_Afficher");
-    const auto& view = child<QTableView>(counter.form, "tableView1");
+    Till counter("with recursive n(i) as (select 1 union all select i + 1 from n where i < 999)"
+                 "insert into Article (article, prix) select 'Article ' || i, i from n");
+    click(counter.window, "btn_Afficher");
+    const auto& view = child<QTableView>(counter.window, "tableView1");
     QTRY_VERIFY2(view.viewport()->width() >= 25 + 210 + 110,
         qPrintable(QString::number(view.viewport()->width())));
 }
 
 void TestFormVendelFonts::labelsFit()
 {
-    Counter counter;
+    Till counter;
     for (const auto* name : {"lbl_Menu", "lbl_Ticket", "lbl_Montant", "lbl_ToolTip"}) {
-        const auto& label = child<QLabel>(counter.form, name);
+        const auto& label = child<QLabel>(counter.window, name);
         QVERIFY2(label.sizeHint().width() <= label.width(), name);
         // The line's own leading may be cut, its letters may not.
         const QRect letters = label.fontMetrics().tightBoundingRect(label.text());
@@ -89,8 +89,8 @@ void TestFormVendelFonts::labelsFit()
 
 void TestFormVendelFonts::theClockFits()
 {
-    Counter counter;
-    auto& label = child<QLabel>(counter.form, "lbl_DateTime");
+    Till counter;
+    auto& label = child<QLabel>(counter.window, "lbl_DateTime");
     for (const auto* text : {"28/08/2028 20:48:58", "28/08/2028 20 48 58"}) {
         label.setText(QString::fromLatin1(text));
         QVERIFY2(label.sizeHint().width() <= label.width(), text);
@@ -100,8 +100,8 @@ void TestFormVendelFonts::theClockFits()
 
 void TestFormVendelFonts::buttonsFit()
 {
-    Counter counter;
-    const auto buttons = counter.form.findChildren<QPushButton*>();
+    Till counter;
+    const auto buttons = counter.window.findChildren<QPushButton*>();
     QVERIFY(buttons.size() >= 19);
     for (const QPushButton* button : buttons) {
         const QSize text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
@@ -112,8 +112,8 @@ void TestFormVendelFonts::buttonsFit()
 
 void TestFormVendelFonts::theSplashsTitleFits()
 {
-    Counter counter;
-    const auto& title = child<QLabel>(counter.form, "lbl_Titre");
+    Till counter;
+    const auto& title = child<QLabel>(counter.window, "lbl_Titre");
     const QRect ink = title.fontMetrics().tightBoundingRect(title.text());
     QVERIFY(ink.width() <= title.width());
     QVERIFY(ink.height() <= title.height());
@@ -121,9 +121,9 @@ void TestFormVendelFonts::theSplashsTitleFits()
 
 void TestFormVendelFonts::headersFit()
 {
-    Counter counter;
+    Till counter;
     for (const auto* name : {"tableView1", "tableView2"}) {
-        const auto& view = child<QTableView>(counter.form, name);
+        const auto& view = child<QTableView>(counter.window, name);
         for (int column = 1; column < 4; ++column) {
             if (!view.isColumnHidden(column)) {
                 QVERIFY(

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/Counter.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Widgets.h"
 
@@ -23,14 +23,14 @@ private slots:
 
 namespace {
 /// A till with an article and a line of its ticket on the screen.
-struct Keyboard : Counter
+struct Keyboard : Till
 {
     Keyboard()
-        : Counter("insert into Article (article, prix) values ('Thé', 1), ('Vin', 3);"
-                  "insert into Ticket (id, article, prix) values (1, 'Thé', 1), (2, 'Vin', 3)")
+        : Till("insert into Article (article, prix) values ('Thé', 1), ('Vin', 3);"
+               "insert into Ticket (id, article, prix) values (1, 'Thé', 1), (2, 'Vin', 3)")
     {
-        click(form, "btn_Afficher");
-        click(form, "btn_Ticket");
+        click(window, "btn_Afficher");
+        click(window, "btn_Ticket");
     }
 
     QString stored() const
@@ -43,9 +43,9 @@ struct Keyboard : Counter
 void TestFormVendelKeyboard::tabFollowsTheEye()
 {
     Keyboard till;
-    QVERIFY(QTest::qWaitForWindowActive(&till.form));
-    child<QTableView>(till.form, "tableView1").setFocus();
-    QCOMPARE(tabOrder(till.form).join(QLatin1Char(' ')),
+    QVERIFY(QTest::qWaitForWindowActive(&till.window));
+    child<QTableView>(till.window, "tableView1").setFocus();
+    QCOMPARE(tabOrder(till.window).join(QLatin1Char(' ')),
         QStringLiteral("tableView1 tableView2 txt_montant btn_Effacer_Saisie btn_Afficher "
                        "btn_Ticket btn_Effacer_Ticket btn_Total_Ticket btn_1 btn_2 btn_3 btn_4 "
                        "btn_5 btn_6 btn_7 btn_8 btn_9 btn_10 btn_11 btn_13 btn_12 btn_Payer "
@@ -56,16 +56,16 @@ void TestFormVendelKeyboard::returnSellsNothing()
 {
     Keyboard till;
     const AnswerBox box;
-    auto& field = child<QLineEdit>(till.form, "txt_montant");
+    auto& field = child<QLineEdit>(till.window, "txt_montant");
     field.setText(QStringLiteral("5"));
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         QTest::keyClick(&field, key);
         for (const auto* name : {"tableView1", "tableView2"}) {
-            auto& view = child<QTableView>(till.form, name);
+            auto& view = child<QTableView>(till.window, name);
             view.setCurrentIndex(view.model()->index(0, 2));
             QTest::keyClick(&view, key);
         }
-        QTest::keyClick(&child<QPushButton>(till.form, "btn_Payer"), key);
+        QTest::keyClick(&child<QPushButton>(till.window, "btn_Payer"), key);
     }
     QCOMPARE(till.stored(), QStringLiteral("Thé 1|Vin 3"));
     QCOMPARE(field.text(), QStringLiteral("5"));
@@ -75,26 +75,26 @@ void TestFormVendelKeyboard::returnSellsNothing()
 void TestFormVendelKeyboard::spacePressesTheButton()
 {
     Keyboard till;
-    QTest::keyClick(&child<QPushButton>(till.form, "btn_7"), Qt::Key_Space);
-    QTest::keyClick(&child<QPushButton>(till.form, "btn_12"), Qt::Key_Space);
+    QTest::keyClick(&child<QPushButton>(till.window, "btn_7"), Qt::Key_Space);
+    QTest::keyClick(&child<QPushButton>(till.window, "btn_12"), Qt::Key_Space);
     QCOMPARE(till.stored(), QStringLiteral("Thé 1|Vin 3|---- 7"));
 }
 
 void TestFormVendelKeyboard::thereAreNoShortcuts()
 {
     Keyboard till;
-    const auto actions = till.form.findChildren<QAction*>();
+    const auto actions = till.window.findChildren<QAction*>();
     QVERIFY(actions.size() >= 6);
     for (const QAction* action : actions) {
         QVERIFY(action->shortcut().isEmpty());
         QVERIFY(!action->text().contains(QLatin1Char('&')));
     }
-    const auto buttons = till.form.findChildren<QAbstractButton*>();
+    const auto buttons = till.window.findChildren<QAbstractButton*>();
     for (const QAbstractButton* button : buttons) {
         QVERIFY(button->shortcut().isEmpty());
     }
-    QTest::keyClicks(&child<QPushButton>(till.form, "btn_Payer"), QStringLiteral("12+"));
-    QCOMPARE(child<QLineEdit>(till.form, "txt_montant").text(), QString());
+    QTest::keyClicks(&child<QPushButton>(till.window, "btn_Payer"), QStringLiteral("12+"));
+    QCOMPARE(child<QLineEdit>(till.window, "txt_montant").text(), QString());
     QCOMPARE(till.stored(), QStringLiteral("Thé 1|Vin 3"));
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/Counter.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
@@ -40,25 +40,25 @@ private slots:
 };
 
 namespace {
-struct Keypad : Counter
+struct Keypad : Till
 {
-    using Counter::Counter;
+    using Till::Till;
 
     QLineEdit& field()
     {
-        return child<QLineEdit>(form, "txt_montant");
+        return child<QLineEdit>(window, "txt_montant");
     }
 
     void plus(const QString& amount)
     {
         field().setText(amount);
-        click(form, "btn_12");
+        click(window, "btn_12");
     }
 
     void minus(const QString& amount)
     {
         field().setText(amount);
-        click(form, "btn_13");
+        click(window, "btn_13");
     }
 
     DbRows stored() const
@@ -73,7 +73,7 @@ void TestFormVendelKeypad::everyKeyAppendsItsDigit()
     Keypad keypad;
     QString expected;
     const auto press = [&](const char* key, const char* text) {
-        click(keypad.form, key);
+        click(keypad.window, key);
         expected += QString::fromLatin1(text);
         QCOMPARE(keypad.field().text(), expected);
     };
@@ -96,10 +96,10 @@ void TestFormVendelKeypad::keysAppendAtTheEndWhereverTheCursorStands()
     Keypad keypad;
     keypad.field().setText(QStringLiteral("12"));
     keypad.field().setCursorPosition(0);
-    click(keypad.form, "btn_3");
+    click(keypad.window, "btn_3");
     QCOMPARE(keypad.field().text(), QStringLiteral("123"));
     keypad.field().selectAll();
-    click(keypad.form, "btn_11");
+    click(keypad.window, "btn_11");
     QCOMPARE(keypad.field().text(), QStringLiteral("123,"));
 }
 
@@ -107,7 +107,7 @@ void TestFormVendelKeypad::keysCheckNothing()
 {
     Keypad keypad;
     for (const auto* key : {"btn_11", "btn_11", "btn_10", "btn_10"}) {
-        click(keypad.form, key);
+        click(keypad.window, key);
     }
     QCOMPARE(keypad.field().text(), QStringLiteral(",,00"));
 }
@@ -118,10 +118,10 @@ void TestFormVendelKeypad::theSeparatorFollowsTheTranslation()
     translation.add(QStringLiteral("FormVendelMessages"), QStringLiteral(","), QStringLiteral("."));
     Keypad keypad;
     for (const auto* key : {"btn_1", "btn_11", "btn_5"}) {
-        click(keypad.form, key);
+        click(keypad.window, key);
     }
     QCOMPARE(keypad.field().text(), QStringLiteral("1.5"));
-    click(keypad.form, "btn_12");
+    click(keypad.window, "btn_12");
     QCOMPARE(keypad.stored(), (DbRows{{"0", "----", "1.5"}}));
 }
 
@@ -129,9 +129,9 @@ void TestFormVendelKeypad::theFieldIsCleared()
 {
     Keypad keypad;
     keypad.field().setText(QStringLiteral("12,5"));
-    click(keypad.form, "btn_Effacer_Saisie");
+    click(keypad.window, "btn_Effacer_Saisie");
     QCOMPARE(keypad.field().text(), QString());
-    click(keypad.form, "btn_Effacer_Saisie");
+    click(keypad.window, "btn_Effacer_Saisie");
     QCOMPARE(keypad.field().text(), QString());
 }
 
@@ -139,7 +139,7 @@ void TestFormVendelKeypad::theFieldIsTypedInto()
 {
     Keypad keypad;
     QTest::keyClicks(&keypad.field(), QStringLiteral("12,5"));
-    click(keypad.form, "btn_12");
+    click(keypad.window, "btn_12");
     QCOMPARE(keypad.stored(), (DbRows{{"0", "----", "12.5"}}));
 }
 
@@ -149,11 +149,11 @@ void TestFormVendelKeypad::plusAddsAnAmount()
     AnswerBox box;
     keypad.plus(QStringLiteral("12,5"));
     QCOMPARE(keypad.stored(), (DbRows{{"1", "Thé", "1"}, {"0", "----", "12.5"}}));
-    QCOMPARE(rowTexts(keypad.form, "tableView2", 1).join(QLatin1Char(';')),
+    QCOMPARE(rowTexts(keypad.window, "tableView2", 1).join(QLatin1Char(';')),
         QStringLiteral("2;0;----;12.50$"));
     QCOMPARE(keypad.names("tableView2"), QStringLiteral("Thé|----"));
     QCOMPARE(keypad.field().text(), QStringLiteral("12,5"));
-    click(keypad.form, "btn_12");
+    click(keypad.window, "btn_12");
     QCOMPARE(keypad.stored().size(), std::size_t{3});
     QTest::qWait(20);
     QVERIFY(!box.wasShown());
@@ -164,7 +164,7 @@ void TestFormVendelKeypad::minusAddsANegativeAmount()
     Keypad keypad;
     keypad.minus(QStringLiteral("12,5"));
     QCOMPARE(keypad.stored(), (DbRows{{"0", "----", "-12.5"}}));
-    QCOMPARE(rowTexts(keypad.form, "tableView2", 0).join(QLatin1Char(';')),
+    QCOMPARE(rowTexts(keypad.window, "tableView2", 0).join(QLatin1Char(';')),
         QStringLiteral("1;0;----;-12.50$"));
     QCOMPARE(keypad.field().text(), QStringLiteral("12,5"));
 }
@@ -196,7 +196,7 @@ void TestFormVendelKeypad::anAmountIsNeeded()
     QCOMPARE(box.text(), QStringLiteral("Saisir un montant"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
-    QCOMPARE(box.parent(), &keypad.form);
+    QCOMPARE(box.parent(), &keypad.window);
     QCOMPARE(box.strays(), 0);
     QCOMPARE(keypad.field().text(), QString());
     QVERIFY(keypad.stored().empty());
@@ -274,7 +274,7 @@ void TestFormVendelKeypad::amountsAreSplicedAsTyped()
     keypad.plus(amount);
     QVERIFY(
         keypad.shop.sql(("select 1 from Ticket where prix = " + stored).constData()).size() == 1);
-    QTEST(rowTexts(keypad.form, "tableView2", 0).at(3), "shown");
+    QTEST(rowTexts(keypad.window, "tableView2", 0).at(3), "shown");
     QCOMPARE(keypad.field().text(), amount);
 }
 
@@ -337,16 +337,16 @@ void TestFormVendelKeypad::refusalsAreTranslated()
 void TestFormVendelKeypad::aRefusedAmountLeavesTheListAlone()
 {
     Keypad keypad("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
-    click(keypad.form, "btn_Total_Ticket");
+    click(keypad.window, "btn_Total_Ticket");
     AnswerBox box;
     keypad.plus(QStringLiteral("x"));
-    QCOMPARE(rowCount(keypad.form, "tableView2"), 4);
+    QCOMPARE(rowCount(keypad.window, "tableView2"), 4);
 }
 
 void TestFormVendelKeypad::anAddedAmountTakesTheTotalsAway()
 {
     Keypad keypad("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
-    click(keypad.form, "btn_Total_Ticket");
+    click(keypad.window, "btn_Total_Ticket");
     keypad.plus(QStringLiteral("2"));
     QCOMPARE(keypad.names("tableView2"), QStringLiteral("Thé|----"));
 }
@@ -356,14 +356,14 @@ void TestFormVendelKeypad::theNewestAmountIsInView()
     Keypad keypad("with recursive n(i) as (select 1 union all select i + 1 from n where i < 60)"
                   "insert into Ticket (id, article, prix) select 1, 'Thé ' || i, 1 from n");
     keypad.plus(QStringLiteral("2"));
-    const auto& view = child<QTableView>(keypad.form, "tableView2");
+    const auto& view = child<QTableView>(keypad.window, "tableView2");
     QVERIFY(view.viewport()->rect().contains(view.visualRect(view.model()->index(60, 3))));
 }
 
 void TestFormVendelKeypad::theTillMayBeAskedDirectly()
 {
     Keypad keypad;
-    keypad.form.operator_more_or_less(QStringLiteral(" 4,5 "));
+    keypad.window.operator_more_or_less(QStringLiteral(" 4,5 "));
     QCOMPARE(keypad.stored(), (DbRows{{"0", "----", "4.5"}}));
     QCOMPARE(keypad.field().text(), QStringLiteral("4,5"));
 }

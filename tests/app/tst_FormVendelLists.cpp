@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/Counter.h"
 #include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Translation.h"
@@ -43,23 +43,22 @@ private slots:
 namespace {
 constexpr auto mark = 1;
 
-void compareNotice(
-    const AnswerBox& box, const Counter& counter, const char* title, const char* text)
+void compareNotice(const AnswerBox& box, const Till& counter, const char* title, const char* text)
 {
     QVERIFY(box.wasShown());
     QCOMPARE(box.title(), QString::fromUtf8(title));
     QCOMPARE(box.text(), QString::fromUtf8(text));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
-    QCOMPARE(box.parent(), &counter.form);
+    QCOMPARE(box.parent(), &counter.window);
     QCOMPARE(box.strays(), 0);
 }
 
-QString marks(Counter& counter)
+QString marks(Till& counter)
 {
     QStringList texts;
-    for (int row = 0; row < rowCount(counter.form, "tableView1"); ++row) {
-        texts << rowTexts(counter.form, "tableView1", row).at(mark);
+    for (int row = 0; row < rowCount(counter.window, "tableView1"); ++row) {
+        texts << rowTexts(counter.window, "tableView1", row).at(mark);
     }
     return texts.join(QLatin1Char('|'));
 }
@@ -67,12 +66,12 @@ QString marks(Counter& counter)
 
 void TestFormVendelLists::theMenuIsShownByName()
 {
-    Counter counter("insert into Article (article, prix) values ('thé', 2.5), ('Bière', 1234.5),"
-                    "('Eau', 0), ('bavette', -1)");
-    click(counter.form, "btn_Afficher");
+    Till counter("insert into Article (article, prix) values ('thé', 2.5), ('Bière', 1234.5),"
+                 "('Eau', 0), ('bavette', -1)");
+    click(counter.window, "btn_Afficher");
     QStringList rows;
-    for (int row = 0; row < rowCount(counter.form, "tableView1"); ++row) {
-        rows << rowTexts(counter.form, "tableView1", row).join(QLatin1Char(';'));
+    for (int row = 0; row < rowCount(counter.window, "tableView1"); ++row) {
+        rows << rowTexts(counter.window, "tableView1", row).join(QLatin1Char(';'));
     }
     QCOMPARE(rows,
         (QStringList{QStringLiteral("4;;bavette;-1.00$"), QStringLiteral("2;;Bière;1,234.50$"),
@@ -81,45 +80,45 @@ void TestFormVendelLists::theMenuIsShownByName()
 
 void TestFormVendelLists::anEmptyMenuIsSaid()
 {
-    Counter counter;
+    Till counter;
     AnswerBox box;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     compareNotice(box, counter, "Afficher",
         "Le menu est vide\nAjouter des articles\nAllez dans le menu Vendel Saisie Article");
-    QCOMPARE(rowCount(counter.form, "tableView1"), 0);
+    QCOMPARE(rowCount(counter.window, "tableView1"), 0);
 }
 
 void TestFormVendelLists::theMenuIsEmptiedBeforeItIsFilled()
 {
-    Counter counter("insert into Article (article, prix) values ('Thé', 1), ('Eau', 1)");
-    click(counter.form, "btn_Afficher");
-    click(counter.form, "btn_Afficher");
+    Till counter("insert into Article (article, prix) values ('Thé', 1), ('Eau', 1)");
+    click(counter.window, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     QCOMPARE(counter.names("tableView1"), QStringLiteral("Eau|Thé"));
     counter.shop.sql("delete from Article");
     AnswerBox box;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     QVERIFY(box.wasShown());
-    QCOMPARE(rowCount(counter.form, "tableView1"), 0);
+    QCOMPARE(rowCount(counter.window, "tableView1"), 0);
 }
 
 void TestFormVendelLists::anArticleNamedByANumberIsShownAsMoney()
 {
-    Counter counter("insert into Article (article, prix) values ('33', 2)");
-    click(counter.form, "btn_Afficher");
-    QCOMPARE(rowTexts(counter.form, "tableView1", 0).join(QLatin1Char(';')),
+    Till counter("insert into Article (article, prix) values ('33', 2)");
+    click(counter.window, "btn_Afficher");
+    QCOMPARE(rowTexts(counter.window, "tableView1", 0).join(QLatin1Char(';')),
         QStringLiteral("1;;33.00$;2.00$"));
-    clickCell(counter.form, "tableView1", 0, 2);
-    QCOMPARE(rowTexts(counter.form, "tableView2", 0).join(QLatin1Char(';')),
+    clickCell(counter.window, "tableView1", 0, 2);
+    QCOMPARE(rowTexts(counter.window, "tableView2", 0).join(QLatin1Char(';')),
         QStringLiteral("1;1;33.00$;2.00$"));
     QCOMPARE(counter.shop.cell("select article from Ticket"), QStringLiteral("33"));
 }
 
 void TestFormVendelLists::anArticleWithoutDoublesIsShownSilently()
 {
-    Counter counter("insert into Article (article, prix) values ('Thé', 1), ('Eau', 1)");
+    Till counter("insert into Article (article, prix) values ('Thé', 1), ('Eau', 1)");
     AnswerBox box;
     CapturedOutput output;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     QTest::qWait(50);
     QVERIFY(!box.wasShown());
     QCOMPARE(marks(counter), QStringLiteral("|"));
@@ -128,15 +127,15 @@ void TestFormVendelLists::anArticleWithoutDoublesIsShownSilently()
 
 void TestFormVendelLists::aDoubledNameIsSaidAndMarked()
 {
-    Counter counter("insert into Article (article, prix) values ('Cafe', 1), ('Eau', 1),"
-                    "('cafe', 2)");
+    Till counter("insert into Article (article, prix) values ('Cafe', 1), ('Eau', 1),"
+                 "('cafe', 2)");
     AnswerBox box;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     compareNotice(box, counter, "Doublon",
         "Supprimer le(s) 1 doublon(s) note(s) X...\nAllez dans le menu Vendel Saisie Article");
-    QCOMPARE(rowCount(counter.form, "tableView1"), 3);
+    QCOMPARE(rowCount(counter.window, "tableView1"), 3);
     for (int row = 0; row < 3; ++row) {
-        const QStringList texts = rowTexts(counter.form, "tableView1", row);
+        const QStringList texts = rowTexts(counter.window, "tableView1", row);
         QCOMPARE(
             texts.at(mark), texts.at(0) == QLatin1String("1") ? QStringLiteral("X") : QString());
     }
@@ -144,26 +143,26 @@ void TestFormVendelLists::aDoubledNameIsSaidAndMarked()
 
 void TestFormVendelLists::marksComeAfterTheNotice()
 {
-    Counter counter("insert into Article (article, prix) values ('Eau', 1), ('Eau', 2)");
+    Till counter("insert into Article (article, prix) values ('Eau', 1), ('Eau', 2)");
     QString marksDuringTheNotice = QStringLiteral("?");
     AnswerBox box(QMessageBox::Ok, [&](QMessageBox&) { marksDuringTheNotice = marks(counter); });
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     QCOMPARE(marksDuringTheNotice, QStringLiteral("|"));
     QVERIFY(marks(counter).contains(QLatin1Char('X')));
 }
 
 void TestFormVendelLists::twoDoubledNamesAreTwoMarks()
 {
-    Counter counter("insert into Article (article, prix) values ('Vin', 1), ('Eau', 1),"
-                    "('Thé', 1), ('EAU', 1), ('VIN', 1)");
+    Till counter("insert into Article (article, prix) values ('Vin', 1), ('Eau', 1),"
+                 "('Thé', 1), ('EAU', 1), ('VIN', 1)");
     AnswerBox box;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     QCOMPARE(box.text(),
         QStringLiteral("Supprimer le(s) 2 doublon(s) note(s) X...\n"
                        "Allez dans le menu Vendel Saisie Article"));
     QStringList marked;
     for (int row = 0; row < 5; ++row) {
-        const QStringList texts = rowTexts(counter.form, "tableView1", row);
+        const QStringList texts = rowTexts(counter.window, "tableView1", row);
         if (texts.at(mark) == QLatin1String("X")) {
             marked << texts.at(2);
         }
@@ -174,9 +173,9 @@ void TestFormVendelLists::twoDoubledNamesAreTwoMarks()
 
 void TestFormVendelLists::accentedLettersAreNotFolded()
 {
-    Counter counter("insert into Article (article, prix) values ('Été', 1), ('été', 1)");
+    Till counter("insert into Article (article, prix) values ('Été', 1), ('été', 1)");
     AnswerBox box;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     QTest::qWait(50);
     QVERIFY(!box.wasShown());
 }
@@ -190,39 +189,38 @@ void TestFormVendelLists::theNoticeOfDoublesIsTranslatedWithItsNumber()
     translation.add(context, source, QStringLiteral("Delete %n double"));
     translation.addPlural(context, source, QStringLiteral("Delete %n doubles"));
     translation.add(context, QStringLiteral("Doublon"), QStringLiteral("Doubles"));
-    Counter counter("insert into Article (article, prix) values ('Eau', 1), ('Eau', 2)");
+    Till counter("insert into Article (article, prix) values ('Eau', 1), ('Eau', 2)");
     {
         AnswerBox box;
-        click(counter.form, "btn_Afficher");
+        click(counter.window, "btn_Afficher");
         compareNotice(box, counter, "Doubles", "Delete 1 double");
     }
     counter.shop.sql("insert into Article (article, prix) values ('Eau', 3)");
     AnswerBox box;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     compareNotice(box, counter, "Doubles", "Delete 2 doubles");
 }
 
 void TestFormVendelLists::thousandsOfArticlesAreShown()
 {
-    Counter counter(
-        "with recursive n(i) as (select 1 union all select i + 1 from n where i < 3000)"
-        "insert into Article (article, prix) select 'Article ' || (i % 2990), i from n");
+    Till counter("with recursive n(i) as (select 1 union all select i + 1 from n where i < 3000)"
+                 "insert into Article (article, prix) select 'Article ' || (i % 2990), i from n");
     AnswerBox box;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     QVERIFY(box.text().contains(QLatin1String(" 10 doublon(s) ")));
-    QCOMPARE(rowCount(counter.form, "tableView1"), 3000);
+    QCOMPARE(rowCount(counter.window, "tableView1"), 3000);
     QCOMPARE(marks(counter).count(QLatin1Char('X')), 10);
 }
 
 void TestFormVendelLists::theTicketIsShownAsItIsStored()
 {
-    Counter counter("insert into Ticket (idlig, id, article, prix) values (7, 3, 'Thé', 2.5),"
-                    "(9, 0, '----', -1234.5), (8, 2, 'Eau', 1)");
+    Till counter("insert into Ticket (idlig, id, article, prix) values (7, 3, 'Thé', 2.5),"
+                 "(9, 0, '----', -1234.5), (8, 2, 'Eau', 1)");
     AnswerBox box;
-    click(counter.form, "btn_Ticket");
+    click(counter.window, "btn_Ticket");
     QStringList rows;
-    for (int row = 0; row < rowCount(counter.form, "tableView2"); ++row) {
-        rows << rowTexts(counter.form, "tableView2", row).join(QLatin1Char(';'));
+    for (int row = 0; row < rowCount(counter.window, "tableView2"); ++row) {
+        rows << rowTexts(counter.window, "tableView2", row).join(QLatin1Char(';'));
     }
     QCOMPARE(rows,
         (QStringList{QStringLiteral("7;3;Thé;2.50$"), QStringLiteral("8;2;Eau;1.00$"),
@@ -233,81 +231,82 @@ void TestFormVendelLists::theTicketIsShownAsItIsStored()
 
 void TestFormVendelLists::anEmptyTicketIsSaid()
 {
-    Counter counter;
+    Till counter;
     AnswerBox box;
-    click(counter.form, "btn_Ticket");
+    click(counter.window, "btn_Ticket");
     compareNotice(box, counter, "Ticket", "Le ticket est vide");
 }
 
 void TestFormVendelLists::showingAnEmptyTicketClearsTheList()
 {
-    Counter counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
-    click(counter.form, "btn_Ticket");
+    Till counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    click(counter.window, "btn_Ticket");
     counter.shop.sql("delete from Ticket");
     AnswerBox box;
-    click(counter.form, "btn_Ticket");
+    click(counter.window, "btn_Ticket");
     QVERIFY(box.wasShown());
-    QCOMPARE(rowCount(counter.form, "tableView2"), 0);
+    QCOMPARE(rowCount(counter.window, "tableView2"), 0);
 }
 
 void TestFormVendelLists::theTicketIsEmptied()
 {
-    Counter counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1), (1, 'Thé', 1)");
-    click(counter.form, "btn_Ticket");
+    Till counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1), (1, 'Thé', 1)");
+    click(counter.window, "btn_Ticket");
     AnswerBox box;
-    click(counter.form, "btn_Effacer_Ticket");
+    click(counter.window, "btn_Effacer_Ticket");
     QTest::qWait(50);
     QVERIFY(!box.wasShown());
-    QCOMPARE(rowCount(counter.form, "tableView2"), 0);
+    QCOMPARE(rowCount(counter.window, "tableView2"), 0);
     QVERIFY(counter.shop.sql("select * from Ticket").empty());
     QVERIFY(counter.shop.sql("select * from Historique").empty());
 }
 
 void TestFormVendelLists::emptyingAnEmptyTicketIsSaid()
 {
-    Counter counter;
+    Till counter;
     AnswerBox box;
-    click(counter.form, "btn_Effacer_Ticket");
+    click(counter.window, "btn_Effacer_Ticket");
     compareNotice(box, counter, "Effacer ticket", "Le ticket est vide");
 }
 
 void TestFormVendelLists::emptyingClearsTotalsToo()
 {
-    Counter counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
-    click(counter.form, "btn_Total_Ticket");
-    QCOMPARE(rowCount(counter.form, "tableView2"), 4);
-    click(counter.form, "btn_Effacer_Ticket");
-    QCOMPARE(rowCount(counter.form, "tableView2"), 0);
+    Till counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    click(counter.window, "btn_Total_Ticket");
+    QCOMPARE(rowCount(counter.window, "tableView2"), 4);
+    click(counter.window, "btn_Effacer_Ticket");
+    QCOMPARE(rowCount(counter.window, "tableView2"), 0);
 }
 
 void TestFormVendelLists::listsAreEmptiedBeforeTheNotice()
 {
-    Counter counter("insert into Article (article, prix) values ('Thé', 1);"
-                    "insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    Till counter("insert into Article (article, prix) values ('Thé', 1);"
+                 "insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
     const auto rowsDuringTheNotice = [&](const char* button, const char* list) {
         int rows = -1;
-        AnswerBox box(QMessageBox::Ok, [&](QMessageBox&) { rows = rowCount(counter.form, list); });
-        click(counter.form, button);
+        AnswerBox box(
+            QMessageBox::Ok, [&](QMessageBox&) { rows = rowCount(counter.window, list); });
+        click(counter.window, button);
         return rows;
     };
-    click(counter.form, "btn_Afficher");
-    click(counter.form, "btn_Ticket");
+    click(counter.window, "btn_Afficher");
+    click(counter.window, "btn_Ticket");
     counter.shop.fill("delete from Article; delete from Ticket");
     QCOMPARE(rowsDuringTheNotice("btn_Afficher", "tableView1"), 0);
     QCOMPARE(rowsDuringTheNotice("btn_Ticket", "tableView2"), 0);
     counter.shop.sql("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
-    click(counter.form, "btn_Ticket");
+    click(counter.window, "btn_Ticket");
     counter.shop.sql("delete from Ticket");
     QCOMPARE(rowsDuringTheNotice("btn_Effacer_Ticket", "tableView2"), 0);
 }
 
 void TestFormVendelLists::theTotalOfAnEmptyTicketLeavesTheList()
 {
-    Counter counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
-    click(counter.form, "btn_Ticket");
+    Till counter("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
+    click(counter.window, "btn_Ticket");
     counter.shop.sql("delete from Ticket");
     const AnswerBox box;
-    click(counter.form, "btn_Total_Ticket");
+    click(counter.window, "btn_Total_Ticket");
     QCOMPARE(box.title(), QStringLiteral("Total"));
     QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
 }
@@ -319,29 +318,29 @@ void TestFormVendelLists::messagesAreTranslated()
     translation.add(context, QStringLiteral("Le ticket est vide"), QStringLiteral("Nothing sold"));
     translation.add(context, QStringLiteral("Effacer ticket"), QStringLiteral("Clear"));
     translation.add(context, QStringLiteral("Total"), QStringLiteral("Sum"));
-    Counter counter;
+    Till counter;
     {
         AnswerBox box;
-        click(counter.form, "btn_Effacer_Ticket");
+        click(counter.window, "btn_Effacer_Ticket");
         compareNotice(box, counter, "Clear", "Nothing sold");
     }
     AnswerBox box;
-    click(counter.form, "btn_Total_Ticket");
+    click(counter.window, "btn_Total_Ticket");
     compareNotice(box, counter, "Sum", "Nothing sold");
 }
 
 void TestFormVendelLists::noticesOfEmptyListsAreTranslated()
 {
-    Counter counter;
+    Till counter;
     const MarkedContext marked("FormVendelMessages");
     {
         AnswerBox box;
-        click(counter.form, "btn_Ticket");
+        click(counter.window, "btn_Ticket");
         compareNotice(
             box, counter, "FormVendelMessages:Ticket", "FormVendelMessages:Le ticket est vide");
     }
     AnswerBox box;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     compareNotice(box, counter, "FormVendelMessages:Afficher",
         "FormVendelMessages:Le menu est vide\nAjouter des articles\nAllez dans le menu Vendel "
         "Saisie Article");
@@ -349,12 +348,12 @@ void TestFormVendelLists::noticesOfEmptyListsAreTranslated()
 
 void TestFormVendelLists::rowsFitTheirFont()
 {
-    Counter counter("insert into Article (article, prix) values ('Àgj', 1);"
-                    "insert into Ticket (id, article, prix) values (1, 'Àgj', 1)");
-    click(counter.form, "btn_Afficher");
-    click(counter.form, "btn_Total_Ticket");
+    Till counter("insert into Article (article, prix) values ('Àgj', 1);"
+                 "insert into Ticket (id, article, prix) values (1, 'Àgj', 1)");
+    click(counter.window, "btn_Afficher");
+    click(counter.window, "btn_Total_Ticket");
     for (const auto* name : {"tableView1", "tableView2"}) {
-        const auto& view = child<QTableView>(counter.form, name);
+        const auto& view = child<QTableView>(counter.window, name);
         for (int row = 0; row < view.model()->rowCount(); ++row) {
             QVERIFY(view.rowHeight(row) > QFontMetrics(view.font()).height());
         }
@@ -363,10 +362,10 @@ void TestFormVendelLists::rowsFitTheirFont()
 
 void TestFormVendelLists::aRefilledTicketShowsItsFirstLine()
 {
-    Counter counter("with recursive n(i) as (select 1 union all select i + 1 from n where i < 60)"
-                    "insert into Ticket (id, article, prix) select 1, 'Thé ' || i, i from n");
-    click(counter.form, "btn_Ticket");
-    const auto& view = child<QTableView>(counter.form, "tableView2");
+    Till counter("with recursive n(i) as (select 1 union all select i + 1 from n where i < 60)"
+                 "insert into Ticket (id, article, prix) select 1, 'Thé ' || i, i from n");
+    click(counter.window, "btn_Ticket");
+    const auto& view = child<QTableView>(counter.window, "tableView2");
     QCOMPARE(view.verticalScrollBar()->value(), 0);
     QCOMPARE(view.indexAt(QPoint(5, 5)).row(), 0);
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendel.h"
 #include "app/FormVendelStart.h"
+#include "tests/app/Till.h"
 #include "tests/support/Captured.h"
-#include "tests/support/Counter.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
@@ -45,7 +45,7 @@ void TestFormVendelShell::aMissingDatabaseIsMadeBeforeTheFirstShow()
 {
     const Shop shop(Shop::Database::None);
     CapturedOutput output;
-    const FormVendel form;
+    const FormVendel window;
     QCOMPARE(shop.cell("select count(*) from sqlite_master where type = 'table' and name in "
                        "('Article', 'ArticleStock', 'Historique', 'DoseStock', 'Config', "
                        "'Ticket')"),
@@ -63,9 +63,9 @@ void TestFormVendelShell::anExistingDatabaseStaysAsItIs()
     shop.sql("update Config set valeur = 20 where param = 'TVA'");
     const QByteArray before = shop.read(QStringLiteral("Vendel.db"));
     {
-        FormVendel form;
-        form.show();
-        QTRY_VERIFY(child<QLabel>(form, "lbl_DateTime").text() != QLatin1String("DateTime"));
+        FormVendel window;
+        window.show();
+        QTRY_VERIFY(child<QLabel>(window, "lbl_DateTime").text() != QLatin1String("DateTime"));
     }
     QCOMPARE(shop.read(QStringLiteral("Vendel.db")), before);
     QCOMPARE(QDir().entryList(QDir::Files), QStringList(QStringLiteral("Vendel.db")));
@@ -75,15 +75,15 @@ void TestFormVendelShell::anExistingFileOfAnyKindStaysAsItIs()
 {
     const Shop shop(Shop::Database::None);
     shop.write(QStringLiteral("Vendel.db"), QByteArray());
-    const FormVendel form;
+    const FormVendel window;
     QCOMPARE(shop.read(QStringLiteral("Vendel.db")), QByteArray());
 }
 
 void TestFormVendelShell::theClockTicksTenTimesASecond()
 {
     const Shop shop;
-    FormVendel form;
-    const auto* clock = form.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
+    FormVendel window;
+    const auto* clock = window.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
     QVERIFY(clock != nullptr);
     QVERIFY(clock->isActive());
     QCOMPARE(clock->interval(), 100);
@@ -93,8 +93,8 @@ void TestFormVendelShell::theClockTicksTenTimesASecond()
 void TestFormVendelShell::theClockShowsDateAndTime()
 {
     const Shop shop;
-    FormVendel form;
-    const auto& label = child<QLabel>(form, "lbl_DateTime");
+    FormVendel window;
+    const auto& label = child<QLabel>(window, "lbl_DateTime");
     QCOMPARE(label.text(), QStringLiteral("DateTime"));
     const QRegularExpression odd(QStringLiteral("^\\d\\d/\\d\\d/\\d{4} \\d\\d:\\d\\d:\\d[13579]$"));
     const QRegularExpression even(
@@ -109,9 +109,9 @@ void TestFormVendelShell::theClockFollowsTheTranslatedPattern()
     translation.add(QStringLiteral("FormVendelMessages"), QStringLiteral("dd/MM/yyyy"),
         QStringLiteral("yyyy-MM-dd"));
     const Shop shop;
-    FormVendel form;
-    QVERIFY(QMetaObject::invokeMethod(&form, "on_timeout"));
-    const QString text = child<QLabel>(form, "lbl_DateTime").text();
+    FormVendel window;
+    QVERIFY(QMetaObject::invokeMethod(&window, "on_timeout"));
+    const QString text = child<QLabel>(window, "lbl_DateTime").text();
     QVERIFY2(QRegularExpression(QStringLiteral("^\\d{4}-\\d\\d-\\d\\d ")).match(text).hasMatch(),
         qPrintable(text));
 }
@@ -119,14 +119,14 @@ void TestFormVendelShell::theClockFollowsTheTranslatedPattern()
 void TestFormVendelShell::theFirstShowOpensTheSplash()
 {
     const Shop shop;
-    FormVendel form;
-    form.move(100, 50);
-    form.show();
-    QCOMPARE(form.findChildren<FormVendelStart*>().size(), 1);
-    const auto& splash = child<FormVendelStart>(form, "FormVendelStart");
+    FormVendel window;
+    window.move(100, 50);
+    window.show();
+    QCOMPARE(window.findChildren<FormVendelStart*>().size(), 1);
+    const auto& splash = child<FormVendelStart>(window, "FormVendelStart");
     QVERIFY(splash.isVisible());
     QCOMPARE(splash.windowModality(), Qt::WindowModal);
-    QCOMPARE(splash.parentWidget(), &form);
+    QCOMPARE(splash.parentWidget(), &window);
     // (1050 - 1) / 2 - (445 - 1) / 2 and (626 - 1) / 2 - (186 - 1) / 2 on the screen.
     QCOMPARE(splash.pos(), QPoint(302, 220));
 }
@@ -134,9 +134,9 @@ void TestFormVendelShell::theFirstShowOpensTheSplash()
 void TestFormVendelShell::theSplashTicksEverySecond()
 {
     const Shop shop;
-    FormVendel form;
-    form.show();
-    const auto* timer = child<FormVendelStart>(form, "FormVendelStart").findChild<QTimer*>();
+    FormVendel window;
+    window.show();
+    const auto* timer = child<FormVendelStart>(window, "FormVendelStart").findChild<QTimer*>();
     QVERIFY(timer != nullptr);
     QVERIFY(timer->isActive());
     QCOMPARE(timer->interval(), 1000);
@@ -145,9 +145,9 @@ void TestFormVendelShell::theSplashTicksEverySecond()
 void TestFormVendelShell::theSplashIsClosedAndNotDeleted()
 {
     const Shop shop;
-    FormVendel form;
-    form.show();
-    const QPointer<FormVendelStart> splash = form.findChild<FormVendelStart*>();
+    FormVendel window;
+    window.show();
+    const QPointer<FormVendelStart> splash = window.findChild<FormVendelStart*>();
     for (int tick = 1; tick <= 5; ++tick) {
         QVERIFY(splash->isVisible());
         QVERIFY(QMetaObject::invokeMethod(splash, "on_timeout"));
@@ -156,15 +156,15 @@ void TestFormVendelShell::theSplashIsClosedAndNotDeleted()
     QVERIFY(!splash->findChild<QTimer*>()->isActive());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!splash.isNull());
-    QVERIFY(form.isVisible());
+    QVERIFY(window.isVisible());
 }
 
 void TestFormVendelShell::aSplashSentAwayEarlyStaysAway()
 {
     const Shop shop;
-    FormVendel form;
-    form.show();
-    auto& splash = child<FormVendelStart>(form, "FormVendelStart");
+    FormVendel window;
+    window.show();
+    auto& splash = child<FormVendelStart>(window, "FormVendelStart");
     QTest::keyClick(&splash, Qt::Key_Escape);
     QVERIFY(!splash.isVisible());
     for (int tick = 1; tick <= 6; ++tick) {
@@ -177,12 +177,12 @@ void TestFormVendelShell::aSplashSentAwayEarlyStaysAway()
 void TestFormVendelShell::aShowFromTheDesktopOpensNoSplash()
 {
     const Shop shop;
-    FormVendel form;
-    form.show();
+    FormVendel window;
+    window.show();
     QShowEvent restored;
     QSpontaneKeyEvent::setSpontaneous(&restored);
-    qApp->notify(&form, &restored);
-    QCOMPARE(form.findChildren<FormVendelStart*>().size(), 1);
+    qApp->notify(&window, &restored);
+    QCOMPARE(window.findChildren<FormVendelStart*>().size(), 1);
 }
 
 void TestFormVendelShell::thePrinterSwitchIsLogged_data()
@@ -204,9 +204,9 @@ void TestFormVendelShell::thePrinterSwitchIsLogged()
     shop.sql(
         ("update Config set valeur = " + value + " where param = 'Epson TM-T20II'").constData());
     const CapturedLog log;
-    FormVendel form;
+    FormVendel window;
     QCOMPARE(log.debugs(), QStringList());
-    form.show();
+    window.show();
     QCOMPARE(log.debugs(),
         isLogged ? QStringList(QStringLiteral("Warning Epson to 1 (ON)")) : QStringList());
     QCOMPARE(log.criticals(), QStringList());
@@ -217,11 +217,11 @@ void TestFormVendelShell::aPrinterSwitchThatIsNoNumberIsLogged()
     const Shop shop;
     shop.sql("update Config set valeur = 'on' where param = 'Epson TM-T20II'");
     const CapturedLog log;
-    FormVendel form;
-    form.show();
+    FormVendel window;
+    window.show();
     QCOMPARE(log.criticals(), QStringList(QStringLiteral("Errors FormVendel showEvent : stoi")));
     QCOMPARE(log.debugs(), QStringList());
-    QVERIFY(form.isVisible());
+    QVERIFY(window.isVisible());
 }
 
 void TestFormVendelShell::everyPrinterSwitchIsRead()
@@ -230,8 +230,8 @@ void TestFormVendelShell::everyPrinterSwitchIsRead()
     shop.fill("update Config set valeur = 1, param = 'epson tm-t20ii' where param like 'Epson%';"
               "insert into Config (param, valeur) values ('EPSON TM-T20II', 1)");
     const CapturedLog log;
-    FormVendel form;
-    form.show();
+    FormVendel window;
+    window.show();
     QCOMPARE(log.debugs().count(QStringLiteral("Warning Epson to 1 (ON)")), 2);
 
     shop.fill("delete from Config");
@@ -244,11 +244,11 @@ void TestFormVendelShell::everyPrinterSwitchIsRead()
 void TestFormVendelShell::closingTheWindowEndsTheProgram()
 {
     const Shop shop;
-    FormVendel form;
-    form.show();
-    QTimer::singleShot(0, &form, &QWidget::close);
+    FormVendel window;
+    window.show();
+    QTimer::singleShot(0, &window, &QWidget::close);
     QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(!form.isVisible());
+    QVERIFY(!window.isVisible());
 }
 
 void TestFormVendelShell::menuActionsOpenTheirWindows_data()
@@ -266,17 +266,17 @@ void TestFormVendelShell::menuActionsOpenTheirWindows_data()
 void TestFormVendelShell::menuActionsOpenTheirWindows()
 {
     QFETCH(QString, action);
-    Counter counter("insert into Article (article, prix) values ('Thé', 1)");
-    counter.form.findChild<QAction*>(action)->trigger();
-    const QPointer<QWidget> window = &child<QWidget>(counter.form, QTest::currentDataTag());
+    Till counter("insert into Article (article, prix) values ('Thé', 1)");
+    counter.window.findChild<QAction*>(action)->trigger();
+    const QPointer<QWidget> window = &child<QWidget>(counter.window, QTest::currentDataTag());
     QVERIFY(window->isVisible());
     QCOMPARE(window->windowModality(), Qt::WindowModal);
-    QCOMPARE(window->parentWidget(), &counter.form);
+    QCOMPARE(window->parentWidget(), &counter.window);
     QVERIFY(window->isWindow());
-    QCOMPARE(rowCount(counter.form, "tableView1"), 0);
+    QCOMPARE(rowCount(counter.window, "tableView1"), 0);
     window->close();
     QTRY_VERIFY(window.isNull());
-    QCOMPARE(rowCount(counter.form, "tableView1"), 0);
+    QCOMPARE(rowCount(counter.window, "tableView1"), 0);
 }
 
 VENDEL_TEST_MAIN(TestFormVendelShell)

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendelTicket.h"
-#include "common/Windows.h"
+#include "app/Payment.h"
 #include "tests/app/PrintedReceipt.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Widgets.h"
+#include "widgets/Windows.h"
 
 #include <QFontInfo>
 #include <QPointer>
@@ -75,8 +76,6 @@ private slots:
     void aCharacterThatThePrinterLacksIsShown();
     void carriageReturnsAreNotShown();
     void aHeaderOfAMegabyteIsShownWhole();
-    void emptiesTheTicket();
-    void keepsTheTicketWhenItCannotBeTotalled();
     void isDeletedWhenItIsClosed();
 };
 
@@ -85,7 +84,7 @@ void TestFormVendelTicket::looksLikeTheReceiptsWindow()
     const Shop shop;
     CapturedLog log;
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     QVERIFY(qobject_cast<QDialog*>(&window) != nullptr);
     QCOMPARE(window.windowTitle(), QStringLiteral("Impression Ticket"));
     QCOMPARE(window.size(), QSize(477, 414));
@@ -104,7 +103,7 @@ void TestFormVendelTicket::showsWhatThePrinterPrints()
     prepare(shop);
     QWidget opener;
     const QDateTime before = QDateTime::currentDateTime();
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     const QDateTime after = QDateTime::currentDateTime();
     QStringList lines = receiptOf(window).toPlainText().split(QLatin1Char('\n'));
     const QStringList expected{QStringLiteral("Chez Paul"),
@@ -132,7 +131,7 @@ void TestFormVendelTicket::isReadFromTheTop()
     prepare(shop);
     writeHeader(shop, QByteArray("a\n").repeated(40));
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QVERIFY(receiptOf(window).verticalScrollBar()->maximum() > 0);
@@ -148,7 +147,7 @@ void TestFormVendelTicket::writesBlackOnWhite()
     dark.setColor(QPalette::Base, Qt::black);
     dark.setColor(QPalette::Text, Qt::white);
     opener.setPalette(dark);
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     const auto& edit = receiptOf(window);
     for (QTextBlock line = edit.document()->begin(); line.isValid(); line = line.next()) {
         for (auto piece = line.begin(); !piece.atEnd(); ++piece) {
@@ -165,7 +164,7 @@ void TestFormVendelTicket::writesTwelvePointsInAFixedPitch()
     const Shop shop;
     prepare(shop);
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     const auto& edit = receiptOf(window);
     QCOMPARE(edit.font().pointSize(), 12);
     const QFont font = fontOf(lineStarting(edit, QStringLiteral("Produit")));
@@ -183,7 +182,7 @@ void TestFormVendelTicket::fortyEightColumnsFitBesideTheScrollBar()
     const QByteArray line48 = QByteArray(lineOf48.data(), lineOf48.size());
     writeHeader(shop, (line48 + '\n').repeated(60));
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
@@ -203,7 +202,7 @@ void TestFormVendelTicket::nothingIsWiderThanTheWindow()
     shop.sql("update Config set valeur = 20 where param = 'TVA'");
     putOnTicket(shop, "Repas de quartier", "999.99");
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
@@ -224,7 +223,7 @@ void TestFormVendelTicket::columnsStandUnderEachOther()
     const Shop shop;
     prepare(shop);
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
@@ -247,7 +246,7 @@ void TestFormVendelTicket::aTitleIsBigBoldAndCentredOverThePaper()
     const Shop shop;
     prepare(shop);
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
@@ -267,7 +266,7 @@ void TestFormVendelTicket::theHeaderIsBoldAndTheFooterIsNot()
     const Shop shop;
     prepare(shop);
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     const auto& edit = receiptOf(window);
     QVERIFY(fontOf(lineStarting(edit, QStringLiteral("                   12"))).bold());
     QVERIFY(!fontOf(lineStarting(edit, QStringLiteral("              Merci"))).bold());
@@ -279,7 +278,7 @@ void TestFormVendelTicket::theTotalIsBoldAndTwiceAsWide()
     const Shop shop;
     prepare(shop);
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
@@ -298,7 +297,7 @@ void TestFormVendelTicket::aLongNameIsWrappedAndNotLost()
     const QByteArray name(10'000, 'x');
     putOnTicket(shop, name.constData(), "1");
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
@@ -315,7 +314,7 @@ void TestFormVendelTicket::aTextLikeHtmlIsShownAsText()
     writeHeader(shop, "<b>Chez</b>\n;;_ _");
     putOnTicket(shop, "<h1>Eau</h1>", "1");
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     const QString text = receiptOf(window).toPlainText();
     QVERIFY(text.startsWith(QStringLiteral("                  <b>Chez</b>                  \n"
                                            "                     ;;_ _                     \n")));
@@ -327,7 +326,7 @@ void TestFormVendelTicket::aCharacterThatThePrinterLacksIsShown()
     const Shop shop;
     putOnTicket(shop, "c\xc5\x93ur \xf0\x9f\x8d\xba", "1");
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     // Eleven bytes in seven characters (the last in two halves) and four blanks.
     const QString text = receiptOf(window).toPlainText();
     QVERIFY2(text.contains(QString::fromUtf8("\n1  c\xc5\x93ur \xf0\x9f\x8d\xba     \t$1.00")),
@@ -339,7 +338,7 @@ void TestFormVendelTicket::carriageReturnsAreNotShown()
     const Shop shop;
     writeHeader(shop, "ab\r\ntitre:Paul\r\n");
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     QVERIFY(receiptOf(window).toPlainText().startsWith(
         QStringLiteral("                      ab                      \nPaul\n")));
 }
@@ -349,34 +348,10 @@ void TestFormVendelTicket::aHeaderOfAMegabyteIsShownWhole()
     const Shop shop;
     writeHeader(shop, QByteArray("titre:Paul\n").repeated(90'000));
     QWidget opener;
-    FormVendelTicket window(&opener);
+    FormVendelTicket window(Payment::receipt(), &opener);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCOMPARE(receiptOf(window).toPlainText().count(QStringLiteral("Paul\n")), 90'000);
-}
-
-void TestFormVendelTicket::emptiesTheTicket()
-{
-    const Shop shop;
-    prepare(shop);
-    QWidget opener;
-    FormVendelTicket window(&opener);
-    QCOMPARE(shop.cell("select count(*) from Ticket"), QStringLiteral("0"));
-}
-
-void TestFormVendelTicket::keepsTheTicketWhenItCannotBeTotalled()
-{
-    const Shop shop;
-    shop.sql("drop table Ticket");
-    CapturedLog log;
-    CapturedOutput output;
-    QWidget opener;
-    FormVendelTicket window(&opener);
-    QCOMPARE(log.criticals().size(), 1);
-    QVERIFY(log.criticals().constFirst().startsWith(
-        QStringLiteral("Errors FormVendelTicket Constructor : ")));
-    QVERIFY(!output.text().contains("delete"));
-    QCOMPARE(receiptOf(window).toPlainText(), QString());
 }
 
 void TestFormVendelTicket::isDeletedWhenItIsClosed()
@@ -384,7 +359,7 @@ void TestFormVendelTicket::isDeletedWhenItIsClosed()
     const Shop shop;
     QWidget opener;
     for (const bool byKey : {true, false}) {
-        openWindow<FormVendelTicket>(&opener);
+        openWindow<FormVendelTicket>(&opener, Receipt());
         const QPointer<FormVendelTicket> window = opener.findChild<FormVendelTicket*>();
         QVERIFY(window != nullptr && window->isVisible());
         if (byKey) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendelStart.h"
-#include "tests/support/Counter.h"
+#include "tests/app/Till.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
@@ -48,25 +48,25 @@ constexpr auto oneOnTheTicket
       "insert into Ticket (id, article, prix) values (2, 'Eau', 1)";
 
 /// The sales screen with its menu and ticket shown.
-struct OpenCounter : Counter
+struct OpenCounter : Till
 {
     explicit OpenCounter(const char* sql = oneOnTheTicket)
-        : Counter(sql)
+        : Till(sql)
     {
-        click(form, "btn_Afficher");
+        click(window, "btn_Afficher");
         if (!shop.sql("select 1 from Ticket").empty()) {
-            click(form, "btn_Ticket");
+            click(window, "btn_Ticket");
         }
     }
 
     void hover(const char* list, int row, int column)
     {
-        hoverCell(form, list, row, column);
+        hoverCell(window, list, row, column);
     }
 
     QWidget& viewport(const char* list)
     {
-        return *child<QTableView>(form, list).viewport();
+        return *child<QTableView>(window, list).viewport();
     }
 };
 
@@ -132,7 +132,7 @@ void TestFormVendelTips::theTipStandsRightBelowItsPoint()
 void TestFormVendelTips::aTotalHasATipToo()
 {
     OpenCounter counter;
-    click(counter.form, "btn_Total_Ticket");
+    click(counter.window, "btn_Total_Ticket");
     counter.hover("tableView2", 1, 2);
     QCOMPARE(QToolTip::text(),
         QStringLiteral("Ticket\nClick sur : Total ticket\nPour supprimer l'article du ticket"));
@@ -174,8 +174,8 @@ void TestFormVendelTips::theCheckBoxSwitchesTipsOff()
     OpenCounter counter;
     counter.hover("tableView1", 0, 2);
     QVERIFY(QToolTip::isVisible());
-    click(counter.form, "chkbx_ToolTip");
-    QVERIFY(!child<QCheckBox>(counter.form, "chkbx_ToolTip").isChecked());
+    click(counter.window, "chkbx_ToolTip");
+    QVERIFY(!child<QCheckBox>(counter.window, "chkbx_ToolTip").isChecked());
     QTRY_VERIFY(!QToolTip::isVisible());
     counter.hover("tableView1", 0, 2);
     counter.hover("tableView2", 0, 2);
@@ -185,7 +185,7 @@ void TestFormVendelTips::theCheckBoxSwitchesTipsOff()
 void TestFormVendelTips::theCheckBoxTakesAStandingTipAway()
 {
     OpenCounter counter;
-    auto& box = child<QCheckBox>(counter.form, "chkbx_ToolTip");
+    auto& box = child<QCheckBox>(counter.window, "chkbx_ToolTip");
     box.setFocus();
     counter.hover("tableView1", 0, 2);
     QVERIFY(QToolTip::isVisible());
@@ -197,8 +197,8 @@ void TestFormVendelTips::theCheckBoxTakesAStandingTipAway()
 void TestFormVendelTips::theCheckBoxSwitchesTipsOnAgain()
 {
     OpenCounter counter;
-    click(counter.form, "chkbx_ToolTip");
-    click(counter.form, "chkbx_ToolTip");
+    click(counter.window, "chkbx_ToolTip");
+    click(counter.window, "chkbx_ToolTip");
     counter.hover("tableView1", 0, 2);
     QCOMPARE(QToolTip::text(), eauOnMenu);
 }
@@ -220,7 +220,7 @@ void TestFormVendelTips::otherEventsTouchNoTip()
     OpenCounter counter;
     counter.hover("tableView1", 0, 2);
     QEvent event(static_cast<QEvent::Type>(type));
-    QObject& filter = counter.form;
+    QObject& filter = counter.window;
     for (const auto* list : {"tableView1", "tableView2"}) {
         QVERIFY(!filter.eventFilter(&counter.viewport(list), &event));
     }
@@ -232,14 +232,14 @@ void TestFormVendelTips::otherEventsTouchNoTip()
 void TestFormVendelTips::theListsProcessTheirEventsAsUsual()
 {
     OpenCounter counter;
-    QObject& filter = counter.form;
+    QObject& filter = counter.window;
     for (const auto type : {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
              QEvent::MouseButtonDblClick}) {
         QMouseEvent event(
             type, QPointF(50, 5), QPointF(50, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QVERIFY(!filter.eventFilter(&counter.viewport("tableView1"), &event));
         QVERIFY(!filter.eventFilter(&counter.viewport("tableView2"), &event));
-        QVERIFY(!filter.eventFilter(&counter.form, &event));
+        QVERIFY(!filter.eventFilter(&counter.window, &event));
     }
 }
 
@@ -259,7 +259,7 @@ void TestFormVendelTips::theSplashsTimerTakesNoTipAway()
 {
     OpenCounter counter;
     counter.hover("tableView1", 0, 2);
-    auto& splash = child<FormVendelStart>(counter.form, "FormVendelStart");
+    auto& splash = child<FormVendelStart>(counter.window, "FormVendelStart");
     for (int tick = 1; tick <= 6; ++tick) {
         QVERIFY(QMetaObject::invokeMethod(&splash, "on_timeout"));
     }

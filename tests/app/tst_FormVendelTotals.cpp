@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/Counter.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
@@ -34,19 +34,19 @@ constexpr auto tenLessTwoAndAHalf
       "update Config set valeur = 20 where param = 'TVA'";
 
 /// The sales screen after a press on "Total Ticket".
-struct TotalledCounter : Counter
+struct TotalledCounter : Till
 {
     explicit TotalledCounter(const char* sql)
-        : Counter(sql)
+        : Till(sql)
     {
-        click(form, "btn_Total_Ticket");
+        click(window, "btn_Total_Ticket");
     }
 
     QStringList rows()
     {
         QStringList texts;
-        for (int row = 0; row < rowCount(form, "tableView2"); ++row) {
-            texts << rowTexts(form, "tableView2", row).join(QLatin1Char(';'));
+        for (int row = 0; row < rowCount(window, "tableView2"); ++row) {
+            texts << rowTexts(window, "tableView2", row).join(QLatin1Char(';'));
         }
         return texts;
     }
@@ -55,16 +55,16 @@ struct TotalledCounter : Counter
 
 void TestFormVendelTotals::anEmptyTicketIsSaid()
 {
-    Counter counter;
+    Till counter;
     AnswerBox box;
-    click(counter.form, "btn_Total_Ticket");
+    click(counter.window, "btn_Total_Ticket");
     QCOMPARE(box.title(), QStringLiteral("Total"));
     QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
-    QCOMPARE(box.parent(), &counter.form);
+    QCOMPARE(box.parent(), &counter.window);
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(rowCount(counter.form, "tableView2"), 0);
+    QCOMPARE(rowCount(counter.window, "tableView2"), 0);
 }
 
 void TestFormVendelTotals::standBelowTheLines()
@@ -132,7 +132,7 @@ void TestFormVendelTotals::theRatesNameIsComparedWithoutCase()
 void TestFormVendelTotals::standOnYellow()
 {
     TotalledCounter counter(tenLessTwoAndAHalf);
-    const auto* model = child<QTableView>(counter.form, "tableView2").model();
+    const auto* model = child<QTableView>(counter.window, "tableView2").model();
     for (int row = 0; row < 5; ++row) {
         for (int column = 0; column < 4; ++column) {
             const auto ground = model->index(row, column).data(Qt::BackgroundRole).value<QBrush>();
@@ -144,14 +144,14 @@ void TestFormVendelTotals::standOnYellow()
 void TestFormVendelTotals::disappearWhenTheTicketIsShownAgain()
 {
     TotalledCounter counter(tenLessTwoAndAHalf);
-    click(counter.form, "btn_Ticket");
+    click(counter.window, "btn_Ticket");
     QCOMPARE(counter.names("tableView2"), QStringLiteral("Menu|----"));
 }
 
 void TestFormVendelTotals::areShownOnceHoweverOftenAsked()
 {
     TotalledCounter counter(tenLessTwoAndAHalf);
-    click(counter.form, "btn_Total_Ticket");
+    click(counter.window, "btn_Total_Ticket");
     QCOMPARE(
         counter.names("tableView2"), QStringLiteral("Menu|----|Total ticket|TVA 20.00%|TOTAL "));
 }
@@ -168,7 +168,7 @@ void TestFormVendelTotals::areInView()
     TotalledCounter counter(
         "with recursive n(i) as (select 1 union all select i + 1 from n where i < 60)"
         "insert into Ticket (id, article, prix) select 1, 'Thé ' || i, 1 from n");
-    const auto& view = child<QTableView>(counter.form, "tableView2");
+    const auto& view = child<QTableView>(counter.window, "tableView2");
     for (const int row : {60, 61, 62}) {
         QVERIFY(view.viewport()->rect().contains(view.visualRect(view.model()->index(row, 3))));
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendelStart.h"
+#include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/Counter.h"
 #include "tests/support/FailingText.h"
 #include "tests/support/LeakCheck.h"
 #include "tests/support/TestMain.h"
@@ -37,20 +37,21 @@ private slots:
 
 namespace {
 /// A till whose amount field fails at each change to \a text.
-struct TroubledField : Counter
+struct TroubledField : Till
 {
     explicit TroubledField(const QString& text)
     {
-        QObject::connect(&field(), &QLineEdit::textChanged, &form, [text](const QString& changed) {
-            if (changed == text) {
-                throw std::runtime_error("trouble");
-            }
-        });
+        QObject::connect(
+            &field(), &QLineEdit::textChanged, &window, [text](const QString& changed) {
+                if (changed == text) {
+                    throw std::runtime_error("trouble");
+                }
+            });
     }
 
     QLineEdit& field()
     {
-        return child<QLineEdit>(form, "txt_montant");
+        return child<QLineEdit>(window, "txt_montant");
     }
 };
 
@@ -124,18 +125,18 @@ void TestFormVendelTroubles::aKeyIsLoggedUnderItsNumber()
     QFETCH(QString, digit);
     TroubledField till(digit);
     const CapturedLog log;
-    click(till.form, QTest::currentDataTag());
+    click(till.window, QTest::currentDataTag());
     QTEST(log.criticals(), "criticals");
-    click(till.form, "btn_5");
+    click(till.window, "btn_5");
     QCOMPARE(till.field().text(), digit + QLatin1Char('5'));
 }
 
 void TestFormVendelTroubles::theSeparatorIsLoggedUnderItsNumber()
 {
-    Counter till;
+    Till till;
     const FailingText failing(",");
     const CapturedLog log;
-    click(till.form, "btn_11");
+    click(till.window, "btn_11");
     QCOMPARE(log.criticals(), line("Errors on_btn_11_clicked : no text"));
 }
 
@@ -146,7 +147,7 @@ void TestFormVendelTroubles::plusIsLoggedUnderItsNumber()
     till.field().setText(QStringLiteral(" 7"));
     const CapturedLog log;
     const FailingLog failing;
-    click(till.form, "btn_12");
+    click(till.window, "btn_12");
     QCOMPARE(log.criticals(), line("Errors on_btn_12_clicked : no log"));
 }
 
@@ -157,7 +158,7 @@ void TestFormVendelTroubles::minusIsLoggedUnderItsNumber()
     TroubledField till(QStringLiteral("13"));
     till.field().setText(QStringLiteral("13 "));
     const CapturedLog log;
-    click(till.form, "btn_13");
+    click(till.window, "btn_13");
     QCOMPARE(log.criticals(), line("Errors on_btn_13_clicked : trouble"));
     QCOMPARE(till.shop.cell("select prix from Ticket"), QStringLiteral("-13"));
 }
@@ -167,27 +168,27 @@ void TestFormVendelTroubles::clearingTheFieldIsLogged()
     TroubledField till{QString()};
     till.field().setText(QStringLiteral("7"));
     const CapturedLog log;
-    click(till.form, "btn_Effacer_Saisie");
+    click(till.window, "btn_Effacer_Saisie");
     QCOMPARE(log.criticals(), line("Errors on_btn_Effacer_Saisie_clicked : trouble"));
 }
 
 void TestFormVendelTroubles::theClockIsLogged()
 {
-    Counter till;
-    till.form.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly)->stop();
+    Till till;
+    till.window.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly)->stop();
     const FailingText failing("dd/MM/yyyy");
     const CapturedLog log;
-    QVERIFY(QMetaObject::invokeMethod(&till.form, "on_timeout"));
+    QVERIFY(QMetaObject::invokeMethod(&till.window, "on_timeout"));
     QCOMPARE(log.criticals(), line("Errors FormVendel on_timeout : no text"));
 }
 
 void TestFormVendelTroubles::clearingTheTicketIsLogged()
 {
-    Counter till;
+    Till till;
     const FailingText failing("Le ticket est vide");
     const CapturedLog log;
     const AnswerBox box;
-    click(till.form, "btn_Effacer_Ticket");
+    click(till.window, "btn_Effacer_Ticket");
     QCOMPARE(log.criticals(), line("Errors FormVendel on_btn_Effacer_Ticket_clicked : no text"));
     QVERIFY(!box.wasShown());
 }
@@ -212,23 +213,23 @@ void TestFormVendelTroubles::openingAWindowIsLogged_data()
 void TestFormVendelTroubles::openingAWindowIsLogged()
 {
     QFETCH(QString, action);
-    Counter till;
-    const TroubleAt trouble(QEvent::Polish, QTest::currentDataTag());
+    Till till;
+    const TroubleAt trouble(QEvent::Show, QTest::currentDataTag());
     const CapturedLog log;
-    till.form.findChild<QAction*>(action)->trigger();
+    till.window.findChild<QAction*>(action)->trigger();
     QTEST(log.criticals(), "criticals");
-    QVERIFY(till.form.isVisible());
+    QVERIFY(till.window.isVisible());
 }
 
 void TestFormVendelTroubles::aTipIsLogged()
 {
-    Counter till("insert into Article (article, prix) values ('Thé', 1)");
-    click(till.form, "btn_Afficher");
+    Till till("insert into Article (article, prix) values ('Thé', 1)");
+    click(till.window, "btn_Afficher");
     const FailingText failing("Menu\nClick sur : ");
     const CapturedLog log;
-    hoverCell(till.form, "tableView1", 0, 2);
+    hoverCell(till.window, "tableView1", 0, 2);
     QCOMPARE(log.criticals(), line("Errors FormVendel eventFilter : no text"));
-    clickCell(till.form, "tableView1", 0, 2);
+    clickCell(till.window, "tableView1", 0, 2);
     QCOMPARE(till.names("tableView2"), QStringLiteral("Thé"));
 }
 
@@ -253,7 +254,7 @@ void TestFormVendelTroubles::aWindowThatCannotBeMadeIsLogged()
     const CapturedLog log;
     {
         const FailingText failing("Effacer Ticket");
-        const FormVendel form;
+        const FormVendel window;
     }
     {
         const FailingText failing("Système Vendel");

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendel.h"
-#include "common/Windows.h"
 #include "forms/FormVendelStockCalculation.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestMain.h"
+#include "widgets/Windows.h"
 
 #include <QAction>
 #include <QElapsedTimer>

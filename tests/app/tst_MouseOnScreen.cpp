@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/Counter.h"
+#include "tests/app/Till.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Widgets.h"
 
@@ -75,13 +75,13 @@ const QWidget* shownTip()
 }
 
 /// The sales screen in the middle of the screen, where the till opens it.
-struct ShownCounter : Counter
+struct ShownCounter : Till
 {
     ShownCounter()
-        : Counter(articles)
+        : Till(articles)
     {
-        form.move(158, 71);
-        click(form, "btn_Afficher");
+        window.move(158, 71);
+        click(window, "btn_Afficher");
         mouse(moveTo(outside));
     }
     ~ShownCounter()
@@ -96,7 +96,7 @@ struct ShownCounter : Counter
 
     QPoint cell(const char* list, int row)
     {
-        const auto& view = child<QTableView>(form, list);
+        const auto& view = child<QTableView>(window, list);
         return view.viewport()->mapToGlobal(view.visualRect(view.model()->index(row, 2)).center());
     }
 };
@@ -106,7 +106,7 @@ void TestMouseOnScreen::theScreenIsTheCountersScreen()
 {
     const ShownCounter counter;
     QCOMPARE(QGuiApplication::primaryScreen()->geometry(), QRect(0, 0, 1366, 768));
-    QCOMPARE(counter.form.pos(), QPoint(158, 71));
+    QCOMPARE(counter.window.pos(), QPoint(158, 71));
 }
 
 void TestMouseOnScreen::aTipUnderThePointerLetsAClickThrough()
@@ -177,7 +177,7 @@ void TestMouseOnScreen::aDoubleClickOnTheTicketRemovesOneLine()
     ShownCounter counter;
     rest(counter.cell("tableView1", 2));
     mouse(clicks(3, 300));
-    QTRY_COMPARE(rowCount(counter.form, "tableView2"), 3);
+    QTRY_COMPARE(rowCount(counter.window, "tableView2"), 3);
     rest(counter.cell("tableView2", 0));
     mouse(clicks(2, 60));
     QTest::qWait(300);

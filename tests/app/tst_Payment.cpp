@@ -2,8 +2,10 @@
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
+#include "tests/support/FailingText.h"
 #include "tests/support/MarkedContext.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/Trouble.h"
 
 #include <QDateTime>
 #include <QPointer>
@@ -26,6 +28,9 @@ class TestPayment : public QObject
     Q_OBJECT
 
 private slots:
+    void aShownReceiptEmptiesTheTicket();
+    void aReceiptThatCannotBeComposedKeepsTheTicket();
+    void aReceiptThatCannotBeShownKeepsTheTicket();
     void anEmptyTicketIsSaidAndNothingIsWritten();
     void eachLineGoesIntoTheHistory();
     void aLineIsDatedWithTheLocalTime();
@@ -325,6 +330,42 @@ void TestPayment::theSwitchIsFoundInAnyCase()
     till.sell("Thé", "2.5");
     till.pay();
     QVERIFY(till.receipt() != nullptr);
+}
+
+void TestPayment::aShownReceiptEmptiesTheTicket()
+{
+    Till till;
+    till.sell("Thé", "2.5");
+    till.pay();
+    QVERIFY(till.receipt()->isFilled());
+    QCOMPARE(till.ticket(), QStringList());
+}
+
+void TestPayment::aReceiptThatCannotBeComposedKeepsTheTicket()
+{
+    Till till;
+    till.sell("Thé", "2.5");
+    const FailingText failing("Produit");
+    const CapturedLog log;
+    CapturedOutput output;
+    till.pay();
+    QCOMPARE(log.criticals(),
+        QStringList(QStringLiteral("Errors FormVendelTicket Constructor : no text")));
+    QVERIFY(!output.text().contains("delete"));
+    QCOMPARE(child<QTextEdit>(*till.receipt(), "txt_Ticket").toPlainText(), QString());
+    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
+}
+
+void TestPayment::aReceiptThatCannotBeShownKeepsTheTicket()
+{
+    Till till;
+    till.sell("Thé", "2.5");
+    const TroubleAt trouble(QEvent::WindowTitleChange, "FormVendelTicket");
+    const CapturedLog log;
+    till.pay();
+    QCOMPARE(log.criticals(),
+        QStringList(QStringLiteral("Errors FormVendelTicket Constructor : trouble")));
+    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
 }
 
 VENDEL_TEST_MAIN(TestPayment)

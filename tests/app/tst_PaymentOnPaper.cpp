@@ -57,6 +57,7 @@ private slots:
     void aDriverThatStaysKeepsTheTicket();
     void aCharacterThatThePrinterLacksKeepsTheTicket_data();
     void aCharacterThatThePrinterLacksKeepsTheTicket();
+    void everyPressRecordsASaleThatCannotBePrinted();
 };
 
 void TestPaymentOnPaper::aReceiptIsOneTransferAndACut()
@@ -358,6 +359,26 @@ void TestPaymentOnPaper::aCharacterThatThePrinterLacksKeepsTheTicket()
     till.sellOnPaper();
     QCOMPARE(printer.transfers().size(), 2U);
     QVERIFY(till.sellsOnScreen());
+}
+
+void TestPaymentOnPaper::everyPressRecordsASaleThatCannotBePrinted()
+{
+    const EmulatedPrinter printer;
+    Till till;
+    const CapturedLog log;
+    const AnswerBox box;
+    till.setSwitch("1");
+    till.sell("Bière 🍺", "2.5");
+    till.pay();
+    till.pay();
+    QVERIFY(printer.transfers().empty());
+    QVERIFY(!box.wasShown());
+    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Bière 🍺 2.5")));
+    QCOMPARE(till.history(),
+        (QStringList{QStringLiteral("7 Bière 🍺 2.5"), QStringLiteral("7 Bière 🍺 2.5")}));
+    click(till.window, "btn_Effacer_Ticket");
+    QCOMPARE(till.ticket(), QStringList());
+    QCOMPARE(till.history().size(), 2);
 }
 
 VENDEL_TEST_MAIN(TestPaymentOnPaper)

@@ -23,7 +23,8 @@ private slots:
     void anAccentedNameStandsOneColumnShort();
     void aNameOfTenThousandLettersIsNotCut();
     void aSemicolonAndQuotesArePrintedAsTheyStand();
-    void controlCharactersReachThePrinter();
+    void aControlCharacterInANameIsABlank_data();
+    void aControlCharacterInANameIsABlank();
     void tenUnitsFillTheQuantityColumn();
     void aHundredUnitsPushTheRestOfTheirLine();
     void aLongPricePushesTheRestOfItsLine();
@@ -172,11 +173,27 @@ void TestReceipt::aSemicolonAndQuotesArePrintedAsTheyStand()
     COMPARE_BYTES(printedItems(), "1  l'eau; \"100%\"  \t$1.00       $1.00\r\n");
 }
 
-void TestReceipt::controlCharactersReachThePrinter()
+void TestReceipt::aControlCharacterInANameIsABlank_data()
 {
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("printed");
+    QTest::newRow("the command that opens the drawer")
+        << QByteArray("\x1bp0zz") << QByteArray(" p0zz          ");
+    QTest::newRow("the first and the last of them")
+        << QByteArray("a\x01\x1f\x7fz") << QByteArray("a   z          ");
+    QTest::newRow("those around the tab and the carriage return")
+        << QByteArray("a\x08\x0a\x0c\x0ez") << QByteArray("a    z         ");
+    QTest::newRow("a tab") << QByteArray("a\tz") << QByteArray("a\tz            ");
+    QTest::newRow("a carriage return") << QByteArray("a\rz") << QByteArray("a\rz            ");
+}
+
+void TestReceipt::aControlCharacterInANameIsABlank()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, printed);
     const Shop shop;
-    putOnTicket(shop, "a\x01\t\n\x1b\x7fz", "1");
-    COMPARE_BYTES(printedItems(), "1  a\x01\t\n\x1b\x7fz        \t$1.00       $1.00\r\n");
+    putOnTicket(shop, name.constData(), "1");
+    COMPARE_BYTES(printedItems(), "1  " + printed + "\t$1.00       $1.00\r\n");
 }
 
 void TestReceipt::tenUnitsFillTheQuantityColumn()

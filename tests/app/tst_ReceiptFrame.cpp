@@ -120,6 +120,15 @@ void TestReceiptFrame::aHeaderHasTheseBytes_data()
     row("accents", "\xc3\x80 bient\xc3\xb4t",
         boldLine("                  \xb7 bient\x93t                  "));
     row("a tab", "a\tb", boldLine("                      a\tb                      "));
+    row("a command that changes the printer's settings", "a\x1d(E\x03z",
+        boldLine("                    a (E z                    "));
+    row("the first and the last control characters", "a\x01\x1f\x7fz",
+        boldLine("                     a   z                     "));
+    row("those around the tab, the line feed and the carriage return", "a\x08\x0b\x0c\x0ez",
+        boldLine("                    a    z                    "));
+    row("a command in a title", "titre:Chez\x1bp0 Paul\x10\x14", titleLine("Chez p0 Paul  "));
+    row("a command in the title mark", "titre\x1b:Chez Paul",
+        boldLine("               titre :Chez Paul               "));
     row("semicolons and angle brackets", "<b>;a;</b>",
         boldLine("                  <b>;a;</b>                  "));
 }
@@ -146,6 +155,8 @@ void TestReceiptFrame::aFooterHasTheseBytes_data()
     QTest::newRow("49 bytes") << QByteArray(49, 'x') << QByteArray("\r\n");
     QTest::newRow("a carriage return") << QByteArray(
         "ab\r\n") << "                      ab\r                      \r\n" + blank46 + "\r\n";
+    QTest::newRow("a command") << QByteArray("a\x1bp0z")
+                               << QByteArray("                     a p0z                     \r\n");
     QTest::newRow("a NUL") << QByteArray("ab\0cd", 5)
                            << QByteArray("                      ab                      \r\n");
 }

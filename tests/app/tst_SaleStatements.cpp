@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "app/Configuration.h"
-#include "app/TicketTable.h"
+#include "store/Settings.h"
+#include "store/Ticket.h"
+#include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/Counter.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/Widgets.h"
 
@@ -38,29 +38,27 @@ void TestSaleStatements::standWordForWord_data()
                             << databaseReport(sql, QByteArray("no such table: ") + table);
     };
     row(
-        "lines", [] { TicketTable::rows(); }, "select * from Ticket");
+        "lines", [] { Ticket::lines(); }, "select * from Ticket");
     row(
-        "groups", [] { TicketTable::groups(); },
+        "groups", [] { Ticket::groups(); },
         "select cpte, article, prix, cpte*prix as calcul from (select count(article) as cpte, "
         "article, prix from Ticket group by article, prix) as t");
     row(
-        "sum", [] { TicketTable::sum(); }, "select sum(prix) from Ticket");
-    row(
-        "an article", [] { TicketTable::addArticle(QStringLiteral("12")); },
+        "an article", [] { Ticket::addArticle(QStringLiteral("12")); },
         "select * from Article where id = 12 order by Article asc", "Article");
     row(
-        "an amount", [] { TicketTable::addAmount(QStringLiteral("-2.5")); },
+        "an amount", [] { Ticket::addAmount(QStringLiteral("-2.5")); },
         "insert into Ticket(id, article, prix) values (0, '----', -2.5)");
     row(
-        "removal", [] { TicketTable::remove(QStringLiteral("7")); },
+        "removal", [] { Ticket::remove(QStringLiteral("7")); },
         "delete from Ticket where idlig = 7");
     row(
-        "clearing", [] { TicketTable::clear(); }, "delete from Ticket");
+        "clearing", [] { Ticket::clear(); }, "delete from Ticket");
     row(
-        "rate", [] { Configuration::taxRates(); },
-        "select valeur from Config where param like 'TVA'", "Config");
+        "rate", [] { Settings::taxRates(); }, "select valeur from Config where param like 'TVA'",
+        "Config");
     row(
-        "switch", [] { Configuration::printerSwitches(); },
+        "switch", [] { Settings::printerSwitches(); },
         "select valeur from Config where param like 'Epson TM-T20II'", "Config");
 }
 
@@ -77,12 +75,12 @@ void TestSaleStatements::standWordForWord()
 void TestSaleStatements::thatOfTheMenusDoublesStandsWordForWord()
 {
     // A menu of another program: its names are read, its keys have another name.
-    Counter counter("drop table Article; create table Article (ident, article, prix);"
-                    "insert into Article values (1, 'Thé', 2)");
+    Till counter("drop table Article; create table Article (ident, article, prix);"
+                 "insert into Article values (1, 'Thé', 2)");
     const CapturedLog log;
     CapturedOutput output;
     const AnswerBox box;
-    click(counter.form, "btn_Afficher");
+    click(counter.window, "btn_Afficher");
     QCOMPARE(output.text(),
         databaseReport(
             "select sum(z.art) as som from (select count(d.article) as art, d.article from "

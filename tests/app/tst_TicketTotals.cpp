@@ -13,14 +13,12 @@ private slots:
     void areReckonedInSinglePrecision();
     void withoutARateThereIsNoTax();
     void eachRateGivesItsTaxAndTheLastOneCounts();
-    void withoutASumTheyThrow();
-    void aRateRowWithoutAValueThrows();
 };
 
 namespace {
-DbRows one(const QByteArray& value)
+std::vector<QString> one(const QByteArray& value)
 {
-    return DbRows(1, {value.toStdString()});
+    return {QString::fromUtf8(value)};
 }
 } // namespace
 
@@ -57,13 +55,25 @@ void TestTicketTotals::areReckonedInSinglePrecision_data()
     row("a sum that is no number", "abc", "20", "0.00", "20.00", "0.00", "0.00");
     row("an empty sum", "", "20", "0.00", "20.00", "0.00", "0.00");
     row("six significant digits", "999.95", "33.33", "999.95", "33.33", "333.29", "1,333.24");
+    // Each of these is one cent off unless it is cut to six digits before its half cent is rounded:
+    // 0.02 + 0.005 is just below 0.025 in single precision, the number read from "0.025" just
+    // above.
+    row("six digits of two cents", "0.02", "0", "0.02", "0.00", "0.00", "0.03");
+    row("six digits of nine cents", "0.09", "0", "0.09", "0.00", "0.00", "0.09");
+    row("six digits of many cents", "999.84", "0", "999.84", "0.00", "0.00", "999.84");
+    row("six digits at 5.5 per cent", "18.91", "5.5", "18.91", "5.50", "1.05", "19.95");
+    row("six digits at 10 per cent", "1.8", "10", "1.80", "10.00", "0.19", "1.99");
+    row("six digits at 20 per cent", "1.5", "20", "1.50", "20.00", "0.31", "1.80");
+    row("six digits of a tax at 5.5 per cent", "38", "5.5", "38.00", "5.50", "2.10", "40.10");
+    row("six digits of a tax at 10 per cent", "0.1", "10", "0.10", "10.00", "0.01", "0.12");
+    row("six digits of a tax at 20 per cent", "1.1", "20", "1.10", "20.00", "0.22", "1.33");
 }
 
 void TestTicketTotals::areReckonedInSinglePrecision()
 {
     QFETCH(QByteArray, sum);
     QFETCH(QByteArray, rate);
-    const TicketTotals totals = totalTicket(one(sum), one(rate));
+    const TicketTotals totals = totalTicket(QString::fromUtf8(sum), one(rate));
     QTEST(totals.sum, "shownSum");
     QCOMPARE(totals.taxes.size(), std::size_t{1});
     QTEST(totals.taxes.at(0).rate, "shownRate");
@@ -73,7 +83,7 @@ void TestTicketTotals::areReckonedInSinglePrecision()
 
 void TestTicketTotals::withoutARateThereIsNoTax()
 {
-    const TicketTotals totals = totalTicket(one("7.5"), {});
+    const TicketTotals totals = totalTicket(QStringLiteral("7.5"), {});
     QCOMPARE(totals.sum, QStringLiteral("7.50"));
     QVERIFY(totals.taxes.empty());
     QCOMPARE(totals.grandTotal, QStringLiteral("7.50"));
@@ -81,24 +91,14 @@ void TestTicketTotals::withoutARateThereIsNoTax()
 
 void TestTicketTotals::eachRateGivesItsTaxAndTheLastOneCounts()
 {
-    const TicketTotals totals = totalTicket(one("10"), {{"20"}, {"5.5"}});
+    const TicketTotals totals
+        = totalTicket(QStringLiteral("10"), {QStringLiteral("20"), QStringLiteral("5.5")});
     QCOMPARE(totals.taxes.size(), std::size_t{2});
     QCOMPARE(totals.taxes.at(0).rate, QStringLiteral("20.00"));
     QCOMPARE(totals.taxes.at(0).amount, QStringLiteral("2.01"));
     QCOMPARE(totals.taxes.at(1).rate, QStringLiteral("5.50"));
     QCOMPARE(totals.taxes.at(1).amount, QStringLiteral("0.56"));
     QCOMPARE(totals.grandTotal, QStringLiteral("10.56"));
-}
-
-void TestTicketTotals::withoutASumTheyThrow()
-{
-    QVERIFY_EXCEPTION_THROWN(totalTicket({}, one("20")), std::out_of_range);
-    QVERIFY_EXCEPTION_THROWN(totalTicket(DbRows(1), one("20")), std::out_of_range);
-}
-
-void TestTicketTotals::aRateRowWithoutAValueThrows()
-{
-    QVERIFY_EXCEPTION_THROWN(totalTicket(one("7.5"), DbRows(1)), std::out_of_range);
 }
 
 VENDEL_TEST_MAIN(TestTicketTotals)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Messages.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/CoreTestMain.h"
 
 #include <array>
 #include <string>
@@ -232,6 +232,9 @@ void TestMessages::everyTextStandsAsItIsShown_data()
     compare("168", Messages::Messages168, {"Afficher"});
     compare("169", Messages::Messages169, {"Pèriode du", "au"});
     compare("170", Messages::Messages170, {""});
+    compare("171", Messages::Messages171, {"Le texte n'a pas pu être enregistré", "Sauvegarde"});
+    compare("172", Messages::Messages172,
+        {"La vente n'est pas enregistrée\nLe ticket est gardé", "Payer"});
 }
 
 void TestMessages::everyTextStandsAsItIsShown()
@@ -250,5 +253,5 @@ void TestMessages::entriesHaveFixedLengths()
     static_assert(std::is_const_v<decltype(Messages::Messages0)>);
 }
 
-VENDEL_TEST_MAIN(TestMessages)
+VENDEL_CORE_TEST_MAIN(TestMessages)
 #include "tst_Messages.moc"

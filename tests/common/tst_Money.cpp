@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Money.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/CoreTestMain.h"
 
 class TestMoney : public QObject
 {
@@ -65,7 +65,7 @@ void TestMoney::storedTextIsReadInSinglePrecision_data()
 void TestMoney::storedTextIsReadInSinglePrecision()
 {
     QFETCH(QByteArray, stored);
-    QTEST(formatAmount(stored.toStdString()), "text");
+    QTEST(formatAmount(QString::fromUtf8(stored)), "text");
 }
 
 void TestMoney::listsPutTheSignBehind()
@@ -91,7 +91,7 @@ void TestMoney::cellsShowNumbersAsMoney_data()
 void TestMoney::cellsShowNumbersAsMoney()
 {
     QFETCH(QByteArray, stored);
-    QTEST(formatCell(stored.toStdString()), "cell");
+    QTEST(formatCell(QString::fromUtf8(stored)), "cell");
 }
 
 void TestMoney::exactCellsKeepTheirCents_data()
@@ -107,7 +107,7 @@ void TestMoney::exactCellsKeepTheirCents_data()
 void TestMoney::exactCellsKeepTheirCents()
 {
     QFETCH(QByteArray, stored);
-    QTEST(formatExactCell(stored.toStdString()), "cell");
+    QTEST(formatExactCell(QString::fromUtf8(stored)), "cell");
 }
 
 void TestMoney::aShownAmountIsReadBack_data()
@@ -135,5 +135,5 @@ void TestMoney::commasBecomePoints()
     QCOMPARE(withPoint(QStringLiteral("12.5")), QStringLiteral("12.5"));
 }
 
-VENDEL_TEST_MAIN(TestMoney)
+VENDEL_CORE_TEST_MAIN(TestMoney)
 #include "tst_Money.moc"

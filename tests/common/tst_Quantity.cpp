@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Money.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/CoreTestMain.h"
 
 class TestQuantity : public QObject
 {
@@ -35,15 +35,15 @@ void TestQuantity::numbersAreEnglishWithTwoDecimals()
 {
     QFETCH(const QString, stored);
     QFETCH(const QString, shown);
-    QCOMPARE(formatQuantity(stored.toStdString()), shown);
+    QCOMPARE(formatQuantity(stored), shown);
 }
 
 void TestQuantity::threeDecimalsOnRequest()
 {
-    QCOMPARE(formatQuantity("0.25", 3), QStringLiteral("0.250"));
-    QCOMPARE(formatQuantity("1234.5", 3), QStringLiteral("1,234.500"));
-    QCOMPARE(formatQuantity("quart", 3), QStringLiteral("quart"));
+    QCOMPARE(formatQuantity(QStringLiteral("0.25"), 3), QStringLiteral("0.250"));
+    QCOMPARE(formatQuantity(QStringLiteral("1234.5"), 3), QStringLiteral("1,234.500"));
+    QCOMPARE(formatQuantity(QStringLiteral("quart"), 3), QStringLiteral("quart"));
 }
 
-VENDEL_TEST_MAIN(TestQuantity)
+VENDEL_CORE_TEST_MAIN(TestQuantity)
 #include "tst_Quantity.moc"

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "common/ReceiptFiles.h"
 #include "tests/support/BadDays.h"
+#include "tests/support/Captured.h"
+#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <sys/stat.h>
 
@@ -24,6 +26,9 @@ private slots:
     void anUnreadableFileIsNothing();
     void aFileThatFailsWhileItIsReadIsNothing();
     void anUnreadableFileIsNotReplaced();
+    void aFifoIsNeitherReadNorReplaced();
+    void aFileThatIsTooLargeIsNeitherReadNorReplaced();
+    void aTextThatIsTooLongIsNotWritten();
 };
 
 void TestReceiptFiles::haveTheirNames()
@@ -117,5 +122,43 @@ void TestReceiptFiles::anUnreadableFileIsNotReplaced()
     QCOMPARE(shop.read(ReceiptFiles::header), QByteArray("Bar"));
 }
 
-VENDEL_TEST_MAIN(TestReceiptFiles)
+void TestReceiptFiles::aFifoIsNeitherReadNorReplaced()
+{
+    const Shop shop(Shop::Database::None);
+    QVERIFY(mkfifo("EnteteFormulaire.dat", 0600) == 0);
+    const CapturedLog log;
+    QVERIFY(!ReceiptFiles::read(ReceiptFiles::header).has_value());
+    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QStringLiteral("Bar")));
+    struct stat status
+    { };
+    QVERIFY(stat("EnteteFormulaire.dat", &status) == 0);
+    QVERIFY(S_ISFIFO(status.st_mode));
+    const QString line
+        = QStringLiteral("EnteteFormulaire.dat is not read: it is not a regular file");
+    QCOMPARE(log.criticals(), (QStringList{line, line}));
+}
+
+void TestReceiptFiles::aFileThatIsTooLargeIsNeitherReadNorReplaced()
+{
+    const Shop shop(Shop::Database::None);
+    shop.write(ReceiptFiles::header, "Bar");
+    QVERIFY(QFile::resize(ReceiptFiles::header, 4'194'305));
+    const CapturedLog log;
+    QVERIFY(!ReceiptFiles::read(ReceiptFiles::header).has_value());
+    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QStringLiteral("Rue")));
+    QCOMPARE(QFileInfo(ReceiptFiles::header).size(), 4'194'305);
+    QCOMPARE(log.criticals().size(), 2);
+}
+
+void TestReceiptFiles::aTextThatIsTooLongIsNotWritten()
+{
+    const Shop shop(Shop::Database::None);
+    shop.write(ReceiptFiles::footer, "Merci");
+    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::footer, QString(4'194'305, QLatin1Char('x'))));
+    QCOMPARE(shop.read(ReceiptFiles::footer), QByteArray("Merci"));
+    QVERIFY(ReceiptFiles::replace(ReceiptFiles::footer, QString(4'194'304, QLatin1Char('x'))));
+    QCOMPARE(ReceiptFiles::read(ReceiptFiles::footer)->size(), 4'194'304);
+}
+
+VENDEL_CORE_TEST_MAIN(TestReceiptFiles)
 #include "tst_ReceiptFiles.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "common/SlotGuard.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/CoreTestMain.h"
 
 #include <stdexcept>
 
@@ -60,5 +60,5 @@ void TestSlotGuard::whatIsNoStandardExceptionGoesOn()
     QVERIFY(log.criticals().isEmpty());
 }
 
-VENDEL_TEST_MAIN(TestSlotGuard)
+VENDEL_CORE_TEST_MAIN(TestSlotGuard)
 #include "tst_SlotGuard.moc"

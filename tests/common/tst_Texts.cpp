@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Texts.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/CoreTestMain.h"
 #include "tests/support/Translation.h"
 
 class TestTexts : public QObject
@@ -18,6 +18,7 @@ private slots:
     void thePluralIsChosenByTheCount();
     void theCountZeroIsFilledIn();
     void withoutACountTheMarkStays();
+    void aCaptionIsLookedUpInTheWindowsTwoContextsAndTheCatalogue();
 };
 
 namespace {
@@ -96,5 +97,22 @@ void TestTexts::withoutACountTheMarkStays()
     QCOMPARE(texts(duplicates.toStdString()), duplicates);
 }
 
-VENDEL_TEST_MAIN(TestTexts)
+void TestTexts::aCaptionIsLookedUpInTheWindowsTwoContextsAndTheCatalogue()
+{
+    const QString heading = QStringLiteral("Entête");
+    const auto caption = [&] { return Texts::caption(own, heading); };
+    QCOMPARE(caption(), heading);
+    Translation translation;
+    translation.add(QStringLiteral("FormVendel"), heading, QStringLiteral("elsewhere"));
+    QCOMPARE(caption(), heading);
+    translation.add(catalogue, heading, QStringLiteral("catalogue"));
+    QCOMPARE(caption(), QStringLiteral("catalogue"));
+    translation.add(
+        QStringLiteral("FormVendelSaisieArticleMessages"), heading, QStringLiteral("messages"));
+    QCOMPARE(caption(), QStringLiteral("messages"));
+    translation.add(ownContext, heading, QStringLiteral("own"));
+    QCOMPARE(caption(), QStringLiteral("own"));
+}
+
+VENDEL_CORE_TEST_MAIN(TestTexts)
 #include "tst_Texts.moc"

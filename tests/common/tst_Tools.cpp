@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Tools.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/CoreTestMain.h"
 
 class TestTools : public QObject
 {
@@ -191,5 +191,5 @@ void TestTools::namesHaveFifteenCharacters()
     QCOMPARE(Tools::NbrChar, 15);
 }
 
-VENDEL_TEST_MAIN(TestTools)
+VENDEL_CORE_TEST_MAIN(TestTools)
 #include "tst_Tools.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "common/Tools.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/CoreTestMain.h"
 
 #include <cstddef>
 #include <cstdlib>
@@ -110,5 +110,5 @@ void TestToolsTrouble::toUsMdyReturnsNothing()
     QCOMPARE(text, QString());
 }
 
-VENDEL_TEST_MAIN(TestToolsTrouble)
+VENDEL_CORE_TEST_MAIN(TestToolsTrouble)
 #include "tst_ToolsTrouble.moc"

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "base/Handle.h"
 #include "common/convert.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/CoreTestMain.h"
 
 #include <QDir>
 
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 
 class TestConvert : public QObject
 {
@@ -34,14 +34,7 @@ private slots:
 };
 
 namespace {
-struct Release
-{
-    void operator()(char* buffer) const
-    {
-        std::free(buffer);
-    }
-};
-using Buffer = std::unique_ptr<char, Release>;
+using Buffer = Handle<char, std::free>;
 
 Buffer converted(const char* from, const char* to, const QByteArray& text)
 {
@@ -173,5 +166,5 @@ void TestConvert::noDescriptorStaysOpen()
     QCOMPARE(descriptors.entryList(QDir::AllEntries | QDir::System).size(), before);
 }
 
-VENDEL_TEST_MAIN(TestConvert)
+VENDEL_CORE_TEST_MAIN(TestConvert)
 #include "tst_convert.moc"

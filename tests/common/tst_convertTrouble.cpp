@@ -1,22 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "base/Handle.h"
 #include "common/convert.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/CoreTestMain.h"
 
 #include <cstddef>
 #include <cstdlib>
-#include <memory>
 
 namespace {
 /// The next request for so many bytes or more finds no memory; at 0 each finds some.
 std::size_t refusedSize = 0;
 
-struct Release
-{
-    void operator()(char* buffer) const
-    {
-        std::free(buffer);
-    }
-};
+using Buffer = Handle<char, std::free>;
 } // namespace
 
 // A sanitizer keeps its own books of the memory.
@@ -72,10 +66,10 @@ void TestConvertTrouble::withoutABufferItIsNull()
 {
     const QByteArray text(1'000'000, 'x');
     refusedSize = 1'000'004;
-    const std::unique_ptr<char, Release> refused(convert("UTF-8", "CP858", text.constData()));
+    const Buffer refused(convert("UTF-8", "CP858", text.constData()));
     QVERIFY(refused == nullptr);
     QCOMPARE(refusedSize, std::size_t{0});
-    const std::unique_ptr<char, Release> again(convert("UTF-8", "CP858", text.constData()));
+    const Buffer again(convert("UTF-8", "CP858", text.constData()));
     QCOMPARE(QByteArray(again.get()), text);
 }
 
@@ -83,10 +77,10 @@ void TestConvertTrouble::withoutALargerBufferItIsNull()
 {
     const QByteArray text(1'000'000, 'x');
     refusedSize = 1'000'005;
-    const std::unique_ptr<char, Release> refused(convert("UTF-8", "UTF-16LE", text.constData()));
+    const Buffer refused(convert("UTF-8", "UTF-16LE", text.constData()));
     QVERIFY(refused == nullptr);
     QCOMPARE(refusedSize, std::size_t{0});
 }
 
-VENDEL_TEST_MAIN(TestConvertTrouble)
+VENDEL_CORE_TEST_MAIN(TestConvertTrouble)
 #include "tst_convertTrouble.moc"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "db/Db.h"
 #include "tests/support/Captured.h"
+#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
 
 #include <QDir>
 
@@ -35,7 +35,6 @@ private slots:
     void failingCallsLeaveNoDescriptorOpen();
     void theDatabaseIsTheOneOfTheWorkingDirectory();
     void aMissingDatabaseIsMade();
-    void runSaysWhetherItWorked();
 };
 
 namespace {
@@ -238,17 +237,5 @@ void TestDb::aMissingDatabaseIsMade()
     QCOMPARE(output.text(), QByteArray());
 }
 
-void TestDb::runSaysWhetherItWorked()
-{
-    const Shop shop;
-    CapturedOutput output;
-    QVERIFY(Db::DbRun("insert into Article (article, prix) values ('Thé', 1)"));
-    QCOMPARE(output.text(), QByteArray());
-    QVERIFY(!Db::DbRun("insert into Nowhere values (1)"));
-    QCOMPARE(output.text(),
-        QByteArray("Errors Db::DbLoad sqlite3_errmsg : insert into Nowhere values (1) "
-                   "no such table: Nowhere\n"));
-}
-
-VENDEL_TEST_MAIN(TestDb)
+VENDEL_CORE_TEST_MAIN(TestDb)
 #include "tst_Db.moc"

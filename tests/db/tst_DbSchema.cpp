@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "db/Db.h"
 #include "tests/support/Captured.h"
+#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
 
 #include <QDateTime>
 
@@ -153,5 +153,5 @@ void TestDbSchema::missingValuesAreRefused()
                    "NOT NULL constraint failed: Config.valeur\n"));
 }
 
-VENDEL_TEST_MAIN(TestDbSchema)
+VENDEL_CORE_TEST_MAIN(TestDbSchema)
 #include "tst_DbSchema.moc"

@@ -54,8 +54,8 @@ inline bool anyAutoDefault(const QWidget& window)
     return false;
 }
 
-/// Whether the shown tip stands beside \a cursor (screen pixels).
-inline bool tipStandsAt(QPoint cursor)
+/// Whether the shown tip is beside \a cursor (screen pixels).
+inline bool tipIsBeside(QPoint cursor)
 {
     const auto widgets = QApplication::topLevelWidgets();
     for (const QWidget* widget : widgets) {

@@ -195,7 +195,7 @@ void TestConsumption::numbersAreFormattedWhereverTheyStand()
     bar.sell("Thé", 2);
     Consumed at;
     QCOMPARE(at.detail(0), cells({"1234", "Café", "7", "2.50 cl", "3,085.00 cl"}));
-    QCOMPARE(at.detail(1), cells({"2", "Thé", "Sel", "une pincée g", "0.00 g"}));
+    QCOMPARE(at.detail(1), cells({"2", "Thé", "Sel", "une pincée", "0.00 g"}));
     QCOMPARE(at.total(0), cells({"7.00", "3,085.00", "cl", "", ""}));
     QCOMPARE(at.total(1), cells({"Sel", "0.00", "g", "", ""}));
 }

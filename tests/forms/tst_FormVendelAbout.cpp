@@ -16,6 +16,8 @@
 #include <QPushButton>
 #include <QTextEdit>
 
+#include <sys/stat.h>
+
 namespace {
 QPushButton& okButton(QWidget& window)
 {
@@ -32,6 +34,7 @@ private slots:
     void everyTextIsLookedUpInItsContext();
     void thePictureStandsAtTheLeftEdge();
     void aMissingPictureLeavesTheLabelEmpty();
+    void aPictureThatMustNotBeReadLeavesTheLabelEmpty();
     void theTextTellsNameVersionLicenceAndFolder();
     void aFolderLikeATagIsShownAsItStands();
     void nothingIsClipped();
@@ -87,8 +90,9 @@ void TestFormVendelAbout::thePictureStandsAtTheLeftEdge()
     picture.fill(Qt::blue);
     QVERIFY(picture.save(QStringLiteral("AproposdeImage.png")));
     FormVendelAbout window;
-    window.show();
     const auto& label = child<QLabel>(window, "lbl_QPixmap");
+    QCOMPARE(label.geometry(), QRect(3, 3, 132, 256));
+    window.show();
     QCOMPARE(label.geometry(), QRect(3, 3, 132, 256));
     QVERIFY(label.hasScaledContents());
     QCOMPARE(label.pixmap(Qt::ReturnByValue).size(), QSize(264, 512));
@@ -107,6 +111,24 @@ void TestFormVendelAbout::aMissingPictureLeavesTheLabelEmpty()
     QVERIFY(child<QLabel>(window, "lbl_QPixmap").pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(child<QLabel>(window, "lbl_QPixmap").geometry(), QRect(3, 3, 132, 256));
     QCOMPARE(log.criticals(), QStringList());
+}
+
+void TestFormVendelAbout::aPictureThatMustNotBeReadLeavesTheLabelEmpty()
+{
+    const Shop shop;
+    const CapturedLog log;
+    QVERIFY(mkfifo("AproposdeImage.png", 0600) == 0);
+    FormVendelAbout window;
+    window.show();
+    QVERIFY(child<QLabel>(window, "lbl_QPixmap").pixmap(Qt::ReturnByValue).isNull());
+    QVERIFY(QFile::remove(QStringLiteral("AproposdeImage.png")));
+    QVERIFY(QImage(4097, 1, QImage::Format_Mono).save(QStringLiteral("AproposdeImage.png")));
+    FormVendelAbout another;
+    QVERIFY(child<QLabel>(another, "lbl_QPixmap").pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(log.criticals(),
+        (QStringList{QStringLiteral("AproposdeImage.png is not read: it is not a regular file"),
+            QStringLiteral(
+                "AproposdeImage.png is not shown: it has a side of more than 4096 pixels")}));
 }
 
 void TestFormVendelAbout::theTextTellsNameVersionLicenceAndFolder()

@@ -2,7 +2,7 @@
 #include "app/FormVendel.h"
 #include "forms/FormVendelSaisieStock.h"
 #include "forms/FormVendelStockCalculation.h"
-#include "tests/forms/History.h"
+#include "tests/forms/OpenHistory.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestMain.h"
@@ -90,7 +90,7 @@ void TestFormVendelHistorique::everySlotHasItsSignal()
 
 void TestFormVendelHistorique::captionsAreTheCatalogues()
 {
-    History history;
+    OpenHistory history;
     auto& window = history.window;
     QCOMPARE(window.objectName(), QStringLiteral("FormVendelHistorique"));
     QCOMPARE(window.windowTitle(), QStringLiteral("Vendel Historique"));
@@ -117,7 +117,7 @@ void TestFormVendelHistorique::captionsAreTheCatalogues()
 
 void TestFormVendelHistorique::listsAreLaidOutAndEmpty()
 {
-    History history;
+    OpenHistory history;
     struct List
     {
         const char* name;
@@ -139,7 +139,7 @@ void TestFormVendelHistorique::listsAreLaidOutAndEmpty()
             QCOMPARE(view.columnWidth(column), list.widths.at(static_cast<std::size_t>(column)));
             QVERIFY(!view.isColumnHidden(column));
         }
-        QVERIFY(view.horizontalHeader()->defaultAlignment().testFlag(Qt::AlignLeft));
+        QCOMPARE(view.horizontalHeader()->defaultAlignment(), Qt::Alignment(Qt::AlignLeft));
         QCOMPARE(view.styleSheet(),
             QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
         QVERIFY(qobject_cast<QStandardItemModel*>(view.model()) != nullptr);
@@ -148,7 +148,7 @@ void TestFormVendelHistorique::listsAreLaidOutAndEmpty()
 
 void TestFormVendelHistorique::fitsASmallScreen()
 {
-    History history;
+    OpenHistory history;
     QVERIFY(history.window.width() <= 1366);
     QVERIFY(history.window.height() <= 730);
     for (const char* name : {"tableView1", "tableView2", "tableView3"}) {
@@ -171,7 +171,7 @@ void TestFormVendelHistorique::fitsASmallScreen()
 
 void TestFormVendelHistorique::noButtonListensToReturn()
 {
-    History history;
+    OpenHistory history;
     const auto buttons = history.window.findChildren<QPushButton*>();
     for (const QPushButton* button : buttons) {
         QVERIFY(!button->autoDefault());
@@ -185,7 +185,7 @@ void TestFormVendelHistorique::noButtonListensToReturn()
 
 void TestFormVendelHistorique::tabGoesFromTheDatesToTheLists()
 {
-    History history;
+    OpenHistory history;
     history.window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&history.window));
     for (const char* name : {"txt_First_Date", "txt_Second_Date", "btn_Del_Seizure",
@@ -217,7 +217,7 @@ void TestFormVendelHistorique::aTranslationOfTheCatalogueChangesIt()
     english.add(catalogue, QStringLiteral("Valide date"), QStringLiteral("Check the date"));
     english.add(
         QStringLiteral("FormVendelHistorique"), QStringLiteral("Purge"), QStringLiteral("Delete"));
-    History history;
+    OpenHistory history;
     QCOMPARE(history.window.windowTitle(), QStringLiteral("History"));
     QCOMPARE(child<QTableView>(history.window, "tableView1")
                  .model()
@@ -232,7 +232,7 @@ void TestFormVendelHistorique::aTranslationOfTheCatalogueChangesIt()
 
 void TestFormVendelHistorique::aDayGoesIntoTheChosenField()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.sell("Thé", "2", "2019-05-02 10:00:00.000");
     click(history.window, "btn_Show_Date");
@@ -247,7 +247,7 @@ void TestFormVendelHistorique::aDayGoesIntoTheChosenField()
 
 void TestFormVendelHistorique::aSaleGoesIntoTheChosenField()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.250");
     history.sell("Thé", "2", "2019-05-01 11:00:00.500");
     history.type("05/01/2019", "05/02/2019");
@@ -262,7 +262,7 @@ void TestFormVendelHistorique::aSaleGoesIntoTheChosenField()
 
 void TestFormVendelHistorique::aClickOnNoRowLeavesTheFields()
 {
-    History history;
+    OpenHistory history;
     history.type("05/01/2019", "05/02/2019");
     for (const char* slot : {"on_tableView1_clicked", "on_tableView2_clicked"}) {
         QVERIFY(QMetaObject::invokeMethod(
@@ -274,7 +274,7 @@ void TestFormVendelHistorique::aClickOnNoRowLeavesTheFields()
 
 void TestFormVendelHistorique::effacerSaisieEmptiesBothFields()
 {
-    History history;
+    OpenHistory history;
     history.type("05/01/2019", "05/02/2019 10:00:00.000");
     click(history.window, "btn_Del_Seizure");
     QCOMPARE(history.first(), QString());
@@ -283,7 +283,7 @@ void TestFormVendelHistorique::effacerSaisieEmptiesBothFields()
 
 void TestFormVendelHistorique::saisieStockOpensTheStockEditor()
 {
-    History history;
+    OpenHistory history;
     const AnswerBox box;
     child<QAction>(history.window, "actionSaisie_Stock").trigger();
     const QPointer<FormVendelSaisieStock> stock
@@ -297,7 +297,7 @@ void TestFormVendelHistorique::saisieStockOpensTheStockEditor()
 
 void TestFormVendelHistorique::calculStockOpensWithTheDatesAsTyped()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.250");
     history.type(" 05/01/2019 ", "05/01/2019 10:00:00.250  ");
     const AnswerBox box;
@@ -317,7 +317,7 @@ void TestFormVendelHistorique::calculStockOpensWithTheDatesAsTyped()
 
 void TestFormVendelHistorique::aSaleHasItsTip()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.250");
     history.type("05/01/2019", "05/02/2019");
     click(history.window, "btn_Total");
@@ -340,7 +340,7 @@ void TestFormVendelHistorique::aSaleHasItsTip()
 
 void TestFormVendelHistorique::aDayHasItsTip()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.250");
     click(history.window, "btn_Show_Date");
     const QPoint mouse = cellCentre(history.window, "tableView2", 0, 0);
@@ -354,7 +354,7 @@ void TestFormVendelHistorique::aDayHasItsTip()
 
 void TestFormVendelHistorique::emptyPlacesHaveNoTip()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10");
     history.sell("Café", "2", "2019-05-01 10:00:00.000");
     history.type("05/01/2019", "05/02/2019");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/forms/History.h"
+#include "tests/forms/OpenHistory.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestMain.h"
@@ -37,7 +37,7 @@ private slots:
 
 void TestFormVendelHistoriqueSales::noSaleMeansNoDay()
 {
-    History history;
+    OpenHistory history;
     const AnswerBox box;
     click(history.window, "btn_Show_Date");
     QCOMPARE(box.title(), QStringLiteral("Historique"));
@@ -52,7 +52,7 @@ void TestFormVendelHistoriqueSales::noSaleMeansNoDay()
 
 void TestFormVendelHistoriqueSales::daysAreListedMonthFirst()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.sell("Thé", "2", "2019-05-01 23:59:59.999");
     history.sell("Thé", "2", "2019-12-31 00:00:00.000");
@@ -66,7 +66,7 @@ void TestFormVendelHistoriqueSales::daysAreListedMonthFirst()
 
 void TestFormVendelHistoriqueSales::malformedDatesAreEmptyDays()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "");
     history.sell("Thé", "2", "2019-5-1");
     history.sell("Thé", "2", "2019-05-01 10");
@@ -137,7 +137,7 @@ void TestFormVendelHistoriqueSales::refusals()
     QFETCH(QString, trigger);
     QFETCH(QString, first);
     QFETCH(QString, second);
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.type(qPrintable(first), qPrintable(second));
     const AnswerBox box;
@@ -161,7 +161,7 @@ void TestFormVendelHistoriqueSales::refusals()
 
 void TestFormVendelHistoriqueSales::trimsTheFields()
 {
-    History history;
+    OpenHistory history;
     history.type("  05/01/2019 ", " 05/02/2019  ");
     QVERIFY(history.window.ValidDate());
     QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
@@ -176,7 +176,7 @@ void TestFormVendelHistoriqueSales::trimsTheFields()
 
 void TestFormVendelHistoriqueSales::listsOneDayUpToTheStartOfTheNext()
 {
-    History history;
+    OpenHistory history;
     history.sell("La veille", "1", "2019-04-30 23:59:59.999");
     history.sell("Soir", "12.5", "2019-05-01 23:59:59.999");
     history.sell("Matin", "1234.5", "2019-05-01 00:00:00.000");
@@ -194,7 +194,7 @@ void TestFormVendelHistoriqueSales::listsOneDayUpToTheStartOfTheNext()
 
 void TestFormVendelHistoriqueSales::listsBetweenTwoMoments()
 {
-    History history;
+    OpenHistory history;
     history.sell("A", "1", "2019-05-01 10:00:00.000");
     history.sell("B", "1", "2019-05-01 10:00:00.001");
     history.sell("C", "1", "2019-05-01 10:00:00.002");
@@ -212,7 +212,7 @@ void TestFormVendelHistoriqueSales::listsBetweenTwoMoments()
 
 void TestFormVendelHistoriqueSales::listsFromAMomentToADay()
 {
-    History history;
+    OpenHistory history;
     history.sell("A", "1", "2020-02-29 09:59:59.999");
     history.sell("B", "1", "2020-02-29 10:00:00.000");
     history.sell("C", "1", "2020-03-01 00:00:00.000");
@@ -229,7 +229,7 @@ void TestFormVendelHistoriqueSales::listsFromAMomentToADay()
 
 void TestFormVendelHistoriqueSales::listsTheHourThatTheClockSkips()
 {
-    History history;
+    OpenHistory history;
     history.sell("Nuit", "1", "2019-03-31 02:30:00.000");
     history.type("03/31/2019 02:15:00.000", "03/31/2019 02:45:00.000");
     click(history.window, "btn_View_Historical");
@@ -238,7 +238,7 @@ void TestFormVendelHistoriqueSales::listsTheHourThatTheClockSkips()
 
 void TestFormVendelHistoriqueSales::listsNamesAsTheyStand()
 {
-    History history;
+    OpenHistory history;
     history.sell("l'eau", "2", "2019-05-01 10:00:00.000");
     history.sell("<b>\"Pastis\"</b>", "'gratuit'", "2019-05-01 10:00:01.000");
     history.sell("33", "-0.5", "2019-05-01 10:00:02.000");
@@ -255,7 +255,7 @@ void TestFormVendelHistoriqueSales::listsNamesAsTheyStand()
 
 void TestFormVendelHistoriqueSales::listsMalformedDatesEmpty()
 {
-    History history;
+    OpenHistory history;
     history.sell("Sans date", "1", "");
     history.sell("Jour seul", "1", "2019-05-01");
     history.sell("Heure seule", "1", "2019-05-01 10");
@@ -272,7 +272,7 @@ void TestFormVendelHistoriqueSales::listsMalformedDatesEmpty()
 
 void TestFormVendelHistoriqueSales::groupsByArticleAndPrice()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.sell("thé", "2", "2019-05-01 11:00:00.000");
     history.sell("Thé", "2", "2019-05-01 12:00:00.000");
@@ -287,7 +287,7 @@ void TestFormVendelHistoriqueSales::groupsByArticleAndPrice()
 
 void TestFormVendelHistoriqueSales::twoPricesWithEqualCountsAreTwoLines()
 {
-    History history;
+    OpenHistory history;
     for (const char* price : {"2", "2.5", "2", "2.5"}) {
         history.sell("Thé", price, "2019-05-01 10:00:00.000");
     }
@@ -300,7 +300,7 @@ void TestFormVendelHistoriqueSales::twoPricesWithEqualCountsAreTwoLines()
 
 void TestFormVendelHistoriqueSales::aSecondListReplacesTheFirst()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.sell("Café", "1.5", "2019-05-02 10:00:00.000");
     history.type("05/01/2019", "05/02/2019");
@@ -315,7 +315,7 @@ void TestFormVendelHistoriqueSales::aSecondListReplacesTheFirst()
 
 void TestFormVendelHistoriqueSales::anEmptyPeriodKeepsTheLists()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.type("05/01/2019", "05/02/2019");
     click(history.window, "btn_View_Historical");
@@ -329,7 +329,7 @@ void TestFormVendelHistoriqueSales::anEmptyPeriodKeepsTheLists()
 
 void TestFormVendelHistoriqueSales::anUnreadableSaleIsLogged()
 {
-    History history;
+    OpenHistory history;
     history.shop.sql("drop table Historique");
     history.shop.sql("create table Historique (article text, date_heure text)");
     history.shop.sql("insert into Historique values ('Thé', '2019-05-01 10:00:00.000')");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/forms/History.h"
+#include "tests/forms/OpenHistory.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/BoxDiary.h"
 #include "tests/support/Captured.h"
@@ -33,6 +33,7 @@ class TestFormVendelHistoriqueTotal : public QObject
 private slots:
     void totalAddsAYellowRow();
     void totalOfAYearKeepsItsCents();
+    void aTotalBeyondAllNumbersIsInfinite();
     void theTotalsRowIsNoDate();
     void anUnreadableSumIsLogged();
     void salesWithoutAnyPriceHaveNoTotal();
@@ -46,7 +47,7 @@ private slots:
 
 void TestFormVendelHistoriqueTotal::totalAddsAYellowRow()
 {
-    History history;
+    OpenHistory history;
     for (int sale = 0; sale < 60; ++sale) {
         history.sell("Thé", "20.5", "2019-05-01 10:00:00.000");
     }
@@ -73,7 +74,7 @@ void TestFormVendelHistoriqueTotal::totalAddsAYellowRow()
 
 void TestFormVendelHistoriqueTotal::totalOfAYearKeepsItsCents()
 {
-    History history;
+    OpenHistory history;
     history.sell("Mariage", "1234567.89", "2019-05-01 10:00:00.000");
     history.sell("Bonbon", "0.02", "2019-06-01 10:00:00.000");
     history.type("01/01/2019", "01/01/2020");
@@ -84,9 +85,27 @@ void TestFormVendelHistoriqueTotal::totalOfAYearKeepsItsCents()
         texts({"1", "Mariage", "1,234,567.89$", "1,234,567.89$"}));
 }
 
+void TestFormVendelHistoriqueTotal::aTotalBeyondAllNumbersIsInfinite()
+{
+    OpenHistory history;
+    history.sell("Thé", "1e308", "2019-05-01 10:00:00.000");
+    history.sell("Thé", "1e308", "2019-05-01 11:00:00.000");
+    history.sell("Eau", "2", "2019-05-02 10:00:00.000");
+    history.type("05/01/2019", "05/03/2019");
+    click(history.window, "btn_Total");
+    QCOMPARE(rowTexts(history.window, "tableView1", 3), texts({"Total historique", "inf$", "<-"}));
+    // The day's purge makes the total a number again.
+    history.type("05/01/2019", "05/02/2019");
+    const AnswerBox box(QMessageBox::Yes);
+    click(history.window, "btn_Clear");
+    history.type("05/01/2019", "05/03/2019");
+    click(history.window, "btn_Total");
+    QCOMPARE(rowTexts(history.window, "tableView1", 1), texts({"Total historique", "2.00$", "<-"}));
+}
+
 void TestFormVendelHistoriqueTotal::theTotalsRowIsNoDate()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.type("05/01/2019", "05/02/2019");
     click(history.window, "btn_Total");
@@ -99,7 +118,7 @@ void TestFormVendelHistoriqueTotal::theTotalsRowIsNoDate()
 
 void TestFormVendelHistoriqueTotal::anUnreadableSumIsLogged()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "9223372036854775807", "2019-05-01 10:00:00.000");
     history.sell("Thé", "9223372036854775807", "2019-05-01 11:00:00.000");
     history.type("05/01/2019", "05/02/2019");
@@ -119,7 +138,7 @@ void TestFormVendelHistoriqueTotal::anUnreadableSumIsLogged()
 
 void TestFormVendelHistoriqueTotal::salesWithoutAnyPriceHaveNoTotal()
 {
-    History history;
+    OpenHistory history;
     history.shop.sql("drop table Historique");
     history.shop.sql(
         "create table Historique (id integer, article text, prix numeric, date_heure text)");
@@ -140,7 +159,7 @@ void TestFormVendelHistoriqueTotal::salesWithoutAnyPriceHaveNoTotal()
 
 void TestFormVendelHistoriqueTotal::statementsStandWordForWord()
 {
-    History history;
+    OpenHistory history;
     history.shop.sql("alter table Historique rename column prix to tarif");
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.type("05/01/2019", "05/01/2019 10:00:00.250");
@@ -169,7 +188,7 @@ void TestFormVendelHistoriqueTotal::statementsStandWordForWord()
 
 void TestFormVendelHistoriqueTotal::purgeAsksAndNoKeepsTheSales()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.type("05/01/2019", "05/02/2019");
     click(history.window, "btn_Total");
@@ -188,7 +207,7 @@ void TestFormVendelHistoriqueTotal::purgeAsksAndNoKeepsTheSales()
 
 void TestFormVendelHistoriqueTotal::purgeEmptiesTheListsBeforeItReports()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.sell("Café", "2", "2019-05-01 10:00:00.001");
     history.sell("Bière", "2", "2019-05-01 10:00:00.002");
@@ -209,7 +228,7 @@ void TestFormVendelHistoriqueTotal::purgeEmptiesTheListsBeforeItReports()
 
 void TestFormVendelHistoriqueTotal::purgeOfEverythingLeavesNoDay()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.sell("Café", "2", "2020-02-29 10:00:00.000");
     click(history.window, "btn_Show_Date");
@@ -227,7 +246,7 @@ void TestFormVendelHistoriqueTotal::purgeOfEverythingLeavesNoDay()
 
 void TestFormVendelHistoriqueTotal::aPurgeThatFailsListsTheSalesAgain()
 {
-    History history;
+    OpenHistory history;
     history.sell("Thé", "2", "2019-05-01 10:00:00.000");
     history.shop.sql("create trigger keep before delete on Historique begin select "
                      "raise(abort, 'gardé'); end");

@@ -99,7 +99,7 @@ void TestFormVendelSaisieArticle::theListIsSetUp()
     const QHeaderView& header = *list.horizontalHeader();
     QCOMPARE(header.defaultSectionSize(), 10);
     QCOMPARE(header.minimumSectionSize(), 10);
-    QVERIFY(header.defaultAlignment().testFlag(Qt::AlignLeft));
+    QCOMPARE(header.defaultAlignment(), Qt::Alignment(Qt::AlignLeft));
 
     const auto* model = list.model();
     QCOMPARE(model->columnCount(), 4);

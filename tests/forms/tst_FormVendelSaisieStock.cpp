@@ -308,7 +308,7 @@ void TestFormVendelSaisieStock::textsAreTranslatedInTheirContexts()
     const MarkedContext texts("FormVendelSaisieStockMessages");
     FormVendelSaisieStock stock;
     stock.Display(true);
-    QCOMPARE(stock.windowTitle(), QStringLiteral("Saisie Stock"));
+    QCOMPARE(stock.windowTitle(), QStringLiteral("FormVendelSaisieStockMessages:Saisie Stock"));
     QCOMPARE(labels(child<QTableView>(stock, "tableView1")).at(1),
         QStringLiteral("FormVendelSaisieStockMessages:Article"));
     QCOMPARE(rowTexts(stock, "tableView1", 0).at(2),

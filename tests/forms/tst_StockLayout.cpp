@@ -146,10 +146,10 @@ void TestStockLayout::listsNeedNoScrollingSideways()
     FormVendelSaisieStock editor;
     editor.show();
     editor.Display(true);
-    editor.Display_DoseStock(QStringLiteral("100"));
+    child<QTableView>(editor, "tableView1").selectRow(0);
     FormVendelSaisieStockCutPaste transfer;
     transfer.show();
-    transfer.Display_DoseStock(QStringLiteral("100"));
+    child<QTableView>(transfer, "tableView1").selectRow(0);
     FormVendelSaisieStockMaj update;
     update.show();
     Consumed at;

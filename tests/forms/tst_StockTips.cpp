@@ -27,13 +27,13 @@ void TestStockTips::tipsSayWhatADoubleClickDoes()
     FormVendelSaisieStock stock;
     stock.show();
     stock.Display(true);
-    stock.Display_DoseStock(QStringLiteral("1"));
+    clickCell(stock, "tableView1", 0, 1);
     QCursor::setPos(300, 200);
     QCoreApplication::processEvents();
     hoverCell(stock, "tableView1", 0, 2);
     QCOMPARE(QToolTip::text(),
         QStringLiteral("Article\nDoubleClick sur : Café\nPour faire composition"));
-    QVERIFY(tipStandsAt(QPoint(300, 200)));
+    QVERIFY(tipIsBeside(QPoint(300, 200)));
     hoverCell(stock, "tableView2", 1, 3);
     QCOMPARE(QToolTip::text(),
         QStringLiteral(
@@ -87,7 +87,7 @@ void TestStockTips::tipsSayHowToMove()
     QCOMPARE(QToolTip::text(),
         QStringLiteral("Composition\nFaire votre choix dans la liste déroulante\nSélectionner la "
                        "composition : Menthe\nPuis Modifier"));
-    QVERIFY(tipStandsAt(QPoint(300, 200)));
+    QVERIFY(tipIsBeside(QPoint(300, 200)));
     hoverCell(window, "tableView1", 0, 1);
     QVERIFY(QToolTip::isVisible());
     QEvent enter(QEvent::Enter);

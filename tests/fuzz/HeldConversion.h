@@ -1,24 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/Handle.h"
+
 #include <iconv.h>
 
-/// Keeps a conversion open, or iconv would load its modules anew for each input.
-class HeldConversion
-{
-public:
-    HeldConversion(const char* to, const char* from)
-        : handle_(iconv_open(to, from))
-    { }
-    ~HeldConversion()
-    {
-        iconv_close(handle_);
-    }
-    HeldConversion(const HeldConversion&) = delete;
-    HeldConversion& operator=(const HeldConversion&) = delete;
-    HeldConversion(HeldConversion&&) = delete;
-    HeldConversion& operator=(HeldConversion&&) = delete;
+/// Keeps a conversion open, or iconv would load its modules again for each input.
+using HeldConversion = Handle<void, iconv_close>;
 
-private:
-    iconv_t handle_;
-};
+/// The charsets are known to every system that Vendel runs on.
+inline HeldConversion hold(const char* to, const char* from)
+{
+    return HeldConversion(iconv_open(to, from));
+}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Any text to the printer's code page and back: what comes back is what went in, but for a broken
 // end. The other charsets make the result grow, or end it with a shift state.
+#include "base/Handle.h"
 #include "common/convert.h"
 #include "tests/fuzz/HeldConversion.h"
 
@@ -9,24 +10,14 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <optional>
 #include <string>
 
 namespace {
-
-const HeldConversion toPrinter("CP858", "UTF-8");
-const HeldConversion fromPrinter("UTF-8", "CP858");
-const HeldConversion toJapanese("ISO-2022-JP", "UTF-8");
-const HeldConversion toWide("UTF-32", "UTF-8");
-
-struct Release
-{
-    void operator()(char* buffer) const
-    {
-        std::free(buffer);
-    }
-};
+const HeldConversion toPrinter = hold("CP858", "UTF-8");
+const HeldConversion fromPrinter = hold("UTF-8", "CP858");
+const HeldConversion toJapanese = hold("ISO-2022-JP", "UTF-8");
+const HeldConversion toWide = hold("UTF-32", "UTF-8");
 
 void check(bool holds)
 {
@@ -35,7 +26,7 @@ void check(bool holds)
     }
 }
 
-using Buffer = std::unique_ptr<char, Release>;
+using Buffer = Handle<char, std::free>;
 
 /// The converted text; nothing when it cannot be converted.
 std::optional<std::string> converted(const char* from, const char* to, const std::string& text)
@@ -65,7 +56,6 @@ bool isBrokenEnd(const std::string& tail)
             && std::all_of(tail.begin() + 1, tail.end(),
                 [](char letter) { return (letter & '\xc0') == '\x80'; }));
 }
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

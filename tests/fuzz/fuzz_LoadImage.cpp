@@ -14,9 +14,8 @@
 #include <unistd.h>
 
 namespace {
-
-// Larger pictures take the same paths, only longer.
-constexpr long long MaxPixels = 1LL << 12;
+/// Larger pictures take the same paths, only longer.
+constexpr long long maxPixels = 1LL << 12;
 
 bool isWorthwhile(const std::uint8_t* data, std::size_t size)
 {
@@ -25,7 +24,7 @@ bool isWorthwhile(const std::uint8_t* data, std::size_t size)
     int channels = 0;
     const bool known
         = stbi_info_from_memory(data, static_cast<int>(size), &width, &height, &channels) != 0;
-    return !known || width * std::abs(static_cast<long long>(height)) <= MaxPixels;
+    return !known || width * std::abs(static_cast<long long>(height)) <= maxPixels;
 }
 
 void check(const DotMatrix& dots, int imageMode)
@@ -39,7 +38,6 @@ void check(const DotMatrix& dots, int imageMode)
         std::abort();
     }
 }
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

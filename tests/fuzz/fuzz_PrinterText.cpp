@@ -12,7 +12,6 @@
 #include <vector>
 
 namespace {
-
 std::optional<MDPair> pairAt(const std::string& text, std::size_t i)
 {
     for (const char* marker : {"**", "__"}) {
@@ -50,7 +49,6 @@ std::optional<std::string> cutFromTheFront(std::string text)
     }
     return open.empty() ? std::optional(out + text) : std::nullopt;
 }
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# clean_tree.sh PACKAGE: installs the package into a Debian system that holds nothing else, starts
+# clean_tree.sh PACKAGE: installs the package into an otherwise empty Debian system, starts
 # the till there on a virtual display, and removes the package again. Ends with 77, and says why,
 # where the machine does not allow it. The packages come from where this machine's own apt has them.
 set -euo pipefail

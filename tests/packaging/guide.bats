@@ -8,7 +8,7 @@ setup() {
 }
 
 # Entries of the catalogue with several texts that are no boxes: headings of lists and columns, tips
-# over lists, and two questions that no window asks.
+# over lists, and two notices that no window shows.
 noBoxes='8 48 58 64 65 66 67 68 69 70 71 72 97 99 126 128 143 144 147 156 157 165 166 169'
 
 # boxTexts: the texts of every message box, one a line, a line break as " / ".
@@ -56,7 +56,7 @@ captions() {
         }' app/*.ui forms/*.ui | sort -u
 }
 
-# explained: every line of standard input stands in the guide.
+# explained: every line of standard input is in the guide.
 explained() {
     lines=0
     while IFS= read -r text; do

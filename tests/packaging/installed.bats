@@ -128,7 +128,7 @@ FILES
     done
 }
 
-@test "each option of the launcher stands in both man pages" {
+@test "each option of the launcher is in both man pages" {
     for page in man1 fr/man1; do
         text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel.1.gz")
         for option in --langue --restaurer --help --aide --version; do

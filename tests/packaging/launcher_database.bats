@@ -183,7 +183,7 @@ SCHEMA
     [ -z "$(ls -A "$data/copies")" ]
 }
 
-@test "a database that another program holds is said" {
+@test "a database that another program is using is reported" {
     cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
     hold_database
     run "$launcher"

@@ -10,7 +10,7 @@ setup_file() {
     sample_shop "$BATS_FILE_TMPDIR/shop"
 }
 
-# The shop of 3 March, 4 March and now: the price of the only article tells them apart.
+# The shop of 3 March, 4 March and now: they differ in the price of the only article.
 setup() {
     set_up_till
     mkdir -p "$data/copies"
@@ -28,7 +28,7 @@ price_in() {
     sql "$1" 'select prix from Article'
 }
 
-# nothingElse: the data directory holds the shop and its copies, and no trace of an attempt.
+# nothingElse: the data directory has the shop and its copies, and no trace of an attempt.
 nothingElse() {
     [ "$(ls -A "$data")" = ".verrou
 Vendel.db
@@ -194,7 +194,7 @@ on_terminal() {
     [ "$(price_in "$data/Vendel.db")" = 3 ]
 }
 
-@test "a database that lies elsewhere stays there" {
+@test "a database that is elsewhere stays there" {
     mkdir "$BATS_TEST_TMPDIR/elsewhere"
     mv "$data/Vendel.db" "$BATS_TEST_TMPDIR/elsewhere/shop.db"
     ln -s "$BATS_TEST_TMPDIR/elsewhere/shop.db" "$data/Vendel.db"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bats
 # SPDX-License-Identifier: MIT
-# Every file says under which licence it stands.
+# Every file names its licence.
 
 setup() {
     cd "$VENDEL_SOURCE" || return
@@ -37,7 +37,7 @@ sources() {
     [[ "$output" != *ERROR* ]]
 }
 
-@test "the licence text is the same wherever it stands" {
+@test "the licence text is the same wherever it is" {
     cmp LICENSE LICENSES/MIT.txt
     text=$(awk '/^License: MIT$/ { text = ""; next } { sub(/^ \.?/, ""); text = text $0 "\n" }
         END { printf "%s", text }' packaging/debian/copyright)

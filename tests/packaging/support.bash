@@ -75,7 +75,7 @@ close_till() {
     wait "$till" 2>/dev/null || true
 }
 
-# damage FILE: overwrites the database's second half, where its rows lie.
+# damage FILE: overwrites the database's second half, where its rows are.
 damage() {
     local half=$(($(stat -c %s "$1") / 2))
     head -c "$half" /dev/zero | tr '\0' '\377' |

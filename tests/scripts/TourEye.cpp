@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QFile>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -12,10 +13,11 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QSaveFile>
 #include <QTableView>
 #include <QTextEdit>
 #include <QTimer>
+
+#include <cstdio>
 
 namespace {
 constexpr int lookMs = 30;
@@ -178,6 +180,21 @@ QString everything()
     return text;
 }
 
+/// Puts \a text in the place of the file at once, so that nobody reads half of it. It does not wait
+/// for the disk: a busy one would hold up the till's only thread for as long.
+bool writeDown(const QString& text)
+{
+    const QByteArray path = qgetenv("VENDEL_TOUR_EYE");
+    const QByteArray draft = path + ".new";
+    QFile file(QFile::decodeName(draft));
+    const QByteArray bytes = text.toUtf8();
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush()) {
+        return false;
+    }
+    file.close();
+    return std::rename(draft.constData(), path.constData()) == 0;
+}
+
 void openEye()
 {
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
@@ -186,11 +203,7 @@ void openEye()
     auto* timer = new QTimer(QCoreApplication::instance());
     QObject::connect(timer, &QTimer::timeout, timer, [last = QString()]() mutable {
         const QString now = everything();
-        if (now == last) {
-            return;
-        }
-        QSaveFile file(qEnvironmentVariable("VENDEL_TOUR_EYE"));
-        if (file.open(QIODevice::WriteOnly) && file.write(now.toUtf8()) >= 0 && file.commit()) {
+        if (now != last && writeDown(now)) {
             last = now;
         }
     });

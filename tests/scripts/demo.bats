@@ -25,7 +25,7 @@ ask() { sqlite3 "$shop/Vendel.db" "$1"; }
     [ "$(ask "select count(*) from Article where prix <= 0")" -eq 0 ]
 }
 
-@test "one name stands twice, at two prices" {
+@test "one name occurs twice, at two prices" {
     make_shop
     [ "$(ask "select article, count(*), count(distinct prix) from Article
         group by article having count(*) > 1")" = "Limonade|2|2" ]

@@ -81,17 +81,17 @@ stub_at() {
 @test "the launcher starts the till in the user's data directory" {
     run "$run_sh"
     [ "$status" -eq 0 ]
-    [ "${lines[-1]}" = "Starting the till; its data lies in $till_data" ]
+    [ "${lines[-1]}" = "Starting the till; its data is in $till_data" ]
     called "data $XDG_DATA_HOME"
     not_called apt-get
     not_called vendel-demo\ /
 }
 
-@test "without XDG_DATA_HOME the data lies below the home directory" {
+@test "without XDG_DATA_HOME the data is in the home directory" {
     unset XDG_DATA_HOME
     run "$run_sh"
     [ "$status" -eq 0 ]
-    [ "${lines[-1]}" = "Starting the till; its data lies in $HOME/.local/share/vendel" ]
+    [ "${lines[-1]}" = "Starting the till; its data is in $HOME/.local/share/vendel" ]
 }
 
 @test "the demo starts in a throw-away copy of the sample shop" {
@@ -151,7 +151,7 @@ stop_real() {
     wait "$runner" || true
 }
 
-@test "the real till stands on the screen with the sample shop" {
+@test "the real till appears on the screen with the sample shop" {
     start_real --demo
     local data
     data=$(echo "$TMPDIR"/tmp.*)

@@ -35,3 +35,18 @@ left_over() { ps -o pid= -s "$1"; }
     [ "$output" = "tour.sh: cannot write into $tree/build/tour" ]
     [ -z "$(ls "$TMPDIR")" ]
 }
+
+@test "a till that is looked at does not wait for the disk" {
+    "$VENDEL_BUILD/demo/vendel-demo" "$BATS_TEST_TMPDIR/shop"
+    cd "$BATS_TEST_TMPDIR/shop"
+    strace -I 2 -f -o ../syncs -e trace=fsync,fdatasync -E QT_QPA_PLATFORM=offscreen \
+        -E VENDEL_TOUR_EYE="$BATS_TEST_TMPDIR/eye" \
+        -E LD_PRELOAD="$VENDEL_BUILD/tests/scripts/libtour-eye.so" "$VENDEL_BUILD/vendel" 3>&- &
+    until grep -q "^window.FormVendel" "$BATS_TEST_TMPDIR/eye" 2>/dev/null; do
+        kill -0 $!
+        sleep 0.05
+    done
+    kill $!
+    wait $! || true
+    [ "$(grep -c sync ../syncs)" -eq 0 ]
+}

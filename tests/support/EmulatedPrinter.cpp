@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
@@ -17,7 +18,6 @@
 #include <unistd.h>
 
 namespace {
-
 std::string makeFolder()
 {
     std::string folder = (std::filesystem::temp_directory_path() / "printer-XXXXXX").string();
@@ -51,7 +51,7 @@ std::vector<std::string> argumentsFor(
     return arguments;
 }
 
-// The printer's process is no client of a mocked bus.
+/// The printer's process is no client of a mocked bus.
 std::vector<char*> hostEnvironment()
 {
     std::vector<char*> environment;
@@ -67,17 +67,16 @@ std::vector<char*> hostEnvironment()
 
 std::string bytesFrom(const std::string& hex)
 {
-    static constexpr int Hexadecimal = 16;
+    static constexpr int hexadecimal = 16;
     std::string bytes;
     if (hex == "-") {
         return bytes;
     }
     for (std::size_t i = 0; i + 1 < hex.size(); i += 2) {
-        bytes += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, Hexadecimal));
+        bytes += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, hexadecimal));
     }
     return bytes;
 }
-
 } // namespace
 
 EmulatedPrinter::EmulatedPrinter()

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/Handle.h"
+
 #include <cstddef>
 #include <cstdio>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -103,14 +104,7 @@ public:
     std::vector<std::string> conversation() const;
 
 private:
-    struct CloseFile
-    {
-        void operator()(std::FILE* file) const noexcept
-        {
-            std::fclose(file);
-        }
-    };
-    using File = std::unique_ptr<std::FILE, CloseFile>;
+    using File = Handle<std::FILE, std::fclose>;
 
     void start(const std::vector<std::string>& arguments);
     std::string readLine();

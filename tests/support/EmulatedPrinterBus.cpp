@@ -8,15 +8,14 @@
 #include <unistd.h>
 
 namespace {
-
 std::string padded(int number)
 {
     std::string text = std::to_string(number);
     return std::string(3 - std::min<std::size_t>(3, text.size()), '0') + text;
 }
 
-// Device, configuration, one printer interface, bulk OUT 0x01 and bulk IN 0x82.
-// Source: Universal Serial Bus 2.0, chapter 9.6; printer class 1.1.
+/// Device, configuration, one printer interface, bulk OUT 0x01 and bulk IN 0x82.
+/// Source: Universal Serial Bus 2.0, chapter 9.6; printer class 1.1.
 std::string printerDescriptors(const EmulatedPrinterBus::Ids& ids)
 {
     const auto swapped = [](const std::string& id) { return id.substr(2) + id.substr(0, 2); };
@@ -27,10 +26,9 @@ std::string printerDescriptors(const EmulatedPrinterBus::Ids& ids)
         + "07050102000200" + "07058202000200";
 }
 
-const char* const HubDescriptors = "12010002090000406B1D020000050302010109021900010100E000"
+const char* const hubDescriptors = "12010002090000406B1D020000050302010109021900010100E000"
                                    "090400000109000000"
                                    "0705810304000C";
-
 } // namespace
 
 EmulatedPrinterBus::EmulatedPrinterBus(
@@ -46,8 +44,7 @@ EmulatedPrinterBus::EmulatedPrinterBus(
 
 std::string EmulatedPrinterBus::directory() const
 {
-    const std::unique_ptr<gchar, decltype(&g_free)> root(
-        umockdev_testbed_get_root_dir(testbed_.get()), g_free);
+    const Handle<gchar, g_free> root(umockdev_testbed_get_root_dir(testbed_.get()));
     return root.get();
 }
 
@@ -83,7 +80,7 @@ void EmulatedPrinterBus::addRootHub()
         "E: BUSNUM=001\nE: DEVNUM=001\n"
         "A: busnum=1\\n\nA: devnum=1\\n\nA: speed=480\\n\nA: bConfigurationValue=1\\n\n"
         "A: idVendor=1d6b\\n\nA: idProduct=0002\\n\nH: descriptors="
-        + std::string(HubDescriptors) + "\n");
+        + std::string(hubDescriptors) + "\n");
 }
 
 void EmulatedPrinterBus::addDevice(int number, const Ids& ids)

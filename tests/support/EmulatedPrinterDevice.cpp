@@ -14,13 +14,12 @@
 #include <sys/ioctl.h>
 
 namespace {
-
-constexpr unsigned HighSpeed = 3;
-// What the descriptors name.
-constexpr unsigned Interface = 0;
-constexpr unsigned char BulkOut = 0x01;
-// The mocked node always polls as ready: a client that is answered at once would spin.
-constexpr std::chrono::milliseconds NothingYet{3};
+constexpr unsigned highSpeed = 3;
+/// What the descriptors name.
+constexpr unsigned interfaceNumber = 0;
+constexpr unsigned char bulkOut = 0x01;
+/// The mocked node always polls as ready: a client that is answered at once would spin.
+constexpr std::chrono::milliseconds nothingYet{3};
 
 GRef<UMockdevIoctlData> resolve(UMockdevIoctlData* data, std::size_t offset, std::size_t length)
 {
@@ -34,23 +33,22 @@ template <class T> T& as(UMockdevIoctlData* data)
 
 std::string hexOf(const std::string& bytes)
 {
-    static constexpr char Digits[] = "0123456789abcdef";
+    static constexpr char digits[] = "0123456789abcdef";
     std::string hex;
     hex.reserve(bytes.size() * 2);
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
-        hex += Digits[byte >> 4U];
-        hex += Digits[byte & 0xFU];
+        hex += digits[byte >> 4U];
+        hex += digits[byte & 0xFU];
     }
     return hex.empty() ? "-" : hex;
 }
 
-// Whether a request is for the printer's interface; its number comes first in every Argument.
+/// Whether a request is for the printer's interface; its number comes first in every Argument.
 template <class Argument> bool isForInterface(UMockdevIoctlData* arg)
 {
-    return as<unsigned>(resolve(arg, 0, sizeof(Argument)).get()) == Interface;
+    return as<unsigned>(resolve(arg, 0, sizeof(Argument)).get()) == interfaceNumber;
 }
-
 } // namespace
 
 EmulatedPrinterDevice::EmulatedPrinterDevice(int number, EmulatedBehaviour& behaviour,
@@ -105,7 +103,7 @@ EmulatedPrinterDevice::Result EmulatedPrinterDevice::control(
             = USBDEVFS_CAP_ZERO_PACKET | USBDEVFS_CAP_BULK_CONTINUATION;
         return 0;
     case USBDEVFS_GET_SPEED:
-        return HighSpeed;
+        return highSpeed;
     case USBDEVFS_GETDRIVER:
         return giveDriver(arg);
     case USBDEVFS_IOCTL:
@@ -189,7 +187,7 @@ EmulatedPrinterDevice::Result EmulatedPrinterDevice::submit(UMockdevIoctlData* a
     }
     auto urbData = resolve(arg, 0, sizeof(usbdevfs_urb));
     const auto& urb = as<usbdevfs_urb>(urbData.get());
-    if (urb.endpoint != BulkOut) {
+    if (urb.endpoint != bulkOut) {
         return -ENOENT;
     }
     const bool first = (urb.flags & USBDEVFS_URB_BULK_CONTINUATION) == 0;
@@ -244,7 +242,7 @@ void EmulatedPrinterDevice::take(UMockdevIoctlData* urbData)
 EmulatedPrinterDevice::Result EmulatedPrinterDevice::reap(UMockdevIoctlData* arg)
 {
     if (done_.empty()) {
-        std::this_thread::sleep_for(NothingYet);
+        std::this_thread::sleep_for(nothingYet);
         return gone_ ? -ENODEV : -EAGAIN;
     }
     const GRef<UMockdevIoctlData> urbData = std::move(done_.front());

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/Handle.h"
+
 #include <cstdio>
 #include <deque>
 #include <functional>
-#include <memory>
 #include <mutex>
 #include <string>
 
@@ -45,14 +46,7 @@ struct EmulatedRecords
     std::FILE* bytes = nullptr;
 };
 
-template <class T> struct UnrefObject
-{
-    void operator()(T* object) const noexcept
-    {
-        g_object_unref(object);
-    }
-};
-template <class T> using GRef = std::unique_ptr<T, UnrefObject<T>>;
+template <class T> using GRef = Handle<T, g_object_unref>;
 
 /// One printer at its device node: answers libusb's requests and records every bulk transfer.
 /// Source of the requests: linux/usbdevice_fs.h.

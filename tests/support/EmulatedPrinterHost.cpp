@@ -8,7 +8,6 @@
 #include <functional>
 #include <iostream>
 #include <map>
-#include <memory>
 #include <mutex>
 #include <optional>
 #include <sstream>
@@ -18,17 +17,16 @@
 #include <unistd.h>
 
 namespace {
-
-using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+using File = Handle<std::FILE, std::fclose>;
 using Fault = EmulatedBehaviour::Fault;
 
 EmulatedPrinterBus::Ids idsFrom(const std::string& text)
 {
-    static constexpr std::size_t Digits = 4;
-    if (text.size() != 2 * Digits + 1 || text[Digits] != ':') {
+    static constexpr std::size_t digits = 4;
+    if (text.size() != 2 * digits + 1 || text[digits] != ':') {
         throw std::runtime_error("ids are VVVV:PPPP, not " + text);
     }
-    return {text.substr(0, Digits), text.substr(Digits + 1)};
+    return {text.substr(0, digits), text.substr(digits + 1)};
 }
 
 /// What the command line and standard input say of the printer's behaviour.
@@ -72,7 +70,7 @@ class Host
 {
 public:
     Host(int argc, char** argv)
-        : loop_(g_main_loop_new(nullptr, FALSE), g_main_loop_unref)
+        : loop_(g_main_loop_new(nullptr, FALSE))
     {
         std::vector<EmulatedPrinterBus::Ids> devices;
         bool devicesGiven = false;
@@ -168,14 +166,13 @@ private:
         }
     }
 
-    std::unique_ptr<GMainLoop, decltype(&g_main_loop_unref)> loop_;
-    File lines_{nullptr, std::fclose};
-    File bytes_{nullptr, std::fclose};
+    Handle<GMainLoop, g_main_loop_unref> loop_;
+    File lines_;
+    File bytes_;
     EmulatedBehaviour behaviour_;
     std::optional<EmulatedPrinterBus> bus_;
     std::string input_;
 };
-
 } // namespace
 
 int main(int argc, char** argv)

@@ -6,16 +6,15 @@
 #include <utility>
 
 namespace {
+constexpr unsigned char esc = 0x1B;
+constexpr unsigned char gs = 0x1D;
+constexpr int tabDots = 8 * 12;
+/// 3.75 mm.
+constexpr int defaultSpacing = 30;
+constexpr int maxBitImageColumns = 2047;
 
-constexpr unsigned char Esc = 0x1B;
-constexpr unsigned char Gs = 0x1D;
-constexpr int TabDots = 8 * 12;
-// 3.75 mm.
-constexpr int DefaultSpacing = 30;
-constexpr int MaxBitImageColumns = 2047;
-
-// The characters 0x80 to 0xFF of code page 858.
-constexpr char32_t UpperHalf[]
+/// The characters 0x80 to 0xFF of code page 858.
+constexpr char32_t upperHalf[]
     = U"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜø£Ø×ƒáíóúñÑªº¿®¬½¼¡«»░▒▓│┤ÁÂÀ©╣║╗╝¢¥┐"
       U"└┴┬├─┼ãÃ╚╔╩╦╠═╬¤ðÐÊËÈ€ÍÎÏ┘┌█▄¦Ì▀ÓßÔÒõÕµþÞÚÛÙýÝ¯´\u00AD±‗¾¶§÷¸°¨·¹³²■\u00A0";
 
@@ -25,7 +24,6 @@ std::string hex(unsigned char byte)
     std::snprintf(text, sizeof text, "%02x", byte);
     return text;
 }
-
 } // namespace
 
 EscPosPage::EscPosPage(std::string_view job)
@@ -62,18 +60,18 @@ void EscPosPage::character(unsigned char byte)
     case '\t':
         tab();
         return;
-    case Esc:
-    case Gs:
+    case esc:
+    case gs:
         command(byte);
         return;
     default:
         break;
     }
-    static constexpr unsigned char Upper = 0x80;
+    static constexpr unsigned char upper = 0x80;
     if (byte < ' ' || byte == 0x7F) {
         complain(hex(byte) + " is no character");
     } else {
-        put(byte < Upper ? byte : UpperHalf[byte - Upper]);
+        put(byte < upper ? byte : upperHalf[byte - upper]);
     }
 }
 
@@ -83,7 +81,7 @@ void EscPosPage::command(unsigned char introducer)
         return;
     }
     const unsigned char function = next();
-    if (!(introducer == Esc ? escape(function) : groupSeparator(function))) {
+    if (!(introducer == esc ? escape(function) : groupSeparator(function))) {
         complain(here() + " is no command");
     }
 }
@@ -91,15 +89,15 @@ void EscPosPage::command(unsigned char introducer)
 bool EscPosPage::escape(unsigned char function)
 {
     if (function == '2') {
-        spacing_ = DefaultSpacing;
+        spacing_ = defaultSpacing;
         return true;
     }
     if (function == '@') {
         initialize();
         return true;
     }
-    static constexpr std::string_view OneParameter = "!-3EMat*";
-    if (OneParameter.find(static_cast<char>(function)) == std::string_view::npos) {
+    static constexpr std::string_view oneParameter = "!-3EMat*";
+    if (oneParameter.find(static_cast<char>(function)) == std::string_view::npos) {
         return false;
     }
     if (function == 'a') {
@@ -150,7 +148,7 @@ bool EscPosPage::groupSeparator(unsigned char function)
     return false;
 }
 
-// A parameter may be the number or its digit; what is neither leaves the setting as it is.
+/// A parameter may be the number or its digit; what is neither leaves the setting as it is.
 bool EscPosPage::select(int& value, const std::vector<int>& choices)
 {
     const int given = next();
@@ -163,7 +161,7 @@ bool EscPosPage::select(int& value, const std::vector<int>& choices)
     return false;
 }
 
-// Bits 1 and 2 mean nothing; each of the others sets or clears its style.
+/// Bits 1 and 2 mean nothing; each of the others sets or clears its style.
 void EscPosPage::printMode(unsigned bits)
 {
     style_.fontB = (bits & 0x01U) != 0;
@@ -201,7 +199,7 @@ void EscPosPage::bitImage()
         complain(here() + " is no command");
         return;
     }
-    if (columns == 0 || columns > MaxBitImageColumns) {
+    if (columns == 0 || columns > maxBitImageColumns) {
         complain(here() + ": a bit image has 1 to 2047 columns");
     }
     const int bytes = tall ? 3 : 1;
@@ -211,7 +209,7 @@ void EscPosPage::bitImage()
     const int across = mode == 1 || mode == 33 ? 1 : 2;
     const int down = tall ? 1 : 3;
     PageBand band{line_.width, {}};
-    const auto wide = static_cast<std::size_t>(std::min(columns * across, Width - line_.width));
+    const auto wide = static_cast<std::size_t>(std::min(columns * across, areaWidth - line_.width));
     band.rows.assign(24, std::vector<bool>(wide));
     for (int x = 0; x < columns; ++x) {
         unsigned dots = 0;
@@ -238,11 +236,11 @@ void EscPosPage::cut()
     if (!has(1)) {
         return;
     }
-    static constexpr unsigned char FeedAndCut = 65;
-    static constexpr unsigned char FeedAndCutPartially = 66;
+    static constexpr unsigned char feedAndCut = 65;
+    static constexpr unsigned char feedAndCutPartially = 66;
     const unsigned char mode = next();
     int feed = 0;
-    if (mode == FeedAndCut || mode == FeedAndCutPartially) {
+    if (mode == feedAndCut || mode == feedAndCutPartially) {
         if (!has(1)) {
             return;
         }
@@ -263,15 +261,15 @@ void EscPosPage::cut()
 
 void EscPosPage::tab()
 {
-    if (line_.width == Width) {
+    if (line_.width == areaWidth) {
         endLine();
     }
-    line_.width = std::min(Width, (line_.width / TabDots + 1) * TabDots);
+    line_.width = std::min(areaWidth, (line_.width / tabDots + 1) * tabDots);
 }
 
 void EscPosPage::put(char32_t character)
 {
-    if (line_.width + style_.cellWidth() > Width) {
+    if (line_.width + style_.cellWidth() > areaWidth) {
         endLine();
     }
     line_.glyphs.push_back({character, style_, line_.width});
@@ -289,7 +287,7 @@ void EscPosPage::endLine()
 void EscPosPage::initialize()
 {
     style_ = {};
-    spacing_ = DefaultSpacing;
+    spacing_ = defaultSpacing;
     alignment_ = 0;
     line_ = {};
 }
@@ -309,7 +307,7 @@ unsigned char EscPosPage::next()
     return static_cast<unsigned char>(job_[at_++]);
 }
 
-// The command's bytes that are read so far.
+/// The command's bytes that are read so far.
 std::string EscPosPage::here() const
 {
     std::string text;

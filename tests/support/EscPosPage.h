@@ -86,7 +86,7 @@ class EscPosPage
 {
 public:
     /// The printing area's width: 48 columns of font A.
-    static constexpr int Width = 576;
+    static constexpr int areaWidth = 576;
 
     explicit EscPosPage(std::string_view job);
 

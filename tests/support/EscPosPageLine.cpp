@@ -2,8 +2,7 @@
 #include "tests/support/EscPosPage.h"
 
 namespace {
-
-constexpr int ColumnDots = 12;
+constexpr int columnDots = 12;
 
 std::string wordsFor(const PageStyle& style)
 {
@@ -22,12 +21,11 @@ std::string wordsFor(const PageStyle& style)
     add(style.high, "high");
     return tag.empty() ? "plain" : tag;
 }
-
 } // namespace
 
 int PageLine::leftOffset() const
 {
-    const int room = EscPosPage::Width - width;
+    const int room = EscPosPage::areaWidth - width;
     switch (alignment) {
     case Alignment::Centre:
         return room / 2;
@@ -55,7 +53,7 @@ std::string PageLine::styled() const
     int x = 0;
     for (const auto& glyph : glyphs) {
         if (bands.empty()) {
-            text.append(static_cast<std::size_t>((glyph.x - x) / ColumnDots), ' ');
+            text.append(static_cast<std::size_t>((glyph.x - x) / columnDots), ' ');
         }
         if (!(glyph.style == style)) {
             style = glyph.style;

@@ -6,11 +6,10 @@
 #include <QPainter>
 
 namespace {
-
-constexpr int PaperWidth = 640;
-constexpr int Margin = (PaperWidth - EscPosPage::Width) / 2;
-constexpr int DotsPerMetre = 7992;
-constexpr int EdgeFeed = 24;
+constexpr int paperWidth = 640;
+constexpr int margin = (paperWidth - EscPosPage::areaWidth) / 2;
+constexpr int dotsPerMetre = 7992;
+constexpr int edgeFeed = 24;
 
 void draw(QPainter& painter, const PageGlyph& glyph, int left, int bottom)
 {
@@ -51,27 +50,26 @@ void draw(QPainter& painter, const PageBand& band, int left, int bottom)
 void drawCut(QPainter& painter, int y)
 {
     painter.setPen(QPen(Qt::darkGray, 1, Qt::DashLine));
-    painter.drawLine(0, y, PaperWidth, y);
+    painter.drawLine(0, y, paperWidth, y);
     painter.setPen(Qt::black);
 }
-
 } // namespace
 
 QImage pictureOf(const EscPosPage& page)
 {
-    int height = 2 * EdgeFeed;
+    int height = 2 * edgeFeed;
     for (const auto& line : page.lines()) {
         height += line.feed;
     }
-    QImage picture(PaperWidth, height, QImage::Format_RGB32);
-    picture.setDotsPerMeterX(DotsPerMetre);
-    picture.setDotsPerMeterY(DotsPerMetre);
+    QImage picture(paperWidth, height, QImage::Format_RGB32);
+    picture.setDotsPerMeterX(dotsPerMetre);
+    picture.setDotsPerMeterY(dotsPerMetre);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     painter.setPen(Qt::black);
-    int top = EdgeFeed;
+    int top = edgeFeed;
     for (const auto& line : page.lines()) {
-        const int left = Margin + line.leftOffset();
+        const int left = margin + line.leftOffset();
         for (const auto& glyph : line.glyphs) {
             draw(painter, glyph, left + glyph.x, top + line.height);
         }

@@ -46,5 +46,5 @@ inline bool looksLikeAList(const QTableView& view)
     return view.styleSheet()
         == QLatin1String("alternate-background-color: LightBlue;background-color: White")
         && view.alternatingRowColors() && view.editTriggers() == QAbstractItemView::NoEditTriggers
-        && (view.horizontalHeader()->defaultAlignment() & Qt::AlignLeft) != 0;
+        && view.horizontalHeader()->defaultAlignment() == Qt::AlignLeft;
 }

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 #include <QXmlStreamReader>
 
 namespace {
@@ -92,6 +93,31 @@ QVector<TranslatedText> readTranslation(const QString& path)
     }
     if (xml.hasError()) {
         qFatal("%s: %s", qPrintable(path), qPrintable(xml.errorString()));
+    }
+    return texts;
+}
+
+QVector<TranslatedText> readCaptions(const QString& path)
+{
+    static const QSet<QString> captions{
+        QStringLiteral("text"), QStringLiteral("title"), QStringLiteral("windowTitle")};
+    QXmlStreamReader xml(readFile(path));
+    QVector<TranslatedText> texts;
+    QString form;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        if (xml.name() == QLatin1String("class") && form.isEmpty()) {
+            form = xml.readElementText();
+        } else if (xml.name() == QLatin1String("property")
+            && captions.contains(xml.attributes().value(QLatin1String("name")).toString())
+            && xml.readNextStartElement() && xml.name() == QLatin1String("string")) {
+            TranslatedText caption;
+            caption.context = form;
+            caption.source = xml.readElementText();
+            texts << caption;
+        }
     }
     return texts;
 }

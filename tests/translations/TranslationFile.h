@@ -19,5 +19,9 @@ struct TranslatedText
 /// All texts of the .ts file \a path; ends the test program when it is not well-formed.
 QVector<TranslatedText> readTranslation(const QString& path);
 
+/// The captions in the form \a path (.ui) with its class as their context: titles and texts of
+/// windows, labels, buttons, groups, menus and actions.
+QVector<TranslatedText> readCaptions(const QString& path);
+
 /// All texts of the catalogue, read from its source file \a path, so that none can be left out.
 QStringList readCatalogue(const QString& path);

@@ -2,6 +2,7 @@
 #include "app/FormVendel.h"
 #include "app/FormVendelStart.h"
 #include "app/FormVendelTicket.h"
+#include "app/Payment.h"
 #include "forms/FormVendelAbout.h"
 #include "forms/FormVendelConfig.h"
 #include "forms/FormVendelFormulaireTicket.h"
@@ -92,7 +93,12 @@ const QVector<Opening>& windows()
     static const QVector<Opening> all{
         opening<FormVendel>("FormVendel", {"btn_Afficher", "btn_Ticket", "btn_Total_Ticket"}),
         opening<FormVendelStart>("FormVendelStart", {}),
-        opening<FormVendelTicket>("FormVendelTicket", {}),
+        Opening{"FormVendelTicket",
+            [](QWidget* opener) {
+                Window window = std::make_unique<FormVendelTicket>(Payment::receipt(), opener);
+                window->show();
+                return window;
+            }},
         opening<FormVendelAbout>("FormVendelAbout", {}),
         opening<FormVendelConfig>("FormVendelConfig", {}),
         opening<FormVendelFormulaireTicket>("FormVendelFormulaireTicket", {}),

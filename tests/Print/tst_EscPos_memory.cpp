@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "Print/escpospp/EscPos.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <QtTest>
+
+#include <algorithm>
+#include <cstddef>
+
+#include <malloc.h>
+
+namespace {
+/// The largest block asked for, in bytes.
+std::size_t largestRequest = 0;
+} // namespace
+
+// A sanitizer keeps its own books of the memory.
+#ifndef __SANITIZE_ADDRESS__
+extern "C" {
+void* __libc_realloc(void* block, std::size_t size);
+
+/// The C library's, watched.
+void* realloc(void* block, std::size_t size) noexcept
+{
+    largestRequest = std::max(largestRequest, size);
+    return __libc_realloc(block, size);
+}
+}
+#endif
+
+namespace {
+constexpr char rgbWithAlpha = 6;
+
+/// A PNG of 16 bits a sample, stored interlaced or row by row. The decoder leaves checksums alone.
+QByteArray pngHead(quint32 width, quint32 height, char colours, char interlaced)
+{
+    QByteArray head = QByteArray::fromHex("89504e470d0a1a0a"
+                                          "0000000d49484452");
+    for (const quint32 side : {width, height}) {
+        QByteArray bytes(4, '\0');
+        qToBigEndian(side, bytes.data());
+        head += bytes;
+    }
+    return head + '\x10' + colours + QByteArray(2, '\0') + interlaced + "sum.";
+}
+
+QByteArray chunk(const char* type, const QByteArray& data)
+{
+    QByteArray length(4, '\0');
+    qToBigEndian(static_cast<quint32>(data.size()), length.data());
+    return length + type + data + "sum.";
+}
+} // namespace
+
+/// What a picture may ask of the till's memory.
+class TestEscPosMemory : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("a sanitizer keeps its own books of the memory");
+#endif
+    }
+
+    void aChunkThatClaimsAGigabyteGetsNoMemory()
+    {
+        const QByteArray png = pngHead(2, 1, 0, 0) + chunk("IDAT", "some data")
+            + QByteArray::fromHex("411f0245") + "IDAT" + "what follows";
+        QCOMPARE(loaded(png).size(), 0U);
+        QCOMPARE(largestRequest, std::size_t{4096});
+    }
+
+    void theHungriestPictureIsLoaded()
+    {
+        // Eight bytes a pixel, and one ahead of each of the 7,680 rows of the seven interlaced
+        // pictures. The decoder reckons with 4,096 rows and doubles: 2 * (8 * 4096 * 4096 + 4096).
+        const QByteArray rows = qCompress(QByteArray(8 * 4096 * 4096 + 7680, '\0'), 1).mid(4);
+        const DotMatrix dots = loaded(pngHead(4096, 4096, rgbWithAlpha, 1) + chunk("IDAT", rows)
+            + chunk("IEND", QByteArray()));
+        QCOMPARE(dots.size(), 4096U);
+        QCOMPARE(dots.back(), std::vector<bool>(4096, true));
+        QCOMPARE(largestRequest, std::size_t{268'443'648});
+    }
+
+    void whatAFileLeavesOutIsBlack()
+    {
+        // Memory that nobody clears reads as 0xAA, which is white.
+        QCOMPARE(mallopt(M_PERTURB, 0x55), 1);
+        // A grey JPEG of 8 x 1 pixels: its frame and its end, no scan between them.
+        const DotMatrix dots = loaded(QByteArray::fromHex("ffd8"
+                                                          "ffc0000b08000100080101"
+                                                          "1100"
+                                                          "ffd9"));
+        QCOMPARE(mallopt(M_PERTURB, 0), 1);
+        QCOMPARE(dots, DotMatrix{std::vector<bool>(8, true)});
+    }
+
+private:
+    DotMatrix loaded(const QByteArray& bytes)
+    {
+        QFile file(folder_.filePath("picture"));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+            qFatal("cannot write the picture");
+        }
+        file.close();
+        largestRequest = 0;
+        return EscPos::loadImage(file.fileName().toStdString());
+    }
+
+    QTemporaryDir folder_;
+};
+
+QTEST_GUILESS_MAIN(TestEscPosMemory)
+
+#include "tst_EscPos_memory.moc"

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "tests/app/StartedTill.h"
+#include "tests/support/Shop.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QImage>
+#include <QPixmap>
+#include <QScreen>
+#include <QTest>
+
+/// The program itself on a screen of 1366 x 768 with 144 dots per inch, a small laptop's.
+class TestExecutableDenseScreen : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theScreenHas144DotsPerInch();
+    void textIsAsLargeAsAt96DotsPerInch();
+    void theClockIsShownWhole();
+    void theLanguageOfTheFolderIsSpoken();
+};
+
+namespace {
+/// The sales screen in the middle of the screen.
+constexpr QRect windowArea(158, 71, 1050, 626);
+/// The clock's label, 22 pixels of the menu bar above it.
+constexpr QRect clockArea(158 + 827, 71 + 22 + 8, 211, 21);
+
+QImage shown(const QRect& area)
+{
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, area.x(), area.y(), area.width(), area.height())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+/// The sales screen and its splash as they are shown, the running clock left out.
+QImage shownWithoutTheClock()
+{
+    QImage picture = shown(windowArea);
+    for (int y = 0; y < clockArea.height(); ++y) {
+        for (int x = 0; x < clockArea.width(); ++x) {
+            const QPoint point = QPoint(x, y) + clockArea.topLeft() - windowArea.topLeft();
+            picture.setPixelColor(point, Qt::white);
+        }
+    }
+    return picture;
+}
+
+/// The same once it has stayed as it is for three grabs in a row: the two windows appear one by
+/// one.
+QImage settledPicture()
+{
+    QImage picture;
+    int grabs = 0;
+    static_cast<void>(QTest::qWaitFor(
+        [&] {
+            const QImage next = shownWithoutTheClock();
+            grabs = next == picture ? grabs + 1 : 0;
+            picture = next;
+            return grabs == 3;
+        },
+        10000));
+    return picture;
+}
+
+/// The smallest rectangle around all that is not of the colour of the first pixel.
+QRect ink(const QImage& picture)
+{
+    QRect box;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) != picture.pixel(0, 0)) {
+                box |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return box;
+}
+
+bool isOpen()
+{
+    return !windowTitled("Vendel").isEmpty() && !windowTitled("Dialog").isEmpty();
+}
+} // namespace
+
+void TestExecutableDenseScreen::theScreenHas144DotsPerInch()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QSKIP("Qt 6 does not ask this server for its density");
+#endif
+    QCOMPARE(qRound(QGuiApplication::primaryScreen()->physicalDotsPerInchY()), 144);
+    QCOMPARE(qRound(QGuiApplication::primaryScreen()->logicalDotsPerInchY()), 144);
+}
+
+void TestExecutableDenseScreen::textIsAsLargeAsAt96DotsPerInch()
+{
+    const Shop shop;
+    QImage expected;
+    {
+        const StartedTill till(96);
+        QTRY_VERIFY_WITH_TIMEOUT(isOpen(), 20000);
+        expected = settledPicture();
+        QVERIFY(!ink(expected).isNull());
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!isOpen(), 5000);
+    const StartedTill till;
+    QTRY_VERIFY_WITH_TIMEOUT(isOpen(), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(shownWithoutTheClock() == expected, 5000);
+}
+
+void TestExecutableDenseScreen::theClockIsShownWhole()
+{
+    const Shop shop;
+    const StartedTill till;
+    QTRY_VERIFY_WITH_TIMEOUT(isOpen(), 20000);
+    // Nineteen characters take most of the label and leave its right end free.
+    QTRY_VERIFY_WITH_TIMEOUT(ink(shown(clockArea)).width() > 120, 5000);
+    const QRect letters = ink(shown(clockArea));
+    QVERIFY2(letters.right() < 205, qPrintable(QString::number(letters.right())));
+    QVERIFY2(letters.height() <= 19, qPrintable(QString::number(letters.height())));
+}
+
+void TestExecutableDenseScreen::theLanguageOfTheFolderIsSpoken()
+{
+    const Shop shop;
+    QVERIFY(QFile::copy(QStringLiteral(TRANSLATION_FILE), QStringLiteral("FormVendelTr_Us")));
+    const StartedTill till;
+    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("The till").isEmpty(), 20000);
+}
+
+QTEST_MAIN(TestExecutableDenseScreen)
+#include "tst_ExecutableDenseScreen.moc"

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "app/ReceiptBytes.h"
+#include "common/convert.h"
+#include "tests/app/Till.h"
+#include "tests/support/Captured.h"
+#include "tests/support/EmulatedPrinter.h"
+#include "tests/support/TestMain.h"
+
+#include <cerrno>
+#include <memory>
+
+#include <dlfcn.h>
+#include <iconv.h>
+
+namespace {
+/// Why the next conversion descriptors cannot be opened; 0 when they can.
+int refusal = 0;
+
+class Refusal
+{
+public:
+    explicit Refusal(int error)
+    {
+        refusal = error;
+    }
+    ~Refusal()
+    {
+        refusal = 0;
+    }
+    Refusal(const Refusal&) = delete;
+    Refusal& operator=(const Refusal&) = delete;
+    Refusal(Refusal&&) = delete;
+    Refusal& operator=(Refusal&&) = delete;
+};
+} // namespace
+
+extern "C" {
+/// The C library's, unless it is to be refused: no system without the code page is at hand.
+iconv_t iconv_open(const char* to, const char* from)
+{
+    if (refusal != 0) {
+        errno = refusal;
+        return reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr): iconv's own
+    }
+    using Function = iconv_t (*)(const char*, const char*);
+    static const auto open = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "iconv_open"));
+    return open(to, from);
+}
+}
+
+/// What the log says of a receipt that cannot be printed.
+class TestReceiptConversion : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theReasonIsOneOfThree_data()
+    {
+        QTest::addColumn<QByteArray>("article");
+        QTest::addColumn<int>("error");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("a character outside the code page")
+            << QByteArray("Caf\xc3\xa9 \xf0\x9f\x98\x80") << 0
+            << QStringLiteral("a character of the receipt is not in code page 858");
+        QTest::newRow("no such code page") << QByteArray(
+            "Cafe") << EINVAL << QStringLiteral("this system cannot write code page 858");
+        QTest::newRow("no memory") << QByteArray("Cafe") << ENOMEM
+                                   << QStringLiteral("there is no memory left for the receipt");
+    }
+    void theReasonIsOneOfThree()
+    {
+        QFETCH(const QByteArray, article);
+        QFETCH(const int, error);
+        QFETCH(const QString, reason);
+        const EmulatedPrinter printer;
+        Till till;
+        till.setSwitch("1");
+        till.sell(article, "2.5");
+        const CapturedLog log;
+        {
+            const Refusal refused(error);
+            till.pay();
+        }
+        QCOMPARE(log.criticals(),
+            QStringList(QLatin1String("Errors FormVendel on_btn_Payer_clicked : ") + reason));
+        QVERIFY(printer.bytes().empty());
+        QCOMPARE(till.history().size(), 1);
+        QCOMPARE(till.ticket().size(), 1);
+    }
+
+    void aFailedConversionLeavesItsReasonInErrno()
+    {
+        errno = 0;
+        QVERIFY(convert("UTF-8", "CP858", "\xc5\x93") == nullptr);
+        QCOMPARE(errno, EILSEQ);
+        QVERIFY(convert("UTF-8", "no such set", "x") == nullptr);
+        QCOMPARE(errno, EINVAL);
+        const Refusal refused(ENOMEM);
+        QVERIFY(convert("UTF-8", "CP858", "x") == nullptr);
+        QCOMPARE(errno, ENOMEM);
+    }
+};
+
+VENDEL_TEST_MAIN(TestReceiptConversion)
+#include "tst_ReceiptConversion.moc"

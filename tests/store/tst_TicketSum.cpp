@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "store/Settings.h"
+#include "store/Ticket.h"
+#include "tests/support/Captured.h"
+#include "tests/support/CoreTestMain.h"
+#include "tests/support/Shop.h"
+
+#include <stdexcept>
+
+/// What the ticket and the settings hand out when a row or a column is missing.
+class TestTicketSum : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theSumIsThatOfAllPrices()
+    {
+        const Shop shop;
+        shop.sql("insert into Ticket (id, article, prix) values (1, 'Eau', 2.5), (0, '----', -1)");
+        QCOMPARE(Ticket::sum(), QStringLiteral("1.5"));
+    }
+
+    void anEmptyTicketHasNoSum()
+    {
+        const Shop shop;
+        QCOMPARE(Ticket::sum(), QString());
+    }
+
+    void withoutATableThereIsNoSum()
+    {
+        const Shop shop;
+        shop.sql("drop table Ticket");
+        CapturedOutput output;
+        QVERIFY_EXCEPTION_THROWN(Ticket::sum(), std::out_of_range);
+        QCOMPARE(
+            output.text(), databaseReport("select sum(prix) from Ticket", "no such table: Ticket"));
+    }
+
+    void aTableThatLacksAColumnThrows()
+    {
+        const Shop shop;
+        shop.sql("alter table Ticket drop column prix");
+        shop.sql("insert into Ticket (id, article) values (1, 'Eau')");
+        QVERIFY_EXCEPTION_THROWN(Ticket::lines(), std::out_of_range);
+    }
+
+    void aMissingSettingThrowsForItsDialogAlone()
+    {
+        const Shop shop;
+        shop.sql("delete from Config");
+        QVERIFY(Settings::taxRates().empty());
+        QVERIFY(Settings::printerSwitches().empty());
+        QVERIFY_EXCEPTION_THROWN(Settings::taxRate(), std::out_of_range);
+        QVERIFY_EXCEPTION_THROWN(Settings::printerSwitch(), std::out_of_range);
+    }
+};
+
+VENDEL_CORE_TEST_MAIN(TestTicketSum)
+#include "tst_TicketSum.moc"

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/TestMain.h"
+#include "widgets/ElidedLabel.h"
+
+#include <QPixmap>
+
+class TestElidedLabel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void takesNoRoomOfItsOwn();
+    void paintsAShortTextWhole();
+    void endsALongTextInDots();
+    void showsTagsAsText();
+};
+
+namespace {
+QImage painted(QLabel& label, const QString& text)
+{
+    label.setTextFormat(Qt::PlainText);
+    label.setText(text);
+    label.setFixedSize(120, 24);
+    return label.grab().toImage();
+}
+} // namespace
+
+void TestElidedLabel::takesNoRoomOfItsOwn()
+{
+    ElidedLabel label;
+    label.setText(QString(300, QLatin1Char('W')));
+    QCOMPARE(label.minimumSizeHint().width(), 0);
+    QVERIFY(label.minimumSizeHint().height() > 0);
+    QCOMPARE(label.text().size(), 300);
+}
+
+void TestElidedLabel::paintsAShortTextWhole()
+{
+    ElidedLabel label;
+    QLabel plain;
+    QCOMPARE(
+        painted(label, QStringLiteral("Café & Thé")), painted(plain, QStringLiteral("Café & Thé")));
+}
+
+void TestElidedLabel::endsALongTextInDots()
+{
+    ElidedLabel label;
+    const QImage image = painted(label, QString(100, QLatin1Char('W')));
+    bool found = false;
+    for (int letters = 1; letters < 20 && !found; ++letters) {
+        QLabel plain;
+        found = image == painted(plain, QString(letters, QLatin1Char('W')) + QChar(0x2026));
+    }
+    QVERIFY(found);
+}
+
+void TestElidedLabel::showsTagsAsText()
+{
+    ElidedLabel label;
+    QLabel plain;
+    QCOMPARE(
+        painted(label, QStringLiteral("<b>T</b>")), painted(plain, QStringLiteral("<b>T</b>")));
+}
+
+VENDEL_TEST_MAIN(TestElidedLabel)
+#include "tst_ElidedLabel.moc"

@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: MIT
+#include "common/Messages.h"
+#include "tests/support/TestMain.h"
+#include "widgets/HoverTip.h"
+#include "widgets/Lists.h"
+
+#include <QElapsedTimer>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTextDocument>
+#include <QToolTip>
+
+class TestHoverTip : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void watchingSwitchesMouseTrackingOn();
+    void aMoveOverTheViewportHasAPosition();
+    void fractionsOfAPixelAreRounded();
+    void otherEventsHaveNoPosition_data();
+    void otherEventsHaveNoPosition();
+    void movesOverOtherWidgetsHaveNoPosition();
+    void theTextUnderThePointerIsOfItsColumn();
+    void noTextStandsUnderAnEmptyArea();
+    void aTextThatNoScreenHoldsIsCut();
+    void aCutSplitsNoCharacter();
+    void aTipShowsAndHides();
+    void aNameLikeATagIsPlainText();
+    void aTipLetsTheMouseThrough();
+    void aTipSurvivesQtsOwnRequest();
+    void aMoveWhileATipIsMadeLeavesItAlone();
+    void aLongTipGoesAfterTenSeconds();
+};
+
+namespace {
+/// A list of two articles, the second with a long name.
+struct List : QTableView
+{
+    QStandardItemModel model;
+
+    List()
+    {
+        constexpr Texts texts{"FormVendelMessages"};
+        setUpList(*this, model, texts, Messages::Messages97, {50, 25, 210, 110}, {0});
+        ListFiller filler(*this, model);
+        filler.add({QStringLiteral("1"), QString(), QStringLiteral("Thé"), QString()});
+        filler.add({QStringLiteral("2"), QString(), QString(300, QLatin1Char('x')), QString()});
+        resize(400, 560);
+        show();
+    }
+
+    QPoint centreOf(int row, int column)
+    {
+        return visualRect(model.index(row, column)).center();
+    }
+};
+
+QMouseEvent moveTo(const QPointF& point)
+{
+    return {QEvent::MouseMove, point, point, Qt::NoButton, Qt::NoButton, Qt::NoModifier};
+}
+
+QWidget* shownTip()
+{
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
+        if (widget->inherits("QTipLabel") && widget->isVisible()) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+} // namespace
+
+void TestHoverTip::cleanup()
+{
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void TestHoverTip::watchingSwitchesMouseTrackingOn()
+{
+    class Watcher : public QObject
+    {
+    public:
+        int moves = 0;
+
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override
+        {
+            moves += event->type() == QEvent::MouseMove ? 1 : 0;
+            return false;
+        }
+    };
+    List list;
+    QVERIFY(!list.viewport()->testAttribute(Qt::WA_MouseTracking));
+    Watcher watcher;
+    watchMouse(list, watcher);
+    QVERIFY(list.viewport()->testAttribute(Qt::WA_MouseTracking));
+    QMouseEvent move = moveTo({12, 34});
+    QApplication::sendEvent(list.viewport(), &move);
+    QCOMPARE(watcher.moves, 1);
+}
+
+void TestHoverTip::aMoveOverTheViewportHasAPosition()
+{
+    const List list;
+    const QMouseEvent move = moveTo({12, 34});
+    QCOMPARE(mouseMoveOver(list, list.viewport(), &move), std::optional(QPoint(12, 34)));
+}
+
+void TestHoverTip::fractionsOfAPixelAreRounded()
+{
+    const List list;
+    const QMouseEvent move = moveTo({12.6, 34.4});
+    QCOMPARE(mouseMoveOver(list, list.viewport(), &move), std::optional(QPoint(13, 34)));
+}
+
+void TestHoverTip::otherEventsHaveNoPosition_data()
+{
+    QTest::addColumn<int>("type");
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+             QEvent::MouseButtonDblClick, QEvent::Enter, QEvent::Leave, QEvent::Wheel,
+             QEvent::Paint, QEvent::ToolTip, QEvent::Timer, QEvent::KeyPress}) {
+        QTest::addRow("%d", type) << static_cast<int>(type);
+    }
+}
+
+void TestHoverTip::otherEventsHaveNoPosition()
+{
+    QFETCH(int, type);
+    const List list;
+    const QEvent event(static_cast<QEvent::Type>(type));
+    QVERIFY(!mouseMoveOver(list, list.viewport(), &event).has_value());
+}
+
+void TestHoverTip::movesOverOtherWidgetsHaveNoPosition()
+{
+    const List list;
+    const List other;
+    const QMouseEvent move = moveTo({12, 34});
+    QVERIFY(!mouseMoveOver(list, other.viewport(), &move).has_value());
+    QVERIFY(!mouseMoveOver(list, &list, &move).has_value());
+}
+
+void TestHoverTip::theTextUnderThePointerIsOfItsColumn()
+{
+    List list;
+    QCOMPARE(textUnder(list, list.centreOf(0, 3), 2), QStringLiteral("Thé"));
+    QCOMPARE(textUnder(list, list.centreOf(0, 1), 0), QStringLiteral("1"));
+}
+
+void TestHoverTip::noTextStandsUnderAnEmptyArea()
+{
+    const List list;
+    QCOMPARE(textUnder(list, QPoint(200, 500), 2), QString());
+    QCOMPARE(textUnder(list, QPoint(-5, -5), 2), QString());
+}
+
+void TestHoverTip::aTextThatNoScreenHoldsIsCut()
+{
+    List list;
+    QCOMPARE(
+        textUnder(list, list.centreOf(1, 2), 2), QString(200, QLatin1Char('x')) + QChar(0x2026));
+    list.model.item(1, 2)->setText(QString(200, QLatin1Char('y')));
+    QCOMPARE(textUnder(list, list.centreOf(1, 2), 2), QString(200, QLatin1Char('y')));
+}
+
+void TestHoverTip::aCutSplitsNoCharacter()
+{
+    List list;
+    list.model.item(1, 2)->setText(QLatin1Char('x') + QStringLiteral("😀").repeated(150));
+    QCOMPARE(textUnder(list, list.centreOf(1, 2), 2),
+        QLatin1Char('x') + QStringLiteral("😀").repeated(99) + QChar(0x2026));
+}
+
+void TestHoverTip::aTipShowsAndHides()
+{
+    QWidget window;
+    showTip(window, QPoint(150, 130), QStringLiteral("Menu\nClick sur : Thé"));
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick sur : Thé"));
+    hideTip();
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void TestHoverTip::aNameLikeATagIsPlainText()
+{
+    QWidget window;
+    showTip(window, QPoint(150, 130), QStringLiteral("<b>x</b>"));
+    const auto* tip = qobject_cast<QLabel*>(shownTip());
+    QVERIFY(tip != nullptr);
+    QCOMPARE(QToolTip::text(), QStringLiteral("<p>&lt;b&gt;x&lt;/b&gt;</p>"));
+    showTip(window, QPoint(150, 130), QStringLiteral("Menu\nClick sur : <b>x</b>"));
+    QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick sur : <b>x</b>"));
+    QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
+}
+
+void TestHoverTip::aTipLetsTheMouseThrough()
+{
+    QWidget window;
+    showTip(window, QPoint(150, 130), QStringLiteral("Menu"));
+    const QWidget* tip = shownTip();
+    QVERIFY(tip != nullptr);
+    QVERIFY(tip->windowFlags().testFlag(Qt::WindowTransparentForInput));
+}
+
+void TestHoverTip::aTipSurvivesQtsOwnRequest()
+{
+    List list;
+    QVERIFY(QTest::qWaitForWindowActive(&list));
+    showTip(list, QPoint(150, 130), QStringLiteral("Menu"));
+    const QPoint point = list.centreOf(0, 2);
+    QHelpEvent request(QEvent::ToolTip, point, list.viewport()->mapToGlobal(point));
+    QApplication::sendEvent(list.viewport(), &request);
+    QTest::qWait(400);
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), QStringLiteral("Menu"));
+}
+
+void TestHoverTip::aMoveWhileATipIsMadeLeavesItAlone()
+{
+    /// Asks for a second tip in the middle of the making of the first one.
+    class Mover : public QObject
+    {
+    public:
+        int moves = 0;
+        QWidget window;
+
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == QEvent::Polish && watched->inherits("QTipLabel") && moves == 0) {
+                ++moves;
+                showTip(window, QPoint(150, 130), QStringLiteral("Ticket"));
+            }
+            return false;
+        }
+    };
+    Mover mover;
+    qApp->installEventFilter(&mover);
+    showTip(mover.window, QPoint(150, 130), QStringLiteral("Menu"));
+    QCOMPARE(mover.moves, 1);
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), QStringLiteral("Menu"));
+    showTip(mover.window, QPoint(150, 130), QStringLiteral("Ticket"));
+    QCOMPARE(QToolTip::text(), QStringLiteral("Ticket"));
+}
+
+void TestHoverTip::aLongTipGoesAfterTenSeconds()
+{
+    QWidget window;
+    QElapsedTimer timer;
+    timer.start();
+    showTip(window, QPoint(150, 130), QString(300, QLatin1Char('x')));
+    QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), 15000);
+    QVERIFY2(timer.elapsed() >= 9500, qPrintable(QString::number(timer.elapsed())));
+}
+
+VENDEL_TEST_MAIN(TestHoverTip)
+#include "tst_HoverTip.moc"

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/TestMain.h"
+#include "widgets/Windows.h"
+
+#include <QDialog>
+#include <QPointer>
+
+class TestWindows : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void anOpenedWindowIsShownOnTopOfItsOpener();
+    void argumentsReachTheWindow();
+    void aClosedWindowIsDeleted();
+    void aWindowGoesWithItsOpener();
+};
+
+namespace {
+class Dialog : public QDialog
+{
+public:
+    explicit Dialog(QWidget* parent)
+        : QDialog(parent)
+    { }
+    Dialog(const QString& first, const QString& second, QWidget* parent)
+        : QDialog(parent)
+    {
+        setWindowTitle(first + second);
+    }
+};
+} // namespace
+
+void TestWindows::anOpenedWindowIsShownOnTopOfItsOpener()
+{
+    QWidget opener;
+    openWindow<Dialog>(&opener);
+    const auto* dialog = opener.findChild<QDialog*>();
+    QVERIFY(dialog != nullptr);
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(dialog->parentWidget(), &opener);
+}
+
+void TestWindows::argumentsReachTheWindow()
+{
+    QWidget opener;
+    openWindow<Dialog>(&opener, QStringLiteral("05/01/2019"), QStringLiteral("05/02/2019"));
+    QCOMPARE(opener.findChild<QDialog*>()->windowTitle(), QStringLiteral("05/01/201905/02/2019"));
+}
+
+void TestWindows::aClosedWindowIsDeleted()
+{
+    QWidget opener;
+    openWindow<Dialog>(&opener);
+    const QPointer<QDialog> dialog = opener.findChild<QDialog*>();
+    dialog->close();
+    QTRY_VERIFY(dialog.isNull());
+}
+
+void TestWindows::aWindowGoesWithItsOpener()
+{
+    auto opener = std::make_unique<QWidget>();
+    openWindow<Dialog>(opener.get());
+    const QPointer<QDialog> dialog = opener->findChild<QDialog*>();
+    opener.reset();
+    QVERIFY(dialog.isNull());
+}
+
+VENDEL_TEST_MAIN(TestWindows)
+#include "tst_Windows.moc"
