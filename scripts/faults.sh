@@ -77,7 +77,7 @@ tail -n 3 "$out/bad-days.log" | head -n 1
 
 say "A day of $sales sales"
 VENDEL_SALES=$sales QTEST_FUNCTION_TIMEOUT=$((300000 + sales * 300)) QT_QPA_PLATFORM=offscreen \
-    "$build/tests/app/tst_LongDay" >"$out/long-day.log" 2>&1 \
+    "$build/tests/app/tests_app" LongDay >"$out/long-day.log" 2>&1 \
     || { cat "$out/long-day.log" >&2 && fail "the long day ended badly"; }
 sed -nE 's/^QINFO *: [^ ]+ //p' "$out/long-day.log" >"$out/long-day.txt"
 sed 's/^/  /' "$out/long-day.txt"

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Print/escpospp/Bitmap.h"
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/TestProgram.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 /// Rows as text: '#' is a black dot.
@@ -242,6 +243,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestBitmap)
+VENDEL_TEST(TestBitmap)
 
 #include "tst_Bitmap.moc"

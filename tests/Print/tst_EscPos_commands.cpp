@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Print/escpospp/EscPos.h"
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/TestProgram.h"
 
-#include <QtTest>
+#include <QTest>
 
 Q_DECLARE_METATYPE(std::string)
 
@@ -53,6 +54,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEscPosCommands)
+VENDEL_TEST(TestEscPosCommands)
 
 #include "tst_EscPos_commands.moc"

@@ -1,34 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "Print/escpospp/EscPos.h"
+#include "tests/support/Allocations.h"
+#include "tests/support/TestProgram.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtEndian>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <cstddef>
 
 #include <malloc.h>
-
-namespace {
-/// The largest block asked for, in bytes.
-std::size_t largestRequest = 0;
-} // namespace
-
-// A sanitizer keeps its own books of the memory.
-#ifndef __SANITIZE_ADDRESS__
-extern "C" {
-void* __libc_realloc(void* block, std::size_t size);
-
-/// The C library's, watched.
-void* realloc(void* block, std::size_t size) noexcept
-{
-    largestRequest = std::max(largestRequest, size);
-    return __libc_realloc(block, size);
-}
-}
-#endif
 
 namespace {
 constexpr char rgbWithAlpha = 6;
@@ -62,9 +45,9 @@ class TestEscPosMemory : public QObject
 private slots:
     void initTestCase()
     {
-#ifdef __SANITIZE_ADDRESS__
-        QSKIP("a sanitizer keeps its own books of the memory");
-#endif
+        if (!Allocations::areSeen) {
+            QSKIP("a sanitizer keeps its own books of the memory");
+        }
     }
 
     void aChunkThatClaimsAGigabyteGetsNoMemory()
@@ -72,7 +55,7 @@ private slots:
         const QByteArray png = pngHead(2, 1, 0, 0) + chunk("IDAT", "some data")
             + QByteArray::fromHex("411f0245") + "IDAT" + "what follows";
         QCOMPARE(loaded(png).size(), 0U);
-        QCOMPARE(largestRequest, std::size_t{4096});
+        QCOMPARE(Allocations::takeLargestRealloc(), std::size_t{4096});
     }
 
     void theHungriestPictureIsLoaded()
@@ -84,7 +67,7 @@ private slots:
             + chunk("IEND", QByteArray()));
         QCOMPARE(dots.size(), 4096U);
         QCOMPARE(dots.back(), std::vector<bool>(4096, true));
-        QCOMPARE(largestRequest, std::size_t{268'443'648});
+        QCOMPARE(Allocations::takeLargestRealloc(), std::size_t{268'443'648});
     }
 
     void whatAFileLeavesOutIsBlack()
@@ -108,13 +91,13 @@ private:
             qFatal("cannot write the picture");
         }
         file.close();
-        largestRequest = 0;
+        Allocations::takeLargestRealloc();
         return EscPos::loadImage(file.fileName().toStdString());
     }
 
     QTemporaryDir folder_;
 };
 
-QTEST_GUILESS_MAIN(TestEscPosMemory)
+VENDEL_TEST(TestEscPosMemory)
 
 #include "tst_EscPos_memory.moc"

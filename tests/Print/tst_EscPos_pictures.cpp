@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Print/escpospp/EscPos.h"
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/TestProgram.h"
 
 #include <QImage>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -267,6 +268,6 @@ private:
     QTemporaryDir folder_;
 };
 
-QTEST_GUILESS_MAIN(TestEscPosPictures)
+VENDEL_TEST(TestEscPosPictures)
 
 #include "tst_EscPos_pictures.moc"

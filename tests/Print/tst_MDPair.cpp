@@ -2,8 +2,9 @@
 #include "Print/escpospp/EscPos.h"
 #include "Print/escpospp/MDPair.h"
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/TestProgram.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <map>
 
@@ -102,6 +103,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMDPair)
+VENDEL_TEST(TestMDPair)
 
 #include "tst_MDPair.moc"

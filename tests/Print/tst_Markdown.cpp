@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Print/escpospp/MDPair.h"
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/TestProgram.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <map>
 
@@ -149,6 +150,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMarkdown)
+VENDEL_TEST(TestMarkdown)
 
 #include "tst_Markdown.moc"

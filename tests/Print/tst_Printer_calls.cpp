@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/TestProgram.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cstdarg>
 #include <functional>
@@ -123,6 +124,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPrinterCalls)
+VENDEL_TEST(TestPrinterCalls)
 
 #include "tst_Printer_calls.moc"

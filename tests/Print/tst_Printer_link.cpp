@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/TestProgram.h"
 
-#include <QtTest>
+#include <QTemporaryFile>
+#include <QTest>
 
 #include <filesystem>
 #include <iterator>
@@ -128,7 +130,7 @@ private slots:
     void theFirstMatchCountsEvenIfItCannotBeOpened()
     {
         EmulatedPrinter bus({.devices = {"04b8:0e15", "04b8:0e15"}});
-        const auto node = QStringLiteral("%1/dev/bus/usb/001/00%2")
+        const auto node = QString("%1/dev/bus/usb/001/00%2")
                               .arg(qEnvironmentVariable("UMOCKDEV_DIR"))
                               .arg(firstAddressInLibusbsList());
         QVERIFY(QFile::remove(node));
@@ -263,6 +265,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPrinterLink)
+VENDEL_TEST(TestPrinterLink)
 
 #include "tst_Printer_link.moc"

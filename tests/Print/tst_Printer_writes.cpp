@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/TestProgram.h"
 
-#include <QtTest>
+#include <QTest>
 
 class TestPrinterWrites : public QObject
 {
@@ -161,6 +162,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPrinterWrites)
+VENDEL_TEST(TestPrinterWrites)
 
 #include "tst_Printer_writes.moc"

@@ -41,13 +41,13 @@ inline void putOnTicket(const Shop& shop, const char* article, const char* price
 /// Writes the file above the sale.
 inline void writeHeader(const Shop& shop, const QByteArray& bytes)
 {
-    shop.write(QStringLiteral("EnteteFormulaire.dat"), bytes);
+    shop.write(QString("EnteteFormulaire.dat"), bytes);
 }
 
 /// Writes the file below the sale.
 inline void writeFooter(const Shop& shop, const QByteArray& bytes)
 {
-    shop.write(QStringLiteral("PiedFormulaire.dat"), bytes);
+    shop.write(QString("PiedFormulaire.dat"), bytes);
 }
 
 /// Compares byte strings, telling both in full when they differ.

@@ -17,9 +17,9 @@ inline QByteArray outputOf(const QString& tool, const QStringList& arguments)
 /// The X identity of the visible window with the given title, empty when there is none.
 inline QString windowTitled(const char* title)
 {
-    const QByteArray found = outputOf(QStringLiteral("xdotool"),
-        {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
-            QLatin1Char('^') + QString::fromUtf8(title) + QLatin1Char('$')});
+    const QByteArray found = outputOf(QString("xdotool"),
+        {QString("search"), QString("--onlyvisible"), QString("--name"),
+            '^' + QString::fromUtf8(title) + '$'});
     return QString::fromLatin1(found.left(found.indexOf('\n'))).trimmed();
 }
 
@@ -33,12 +33,12 @@ public:
     {
         process.setStandardOutputFile(output);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QStringLiteral("QT_FONT_DPI"));
+        environment.remove(QString("QT_FONT_DPI"));
         if (fontDpi != 0) {
-            environment.insert(QStringLiteral("QT_FONT_DPI"), QString::number(fontDpi));
+            environment.insert(QString("QT_FONT_DPI"), QString::number(fontDpi));
         }
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(TILL), QStringList());
+        process.start(QString(TILL), QStringList());
     }
     ~StartedTill()
     {

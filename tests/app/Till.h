@@ -37,7 +37,7 @@ public:
         for (int row = 0; row < rowCount(window, list); ++row) {
             texts << rowTexts(window, list, row).at(2);
         }
-        return texts.join(QLatin1Char('|'));
+        return texts.join('|');
     }
 
     /// Sets the printer's switch.
@@ -123,7 +123,7 @@ public:
             return false;
         }
         pay();
-        return takeReceipt().contains(QStringLiteral("\n1  Café          \t$2.00       $2.00\n"))
+        return takeReceipt().contains(QString("\n1  Café          \t$2.00       $2.00\n"))
             && history().size() == before + 1 && ticket().isEmpty() && shownLines() == 0;
     }
 
@@ -141,8 +141,7 @@ private:
 /// Whether \a box is the notice about the missing printer.
 inline bool saysNotConnected(const AnswerBox& box, const Till& till)
 {
-    return box.title() == QStringLiteral("Payer")
-        && box.text() == QStringLiteral("Imprimante non connectée")
+    return box.title() == QString("Payer") && box.text() == QString("Imprimante non connectée")
         && box.icon() == QMessageBox::Information && box.buttons() == QMessageBox::Ok
         && box.parent() == &till.window && box.strays() == 0;
 }
@@ -150,8 +149,8 @@ inline bool saysNotConnected(const AnswerBox& box, const Till& till)
 /// Whether \a box is the notice that the sale is not in the history and the ticket is kept.
 inline bool saysNotRecorded(const AnswerBox& box, const Till& till)
 {
-    return box.title() == QStringLiteral("Payer")
-        && box.text() == QStringLiteral("La vente n'est pas enregistrée\nLe ticket est gardé")
+    return box.title() == QString("Payer")
+        && box.text() == QString("La vente n'est pas enregistrée\nLe ticket est gardé")
         && box.icon() == QMessageBox::Information && box.buttons() == QMessageBox::Ok
         && box.parent() == &till.window && box.strays() == 0;
 }

@@ -2,9 +2,9 @@
 #include "app/FormVendel.h"
 #include "app/FormVendelStart.h"
 #include "common/Messages.h"
-#include "tests/support/BoxGuard.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 #include "widgets/Application.h"
 
@@ -47,11 +47,11 @@ private slots:
 };
 
 namespace {
-const QString translationName = QStringLiteral("FormVendelTr_Us");
+const QString translationName = QString("FormVendelTr_Us");
 
 void installTranslationFile(const QString& name)
 {
-    if (!QFile::copy(QStringLiteral(TRANSLATION_FILE), name)) {
+    if (!QFile::copy(QString(TRANSLATION_FILE), name)) {
         qFatal("no compiled translation");
     }
 }
@@ -88,8 +88,8 @@ void TestApplication::textIsLaidOutAt96DotsPerInch()
 void TestApplication::theTillHasANarrowTypeface()
 {
     setUp();
-    QCOMPARE(QApplication::font().families().constFirst(), QStringLiteral("Carlito"));
-    QCOMPARE(QFontInfo(QApplication::font()).family(), QStringLiteral("Carlito"));
+    QCOMPARE(QApplication::font().families().constFirst(), QString("Carlito"));
+    QCOMPARE(QFontInfo(QApplication::font()).family(), QString("Carlito"));
 }
 
 void TestApplication::withoutATranslationTheTextsAreFrench()
@@ -98,8 +98,8 @@ void TestApplication::withoutATranslationTheTextsAreFrench()
     const CapturedLog log;
     setUp();
     FormVendel form;
-    QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QStringLiteral("Payer"));
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
+    QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QString("Payer"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
     QCOMPARE(log.warnings(), QStringList());
     QCOMPARE(log.criticals(), QStringList());
 }
@@ -108,7 +108,7 @@ void TestApplication::qtsOwnTextsAreFrench()
 {
     const Shop shop;
     setUp();
-    QCOMPARE(yesCaption(), QStringLiteral("&Oui"));
+    QCOMPARE(yesCaption(), QString("&Oui"));
 }
 
 void TestApplication::theTranslationOfTheWorkingDirectoryIsShown()
@@ -117,13 +117,13 @@ void TestApplication::theTranslationOfTheWorkingDirectoryIsShown()
     installTranslationFile(translationName);
     setUp();
     FormVendel form;
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Ticket total"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
     // The window's own context comes first, the catalogue's serves the rest.
-    QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QStringLiteral("Pay now"));
-    QCOMPARE(child<QPushButton>(form, "btn_11").text(), QStringLiteral("."));
-    QCOMPARE(child<QPushButton>(form, "btn_Afficher").text(), QStringLiteral("Afficher"));
+    QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QString("Pay now"));
+    QCOMPARE(child<QPushButton>(form, "btn_11").text(), QString("."));
+    QCOMPARE(child<QPushButton>(form, "btn_Afficher").text(), QString("Afficher"));
     FormVendelStart splash(&form);
-    QCOMPARE(child<QLabel>(splash, "lbl_Titre").text(), QStringLiteral("Vendel System"));
+    QCOMPARE(child<QLabel>(splash, "lbl_Titre").text(), QString("Vendel System"));
 }
 
 void TestApplication::theTranslationIsFoundUnderEachOfItsNames_data()
@@ -142,7 +142,7 @@ void TestApplication::theTranslationIsFoundUnderEachOfItsNames()
     const CapturedLog log;
     installTranslationFile(name);
     setUp();
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Ticket total"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
     QCOMPARE(log.criticals(), QStringList());
 }
 
@@ -161,19 +161,19 @@ void TestApplication::noOtherNameIsTried()
     const Shop shop;
     installTranslationFile(name);
     setUp();
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
 }
 
 void TestApplication::theFirstFileOfTheNamesDecides()
 {
     const Shop shop;
-    shop.write(QStringLiteral("FormVendelTr_Us.qm"), "not a translation");
+    shop.write(QString("FormVendelTr_Us.qm"), "not a translation");
     installTranslationFile(translationName);
     setUp();
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
-    QVERIFY(QFile::rename(QStringLiteral("FormVendelTr_Us.qm"), QStringLiteral("FormVendelTr.qm")));
+    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
+    QVERIFY(QFile::rename(QString("FormVendelTr_Us.qm"), QString("FormVendelTr.qm")));
     setUp();
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Ticket total"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
 }
 
 void TestApplication::aFileThatMustNotBeReadCountsAsMissing()
@@ -183,19 +183,19 @@ void TestApplication::aFileThatMustNotBeReadCountsAsMissing()
     QVERIFY(mkfifo("FormVendelTr_Us.qm", 0600) == 0);
     installTranslationFile(translationName);
     QVERIFY(QFile::resize(translationName, 4'194'305));
-    installTranslationFile(QStringLiteral("FormVendelTr"));
+    installTranslationFile(QString("FormVendelTr"));
     setUp();
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Ticket total"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
     QCOMPARE(log.criticals(),
-        (QStringList{QStringLiteral("FormVendelTr_Us.qm is not read: it is not a regular file"),
-            QStringLiteral("FormVendelTr_Us is not read: it is larger than 4 MB")}));
+        (QStringList{QString("FormVendelTr_Us.qm is not read: it is not a regular file"),
+            QString("FormVendelTr_Us is not read: it is larger than 4 MB")}));
 }
 
 void TestApplication::aTranslationThatNamesAnotherFileIsRefused_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     const Shop shop;
-    const QByteArray recursive = shop.read(QStringLiteral(RECURSIVE_TRANSLATION_FILE));
+    const QByteArray recursive = shop.read(QString(RECURSIVE_TRANSLATION_FILE));
     const auto magic = recursive.left(16);
     const QByteArray section(
         "\x96\0\0\0\x22\0\0\0\x1e\0F\0o\0r\0m\0V\0e\0n\0d\0e\0l\0T\0r\0_\0U\0s", 39);
@@ -212,9 +212,9 @@ void TestApplication::aTranslationThatNamesAnotherFileIsRefused()
     const CapturedLog log;
     shop.write(translationName, bytes);
     setUp();
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
     QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("FormVendelTr_Us is not shown: it names another file to load")));
+        QStringList(QString("FormVendelTr_Us is not shown: it names another file to load")));
 }
 
 void TestApplication::theTranslationOutlivesItsFile()
@@ -223,7 +223,7 @@ void TestApplication::theTranslationOutlivesItsFile()
     installTranslationFile(translationName);
     setUp();
     shop.write(translationName, "not a translation");
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Ticket total"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
 }
 
 void TestApplication::theTillIsFrenchAgainWithoutItsTranslation()
@@ -232,7 +232,7 @@ void TestApplication::theTillIsFrenchAgainWithoutItsTranslation()
     installTranslationFile(translationName);
     setUp();
     cleanup();
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
 }
 
 void TestApplication::theTranslationMayReplaceQtsTexts()
@@ -240,7 +240,7 @@ void TestApplication::theTranslationMayReplaceQtsTexts()
     const Shop shop;
     installTranslationFile(translationName);
     setUp();
-    QCOMPARE(yesCaption(), QStringLiteral("&Sure"));
+    QCOMPARE(yesCaption(), QString("&Sure"));
 }
 
 void TestApplication::pluralsOfTheTranslationFollowTheCount()
@@ -249,8 +249,8 @@ void TestApplication::pluralsOfTheTranslationFollowTheCount()
     installTranslationFile(translationName);
     setUp();
     const std::string& source = Messages::Messages23[0];
-    QCOMPARE(catalogueText(source.c_str(), 1), QStringLiteral("Delete 1 double marked X..."));
-    QCOMPARE(catalogueText(source.c_str(), 3), QStringLiteral("Delete 3 doubles marked X..."));
+    QCOMPARE(catalogueText(source.c_str(), 1), QString("Delete 1 double marked X..."));
+    QCOMPARE(catalogueText(source.c_str(), 3), QString("Delete 3 doubles marked X..."));
 }
 
 void TestApplication::aBrokenTranslationIsNoError()
@@ -259,7 +259,7 @@ void TestApplication::aBrokenTranslationIsNoError()
     const CapturedLog log;
     shop.write(translationName, QByteArray("not a translation\n").repeated(50));
     setUp();
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
     QCOMPARE(log.warnings(), QStringList());
     QCOMPARE(log.criticals(), QStringList());
 }
@@ -270,15 +270,8 @@ void TestApplication::anotherFolderIsNotAsked()
     installTranslationFile(translationName);
     const Shop inner;
     setUp();
-    QCOMPARE(catalogueText("Total ticket"), QStringLiteral("Total ticket"));
+    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
 }
 
-int main(int argc, char* argv[])
-{
-    Application::setAttributes();
-    QApplication application(argc, argv);
-    const BoxGuard guard;
-    TestApplication tests;
-    return QTest::qExec(&tests, argc, argv);
-}
+VENDEL_BARE_TEST(TestApplication)
 #include "tst_Application.moc"

@@ -3,7 +3,7 @@
 #include "tests/support/BadDays.h"
 #include "tests/support/Captured.h"
 #include "tests/support/EmulatedPrinter.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -14,9 +14,8 @@
 #include <sys/stat.h>
 
 namespace {
-const QString notWritten
-    = QStringLiteral("Errors FormVendel on_btn_Payer_clicked : the ticket could "
-                     "not be written to the history");
+const QString notWritten = QString("Errors FormVendel on_btn_Payer_clicked : the ticket could "
+                                   "not be written to the history");
 constexpr useconds_t longTime = 60'000'000;
 
 const QByteArray insertion
@@ -67,7 +66,7 @@ void TestBadDaysPayment::aDatabaseThatIsLockedForWritingKeepsTheTicket()
     till.pay();
     QCOMPARE(till.history().size(), 2);
     QCOMPARE(till.ticket(), QStringList());
-    QVERIFY(till.takeReceipt().contains(QStringLiteral("Total ticket\t\t    $5.50\n")));
+    QVERIFY(till.takeReceipt().contains(QString("Total ticket\t\t    $5.50\n")));
     QVERIFY(till.sellsOnScreen());
 }
 
@@ -80,12 +79,12 @@ void TestBadDaysPayment::aDatabaseThatIsLockedForReadingShowsNoTicket()
         CapturedOutput output;
         const AnswerBox box;
         till.pay();
-        QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+        QCOMPARE(box.text(), QString("Le ticket est vide"));
         QCOMPARE(output.text(), databaseReport("select * from Ticket", "database is locked"));
     }
     QCOMPARE(till.ticket().size(), 1);
     till.pay();
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
     QVERIFY(!till.takeReceipt().isEmpty());
 }
 
@@ -105,15 +104,15 @@ void TestBadDaysPayment::aLockThatComesBetweenKeepsTheTicket()
         QVERIFY(repair != nullptr);
         QVERIFY(saysNotRecorded(box, till));
         QCOMPARE(log.criticals(),
-            QStringList(QStringLiteral(
-                "Errors FormVendel on_btn_Payer_clicked : the ticket could not be read")));
+            QStringList(
+                QString("Errors FormVendel on_btn_Payer_clicked : the ticket could not be read")));
         // The kept ticket cannot be listed either.
         const QByteArray report = databaseReport("select * from Ticket", "database is locked");
         QCOMPARE(output.text(), report + report);
         QVERIFY(till.receipt() == nullptr);
     }
     QCOMPARE(till.history(), QStringList());
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
 }
 
 void TestBadDaysPayment::aShortLockIsWaitedFor()
@@ -124,7 +123,7 @@ void TestBadDaysPayment::aShortLockIsWaitedFor()
     CapturedLog log;
     till.pay();
     QCOMPARE(log.criticals(), QStringList());
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
     QCOMPARE(till.ticket(), QStringList());
 }
 
@@ -162,8 +161,7 @@ void TestBadDaysPayment::aDatabaseThatCannotGrowKeepsTheTicket()
     {
         CapturedLog log;
         CapturedOutput output;
-        const FileSizeLimit limit(
-            static_cast<rlim_t>(QFileInfo(QStringLiteral("Vendel.db")).size()));
+        const FileSizeLimit limit(static_cast<rlim_t>(QFileInfo(QString("Vendel.db")).size()));
         const AnswerBox box;
         till.pay();
         QVERIFY(saysNotRecorded(box, till));
@@ -207,11 +205,11 @@ void TestBadDaysPayment::withoutAHistoryTheTicketIsKept()
     }
     QVERIFY(till.receipt() == nullptr);
     QVERIFY(printer.transfers().empty());
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
     QCOMPARE(till.shownLines(), 1);
     till.run("alter table Ailleurs rename to Historique");
     till.pay();
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
     QCOMPARE(till.ticket(), QStringList());
     till.takeReceipt();
     QVERIFY(till.sellsOnScreen());
@@ -225,8 +223,8 @@ void TestBadDaysPayment::withoutSettingsTheTicketIsKept()
     CapturedLog log;
     CapturedOutput output;
     till.pay();
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendel on_btn_Payer_clicked : stoi")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Errors FormVendel on_btn_Payer_clicked : stoi")));
     QCOMPARE(output.text(),
         databaseReport("select valeur from Config where param like 'Epson TM-T20II'",
             "no such table: Config"));
@@ -243,7 +241,7 @@ void TestBadDaysPayment::withoutATicketThereIsNothingToPay()
     CapturedOutput output;
     const AnswerBox box;
     till.pay();
-    QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+    QCOMPARE(box.text(), QString("Le ticket est vide"));
     QCOMPARE(output.text(), databaseReport("select * from Ticket", "no such table: Ticket"));
     QCOMPARE(till.history(), QStringList());
 }
@@ -252,17 +250,17 @@ void TestBadDaysPayment::aDatabaseThatIsAFolderHasNothingToPay()
 {
     Till till;
     till.sell("Thé", "2.5");
-    QVERIFY(QFile::rename(QStringLiteral("Vendel.db"), QStringLiteral("Vendel.old")));
-    QVERIFY(QDir().mkdir(QStringLiteral("Vendel.db")));
+    QVERIFY(QFile::rename(QString("Vendel.db"), QString("Vendel.old")));
+    QVERIFY(QDir().mkdir(QString("Vendel.db")));
     {
         CapturedOutput output;
         const AnswerBox box;
         till.pay();
-        QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+        QCOMPARE(box.text(), QString("Le ticket est vide"));
         QVERIFY(output.text().startsWith("Not open database successfully\n"));
     }
-    QVERIFY(QDir().rmdir(QStringLiteral("Vendel.db")));
-    QVERIFY(QFile::rename(QStringLiteral("Vendel.old"), QStringLiteral("Vendel.db")));
+    QVERIFY(QDir().rmdir(QString("Vendel.db")));
+    QVERIFY(QFile::rename(QString("Vendel.old"), QString("Vendel.db")));
     till.pay();
     QCOMPARE(till.history().size(), 1);
     till.takeReceipt();
@@ -272,13 +270,13 @@ void TestBadDaysPayment::aDatabaseThatIsAFolderHasNothingToPay()
 void TestBadDaysPayment::aFileThatIsNoDatabaseHasNothingToPay()
 {
     Till till;
-    till.shop.write(QStringLiteral("Vendel.db"), QByteArray(8192, 'x'));
+    till.shop.write(QString("Vendel.db"), QByteArray(8192, 'x'));
     CapturedOutput output;
     const AnswerBox box;
     till.pay();
-    QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+    QCOMPARE(box.text(), QString("Le ticket est vide"));
     QCOMPARE(output.text(), databaseReport("select * from Ticket", "file is not a database"));
-    QCOMPARE(till.shop.read(QStringLiteral("Vendel.db")), QByteArray(8192, 'x'));
+    QCOMPARE(till.shop.read(QString("Vendel.db")), QByteArray(8192, 'x'));
 }
 
 void TestBadDaysPayment::aLineThatTheHistoryRefusesKeepsTheWholeTicketHoweverOftenItIsPaid()
@@ -302,14 +300,12 @@ void TestBadDaysPayment::aLineThatTheHistoryRefusesKeepsTheWholeTicketHoweverOft
     }
     QVERIFY(till.receipt() == nullptr);
     QCOMPARE(till.history(), QStringList());
-    QCOMPARE(till.ticket(),
-        (QStringList{QStringLiteral("Thé 2.5"), QStringLiteral("Eau 3"), QStringLiteral("Vin 4")}));
+    QCOMPARE(till.ticket(), (QStringList{QString("Thé 2.5"), QString("Eau 3"), QString("Vin 4")}));
     QCOMPARE(till.shownLines(), 3);
     till.run("drop trigger refusal");
     till.pay();
     QCOMPARE(till.history(),
-        (QStringList{
-            QStringLiteral("7 Thé 2.5"), QStringLiteral("7 Eau 3"), QStringLiteral("7 Vin 4")}));
+        (QStringList{QString("7 Thé 2.5"), QString("7 Eau 3"), QString("7 Vin 4")}));
     QCOMPARE(till.ticket(), QStringList());
 }
 
@@ -323,7 +319,7 @@ void TestBadDaysPayment::aTicketThatCannotBeEmptiedIsStillThere()
         till.pay();
         QCOMPARE(output.text(), databaseReport("delete from Ticket", "no"));
     }
-    QVERIFY(till.takeReceipt().contains(QStringLiteral("1  Thé")));
+    QVERIFY(till.takeReceipt().contains(QString("1  Thé")));
     QCOMPARE(till.ticket().size(), 1);
     till.run("drop trigger refusal");
     QVERIFY(till.sellsOnScreen());
@@ -351,5 +347,5 @@ void TestBadDaysPayment::aCommitThatAReaderHoldsUpKeepsTheTicket()
     QCOMPARE(till.history().size(), 2);
 }
 
-VENDEL_TEST_MAIN(TestBadDaysPayment)
+VENDEL_TEST(TestBadDaysPayment)
 #include "tst_BadDaysPayment.moc"

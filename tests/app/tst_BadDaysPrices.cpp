@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/Till.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 namespace {
-const QString notWritten
-    = QStringLiteral("Errors FormVendel on_btn_Payer_clicked : the ticket could "
-                     "not be written to the history");
+const QString notWritten = QString("Errors FormVendel on_btn_Payer_clicked : the ticket could "
+                                   "not be written to the history");
 } // namespace
 
 /// Prices that are no numbers, as another program may have stored them.
@@ -83,11 +82,11 @@ private slots:
         QCOMPARE(till.shownLines(), 0);
         const AnswerBox box;
         till.pay();
-        QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+        QCOMPARE(box.text(), QString("Le ticket est vide"));
         QCOMPARE(till.history(), QStringList());
         QVERIFY(till.sellsOnScreen());
     }
 };
 
-VENDEL_TEST_MAIN(TestBadDaysPrices)
+VENDEL_TEST(TestBadDaysPrices)
 #include "tst_BadDaysPrices.moc"

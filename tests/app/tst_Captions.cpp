@@ -14,7 +14,7 @@
 #include "forms/FormVendelStockCalculation.h"
 #include "tests/support/MarkedContext.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
@@ -38,13 +38,13 @@ template <class Window> std::unique_ptr<QWidget> open()
 std::unique_ptr<QWidget> openComposition()
 {
     return std::make_unique<FormVendelSaisieStockComposition>(
-        QStringLiteral("Café"), QStringLiteral("1"), nullptr);
+        QString("Café"), QString("1"), nullptr);
 }
 
 std::unique_ptr<QWidget> openCalculation()
 {
     return std::make_unique<FormVendelStockCalculation>(
-        QStringLiteral("05/01/2019"), QStringLiteral("06/01/2019"), nullptr);
+        QString("05/01/2019"), QString("06/01/2019"), nullptr);
 }
 } // namespace
 Q_DECLARE_METATYPE(Open)
@@ -140,14 +140,14 @@ private slots:
         const QString name = QString::fromUtf8(QTest::currentDataTag());
         const Shop shop;
         Translation translation;
-        translation.add(QStringLiteral("FormVendelElsewhere"), title, QStringLiteral("elsewhere"));
+        translation.add(QString("FormVendelElsewhere"), title, QString("elsewhere"));
         QCOMPARE(openWindow()->windowTitle(), title);
-        translation.add(QStringLiteral("FormVendelMessages"), title, QStringLiteral("catalogue"));
-        QCOMPARE(openWindow()->windowTitle(), QStringLiteral("catalogue"));
-        translation.add(name + QLatin1String("Messages"), title, QStringLiteral("messages"));
-        QCOMPARE(openWindow()->windowTitle(), QStringLiteral("messages"));
-        translation.add(name, title, QStringLiteral("own"));
-        QCOMPARE(openWindow()->windowTitle(), QStringLiteral("own"));
+        translation.add(QString("FormVendelMessages"), title, QString("catalogue"));
+        QCOMPARE(openWindow()->windowTitle(), QString("catalogue"));
+        translation.add(name + QLatin1String("Messages"), title, QString("messages"));
+        QCOMPARE(openWindow()->windowTitle(), QString("messages"));
+        translation.add(name, title, QString("own"));
+        QCOMPARE(openWindow()->windowTitle(), QString("own"));
     }
 
     void everyCaptionIsLookedUp_data()
@@ -165,13 +165,11 @@ private slots:
         QCOMPARE(looked.size(), french.size());
         int translated = 0;
         for (int at = 0; at < french.size(); ++at) {
-            const QString mark
-                = QString::fromUtf8(QTest::currentDataTag()) + QLatin1Char(':') + french.at(at);
+            const QString mark = QString::fromUtf8(QTest::currentDataTag()) + ':' + french.at(at);
             translated += looked.at(at) == mark ? 1 : 0;
             // What the window itself writes, and Qt's own button, are no captions of the form.
-            const QStringList others{QStringLiteral("Café"), QStringLiteral("05/01/2019"),
-                QStringLiteral("06/01/2019"), QStringLiteral("Entête de page"),
-                QStringLiteral("&OK"), QStringLiteral("OK")};
+            const QStringList others{QString("Café"), QString("05/01/2019"), QString("06/01/2019"),
+                QString("Entête de page"), QString("&OK"), QString("OK")};
             QVERIFY2(
                 looked.at(at) == mark || others.contains(french.at(at)), qPrintable(looked.at(at)));
         }
@@ -179,5 +177,5 @@ private slots:
     }
 };
 
-VENDEL_TEST_MAIN(TestCaptions)
+VENDEL_TEST(TestCaptions)
 #include "tst_Captions.moc"

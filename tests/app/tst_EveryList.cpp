@@ -7,7 +7,7 @@
 #include "forms/FormVendelSaisieStockMaj.h"
 #include "forms/FormVendelStockCalculation.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QHeaderView>
@@ -54,7 +54,7 @@ std::unique_ptr<QWidget> open(const QString& name)
     } else if (name == QLatin1String("FormVendelSaisieStockCutPaste")) {
         window = std::make_unique<FormVendelSaisieStockCutPaste>();
     } else {
-        const QString day = QStringLiteral("05/01/2019");
+        const QString day = QString("05/01/2019");
         window = std::make_unique<FormVendelStockCalculation>(day, day);
     }
     window->show();
@@ -118,7 +118,7 @@ void TestEveryList::hasItsFont()
     QFETCH(const int, points);
     const Shown at;
     QCOMPARE(at.view->font().pointSize(), points);
-    QCOMPARE(at.view->font().families().constFirst(), QStringLiteral("Carlito"));
+    QCOMPARE(at.view->font().families().constFirst(), QString("Carlito"));
     QVERIFY(!at.view->font().bold());
 }
 
@@ -152,7 +152,7 @@ void TestEveryList::hasItsColours()
 {
     const Shown at;
     QCOMPARE(at.view->styleSheet(),
-        QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
+        QString("alternate-background-color: LightBlue;background-color: White"));
     QVERIFY(at.view->alternatingRowColors());
     QVERIFY(at.view->showGrid());
 }
@@ -192,5 +192,5 @@ void TestEveryList::isReadRowByRowAndNeverEdited()
     QVERIFY(!at.view->dragEnabled());
 }
 
-VENDEL_TEST_MAIN(TestEveryList)
+VENDEL_TEST(TestEveryList)
 #include "tst_EveryList.moc"

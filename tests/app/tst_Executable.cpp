@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/StartedTill.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -29,8 +30,8 @@ private slots:
 namespace {
 QRect geometry(const QString& id)
 {
-    const QByteArray text = outputOf(QStringLiteral("xdotool"),
-        {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), id});
+    const QByteArray text
+        = outputOf(QString("xdotool"), {QString("getwindowgeometry"), QString("--shell"), id});
     const auto value = [&](const QByteArray& name) {
         const auto start = text.indexOf('\n' + name + '=') + name.size() + 2;
         return text.mid(start, text.indexOf('\n', start) - start).toInt();
@@ -58,12 +59,12 @@ void TestExecutable::showsTheIconOfItsFolder()
     const Shop shop;
     QImage icon(4, 4, QImage::Format_ARGB32);
     icon.fill(QColor(1, 2, 3));
-    QVERIFY(icon.save(QStringLiteral("Vendel.png")));
+    QVERIFY(icon.save(QString("Vendel.png")));
     const StartedTill till;
     QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
-    const QByteArray property = outputOf(QStringLiteral("xprop"),
-        {QStringLiteral("-id"), windowTitled("Vendel"), QStringLiteral("-f"),
-            QStringLiteral("_NET_WM_ICON"), QStringLiteral("32c"), QStringLiteral("_NET_WM_ICON")});
+    const QByteArray property = outputOf(QString("xprop"),
+        {QString("-id"), windowTitled("Vendel"), QString("-f"), QString("_NET_WM_ICON"),
+            QString("32c"), QString("_NET_WM_ICON")});
     QVERIFY2(property.contains("4, 4, 4278256131"), property.constData());
 }
 
@@ -106,18 +107,17 @@ void TestExecutable::livesOnWhenNobodyReadsItsOutput()
     QVERIFY(mkfifo("output", 0600) == 0);
     const int reader = open("output", O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     QVERIFY(reader >= 0);
-    StartedTill till(0, QStringLiteral("output"));
+    StartedTill till(0, QString("output"));
     QVERIFY(till.process.waitForStarted());
     close(reader);
     // The start reads the settings, "Payer" the ticket: two reports that nobody takes.
     QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Dialog").isEmpty(), 20000);
     QTRY_VERIFY_WITH_TIMEOUT(windowTitled("Dialog").isEmpty(), 20000);
-    outputOf(QStringLiteral("xdotool"),
-        {QStringLiteral("mousemove"), QStringLiteral("1068"), QStringLiteral("662"),
-            QStringLiteral("click"), QStringLiteral("1")});
+    outputOf(QString("xdotool"),
+        {QString("mousemove"), QString("1068"), QString("662"), QString("click"), QString("1")});
     QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Payer").isEmpty(), 20000);
     QCOMPARE(till.process.state(), QProcess::Running);
 }
 
-QTEST_GUILESS_MAIN(TestExecutable)
+VENDEL_BARE_TEST(TestExecutable)
 #include "tst_Executable.moc"

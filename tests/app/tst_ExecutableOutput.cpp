@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/StartedTill.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -44,7 +45,7 @@ void TestExecutableOutput::aFailedStatementIsReportedAtOnce()
 void TestExecutableOutput::aDatabaseThatCannotBeOpenedIsReportedAtOnce()
 {
     const Shop shop(Shop::Database::None);
-    QVERIFY(QDir().mkdir(QStringLiteral("Vendel.db")));
+    QVERIFY(QDir().mkdir(QString("Vendel.db")));
     StartedTill till;
     QVERIFY(reports(till,
         "Not open database successfully\n"
@@ -52,5 +53,5 @@ void TestExecutableOutput::aDatabaseThatCannotBeOpenedIsReportedAtOnce()
         "TM-T20II' unable to open database file\n"));
 }
 
-QTEST_GUILESS_MAIN(TestExecutableOutput)
+VENDEL_BARE_TEST(TestExecutableOutput)
 #include "tst_ExecutableOutput.moc"

@@ -5,7 +5,7 @@
 #include "tests/app/PrintedReceipt.h"
 #include "tests/app/Till.h"
 #include "tests/support/BoxDiary.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -31,7 +31,7 @@ private slots:
 
 namespace {
 const QRegularExpression moment(
-    QStringLiteral("^[0-9]{2}/[0-9]{2}/[0-9]{4} [0-9]{2}[: ][0-9]{2}[: ][0-9]{2}$"));
+    QString("^[0-9]{2}/[0-9]{2}/[0-9]{4} [0-9]{2}[: ][0-9]{2}[: ][0-9]{2}$"));
 
 QLineEdit& firstDate(QWidget& window)
 {
@@ -59,14 +59,14 @@ void sellOnTwoDays(Till& till)
 
 void TestForeignDigits::theSystemWritesOtherDigits()
 {
-    QVERIFY(QLocale::system().toString(7) != QStringLiteral("7"));
-    QVERIFY(QLocale().toString(7) != QStringLiteral("7"));
+    QVERIFY(QLocale::system().toString(7) != QString("7"));
+    QVERIFY(QLocale().toString(7) != QString("7"));
 }
 
 void TestForeignDigits::theClockKeepsItsDigits()
 {
     const QDateTime time({2019, 3, 5}, {14, 7, 31});
-    QCOMPARE(clockText(time, QStringLiteral("dd/MM/yyyy")), QStringLiteral("05/03/2019 14:07:31"));
+    QCOMPARE(clockText(time, QString("dd/MM/yyyy")), QString("05/03/2019 14:07:31"));
     Till till;
     const auto& label = child<QLabel>(till.window, "lbl_DateTime");
     QTRY_VERIFY2(moment.match(label.text()).hasMatch(), qPrintable(label.text()));
@@ -88,7 +88,7 @@ void TestForeignDigits::theReceiptOnTheScreenKeepsItsDigits()
     till.setSwitch("0");
     till.sell("Eau", "2");
     till.pay();
-    const QString heading = till.takeReceipt().section(QLatin1Char('\n'), 2, 2);
+    const QString heading = till.takeReceipt().section('\n', 2, 2);
     const QString time = heading.mid(heading.indexOf(QLatin1String("     ")) + 5);
     QVERIFY2(moment.match(time).hasMatch(), qPrintable(heading));
 }
@@ -100,19 +100,18 @@ void TestForeignDigits::theHistoryIsBrowsedAndPurgedByDate()
     sellOnTwoDays(till);
     FormVendelHistorique& history = openHistory(till);
     click(history, "btn_Show_Date");
-    QCOMPARE(rowTexts(history, "tableView2", 0), QStringList(QStringLiteral("05/01/2019")));
+    QCOMPARE(rowTexts(history, "tableView2", 0), QStringList(QString("05/01/2019")));
     clickCell(history, "tableView2", 0, 0);
-    QTest::keyClicks(&secondDate(history), QStringLiteral("05/02/2019"));
+    QTest::keyClicks(&secondDate(history), QString("05/02/2019"));
     click(history, "btn_View_Historical");
     QCOMPARE(boxes.said, QStringList());
     QCOMPARE(rowCount(history, "tableView1"), 1);
     QCOMPARE(rowTexts(history, "tableView1", 0),
-        (QStringList{QStringLiteral("Thé"), QStringLiteral("2.50$"),
-            QStringLiteral("05/01/2019 10:20:30.123")}));
+        (QStringList{QString("Thé"), QString("2.50$"), QString("05/01/2019 10:20:30.123")}));
     click(history, "btn_Clear");
-    QCOMPARE(boxes.said.value(0),
-        QStringLiteral("Purger: Voulez-vous purger de 05/01/2019 au 05/02/2019"));
-    QCOMPARE(till.history(), QStringList(QStringLiteral("2 Eau 2")));
+    QCOMPARE(
+        boxes.said.value(0), QString("Purger: Voulez-vous purger de 05/01/2019 au 05/02/2019"));
+    QCOMPARE(till.history(), QStringList(QString("2 Eau 2")));
 }
 
 void TestForeignDigits::theHistoryIsBrowsedByTimeOfDay()
@@ -121,13 +120,12 @@ void TestForeignDigits::theHistoryIsBrowsedByTimeOfDay()
     const AnswerBox box;
     sellOnTwoDays(till);
     FormVendelHistorique& history = openHistory(till);
-    QTest::keyClicks(&firstDate(history), QStringLiteral("05/01/2019 10:20:30.123"));
-    QTest::keyClicks(&secondDate(history), QStringLiteral("05/02/2019 11:00:00.000"));
+    QTest::keyClicks(&firstDate(history), QString("05/01/2019 10:20:30.123"));
+    QTest::keyClicks(&secondDate(history), QString("05/02/2019 11:00:00.000"));
     click(history, "btn_Total");
     QCOMPARE(box.text(), QString());
     QCOMPARE(rowTexts(history, "tableView1", 2),
-        (QStringList{
-            QStringLiteral("Total historique"), QStringLiteral("4.50$"), QStringLiteral("<-")}));
+        (QStringList{QString("Total historique"), QString("4.50$"), QString("<-")}));
 }
 
 void TestForeignDigits::aDateInTheSystemsDigitsIsNone()
@@ -136,17 +134,17 @@ void TestForeignDigits::aDateInTheSystemsDigitsIsNone()
     sellOnTwoDays(till);
     FormVendelHistorique& history = openHistory(till);
     const auto zero = QLocale::system().toString(0).at(0).unicode();
-    QString typed = QStringLiteral("05/01/2019");
+    QString typed = QString("05/01/2019");
     for (QChar& character : typed) {
         if (character.isDigit()) {
             character = QChar(static_cast<char16_t>(zero + character.digitValue()));
         }
     }
     firstDate(history).setText(typed);
-    secondDate(history).setText(QStringLiteral("05/02/2019"));
+    secondDate(history).setText(QString("05/02/2019"));
     const AnswerBox box;
     click(history, "btn_View_Historical");
-    QCOMPARE(box.text(), QStringLiteral("Saisir une date valide"));
+    QCOMPARE(box.text(), QString("Saisir une date valide"));
     QCOMPARE(rowCount(history, "tableView1"), 0);
 }
 
@@ -159,10 +157,10 @@ void TestForeignDigits::countsKeepTheirDigits()
     const AnswerBox box;
     click(till.window, "btn_Afficher");
     QCOMPARE(box.text(),
-        QStringLiteral("Supprimer le(s) 2 doublon(s) note(s) X...\n"
-                       "Allez dans le menu Vendel Saisie Article"));
-    QCOMPARE(rowTexts(till.window, "tableView1", 0).constLast(), QStringLiteral("2.50$"));
+        QString("Supprimer le(s) 2 doublon(s) note(s) X...\n"
+                "Allez dans le menu Vendel Saisie Article"));
+    QCOMPARE(rowTexts(till.window, "tableView1", 0).constLast(), QString("2.50$"));
 }
 
-VENDEL_TEST_MAIN(TestForeignDigits)
+VENDEL_TEST(TestForeignDigits)
 #include "tst_ForeignDigits.moc"

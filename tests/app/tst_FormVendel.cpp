@@ -2,7 +2,7 @@
 #include "app/FormVendel.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
@@ -55,7 +55,7 @@ QString labels(const QTableView& view)
     for (int column = 0; column < view.model()->columnCount(); ++column) {
         texts << view.model()->headerData(column, Qt::Horizontal).toString();
     }
-    return texts.join(QLatin1Char('|'));
+    return texts.join('|');
 }
 } // namespace
 
@@ -69,10 +69,10 @@ void TestFormVendel::theWindowHasAFixedSize()
     QCOMPARE(form.baseSize(), QSize(0, 0));
     QCOMPARE(form.windowModality(), Qt::NonModal);
     QCOMPARE(form.font().pointSize(), 11);
-    QCOMPARE(form.windowTitle(), QStringLiteral("Vendel"));
+    QCOMPARE(form.windowTitle(), QString("Vendel"));
     QVERIFY(form.parent() == nullptr);
     QVERIFY(!form.testAttribute(Qt::WA_DeleteOnClose));
-    QCOMPARE(form.centralWidget()->objectName(), QStringLiteral("centralWidget"));
+    QCOMPARE(form.centralWidget()->objectName(), QString("centralWidget"));
 }
 
 void TestFormVendel::everyWidgetHasItsPlace_data()
@@ -194,11 +194,11 @@ void TestFormVendel::buttonsHaveTheirColours()
     const Shop shop;
     FormVendel form;
     QCOMPARE(child<QPushButton>(form, "btn_Payer").styleSheet(),
-        QStringLiteral("background-color: rgb(204, 0, 0)"));
+        QString("background-color: rgb(204, 0, 0)"));
     for (const auto* name :
         {"btn_Afficher", "btn_Ticket", "btn_Effacer_Ticket", "btn_Total_Ticket"}) {
         QCOMPARE(child<QPushButton>(form, name).styleSheet(),
-            QStringLiteral("background-color: rgb(114, 159, 207)"));
+            QString("background-color: rgb(114, 159, 207)"));
     }
 }
 
@@ -224,10 +224,10 @@ void TestFormVendel::theMenusHoldTheirActions()
     FormVendel form;
     const auto bar = form.menuBar()->actions();
     QCOMPARE(bar.size(), 2);
-    QCOMPARE(bar.at(0)->menu()->objectName(), QStringLiteral("menuVendel"));
-    QCOMPARE(bar.at(0)->text(), QStringLiteral("Vendel"));
-    QCOMPARE(bar.at(1)->menu()->objectName(), QStringLiteral("menu"));
-    QCOMPARE(bar.at(1)->text(), QStringLiteral("?"));
+    QCOMPARE(bar.at(0)->menu()->objectName(), QString("menuVendel"));
+    QCOMPARE(bar.at(0)->text(), QString("Vendel"));
+    QCOMPARE(bar.at(1)->menu()->objectName(), QString("menu"));
+    QCOMPARE(bar.at(1)->text(), QString("?"));
     QStringList texts;
     QStringList names;
     for (const QAction* menu : bar) {
@@ -238,11 +238,11 @@ void TestFormVendel::theMenusHoldTheirActions()
         }
     }
     QCOMPARE(texts,
-        (QStringList{QStringLiteral("Config"), QStringLiteral("Saisie Article"),
-            QStringLiteral("Historique"), QStringLiteral("A propos de")}));
+        (QStringList{QString("Config"), QString("Saisie Article"), QString("Historique"),
+            QString("A propos de")}));
     QCOMPARE(names,
-        (QStringList{QStringLiteral("actionConfig"), QStringLiteral("actionSaisie_Article"),
-            QStringLiteral("actionHistorique"), QStringLiteral("actionA_propos_de")}));
+        (QStringList{QString("actionConfig"), QString("actionSaisie_Article"),
+            QString("actionHistorique"), QString("actionA_propos_de")}));
     QCOMPARE(bar.at(0)->menu()->actions().size(), 3);
 }
 
@@ -253,7 +253,7 @@ void TestFormVendel::theListsAreSetUpAlike()
     for (const auto* name : {"tableView1", "tableView2"}) {
         const auto& view = child<QTableView>(form, name);
         QCOMPARE(view.styleSheet(),
-            QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
+            QString("alternate-background-color: LightBlue;background-color: White"));
         QCOMPARE(view.editTriggers(), QAbstractItemView::NoEditTriggers);
         QVERIFY(view.alternatingRowColors());
         QCOMPARE(view.verticalHeader()->defaultSectionSize(), 10);
@@ -270,7 +270,7 @@ void TestFormVendel::theMenuListShowsMarkNameAndPrice()
     const Shop shop;
     FormVendel form;
     auto& view = child<QTableView>(form, "tableView1");
-    QCOMPARE(labels(view), QStringLiteral("#|X|Article|Prix"));
+    QCOMPARE(labels(view), QString("#|X|Article|Prix"));
     QCOMPARE(view.columnWidth(1), 25);
     QVERIFY(view.isColumnHidden(0));
     QVERIFY(!view.isColumnHidden(1) && !view.isColumnHidden(2) && !view.isColumnHidden(3));
@@ -283,7 +283,7 @@ void TestFormVendel::theTicketListShowsNameAndPrice()
     const Shop shop;
     FormVendel form;
     auto& view = child<QTableView>(form, "tableView2");
-    QCOMPARE(labels(view), QStringLiteral("#|Id|Article|Prix"));
+    QCOMPARE(labels(view), QString("#|Id|Article|Prix"));
     QVERIFY(view.isColumnHidden(0) && view.isColumnHidden(1));
     QVERIFY(!view.isColumnHidden(2) && !view.isColumnHidden(3));
     view.showColumn(0);
@@ -315,12 +315,12 @@ void TestFormVendel::theListsStartEmpty()
 void TestFormVendel::captionsAreTranslatedInTheWindowsContext()
 {
     Translation translation;
-    const QString context = QStringLiteral("FormVendel");
+    const QString context = QString("FormVendel");
     for (const auto* source : {"Menu", "Ticket", "Montant", "Effacer Saisie", "Afficher",
              "Effacer Ticket", "Total Ticket", ",", "Payer", "Vendel", "Config", "Saisie Article",
              "Historique", "?", "A propos de", "InfoBulle"}) {
-        translation.add(context, QString::fromLatin1(source),
-            QString::fromLatin1(source).toUpper() + QLatin1Char('!'));
+        translation.add(
+            context, QString::fromLatin1(source), QString::fromLatin1(source).toUpper() + '!');
     }
     const Shop shop;
     FormVendel form;
@@ -333,35 +333,33 @@ void TestFormVendel::captionsAreTranslatedInTheWindowsContext()
         QCOMPARE(child<QWidget>(form, text.key()).property("text").toString(),
             QString::fromLatin1(text.value()));
     }
-    QCOMPARE(form.windowTitle(), QStringLiteral("VENDEL!"));
-    QCOMPARE(child<QMenu>(form, "menuVendel").title(), QStringLiteral("VENDEL!"));
-    QCOMPARE(child<QMenu>(form, "menu").title(), QStringLiteral("?!"));
-    QCOMPARE(actionText(form, "actionConfig"), QStringLiteral("CONFIG!"));
-    QCOMPARE(actionText(form, "actionSaisie_Article"), QStringLiteral("SAISIE ARTICLE!"));
-    QCOMPARE(actionText(form, "actionHistorique"), QStringLiteral("HISTORIQUE!"));
-    QCOMPARE(actionText(form, "actionA_propos_de"), QStringLiteral("A PROPOS DE!"));
+    QCOMPARE(form.windowTitle(), QString("VENDEL!"));
+    QCOMPARE(child<QMenu>(form, "menuVendel").title(), QString("VENDEL!"));
+    QCOMPARE(child<QMenu>(form, "menu").title(), QString("?!"));
+    QCOMPARE(actionText(form, "actionConfig"), QString("CONFIG!"));
+    QCOMPARE(actionText(form, "actionSaisie_Article"), QString("SAISIE ARTICLE!"));
+    QCOMPARE(actionText(form, "actionHistorique"), QString("HISTORIQUE!"));
+    QCOMPARE(actionText(form, "actionA_propos_de"), QString("A PROPOS DE!"));
 }
 
 void TestFormVendel::theCatalogueTranslatesCaptionsToo()
 {
     Translation translation;
-    translation.add(
-        QStringLiteral("FormVendelMessages"), QStringLiteral("Payer"), QStringLiteral("Pay"));
+    translation.add(QString("FormVendelMessages"), QString("Payer"), QString("Pay"));
     const Shop shop;
     FormVendel form;
-    QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QStringLiteral("Pay"));
+    QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QString("Pay"));
 }
 
 void TestFormVendel::headersAreTranslated()
 {
     Translation translation;
-    translation.add(
-        QStringLiteral("FormVendelMessages"), QStringLiteral("Prix"), QStringLiteral("Price"));
+    translation.add(QString("FormVendelMessages"), QString("Prix"), QString("Price"));
     const Shop shop;
     FormVendel form;
     for (const auto* name : {"tableView1", "tableView2"}) {
         QCOMPARE(child<QTableView>(form, name).model()->headerData(3, Qt::Horizontal).toString(),
-            QStringLiteral("Price"));
+            QString("Price"));
     }
 }
 
@@ -374,5 +372,5 @@ void TestFormVendel::everySlotFindsItsWidget()
     QCOMPARE(log.criticals(), QStringList());
 }
 
-VENDEL_TEST_MAIN(TestFormVendel)
+VENDEL_TEST(TestFormVendel)
 #include "tst_FormVendel.moc"

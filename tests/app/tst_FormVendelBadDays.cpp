@@ -3,7 +3,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/BadDays.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QDir>
@@ -54,14 +54,14 @@ QStringList pressEverything(QWidget& window)
     return titles;
 }
 
-const QStringList titlesOfAnEmptyShop{QStringLiteral("Afficher"), QStringLiteral("Ticket"),
-    QStringLiteral("Total"), QStringLiteral("Effacer ticket")};
+const QStringList titlesOfAnEmptyShop{
+    QString("Afficher"), QString("Ticket"), QString("Total"), QString("Effacer ticket")};
 } // namespace
 
 void TestFormVendelBadDays::aDatabaseThatIsADirectoryLeavesTheWindowUsable()
 {
     const Shop shop(Shop::Database::None);
-    QVERIFY(QDir().mkdir(QStringLiteral("Vendel.db")));
+    QVERIFY(QDir().mkdir(QString("Vendel.db")));
     const CapturedLog log;
     CapturedOutput output;
     FormVendel window;
@@ -81,7 +81,7 @@ void TestFormVendelBadDays::aFileThatIsNoDatabaseLeavesTheWindowUsable()
 {
     const Shop shop(Shop::Database::None);
     const QByteArray letter = QByteArray("Chère cliente,\n").repeated(100);
-    shop.write(QStringLiteral("Vendel.db"), letter);
+    shop.write(QString("Vendel.db"), letter);
     const CapturedLog log;
     CapturedOutput output;
     FormVendel window;
@@ -90,7 +90,7 @@ void TestFormVendelBadDays::aFileThatIsNoDatabaseLeavesTheWindowUsable()
     QCOMPARE(log.criticals(), QStringList());
     QVERIFY(output.text().contains("Errors Db::DbLoad sqlite3_errmsg : select * from Ticket "
                                    "file is not a database\n"));
-    QCOMPARE(shop.read(QStringLiteral("Vendel.db")), letter);
+    QCOMPARE(shop.read(QString("Vendel.db")), letter);
 }
 
 void TestFormVendelBadDays::aMissingTableIsAnEmptyOne()
@@ -119,15 +119,15 @@ void TestFormVendelBadDays::aReadOnlyDatabaseKeepsItsTicket()
     QCOMPARE(output.text(),
         QByteArray("Errors Db::DbLoad sqlite3_errmsg : insert into Ticket (id, article, prix) "
                    "values (1, 'Thé', 2) attempt to write a readonly database\n"));
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
+    QCOMPARE(counter.names("tableView2"), QString("Thé"));
     clickCell(counter.window, "tableView2", 0, 2);
     QVERIFY(output.text().endsWith("Errors Db::DbLoad sqlite3_errmsg : delete from Ticket where "
                                    "idlig = 1 attempt to write a readonly database\n"));
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
+    QCOMPARE(counter.names("tableView2"), QString("Thé"));
     click(counter.window, "btn_Effacer_Ticket");
     QCOMPARE(rowCount(counter.window, "tableView2"), 0);
     click(counter.window, "btn_Ticket");
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
+    QCOMPARE(counter.names("tableView2"), QString("Thé"));
     QCOMPARE(log.criticals(), QStringList());
 }
 
@@ -139,20 +139,20 @@ void TestFormVendelBadDays::aFullFileSystemKeepsTheTicket()
     const CapturedLog log;
     CapturedOutput output;
     {
-        const FileSizeLimit limit(static_cast<rlim_t>(QFile(QStringLiteral("Vendel.db")).size()));
+        const FileSizeLimit limit(static_cast<rlim_t>(QFile(QString("Vendel.db")).size()));
         clickCell(counter.window, "tableView1", 0, 2);
-        QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
+        QCOMPARE(counter.names("tableView2"), QString("Thé"));
     }
-    QCOMPARE(counter.shop.cell("select count(*) from Ticket"), QStringLiteral("1"));
+    QCOMPARE(counter.shop.cell("select count(*) from Ticket"), QString("1"));
     clickCell(counter.window, "tableView1", 1, 2);
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé|Thé"));
+    QCOMPARE(counter.names("tableView2"), QString("Thé|Thé"));
     QCOMPARE(log.criticals(), QStringList());
 }
 
 void TestFormVendelBadDays::aLockedDatabaseKeepsTheTicket()
 {
     Till counter(oneLine);
-    child<QLineEdit>(counter.window, "txt_montant").setText(QStringLiteral("5"));
+    child<QLineEdit>(counter.window, "txt_montant").setText(QString("5"));
     CapturedOutput output;
     {
         // A reader of long patience: reading goes on, writing waits in vain.
@@ -162,9 +162,9 @@ void TestFormVendelBadDays::aLockedDatabaseKeepsTheTicket()
     QCOMPARE(output.text(),
         QByteArray("Errors Db::DbLoad sqlite3_errmsg : insert into Ticket(id, article, prix) "
                    "values (0, '----', 5) database is locked\n"));
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
+    QCOMPARE(counter.names("tableView2"), QString("Thé"));
     click(counter.window, "btn_12");
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé|----"));
+    QCOMPARE(counter.names("tableView2"), QString("Thé|----"));
 }
 
 void TestFormVendelBadDays::exceptionsAreLoggedUnderTheirNames_data()
@@ -197,7 +197,7 @@ void TestFormVendelBadDays::exceptionsAreLoggedUnderTheirNames()
                  "insert into Ticket values (1, 1, 'Thé');"
                  "drop table Article; create table Article (id, article);"
                  "insert into Article values (1, 'Thé')");
-    child<QLineEdit>(counter.window, "txt_montant").setText(QStringLiteral("5"));
+    child<QLineEdit>(counter.window, "txt_montant").setText(QString("5"));
     const CapturedLog log;
     CapturedOutput output;
     click(counter.window, QTest::currentDataTag());
@@ -205,7 +205,7 @@ void TestFormVendelBadDays::exceptionsAreLoggedUnderTheirNames()
     QVERIFY(counter.window.isVisible());
     QVERIFY(child<QTableView>(counter.window, "tableView1").updatesEnabled());
     QVERIFY(child<QTableView>(counter.window, "tableView2").updatesEnabled());
-    QCOMPARE(child<QLineEdit>(counter.window, "txt_montant").text(), QStringLiteral("5"));
+    QCOMPARE(child<QLineEdit>(counter.window, "txt_montant").text(), QString("5"));
 }
 
 void TestFormVendelBadDays::anExceptionBehindAClickIsLogged()
@@ -215,8 +215,8 @@ void TestFormVendelBadDays::anExceptionBehindAClickIsLogged()
     click(counter.window, "btn_Ticket");
     counter.shop.fill("alter table Ticket drop column prix;"
                       "insert into Ticket (id, article) values (1, 'Eau')");
-    const QString missing = QStringLiteral("vector::_M_range_check: __n (which is 3) >= "
-                                           "this->size() (which is 3)");
+    const QString missing = QString("vector::_M_range_check: __n (which is 3) >= "
+                                    "this->size() (which is 3)");
     CapturedOutput output;
     {
         const CapturedLog log;
@@ -238,9 +238,9 @@ void TestFormVendelBadDays::anExceptionInTheTotalsIsLogged()
     CapturedOutput output;
     click(counter.window, "btn_Total_Ticket");
     QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors on_btn_Total_Ticket_clicked : vector::_M_range_check: "
-                                   "__n (which is 0) >= this->size() (which is 0)")));
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
+        QStringList(QString("Errors on_btn_Total_Ticket_clicked : vector::_M_range_check: "
+                            "__n (which is 0) >= this->size() (which is 0)")));
+    QCOMPARE(counter.names("tableView2"), QString("Thé"));
 }
 
 void TestFormVendelBadDays::aPriceThatIsNoNumberCannotBeSold()
@@ -249,8 +249,8 @@ void TestFormVendelBadDays::aPriceThatIsNoNumberCannotBeSold()
                  "('Eau', '')");
     click(counter.window, "btn_Afficher");
     QCOMPARE(rowTexts(counter.window, "tableView1", 0).at(3), QString());
-    QCOMPARE(rowTexts(counter.window, "tableView1", 1).at(3), QStringLiteral("cher"));
-    QCOMPARE(rowTexts(counter.window, "tableView1", 2).at(3), QStringLiteral("2,5"));
+    QCOMPARE(rowTexts(counter.window, "tableView1", 1).at(3), QString("cher"));
+    QCOMPARE(rowTexts(counter.window, "tableView1", 2).at(3), QString("2,5"));
     const CapturedLog log;
     CapturedOutput output;
     for (const int row : {0, 1, 2}) {
@@ -271,8 +271,8 @@ void TestFormVendelBadDays::aPriceThatIsNoNumberCountsAsNothing()
     Till counter("insert into Ticket (id, article, prix) values (1, 'Thé', 'cher'),"
                  "(1, 'Eau', 2)");
     click(counter.window, "btn_Total_Ticket");
-    QCOMPARE(rowTexts(counter.window, "tableView2", 0).at(3), QStringLiteral("cher"));
-    QCOMPARE(rowTexts(counter.window, "tableView2", 2).at(3), QStringLiteral("2.00$"));
+    QCOMPARE(rowTexts(counter.window, "tableView2", 0).at(3), QString("cher"));
+    QCOMPARE(rowTexts(counter.window, "tableView2", 2).at(3), QString("2.00$"));
 }
 
 void TestFormVendelBadDays::namesOfAnyKindAreSold_data()
@@ -283,9 +283,9 @@ void TestFormVendelBadDays::namesOfAnyKindAreSold_data()
     QTest::newRow("double quotes") << "\"Sex on the Beach\"";
     QTest::newRow("SQL") << "'); delete from Ticket; --";
     QTest::newRow("semicolons") << "Vin; rouge;";
-    QTest::newRow("control characters") << QStringLiteral("a\tb\nc\rd\u0001e\u001Bf\u007Fg");
-    QTest::newRow("emoji") << QStringLiteral("🍺👩‍👩‍👧‍👦🇫🇷");
-    QTest::newRow("right to left") << QStringLiteral("שלום \u202Eabc بيرة");
+    QTest::newRow("control characters") << QString("a\tb\nc\rd\u0001e\u001Bf\u007Fg");
+    QTest::newRow("emoji") << QString("🍺👩‍👩‍👧‍👦🇫🇷");
+    QTest::newRow("right to left") << QString("שלום \u202Eabc بيرة");
     QTest::newRow("a tag") << "<b>x</b>&amp;";
     QTest::newRow("percents") << "100 %n %1 %s";
     QTest::newRow("a backslash") << "a\\b\\";
@@ -299,7 +299,7 @@ void TestFormVendelBadDays::namesOfAnyKindAreSold()
     QFETCH(QString, name);
     Till counter;
     QString quoted = name;
-    quoted.replace(QLatin1Char('\''), QLatin1String("''"));
+    quoted.replace('\'', QLatin1String("''"));
     counter.shop.sql((QLatin1String("insert into Article (article, prix) values ('") + quoted
         + QLatin1String("', 2)"))
                          .toUtf8()
@@ -323,8 +323,8 @@ void TestFormVendelBadDays::anArticleNamedInfinityIsMoney()
 {
     Till counter("insert into Article (article, prix) values ('inf', 1), ('nan', 1)");
     click(counter.window, "btn_Afficher");
-    QCOMPARE(counter.names("tableView1"), QStringLiteral("inf$|nan$"));
+    QCOMPARE(counter.names("tableView1"), QString("inf$|nan$"));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelBadDays)
+VENDEL_TEST(TestFormVendelBadDays)
 #include "tst_FormVendelBadDays.moc"

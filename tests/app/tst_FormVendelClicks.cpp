@@ -2,7 +2,7 @@
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QHeaderView>
@@ -84,11 +84,9 @@ void TestFormVendelClicks::aClickPutsTheArticleOnTheTicket()
     OpenCounter counter(menu);
     clickCell(counter.window, "tableView1", 1, 2);
     QCOMPARE(rowCount(counter.window, "tableView2"), 1);
-    QCOMPARE(rowTexts(counter.window, "tableView2", 0).join(QLatin1Char('|')),
-        QStringLiteral("1|2|Café|1.20$"));
+    QCOMPARE(rowTexts(counter.window, "tableView2", 0).join('|'), QString("1|2|Café|1.20$"));
     clickCell(counter.window, "tableView1", 0, 2);
-    QCOMPARE(rowTexts(counter.window, "tableView2", 1).join(QLatin1Char('|')),
-        QStringLiteral("2|1|Bière|4.50$"));
+    QCOMPARE(rowTexts(counter.window, "tableView2", 1).join('|'), QString("2|1|Bière|4.50$"));
     QCOMPARE(counter.shop.sql("select * from Ticket"),
         (DbRows{{"1", "2", "Café", "1.2"}, {"2", "1", "Bière", "4.5"}}));
 }
@@ -99,14 +97,14 @@ void TestFormVendelClicks::everyColumnOfTheMenuIsClicked()
     for (const int column : {1, 2, 3}) {
         clickCell(counter.window, "tableView1", 0, column);
     }
-    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière|Bière"));
+    QCOMPARE(counter.ticket(), QString("Bière|Bière|Bière"));
 }
 
 void TestFormVendelClicks::aDoubleClickPutsTwoOnTheTicket()
 {
     OpenCounter counter(menu);
     doubleClickCell(counter.window, "tableView1", 0, 2);
-    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière"));
+    QCOMPARE(counter.ticket(), QString("Bière|Bière"));
 }
 
 void TestFormVendelClicks::threeQuickPressesAreThreeLines()
@@ -114,7 +112,7 @@ void TestFormVendelClicks::threeQuickPressesAreThreeLines()
     OpenCounter counter(menu);
     doubleClickCell(counter.window, "tableView1", 0, 2);
     clickCell(counter.window, "tableView1", 0, 2);
-    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière|Bière"));
+    QCOMPARE(counter.ticket(), QString("Bière|Bière|Bière"));
 }
 
 void TestFormVendelClicks::fiveQuickPressesAreFiveLines()
@@ -125,8 +123,8 @@ void TestFormVendelClicks::fiveQuickPressesAreFiveLines()
     doubleClickCell(counter.window, "tableView1", 0, 2);
     QTest::qWait(100);
     clickCell(counter.window, "tableView1", 0, 2);
-    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Bière|Bière|Bière|Bière"));
-    QCOMPARE(counter.stored(), QStringLiteral("Bière|Bière|Bière|Bière|Bière"));
+    QCOMPARE(counter.ticket(), QString("Bière|Bière|Bière|Bière|Bière"));
+    QCOMPARE(counter.stored(), QString("Bière|Bière|Bière|Bière|Bière"));
 }
 
 void TestFormVendelClicks::quickPressesOnTwoArticlesAreOneLineEach()
@@ -135,7 +133,7 @@ void TestFormVendelClicks::quickPressesOnTwoArticlesAreOneLineEach()
     auto& view = child<QTableView>(counter.window, "tableView1");
     press(view, 0, QEvent::MouseButtonPress, Qt::LeftButton);
     press(view, 1, QEvent::MouseButtonDblClick, Qt::LeftButton);
-    QCOMPARE(counter.ticket(), QStringLiteral("Bière|Café"));
+    QCOMPARE(counter.ticket(), QString("Bière|Café"));
 }
 
 void TestFormVendelClicks::theRightButtonSellsNothing()
@@ -146,9 +144,9 @@ void TestFormVendelClicks::theRightButtonSellsNothing()
         press(view, 0, QEvent::MouseButtonPress, Qt::RightButton);
         press(view, 0, QEvent::MouseButtonDblClick, Qt::RightButton);
     }
-    QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
+    QCOMPARE(counter.stored(), QString("Un|Deux|Trois"));
     clickCell(counter.window, "tableView1", 0, 2);
-    QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois|Bière"));
+    QCOMPARE(counter.stored(), QString("Un|Deux|Trois|Bière"));
 }
 
 void TestFormVendelClicks::aClickBesideTheRowsDoesNothing()
@@ -158,7 +156,7 @@ void TestFormVendelClicks::aClickBesideTheRowsDoesNothing()
         QTest::mouseClick(child<QTableView>(counter.window, name).viewport(), Qt::LeftButton,
             Qt::NoModifier, QPoint(200, 450));
     }
-    QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
+    QCOMPARE(counter.stored(), QString("Un|Deux|Trois"));
 }
 
 void TestFormVendelClicks::aClickOnAHeaderDoesNothing()
@@ -171,7 +169,7 @@ void TestFormVendelClicks::aClickOnAHeaderDoesNothing()
         QTest::mouseClick(
             view.verticalHeader()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 10));
     }
-    QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
+    QCOMPARE(counter.stored(), QString("Un|Deux|Trois"));
 }
 
 void TestFormVendelClicks::whatIsStoredIsSold()
@@ -189,7 +187,7 @@ void TestFormVendelClicks::anArticleThatIsGoneIsNotSold()
     counter.shop.fill("delete from Article where id = 1; delete from Ticket where idlig = 1");
     CapturedOutput output;
     clickCell(counter.window, "tableView1", 0, 2);
-    QCOMPARE(counter.ticket(), QStringLiteral("Deux|Trois"));
+    QCOMPARE(counter.ticket(), QString("Deux|Trois"));
     QCOMPARE(output.text(), QByteArray());
 }
 
@@ -197,25 +195,25 @@ void TestFormVendelClicks::aQuoteInANameStandsOnTheTicket()
 {
     OpenCounter counter("insert into Article (article, prix) values ('l''eau', 1)");
     clickCell(counter.window, "tableView1", 0, 2);
-    QCOMPARE(counter.ticket(), QStringLiteral("l'eau"));
-    QCOMPARE(counter.stored(), QStringLiteral("l'eau"));
+    QCOMPARE(counter.ticket(), QString("l'eau"));
+    QCOMPARE(counter.stored(), QString("l'eau"));
 }
 
 void TestFormVendelClicks::aClickOnALineRemovesIt()
 {
     OpenCounter counter(menuAndTicket);
     clickCell(counter.window, "tableView2", 1, 2);
-    QCOMPARE(counter.ticket(), QStringLiteral("Un|Trois"));
-    QCOMPARE(counter.stored(), QStringLiteral("Un|Trois"));
+    QCOMPARE(counter.ticket(), QString("Un|Trois"));
+    QCOMPARE(counter.stored(), QString("Un|Trois"));
 }
 
 void TestFormVendelClicks::aDoubleClickRemovesOneLine()
 {
     OpenCounter counter(menuAndTicket);
     doubleClickCell(counter.window, "tableView2", 0, 2);
-    QCOMPARE(counter.ticket(), QStringLiteral("Deux|Trois"));
+    QCOMPARE(counter.ticket(), QString("Deux|Trois"));
     doubleClickCell(counter.window, "tableView2", 1, 3);
-    QCOMPARE(counter.stored(), QStringLiteral("Deux"));
+    QCOMPARE(counter.stored(), QString("Deux"));
 }
 
 void TestFormVendelClicks::threeQuickPressesRemoveTwoLines()
@@ -223,7 +221,7 @@ void TestFormVendelClicks::threeQuickPressesRemoveTwoLines()
     OpenCounter counter(menuAndTicket);
     doubleClickCell(counter.window, "tableView2", 0, 2);
     clickCell(counter.window, "tableView2", 0, 2);
-    QCOMPARE(counter.stored(), QStringLiteral("Trois"));
+    QCOMPARE(counter.stored(), QString("Trois"));
 }
 
 void TestFormVendelClicks::twoSlowClicksRemoveTwoLines()
@@ -231,7 +229,7 @@ void TestFormVendelClicks::twoSlowClicksRemoveTwoLines()
     OpenCounter counter(menuAndTicket);
     clickCell(counter.window, "tableView2", 0, 2);
     clickCell(counter.window, "tableView2", 0, 3);
-    QCOMPARE(counter.stored(), QStringLiteral("Trois"));
+    QCOMPARE(counter.stored(), QString("Trois"));
 }
 
 void TestFormVendelClicks::theLastLineGoesWithoutAMessage()
@@ -280,8 +278,8 @@ void TestFormVendelClicks::aRemovalDoesNotScrollTheTicket()
     };
     view.scrollToBottom();
     view.scrollTo(view.model()->index(20, 2), QAbstractItemView::PositionAtTop);
-    QCOMPARE(removeAt(QPoint(50, 100)), QStringLiteral("Thé 21"));
-    QCOMPARE(removeAt(QPoint(50, 5)), QStringLiteral("Thé 22"));
+    QCOMPARE(removeAt(QPoint(50, 100)), QString("Thé 21"));
+    QCOMPARE(removeAt(QPoint(50, 5)), QString("Thé 22"));
     view.scrollToBottom();
     QCOMPARE(rowCount(counter.window, "tableView2"), 58);
     clickCell(counter.window, "tableView2", 57, 2);
@@ -294,7 +292,7 @@ void TestFormVendelClicks::anAddedLineTakesTheTotalsAway()
     click(counter.window, "btn_Total_Ticket");
     QCOMPARE(rowCount(counter.window, "tableView2"), 6);
     clickCell(counter.window, "tableView1", 0, 2);
-    QCOMPARE(counter.ticket(), QStringLiteral("Un|Deux|Trois|Bière"));
+    QCOMPARE(counter.ticket(), QString("Un|Deux|Trois|Bière"));
 }
 
 void TestFormVendelClicks::aClickOnATotalRemovesNothing()
@@ -303,8 +301,8 @@ void TestFormVendelClicks::aClickOnATotalRemovesNothing()
         OpenCounter counter(menuAndTicket);
         click(counter.window, "btn_Total_Ticket");
         clickCell(counter.window, "tableView2", total, 2);
-        QCOMPARE(counter.ticket(), QStringLiteral("Un|Deux|Trois"));
-        QCOMPARE(counter.stored(), QStringLiteral("Un|Deux|Trois"));
+        QCOMPARE(counter.ticket(), QString("Un|Deux|Trois"));
+        QCOMPARE(counter.stored(), QString("Un|Deux|Trois"));
     }
 }
 
@@ -314,8 +312,8 @@ void TestFormVendelClicks::theTicketOutlivesTheWindow()
     clickCell(counter.window, "tableView1", 0, 2);
     FormVendel other;
     click(other, "btn_Ticket");
-    QCOMPARE(rowTexts(other, "tableView2", 0).at(2), QStringLiteral("Bière"));
+    QCOMPARE(rowTexts(other, "tableView2", 0).at(2), QString("Bière"));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelClicks)
+VENDEL_TEST(TestFormVendelClicks)
 #include "tst_FormVendelClicks.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendelStart.h"
 #include "tests/app/Till.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QAbstractItemDelegate>
@@ -133,5 +133,5 @@ void TestFormVendelFonts::headersFit()
     }
 }
 
-VENDEL_TEST_MAIN(TestFormVendelFonts)
+VENDEL_TEST(TestFormVendelFonts)
 #include "tst_FormVendelFonts.moc"

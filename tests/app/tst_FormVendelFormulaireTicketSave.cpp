@@ -5,7 +5,7 @@
 #include "tests/support/BadDays.h"
 #include "tests/support/BoxDiary.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QClipboard>
 #include <QFileInfo>
@@ -26,10 +26,9 @@ QStringList files()
 /// Whether the question was followed by the one box that says what went wrong.
 bool saidTheFailure(const AnswerBox& box)
 {
-    const QString title = QStringLiteral("Sauvegarde");
+    const QString title = QString("Sauvegarde");
     return box.titles() == QStringList({title, title})
-        && box.texts()
-        == QStringList({title, QStringLiteral("Le texte n'a pas pu être enregistré")});
+        && box.texts() == QStringList({title, QString("Le texte n'a pas pu être enregistré")});
 }
 } // namespace
 
@@ -81,8 +80,8 @@ void TestFormVendelFormulaireTicketSave::savingAsksFirst()
     OpenReceiptTexts editor("Chez Paul", "Merci");
     const AnswerBox box(QMessageBox::No);
     click(editor.window, button.constData());
-    QCOMPARE(box.title(), QStringLiteral("Sauvegarde"));
-    QCOMPARE(box.text(), QStringLiteral("Sauvegarde"));
+    QCOMPARE(box.title(), QString("Sauvegarde"));
+    QCOMPARE(box.text(), QString("Sauvegarde"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Yes | QMessageBox::No));
     QCOMPARE(box.parent(), &editor.window);
@@ -108,7 +107,7 @@ void TestFormVendelFormulaireTicketSave::yesSavesTheHeader()
     QCOMPARE(box.strays(), 0);
     QCOMPARE(editor.shop.read(headerFile), QByteArray("Chez Paul\nParis"));
     QCOMPARE(editor.shop.read(footerFile), QByteArray("Merci"));
-    QCOMPARE(editor.text(), QStringLiteral("Chez Paul\nParis"));
+    QCOMPARE(editor.text(), QString("Chez Paul\nParis"));
     QVERIFY(editor.window.isVisible());
 }
 
@@ -131,7 +130,7 @@ void TestFormVendelFormulaireTicketSave::whatIsShownGoesIntoTheFileOfTheButton()
         click(editor.window, "btn_Pied_Page");
     }
     QCOMPARE(editor.shop.read(footerFile), QByteArray("Chez Paul"));
-    QCOMPARE(editor.label(), QStringLiteral("Entête de page"));
+    QCOMPARE(editor.label(), QString("Entête de page"));
 
     editor.shop.write(footerFile, "Merci");
     chooseMenu(editor.window, "menuAfficher", "actionPied_Page");
@@ -187,7 +186,7 @@ void TestFormVendelFormulaireTicketSave::windowsLineEndsBecomeLineFeeds()
 void TestFormVendelFormulaireTicketSave::pastedTextIsSavedAsPlainText()
 {
     OpenReceiptTexts editor("", "Merci");
-    QGuiApplication::clipboard()->setText(QStringLiteral("<b>Été</b>\nParis"));
+    QGuiApplication::clipboard()->setText(QString("<b>Été</b>\nParis"));
     QTest::keyClick(&child<QTextEdit>(editor.window, "txt_Form"), Qt::Key_V, Qt::ControlModifier);
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Entete_Page");
@@ -198,11 +197,11 @@ void TestFormVendelFormulaireTicketSave::pastedTextComesWithoutItsLook()
 {
     OpenReceiptTexts editor("", "Merci");
     auto page = std::make_unique<QMimeData>();
-    page->setHtml(QStringLiteral("<h1>Chez Paul</h1><p>Paris</p>"));
-    page->setText(QStringLiteral("Chez Paul, Paris"));
+    page->setHtml(QString("<h1>Chez Paul</h1><p>Paris</p>"));
+    page->setText(QString("Chez Paul, Paris"));
     QGuiApplication::clipboard()->setMimeData(page.release());
     QTest::keyClick(&child<QTextEdit>(editor.window, "txt_Form"), Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(editor.text(), QStringLiteral("Chez Paul, Paris"));
+    QCOMPARE(editor.text(), QString("Chez Paul, Paris"));
 }
 
 void TestFormVendelFormulaireTicketSave::aSavedTitleStandsOutOnTheReceipt()
@@ -215,9 +214,9 @@ void TestFormVendelFormulaireTicketSave::aSavedTitleStandsOutOnTheReceipt()
     const Receipt receipt
         = composeReceipt(readSale(QDateTime(QDate(2024, 5, 3), QTime(14, 7, 31))));
     QCOMPARE(receipt.at(0).style, ReceiptLine::Style::Title);
-    QCOMPARE(receipt.at(0).text, QStringLiteral("Chez Paul"));
+    QCOMPARE(receipt.at(0).text, QString("Chez Paul"));
     QCOMPARE(receipt.at(1).style, ReceiptLine::Style::Header);
-    QCOMPARE(receipt.at(1).text, QStringLiteral("12 rue du Bac"));
+    QCOMPARE(receipt.at(1).text, QString("12 rue du Bac"));
 }
 
 void TestFormVendelFormulaireTicketSave::aMissingFileStaysMissingAndNothingIsSaid_data()
@@ -233,7 +232,7 @@ void TestFormVendelFormulaireTicketSave::aMissingFileStaysMissingAndNothingIsSai
     const CapturedLog log;
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, button.constData());
-    QCOMPARE(box.text(), QStringLiteral("Sauvegarde"));
+    QCOMPARE(box.text(), QString("Sauvegarde"));
     QCOMPARE(box.strays(), 0);
     QCOMPARE(files(), QStringList());
     QCOMPARE(log.criticals(), QStringList());
@@ -242,27 +241,27 @@ void TestFormVendelFormulaireTicketSave::aMissingFileStaysMissingAndNothingIsSai
 void TestFormVendelFormulaireTicketSave::aLinkToNowhereStaysSo()
 {
     OpenReceiptTexts editor;
-    QVERIFY(QFile::link(QStringLiteral("nowhere"), headerFile));
+    QVERIFY(QFile::link(QString("nowhere"), headerFile));
     editor.typeAtEnd("Chez Paul");
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Entete_Page");
     QCOMPARE(box.strays(), 0);
     QVERIFY(QFileInfo(headerFile).isSymLink());
-    QVERIFY(!QFile::exists(QStringLiteral("nowhere")));
+    QVERIFY(!QFile::exists(QString("nowhere")));
 }
 
 void TestFormVendelFormulaireTicketSave::aSymbolicLinkIsFollowed()
 {
     OpenReceiptTexts editor({}, "Merci");
-    QVERIFY(QDir().mkdir(QStringLiteral("partage")));
-    editor.shop.write(QStringLiteral("partage/entete"), "Chez Paul");
-    QVERIFY(QFile::link(QStringLiteral("partage/entete"), headerFile));
+    QVERIFY(QDir().mkdir(QString("partage")));
+    editor.shop.write(QString("partage/entete"), "Chez Paul");
+    QVERIFY(QFile::link(QString("partage/entete"), headerFile));
     chooseMenu(editor.window, "menuAfficher", "actionEntete_Page");
     editor.typeAtEnd(" et Anne");
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Entete_Page");
     QVERIFY(QFileInfo(headerFile).isSymLink());
-    QCOMPARE(editor.shop.read(QStringLiteral("partage/entete")), QByteArray("Chez Paul et Anne"));
+    QCOMPARE(editor.shop.read(QString("partage/entete")), QByteArray("Chez Paul et Anne"));
 }
 
 void TestFormVendelFormulaireTicketSave::theModeIsKept()
@@ -362,15 +361,15 @@ void TestFormVendelFormulaireTicketSave::aFifoInTheFilesPlaceIsKeptAndSaid()
     const BoxDiary boxes;
     click(editor.window, "btn_Pied_Page");
     QCOMPARE(boxes.said,
-        (QStringList{QStringLiteral("Sauvegarde: Sauvegarde"),
-            QStringLiteral("Sauvegarde: Le texte n'a pas pu être enregistré")}));
+        (QStringList{QString("Sauvegarde: Sauvegarde"),
+            QString("Sauvegarde: Le texte n'a pas pu être enregistré")}));
     struct stat status
     { };
     QVERIFY(stat("PiedFormulaire.dat", &status) == 0);
     QVERIFY(S_ISFIFO(status.st_mode));
-    const QString line = QStringLiteral("PiedFormulaire.dat is not read: it is not a regular file");
+    const QString line = QString("PiedFormulaire.dat is not read: it is not a regular file");
     QCOMPARE(log.criticals(), (QStringList{line, line}));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelFormulaireTicketSave)
+VENDEL_TEST(TestFormVendelFormulaireTicketSave)
 #include "tst_FormVendelFormulaireTicketSave.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QAction>
@@ -45,11 +45,11 @@ void TestFormVendelKeyboard::tabFollowsTheEye()
     Keyboard till;
     QVERIFY(QTest::qWaitForWindowActive(&till.window));
     child<QTableView>(till.window, "tableView1").setFocus();
-    QCOMPARE(tabOrder(till.window).join(QLatin1Char(' ')),
-        QStringLiteral("tableView1 tableView2 txt_montant btn_Effacer_Saisie btn_Afficher "
-                       "btn_Ticket btn_Effacer_Ticket btn_Total_Ticket btn_1 btn_2 btn_3 btn_4 "
-                       "btn_5 btn_6 btn_7 btn_8 btn_9 btn_10 btn_11 btn_13 btn_12 btn_Payer "
-                       "chkbx_ToolTip"));
+    QCOMPARE(tabOrder(till.window).join(' '),
+        QString("tableView1 tableView2 txt_montant btn_Effacer_Saisie btn_Afficher "
+                "btn_Ticket btn_Effacer_Ticket btn_Total_Ticket btn_1 btn_2 btn_3 btn_4 "
+                "btn_5 btn_6 btn_7 btn_8 btn_9 btn_10 btn_11 btn_13 btn_12 btn_Payer "
+                "chkbx_ToolTip"));
 }
 
 void TestFormVendelKeyboard::returnSellsNothing()
@@ -57,7 +57,7 @@ void TestFormVendelKeyboard::returnSellsNothing()
     Keyboard till;
     const AnswerBox box;
     auto& field = child<QLineEdit>(till.window, "txt_montant");
-    field.setText(QStringLiteral("5"));
+    field.setText(QString("5"));
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         QTest::keyClick(&field, key);
         for (const auto* name : {"tableView1", "tableView2"}) {
@@ -67,8 +67,8 @@ void TestFormVendelKeyboard::returnSellsNothing()
         }
         QTest::keyClick(&child<QPushButton>(till.window, "btn_Payer"), key);
     }
-    QCOMPARE(till.stored(), QStringLiteral("Thé 1|Vin 3"));
-    QCOMPARE(field.text(), QStringLiteral("5"));
+    QCOMPARE(till.stored(), QString("Thé 1|Vin 3"));
+    QCOMPARE(field.text(), QString("5"));
     QVERIFY(!box.wasShown());
 }
 
@@ -77,7 +77,7 @@ void TestFormVendelKeyboard::spacePressesTheButton()
     Keyboard till;
     QTest::keyClick(&child<QPushButton>(till.window, "btn_7"), Qt::Key_Space);
     QTest::keyClick(&child<QPushButton>(till.window, "btn_12"), Qt::Key_Space);
-    QCOMPARE(till.stored(), QStringLiteral("Thé 1|Vin 3|---- 7"));
+    QCOMPARE(till.stored(), QString("Thé 1|Vin 3|---- 7"));
 }
 
 void TestFormVendelKeyboard::thereAreNoShortcuts()
@@ -87,16 +87,16 @@ void TestFormVendelKeyboard::thereAreNoShortcuts()
     QVERIFY(actions.size() >= 6);
     for (const QAction* action : actions) {
         QVERIFY(action->shortcut().isEmpty());
-        QVERIFY(!action->text().contains(QLatin1Char('&')));
+        QVERIFY(!action->text().contains('&'));
     }
     const auto buttons = till.window.findChildren<QAbstractButton*>();
     for (const QAbstractButton* button : buttons) {
         QVERIFY(button->shortcut().isEmpty());
     }
-    QTest::keyClicks(&child<QPushButton>(till.window, "btn_Payer"), QStringLiteral("12+"));
+    QTest::keyClicks(&child<QPushButton>(till.window, "btn_Payer"), QString("12+"));
     QCOMPARE(child<QLineEdit>(till.window, "txt_montant").text(), QString());
-    QCOMPARE(till.stored(), QStringLiteral("Thé 1|Vin 3"));
+    QCOMPARE(till.stored(), QString("Thé 1|Vin 3"));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelKeyboard)
+VENDEL_TEST(TestFormVendelKeyboard)
 #include "tst_FormVendelKeyboard.moc"

@@ -2,7 +2,7 @@
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
@@ -94,13 +94,13 @@ void TestFormVendelKeypad::everyKeyAppendsItsDigit()
 void TestFormVendelKeypad::keysAppendAtTheEndWhereverTheCursorStands()
 {
     Keypad keypad;
-    keypad.field().setText(QStringLiteral("12"));
+    keypad.field().setText(QString("12"));
     keypad.field().setCursorPosition(0);
     click(keypad.window, "btn_3");
-    QCOMPARE(keypad.field().text(), QStringLiteral("123"));
+    QCOMPARE(keypad.field().text(), QString("123"));
     keypad.field().selectAll();
     click(keypad.window, "btn_11");
-    QCOMPARE(keypad.field().text(), QStringLiteral("123,"));
+    QCOMPARE(keypad.field().text(), QString("123,"));
 }
 
 void TestFormVendelKeypad::keysCheckNothing()
@@ -109,18 +109,18 @@ void TestFormVendelKeypad::keysCheckNothing()
     for (const auto* key : {"btn_11", "btn_11", "btn_10", "btn_10"}) {
         click(keypad.window, key);
     }
-    QCOMPARE(keypad.field().text(), QStringLiteral(",,00"));
+    QCOMPARE(keypad.field().text(), QString(",,00"));
 }
 
 void TestFormVendelKeypad::theSeparatorFollowsTheTranslation()
 {
     Translation translation;
-    translation.add(QStringLiteral("FormVendelMessages"), QStringLiteral(","), QStringLiteral("."));
+    translation.add(QString("FormVendelMessages"), QString(","), QString("."));
     Keypad keypad;
     for (const auto* key : {"btn_1", "btn_11", "btn_5"}) {
         click(keypad.window, key);
     }
-    QCOMPARE(keypad.field().text(), QStringLiteral("1.5"));
+    QCOMPARE(keypad.field().text(), QString("1.5"));
     click(keypad.window, "btn_12");
     QCOMPARE(keypad.stored(), (DbRows{{"0", "----", "1.5"}}));
 }
@@ -128,7 +128,7 @@ void TestFormVendelKeypad::theSeparatorFollowsTheTranslation()
 void TestFormVendelKeypad::theFieldIsCleared()
 {
     Keypad keypad;
-    keypad.field().setText(QStringLiteral("12,5"));
+    keypad.field().setText(QString("12,5"));
     click(keypad.window, "btn_Effacer_Saisie");
     QCOMPARE(keypad.field().text(), QString());
     click(keypad.window, "btn_Effacer_Saisie");
@@ -138,7 +138,7 @@ void TestFormVendelKeypad::theFieldIsCleared()
 void TestFormVendelKeypad::theFieldIsTypedInto()
 {
     Keypad keypad;
-    QTest::keyClicks(&keypad.field(), QStringLiteral("12,5"));
+    QTest::keyClicks(&keypad.field(), QString("12,5"));
     click(keypad.window, "btn_12");
     QCOMPARE(keypad.stored(), (DbRows{{"0", "----", "12.5"}}));
 }
@@ -147,12 +147,11 @@ void TestFormVendelKeypad::plusAddsAnAmount()
 {
     Keypad keypad("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
     AnswerBox box;
-    keypad.plus(QStringLiteral("12,5"));
+    keypad.plus(QString("12,5"));
     QCOMPARE(keypad.stored(), (DbRows{{"1", "Thé", "1"}, {"0", "----", "12.5"}}));
-    QCOMPARE(rowTexts(keypad.window, "tableView2", 1).join(QLatin1Char(';')),
-        QStringLiteral("2;0;----;12.50$"));
-    QCOMPARE(keypad.names("tableView2"), QStringLiteral("Thé|----"));
-    QCOMPARE(keypad.field().text(), QStringLiteral("12,5"));
+    QCOMPARE(rowTexts(keypad.window, "tableView2", 1).join(';'), QString("2;0;----;12.50$"));
+    QCOMPARE(keypad.names("tableView2"), QString("Thé|----"));
+    QCOMPARE(keypad.field().text(), QString("12,5"));
     click(keypad.window, "btn_12");
     QCOMPARE(keypad.stored().size(), std::size_t{3});
     QTest::qWait(20);
@@ -162,20 +161,19 @@ void TestFormVendelKeypad::plusAddsAnAmount()
 void TestFormVendelKeypad::minusAddsANegativeAmount()
 {
     Keypad keypad;
-    keypad.minus(QStringLiteral("12,5"));
+    keypad.minus(QString("12,5"));
     QCOMPARE(keypad.stored(), (DbRows{{"0", "----", "-12.5"}}));
-    QCOMPARE(rowTexts(keypad.window, "tableView2", 0).join(QLatin1Char(';')),
-        QStringLiteral("1;0;----;-12.50$"));
-    QCOMPARE(keypad.field().text(), QStringLiteral("12,5"));
+    QCOMPARE(rowTexts(keypad.window, "tableView2", 0).join(';'), QString("1;0;----;-12.50$"));
+    QCOMPARE(keypad.field().text(), QString("12,5"));
 }
 
 void TestFormVendelKeypad::blanksAroundAnAmountAreRemoved()
 {
     Keypad keypad;
-    keypad.plus(QStringLiteral("  12,5\t "));
-    QCOMPARE(keypad.field().text(), QStringLiteral("12,5"));
-    keypad.minus(QStringLiteral("3 "));
-    QCOMPARE(keypad.field().text(), QStringLiteral("3"));
+    keypad.plus(QString("  12,5\t "));
+    QCOMPARE(keypad.field().text(), QString("12,5"));
+    keypad.minus(QString("3 "));
+    QCOMPARE(keypad.field().text(), QString("3"));
     QCOMPARE(keypad.stored(), (DbRows{{"0", "----", "12.5"}, {"0", "----", "-3"}}));
 }
 
@@ -192,8 +190,8 @@ void TestFormVendelKeypad::anAmountIsNeeded()
     Keypad keypad;
     AnswerBox box;
     keypad.plus(amount);
-    QCOMPARE(box.title(), QStringLiteral("+/-"));
-    QCOMPARE(box.text(), QStringLiteral("Saisir un montant"));
+    QCOMPARE(box.title(), QString("+/-"));
+    QCOMPARE(box.text(), QString("Saisir un montant"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.parent(), &keypad.window);
@@ -221,7 +219,7 @@ void TestFormVendelKeypad::amountsAreChecked_data()
     QTest::newRow("a currency sign") << "5$" << false << "5$";
     QTest::newRow("a blank inside") << "1 000" << false << "1 000";
     QTest::newRow("- of a blank and a number") << " 5" << true << " 5";
-    QTest::newRow("a name") << QStringLiteral("Thé") << false << QStringLiteral("Thé");
+    QTest::newRow("a name") << QString("Thé") << false << QString("Thé");
     QTest::newRow("a separator alone") << "," << false << ",";
     QTest::newRow("SQL") << "1); delete from Ticket; --" << false << "1); delete from Ticket; --";
     QTest::newRow("a quote") << "1'" << false << "1'";
@@ -241,8 +239,8 @@ void TestFormVendelKeypad::amountsAreChecked()
     } else {
         keypad.plus(amount);
     }
-    QCOMPARE(box.title(), QStringLiteral("+/-"));
-    QCOMPARE(box.text(), QStringLiteral("Saisir un montant valide"));
+    QCOMPARE(box.title(), QString("+/-"));
+    QCOMPARE(box.text(), QString("Saisir un montant valide"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.strays(), 0);
@@ -298,9 +296,9 @@ void TestFormVendelKeypad::amountsThatSqlDoesNotKnowAreReported()
     QTest::qWait(20);
     QVERIFY(!box.wasShown());
     QTEST(output.text(), "report");
-    QCOMPARE(keypad.names("tableView2"), QStringLiteral("Thé"));
-    keypad.plus(QStringLiteral("2"));
-    QCOMPARE(keypad.names("tableView2"), QStringLiteral("Thé|----"));
+    QCOMPARE(keypad.names("tableView2"), QString("Thé"));
+    keypad.plus(QString("2"));
+    QCOMPARE(keypad.names("tableView2"), QString("Thé|----"));
 }
 
 void TestFormVendelKeypad::theFieldShowsTheSignDuringTheRefusal()
@@ -309,29 +307,28 @@ void TestFormVendelKeypad::theFieldShowsTheSignDuringTheRefusal()
     QString shown;
     AnswerBox box(QMessageBox::Ok, [&](QMessageBox&) { shown = keypad.field().text(); });
     keypad.minus(QString());
-    QCOMPARE(shown, QStringLiteral("-"));
+    QCOMPARE(shown, QString("-"));
     QCOMPARE(keypad.field().text(), QString());
 }
 
 void TestFormVendelKeypad::refusalsAreTranslated()
 {
     Translation translation;
-    const QString context = QStringLiteral("FormVendelMessages");
-    translation.add(context, QStringLiteral("Saisir un montant"), QStringLiteral("Amount, please"));
-    translation.add(
-        context, QStringLiteral("Saisir un montant valide"), QStringLiteral("A number, please"));
-    translation.add(context, QStringLiteral("+/-"), QStringLiteral("Plus"));
+    const QString context = QString("FormVendelMessages");
+    translation.add(context, QString("Saisir un montant"), QString("Amount, please"));
+    translation.add(context, QString("Saisir un montant valide"), QString("A number, please"));
+    translation.add(context, QString("+/-"), QString("Plus"));
     Keypad keypad;
     {
         AnswerBox box;
         keypad.plus(QString());
-        QCOMPARE(box.title(), QStringLiteral("Plus"));
-        QCOMPARE(box.text(), QStringLiteral("Amount, please"));
+        QCOMPARE(box.title(), QString("Plus"));
+        QCOMPARE(box.text(), QString("Amount, please"));
     }
     AnswerBox box;
-    keypad.plus(QStringLiteral("x"));
-    QCOMPARE(box.title(), QStringLiteral("Plus"));
-    QCOMPARE(box.text(), QStringLiteral("A number, please"));
+    keypad.plus(QString("x"));
+    QCOMPARE(box.title(), QString("Plus"));
+    QCOMPARE(box.text(), QString("A number, please"));
 }
 
 void TestFormVendelKeypad::aRefusedAmountLeavesTheListAlone()
@@ -339,7 +336,7 @@ void TestFormVendelKeypad::aRefusedAmountLeavesTheListAlone()
     Keypad keypad("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
     click(keypad.window, "btn_Total_Ticket");
     AnswerBox box;
-    keypad.plus(QStringLiteral("x"));
+    keypad.plus(QString("x"));
     QCOMPARE(rowCount(keypad.window, "tableView2"), 4);
 }
 
@@ -347,15 +344,15 @@ void TestFormVendelKeypad::anAddedAmountTakesTheTotalsAway()
 {
     Keypad keypad("insert into Ticket (id, article, prix) values (1, 'Thé', 1)");
     click(keypad.window, "btn_Total_Ticket");
-    keypad.plus(QStringLiteral("2"));
-    QCOMPARE(keypad.names("tableView2"), QStringLiteral("Thé|----"));
+    keypad.plus(QString("2"));
+    QCOMPARE(keypad.names("tableView2"), QString("Thé|----"));
 }
 
 void TestFormVendelKeypad::theNewestAmountIsInView()
 {
     Keypad keypad("with recursive n(i) as (select 1 union all select i + 1 from n where i < 60)"
                   "insert into Ticket (id, article, prix) select 1, 'Thé ' || i, 1 from n");
-    keypad.plus(QStringLiteral("2"));
+    keypad.plus(QString("2"));
     const auto& view = child<QTableView>(keypad.window, "tableView2");
     QVERIFY(view.viewport()->rect().contains(view.visualRect(view.model()->index(60, 3))));
 }
@@ -363,10 +360,10 @@ void TestFormVendelKeypad::theNewestAmountIsInView()
 void TestFormVendelKeypad::theTillMayBeAskedDirectly()
 {
     Keypad keypad;
-    keypad.window.operator_more_or_less(QStringLiteral(" 4,5 "));
+    keypad.window.operator_more_or_less(QString(" 4,5 "));
     QCOMPARE(keypad.stored(), (DbRows{{"0", "----", "4.5"}}));
-    QCOMPARE(keypad.field().text(), QStringLiteral("4,5"));
+    QCOMPARE(keypad.field().text(), QString("4,5"));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelKeypad)
+VENDEL_TEST(TestFormVendelKeypad)
 #include "tst_FormVendelKeypad.moc"

@@ -3,7 +3,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/MarkedContext.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
@@ -60,7 +60,7 @@ QString marks(Till& counter)
     for (int row = 0; row < rowCount(counter.window, "tableView1"); ++row) {
         texts << rowTexts(counter.window, "tableView1", row).at(mark);
     }
-    return texts.join(QLatin1Char('|'));
+    return texts.join('|');
 }
 } // namespace
 
@@ -71,11 +71,11 @@ void TestFormVendelLists::theMenuIsShownByName()
     click(counter.window, "btn_Afficher");
     QStringList rows;
     for (int row = 0; row < rowCount(counter.window, "tableView1"); ++row) {
-        rows << rowTexts(counter.window, "tableView1", row).join(QLatin1Char(';'));
+        rows << rowTexts(counter.window, "tableView1", row).join(';');
     }
     QCOMPARE(rows,
-        (QStringList{QStringLiteral("4;;bavette;-1.00$"), QStringLiteral("2;;Bière;1,234.50$"),
-            QStringLiteral("3;;Eau;0.00$"), QStringLiteral("1;;thé;2.50$")}));
+        (QStringList{QString("4;;bavette;-1.00$"), QString("2;;Bière;1,234.50$"),
+            QString("3;;Eau;0.00$"), QString("1;;thé;2.50$")}));
 }
 
 void TestFormVendelLists::anEmptyMenuIsSaid()
@@ -93,7 +93,7 @@ void TestFormVendelLists::theMenuIsEmptiedBeforeItIsFilled()
     Till counter("insert into Article (article, prix) values ('Thé', 1), ('Eau', 1)");
     click(counter.window, "btn_Afficher");
     click(counter.window, "btn_Afficher");
-    QCOMPARE(counter.names("tableView1"), QStringLiteral("Eau|Thé"));
+    QCOMPARE(counter.names("tableView1"), QString("Eau|Thé"));
     counter.shop.sql("delete from Article");
     AnswerBox box;
     click(counter.window, "btn_Afficher");
@@ -105,12 +105,10 @@ void TestFormVendelLists::anArticleNamedByANumberIsShownAsMoney()
 {
     Till counter("insert into Article (article, prix) values ('33', 2)");
     click(counter.window, "btn_Afficher");
-    QCOMPARE(rowTexts(counter.window, "tableView1", 0).join(QLatin1Char(';')),
-        QStringLiteral("1;;33.00$;2.00$"));
+    QCOMPARE(rowTexts(counter.window, "tableView1", 0).join(';'), QString("1;;33.00$;2.00$"));
     clickCell(counter.window, "tableView1", 0, 2);
-    QCOMPARE(rowTexts(counter.window, "tableView2", 0).join(QLatin1Char(';')),
-        QStringLiteral("1;1;33.00$;2.00$"));
-    QCOMPARE(counter.shop.cell("select article from Ticket"), QStringLiteral("33"));
+    QCOMPARE(rowTexts(counter.window, "tableView2", 0).join(';'), QString("1;1;33.00$;2.00$"));
+    QCOMPARE(counter.shop.cell("select article from Ticket"), QString("33"));
 }
 
 void TestFormVendelLists::anArticleWithoutDoublesIsShownSilently()
@@ -121,7 +119,7 @@ void TestFormVendelLists::anArticleWithoutDoublesIsShownSilently()
     click(counter.window, "btn_Afficher");
     QTest::qWait(50);
     QVERIFY(!box.wasShown());
-    QCOMPARE(marks(counter), QStringLiteral("|"));
+    QCOMPARE(marks(counter), QString("|"));
     QCOMPARE(output.text(), QByteArray());
 }
 
@@ -136,19 +134,18 @@ void TestFormVendelLists::aDoubledNameIsSaidAndMarked()
     QCOMPARE(rowCount(counter.window, "tableView1"), 3);
     for (int row = 0; row < 3; ++row) {
         const QStringList texts = rowTexts(counter.window, "tableView1", row);
-        QCOMPARE(
-            texts.at(mark), texts.at(0) == QLatin1String("1") ? QStringLiteral("X") : QString());
+        QCOMPARE(texts.at(mark), texts.at(0) == QLatin1String("1") ? QString("X") : QString());
     }
 }
 
 void TestFormVendelLists::marksComeAfterTheNotice()
 {
     Till counter("insert into Article (article, prix) values ('Eau', 1), ('Eau', 2)");
-    QString marksDuringTheNotice = QStringLiteral("?");
+    QString marksDuringTheNotice = QString("?");
     AnswerBox box(QMessageBox::Ok, [&](QMessageBox&) { marksDuringTheNotice = marks(counter); });
     click(counter.window, "btn_Afficher");
-    QCOMPARE(marksDuringTheNotice, QStringLiteral("|"));
-    QVERIFY(marks(counter).contains(QLatin1Char('X')));
+    QCOMPARE(marksDuringTheNotice, QString("|"));
+    QVERIFY(marks(counter).contains('X'));
 }
 
 void TestFormVendelLists::twoDoubledNamesAreTwoMarks()
@@ -158,8 +155,8 @@ void TestFormVendelLists::twoDoubledNamesAreTwoMarks()
     AnswerBox box;
     click(counter.window, "btn_Afficher");
     QCOMPARE(box.text(),
-        QStringLiteral("Supprimer le(s) 2 doublon(s) note(s) X...\n"
-                       "Allez dans le menu Vendel Saisie Article"));
+        QString("Supprimer le(s) 2 doublon(s) note(s) X...\n"
+                "Allez dans le menu Vendel Saisie Article"));
     QStringList marked;
     for (int row = 0; row < 5; ++row) {
         const QStringList texts = rowTexts(counter.window, "tableView1", row);
@@ -168,7 +165,7 @@ void TestFormVendelLists::twoDoubledNamesAreTwoMarks()
         }
     }
     marked.sort();
-    QCOMPARE(marked, (QStringList{QStringLiteral("Eau"), QStringLiteral("Vin")}));
+    QCOMPARE(marked, (QStringList{QString("Eau"), QString("Vin")}));
 }
 
 void TestFormVendelLists::accentedLettersAreNotFolded()
@@ -183,12 +180,12 @@ void TestFormVendelLists::accentedLettersAreNotFolded()
 void TestFormVendelLists::theNoticeOfDoublesIsTranslatedWithItsNumber()
 {
     Translation translation;
-    const QString context = QStringLiteral("FormVendelMessages");
-    const QString source = QStringLiteral("Supprimer le(s) %n doublon(s) note(s) X...\n"
-                                          "Allez dans le menu Vendel Saisie Article");
-    translation.add(context, source, QStringLiteral("Delete %n double"));
-    translation.addPlural(context, source, QStringLiteral("Delete %n doubles"));
-    translation.add(context, QStringLiteral("Doublon"), QStringLiteral("Doubles"));
+    const QString context = QString("FormVendelMessages");
+    const QString source = QString("Supprimer le(s) %n doublon(s) note(s) X...\n"
+                                   "Allez dans le menu Vendel Saisie Article");
+    translation.add(context, source, QString("Delete %n double"));
+    translation.addPlural(context, source, QString("Delete %n doubles"));
+    translation.add(context, QString("Doublon"), QString("Doubles"));
     Till counter("insert into Article (article, prix) values ('Eau', 1), ('Eau', 2)");
     {
         AnswerBox box;
@@ -209,7 +206,7 @@ void TestFormVendelLists::thousandsOfArticlesAreShown()
     click(counter.window, "btn_Afficher");
     QVERIFY(box.text().contains(QLatin1String(" 10 doublon(s) ")));
     QCOMPARE(rowCount(counter.window, "tableView1"), 3000);
-    QCOMPARE(marks(counter).count(QLatin1Char('X')), 10);
+    QCOMPARE(marks(counter).count('X'), 10);
 }
 
 void TestFormVendelLists::theTicketIsShownAsItIsStored()
@@ -220,11 +217,11 @@ void TestFormVendelLists::theTicketIsShownAsItIsStored()
     click(counter.window, "btn_Ticket");
     QStringList rows;
     for (int row = 0; row < rowCount(counter.window, "tableView2"); ++row) {
-        rows << rowTexts(counter.window, "tableView2", row).join(QLatin1Char(';'));
+        rows << rowTexts(counter.window, "tableView2", row).join(';');
     }
     QCOMPARE(rows,
-        (QStringList{QStringLiteral("7;3;Thé;2.50$"), QStringLiteral("8;2;Eau;1.00$"),
-            QStringLiteral("9;0;----;-1,234.50$")}));
+        (QStringList{
+            QString("7;3;Thé;2.50$"), QString("8;2;Eau;1.00$"), QString("9;0;----;-1,234.50$")}));
     QTest::qWait(20);
     QVERIFY(!box.wasShown());
 }
@@ -307,17 +304,17 @@ void TestFormVendelLists::theTotalOfAnEmptyTicketLeavesTheList()
     counter.shop.sql("delete from Ticket");
     const AnswerBox box;
     click(counter.window, "btn_Total_Ticket");
-    QCOMPARE(box.title(), QStringLiteral("Total"));
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Thé"));
+    QCOMPARE(box.title(), QString("Total"));
+    QCOMPARE(counter.names("tableView2"), QString("Thé"));
 }
 
 void TestFormVendelLists::messagesAreTranslated()
 {
     Translation translation;
-    const QString context = QStringLiteral("FormVendelMessages");
-    translation.add(context, QStringLiteral("Le ticket est vide"), QStringLiteral("Nothing sold"));
-    translation.add(context, QStringLiteral("Effacer ticket"), QStringLiteral("Clear"));
-    translation.add(context, QStringLiteral("Total"), QStringLiteral("Sum"));
+    const QString context = QString("FormVendelMessages");
+    translation.add(context, QString("Le ticket est vide"), QString("Nothing sold"));
+    translation.add(context, QString("Effacer ticket"), QString("Clear"));
+    translation.add(context, QString("Total"), QString("Sum"));
     Till counter;
     {
         AnswerBox box;
@@ -370,5 +367,5 @@ void TestFormVendelLists::aRefilledTicketShowsItsFirstLine()
     QCOMPARE(view.indexAt(QPoint(5, 5)).row(), 0);
 }
 
-VENDEL_TEST_MAIN(TestFormVendelLists)
+VENDEL_TEST(TestFormVendelLists)
 #include "tst_FormVendelLists.moc"

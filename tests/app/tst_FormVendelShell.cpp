@@ -3,7 +3,7 @@
 #include "app/FormVendelStart.h"
 #include "tests/app/Till.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
@@ -49,9 +49,9 @@ void TestFormVendelShell::aMissingDatabaseIsMadeBeforeTheFirstShow()
     QCOMPARE(shop.cell("select count(*) from sqlite_master where type = 'table' and name in "
                        "('Article', 'ArticleStock', 'Historique', 'DoseStock', 'Config', "
                        "'Ticket')"),
-        QStringLiteral("6"));
+        QString("6"));
     QCOMPARE(shop.cell("select name from sqlite_master where type = 'index'"),
-        QStringLiteral("date_heure_index"));
+        QString("date_heure_index"));
     QCOMPARE(shop.sql("select param, valeur from Config"),
         (DbRows{{"TVA", "0"}, {"Epson TM-T20II", "0"}}));
     QCOMPARE(output.text(), QByteArray());
@@ -61,22 +61,22 @@ void TestFormVendelShell::anExistingDatabaseStaysAsItIs()
 {
     const Shop shop;
     shop.sql("update Config set valeur = 20 where param = 'TVA'");
-    const QByteArray before = shop.read(QStringLiteral("Vendel.db"));
+    const QByteArray before = shop.read(QString("Vendel.db"));
     {
         FormVendel window;
         window.show();
         QTRY_VERIFY(child<QLabel>(window, "lbl_DateTime").text() != QLatin1String("DateTime"));
     }
-    QCOMPARE(shop.read(QStringLiteral("Vendel.db")), before);
-    QCOMPARE(QDir().entryList(QDir::Files), QStringList(QStringLiteral("Vendel.db")));
+    QCOMPARE(shop.read(QString("Vendel.db")), before);
+    QCOMPARE(QDir().entryList(QDir::Files), QStringList(QString("Vendel.db")));
 }
 
 void TestFormVendelShell::anExistingFileOfAnyKindStaysAsItIs()
 {
     const Shop shop(Shop::Database::None);
-    shop.write(QStringLiteral("Vendel.db"), QByteArray());
+    shop.write(QString("Vendel.db"), QByteArray());
     const FormVendel window;
-    QCOMPARE(shop.read(QStringLiteral("Vendel.db")), QByteArray());
+    QCOMPARE(shop.read(QString("Vendel.db")), QByteArray());
 }
 
 void TestFormVendelShell::theClockTicksTenTimesASecond()
@@ -95,10 +95,9 @@ void TestFormVendelShell::theClockShowsDateAndTime()
     const Shop shop;
     FormVendel window;
     const auto& label = child<QLabel>(window, "lbl_DateTime");
-    QCOMPARE(label.text(), QStringLiteral("DateTime"));
-    const QRegularExpression odd(QStringLiteral("^\\d\\d/\\d\\d/\\d{4} \\d\\d:\\d\\d:\\d[13579]$"));
-    const QRegularExpression even(
-        QStringLiteral("^\\d\\d/\\d\\d/\\d{4} \\d\\d \\d\\d \\d[02468]$"));
+    QCOMPARE(label.text(), QString("DateTime"));
+    const QRegularExpression odd(QString("^\\d\\d/\\d\\d/\\d{4} \\d\\d:\\d\\d:\\d[13579]$"));
+    const QRegularExpression even(QString("^\\d\\d/\\d\\d/\\d{4} \\d\\d \\d\\d \\d[02468]$"));
     QTRY_VERIFY2(odd.match(label.text()).hasMatch(), qPrintable(label.text()));
     QTRY_VERIFY2(even.match(label.text()).hasMatch(), qPrintable(label.text()));
 }
@@ -106,13 +105,12 @@ void TestFormVendelShell::theClockShowsDateAndTime()
 void TestFormVendelShell::theClockFollowsTheTranslatedPattern()
 {
     Translation translation;
-    translation.add(QStringLiteral("FormVendelMessages"), QStringLiteral("dd/MM/yyyy"),
-        QStringLiteral("yyyy-MM-dd"));
+    translation.add(QString("FormVendelMessages"), QString("dd/MM/yyyy"), QString("yyyy-MM-dd"));
     const Shop shop;
     FormVendel window;
     QVERIFY(QMetaObject::invokeMethod(&window, "on_timeout"));
     const QString text = child<QLabel>(window, "lbl_DateTime").text();
-    QVERIFY2(QRegularExpression(QStringLiteral("^\\d{4}-\\d\\d-\\d\\d ")).match(text).hasMatch(),
+    QVERIFY2(QRegularExpression(QString("^\\d{4}-\\d\\d-\\d\\d ")).match(text).hasMatch(),
         qPrintable(text));
 }
 
@@ -207,8 +205,8 @@ void TestFormVendelShell::thePrinterSwitchIsLogged()
     FormVendel window;
     QCOMPARE(log.debugs(), QStringList());
     window.show();
-    QCOMPARE(log.debugs(),
-        isLogged ? QStringList(QStringLiteral("Warning Epson to 1 (ON)")) : QStringList());
+    QCOMPARE(
+        log.debugs(), isLogged ? QStringList(QString("Warning Epson to 1 (ON)")) : QStringList());
     QCOMPARE(log.criticals(), QStringList());
 }
 
@@ -219,7 +217,7 @@ void TestFormVendelShell::aPrinterSwitchThatIsNoNumberIsLogged()
     const CapturedLog log;
     FormVendel window;
     window.show();
-    QCOMPARE(log.criticals(), QStringList(QStringLiteral("Errors FormVendel showEvent : stoi")));
+    QCOMPARE(log.criticals(), QStringList(QString("Errors FormVendel showEvent : stoi")));
     QCOMPARE(log.debugs(), QStringList());
     QVERIFY(window.isVisible());
 }
@@ -232,7 +230,7 @@ void TestFormVendelShell::everyPrinterSwitchIsRead()
     const CapturedLog log;
     FormVendel window;
     window.show();
-    QCOMPARE(log.debugs().count(QStringLiteral("Warning Epson to 1 (ON)")), 2);
+    QCOMPARE(log.debugs().count(QString("Warning Epson to 1 (ON)")), 2);
 
     shop.fill("delete from Config");
     FormVendel other;
@@ -279,5 +277,5 @@ void TestFormVendelShell::menuActionsOpenTheirWindows()
     QCOMPARE(rowCount(counter.window, "tableView1"), 0);
 }
 
-VENDEL_TEST_MAIN(TestFormVendelShell)
+VENDEL_TEST(TestFormVendelShell)
 #include "tst_FormVendelShell.moc"

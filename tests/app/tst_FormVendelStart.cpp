@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendelStart.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
@@ -24,17 +24,17 @@ void TestFormVendelStart::looksLikeTheSplash()
 {
     QWidget opener;
     FormVendelStart splash(&opener);
-    QCOMPARE(splash.objectName(), QStringLiteral("FormVendelStart"));
+    QCOMPARE(splash.objectName(), QString("FormVendelStart"));
     QCOMPARE(splash.size(), QSize(445, 186));
     QCOMPARE(splash.minimumSize(), QSize(445, 186));
     QCOMPARE(splash.maximumSize(), QSize(445, 186));
     QCOMPARE(splash.sizeIncrement(), QSize(445, 186));
     QCOMPARE(splash.layoutDirection(), Qt::LeftToRight);
-    QCOMPARE(splash.styleSheet(), QStringLiteral("background-color: rgb(114, 159, 207)"));
+    QCOMPARE(splash.styleSheet(), QString("background-color: rgb(114, 159, 207)"));
     QCOMPARE(splash.windowModality(), Qt::WindowModal);
     QVERIFY(splash.isModal());
     QVERIFY(!splash.testAttribute(Qt::WA_DeleteOnClose));
-    QCOMPARE(splash.windowTitle(), QStringLiteral("Dialog"));
+    QCOMPARE(splash.windowTitle(), QString("Dialog"));
     QCOMPARE(splash.parentWidget(), &opener);
 }
 
@@ -44,7 +44,7 @@ void TestFormVendelStart::showsItsTitle()
     FormVendelStart splash(&opener);
     QCOMPARE(splash.findChildren<QLabel*>().size(), 1);
     const auto& title = child<QLabel>(splash, "lbl_Titre");
-    QCOMPARE(title.text(), QStringLiteral("Système Vendel"));
+    QCOMPARE(title.text(), QString("Système Vendel"));
     QCOMPARE(title.geometry(), QRect(16, 57, 417, 63));
     QCOMPARE(title.font().pointSize(), 40);
     QCOMPARE(title.alignment(), Qt::Alignment(Qt::AlignCenter));
@@ -53,11 +53,11 @@ void TestFormVendelStart::showsItsTitle()
 void TestFormVendelStart::isTranslated()
 {
     Translation translation;
-    translation.add(QStringLiteral("FormVendelStart"), QStringLiteral("Système Vendel"),
-        QStringLiteral("Vendel System"));
+    translation.add(
+        QString("FormVendelStart"), QString("Système Vendel"), QString("Vendel System"));
     QWidget opener;
     FormVendelStart splash(&opener);
-    QCOMPARE(child<QLabel>(splash, "lbl_Titre").text(), QStringLiteral("Vendel System"));
+    QCOMPARE(child<QLabel>(splash, "lbl_Titre").text(), QString("Vendel System"));
 }
 
 void TestFormVendelStart::closesAtTheFifthTick()
@@ -92,5 +92,5 @@ void TestFormVendelStart::everySlotFindsItsWidget()
     QCOMPARE(log.criticals(), QStringList());
 }
 
-VENDEL_TEST_MAIN(TestFormVendelStart)
+VENDEL_TEST(TestFormVendelStart)
 #include "tst_FormVendelStart.moc"

@@ -3,7 +3,7 @@
 #include "app/Payment.h"
 #include "tests/app/PrintedReceipt.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 #include "widgets/Windows.h"
 
@@ -86,7 +86,7 @@ void TestFormVendelTicket::looksLikeTheReceiptsWindow()
     QWidget opener;
     FormVendelTicket window(Payment::receipt(), &opener);
     QVERIFY(qobject_cast<QDialog*>(&window) != nullptr);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Impression Ticket"));
+    QCOMPARE(window.windowTitle(), QString("Impression Ticket"));
     QCOMPARE(window.size(), QSize(477, 414));
     QCOMPARE(window.minimumSize(), QSize(477, 414));
     QCOMPARE(window.maximumSize(), QSize(477, 414));
@@ -105,21 +105,20 @@ void TestFormVendelTicket::showsWhatThePrinterPrints()
     const QDateTime before = QDateTime::currentDateTime();
     FormVendelTicket window(Payment::receipt(), &opener);
     const QDateTime after = QDateTime::currentDateTime();
-    QStringList lines = receiptOf(window).toPlainText().split(QLatin1Char('\n'));
-    const QStringList expected{QStringLiteral("Chez Paul"),
-        QStringLiteral("                   12 rue X                   "), QString(), QString(),
-        QStringLiteral("Produit\t\t\t     "), QString(),
-        QStringLiteral("Qtité  Article\t\tPrix U   Prix * Qtité"), QString(),
-        QStringLiteral("1  Croque-monsieur\t$5.00       $5.00"),
-        QStringLiteral("2  Thé; citron   \t$2.50       $5.00"), QString(),
-        QStringLiteral("->  Total ticket\t\t    $10.00"),
-        QStringLiteral("->  TVA 20.00%\t\t\t    $2.01"),
-        QStringLiteral("------------------------------------------------"),
-        QStringLiteral("->  TOTAL \t    $12.01"), QString(),
-        QStringLiteral("              Merci ; à bientôt              "), QString()};
+    QStringList lines = receiptOf(window).toPlainText().split('\n');
+    const QStringList expected{QString("Chez Paul"),
+        QString("                   12 rue X                   "), QString(), QString(),
+        QString("Produit\t\t\t     "), QString(),
+        QString("Qtité  Article\t\tPrix U   Prix * Qtité"), QString(),
+        QString("1  Croque-monsieur\t$5.00       $5.00"),
+        QString("2  Thé; citron   \t$2.50       $5.00"), QString(),
+        QString("->  Total ticket\t\t    $10.00"), QString("->  TVA 20.00%\t\t\t    $2.01"),
+        QString("------------------------------------------------"),
+        QString("->  TOTAL \t    $12.01"), QString(),
+        QString("              Merci ; à bientôt              "), QString()};
     QVERIFY(lines.size() > 4);
     const QDateTime shown
-        = QDateTime::fromString(lines.at(4).right(19), QStringLiteral("dd/MM/yyyy hh:mm:ss"));
+        = QDateTime::fromString(lines.at(4).right(19), QString("dd/MM/yyyy hh:mm:ss"));
     QVERIFY(shown >= before.addSecs(-1) && shown <= after);
     lines[4].chop(19);
     QCOMPARE(lines, expected);
@@ -167,12 +166,11 @@ void TestFormVendelTicket::writesTwelvePointsInAFixedPitch()
     FormVendelTicket window(Payment::receipt(), &opener);
     const auto& edit = receiptOf(window);
     QCOMPARE(edit.font().pointSize(), 12);
-    const QFont font = fontOf(lineStarting(edit, QStringLiteral("Produit")));
+    const QFont font = fontOf(lineStarting(edit, QString("Produit")));
     QCOMPARE(font.pointSize(), 12);
     QVERIFY(QFontInfo(font).fixedPitch());
     const QFontMetricsF metrics(font);
-    QCOMPARE(
-        metrics.horizontalAdvance(QLatin1Char('i')), metrics.horizontalAdvance(QLatin1Char('M')));
+    QCOMPARE(metrics.horizontalAdvance('i'), metrics.horizontalAdvance('M'));
 }
 
 void TestFormVendelTicket::fortyEightColumnsFitBesideTheScrollBar()
@@ -187,7 +185,7 @@ void TestFormVendelTicket::fortyEightColumnsFitBesideTheScrollBar()
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
     QVERIFY(edit.verticalScrollBar()->isVisible());
-    for (const QString& start : {QString(lineOf48), QString(48, QLatin1Char('-'))}) {
+    for (const QString& start : {QString(lineOf48), QString(48, '-')}) {
         const QTextBlock block = lineStarting(edit, start);
         QCOMPARE(block.layout()->lineCount(), 1);
         const double left = block.layout()->position().x();
@@ -208,8 +206,8 @@ void TestFormVendelTicket::nothingIsWiderThanTheWindow()
     const auto& edit = receiptOf(window);
     QVERIFY(!edit.horizontalScrollBar()->isVisible());
     // The widest total: above a thousand there is none.
-    const QTextBlock total = lineStarting(edit, QStringLiteral("->  TOTAL"));
-    QCOMPARE(total.text(), QStringLiteral("->  TOTAL \t    $1,199.99"));
+    const QTextBlock total = lineStarting(edit, QString("->  TOTAL"));
+    QCOMPARE(total.text(), QString("->  TOTAL \t    $1,199.99"));
     for (QTextBlock line = edit.document()->begin(); line.isValid(); line = line.next()) {
         QCOMPARE(line.layout()->lineCount(), 1);
         const double right
@@ -231,7 +229,7 @@ void TestFormVendelTicket::columnsStandUnderEachOther()
         const QTextBlock block = lineStarting(edit, QString::fromUtf8(start));
         return xOf(block, int(block.text().indexOf(QString::fromUtf8(text))));
     };
-    const double width = xOf(lineStarting(edit, QStringLiteral("---")), 1);
+    const double width = xOf(lineStarting(edit, QString("---")), 1);
     QCOMPARE(column("Qtité", "Prix U"), 24 * width);
     QCOMPARE(column("1  Croque", "$5.00"), 24 * width);
     QCOMPARE(column("2  Thé", "$2.50"), 24 * width);
@@ -250,14 +248,14 @@ void TestFormVendelTicket::aTitleIsBigBoldAndCentredOverThePaper()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
-    const QTextBlock title = lineStarting(edit, QStringLiteral("Chez Paul"));
+    const QTextBlock title = lineStarting(edit, QString("Chez Paul"));
     QCOMPARE(fontOf(title).pointSize(), 24);
     QVERIFY(fontOf(title).bold());
     const auto middle = [](const QTextBlock& block) {
         return block.layout()->position().x()
             + block.layout()->lineAt(0).naturalTextRect().center().x();
     };
-    const QTextBlock rule = lineStarting(edit, QStringLiteral("---"));
+    const QTextBlock rule = lineStarting(edit, QString("---"));
     QVERIFY(qAbs(middle(title) - middle(rule)) <= 1);
 }
 
@@ -268,9 +266,9 @@ void TestFormVendelTicket::theHeaderIsBoldAndTheFooterIsNot()
     QWidget opener;
     FormVendelTicket window(Payment::receipt(), &opener);
     const auto& edit = receiptOf(window);
-    QVERIFY(fontOf(lineStarting(edit, QStringLiteral("                   12"))).bold());
-    QVERIFY(!fontOf(lineStarting(edit, QStringLiteral("              Merci"))).bold());
-    QVERIFY(!fontOf(lineStarting(edit, QStringLiteral("->  Total ticket"))).bold());
+    QVERIFY(fontOf(lineStarting(edit, QString("                   12"))).bold());
+    QVERIFY(!fontOf(lineStarting(edit, QString("              Merci"))).bold());
+    QVERIFY(!fontOf(lineStarting(edit, QString("->  Total ticket"))).bold());
 }
 
 void TestFormVendelTicket::theTotalIsBoldAndTwiceAsWide()
@@ -282,9 +280,9 @@ void TestFormVendelTicket::theTotalIsBoldAndTwiceAsWide()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
-    const QTextBlock total = lineStarting(edit, QStringLiteral("->  TOTAL"));
+    const QTextBlock total = lineStarting(edit, QString("->  TOTAL"));
     QVERIFY(fontOf(total).bold());
-    const double width = xOf(lineStarting(edit, QStringLiteral("---")), 1);
+    const double width = xOf(lineStarting(edit, QString("---")), 1);
     QVERIFY(qAbs(xOf(total, 10) - 20 * width) < 1);
     // The tab stops stay where they are.
     QCOMPARE(xOf(total, 11), 24 * width);
@@ -301,8 +299,8 @@ void TestFormVendelTicket::aLongNameIsWrappedAndNotLost()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto& edit = receiptOf(window);
-    const QTextBlock item = lineStarting(edit, QStringLiteral("1  xxx"));
-    QCOMPARE(item.text().count(QLatin1Char('x')), 10'000);
+    const QTextBlock item = lineStarting(edit, QString("1  xxx"));
+    QCOMPARE(item.text().count('x'), 10'000);
     // 10,003 characters in lines of 48.
     QCOMPARE(item.layout()->lineCount(), 209);
     QVERIFY(!edit.horizontalScrollBar()->isVisible());
@@ -316,9 +314,9 @@ void TestFormVendelTicket::aTextLikeHtmlIsShownAsText()
     QWidget opener;
     FormVendelTicket window(Payment::receipt(), &opener);
     const QString text = receiptOf(window).toPlainText();
-    QVERIFY(text.startsWith(QStringLiteral("                  <b>Chez</b>                  \n"
-                                           "                     ;;_ _                     \n")));
-    QVERIFY(text.contains(QStringLiteral("\n1  <h1>Eau</h1>   \t$1.00       $1.00\n")));
+    QVERIFY(text.startsWith(QString("                  <b>Chez</b>                  \n"
+                                    "                     ;;_ _                     \n")));
+    QVERIFY(text.contains(QString("\n1  <h1>Eau</h1>   \t$1.00       $1.00\n")));
 }
 
 void TestFormVendelTicket::aCharacterThatThePrinterLacksIsShown()
@@ -340,7 +338,7 @@ void TestFormVendelTicket::carriageReturnsAreNotShown()
     QWidget opener;
     FormVendelTicket window(Payment::receipt(), &opener);
     QVERIFY(receiptOf(window).toPlainText().startsWith(
-        QStringLiteral("                      ab                      \nPaul\n")));
+        QString("                      ab                      \nPaul\n")));
 }
 
 void TestFormVendelTicket::aHeaderOfAMegabyteIsShownWhole()
@@ -351,7 +349,7 @@ void TestFormVendelTicket::aHeaderOfAMegabyteIsShownWhole()
     FormVendelTicket window(Payment::receipt(), &opener);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(receiptOf(window).toPlainText().count(QStringLiteral("Paul\n")), 90'000);
+    QCOMPARE(receiptOf(window).toPlainText().count(QString("Paul\n")), 90'000);
 }
 
 void TestFormVendelTicket::isDeletedWhenItIsClosed()
@@ -371,5 +369,5 @@ void TestFormVendelTicket::isDeletedWhenItIsClosed()
     }
 }
 
-VENDEL_TEST_MAIN(TestFormVendelTicket)
+VENDEL_TEST(TestFormVendelTicket)
 #include "tst_FormVendelTicket.moc"

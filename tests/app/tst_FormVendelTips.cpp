@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/FormVendelStart.h"
 #include "tests/app/Till.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
@@ -70,7 +70,7 @@ struct OpenCounter : Till
     }
 };
 
-const QString eauOnMenu = QStringLiteral("Menu\nClick sur : Eau\nPour l'ajouter au ticket");
+const QString eauOnMenu = QString("Menu\nClick sur : Eau\nPour l'ajouter au ticket");
 
 QPoint tipPosition()
 {
@@ -97,7 +97,7 @@ void TestFormVendelTips::theMenusTipNamesTheArticle()
     QVERIFY(QToolTip::isVisible());
     QCOMPARE(QToolTip::text(), eauOnMenu);
     counter.hover("tableView1", 1, 2);
-    QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick sur : Thé\nPour l'ajouter au ticket"));
+    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : Thé\nPour l'ajouter au ticket"));
 }
 
 void TestFormVendelTips::theTicketsTipNamesTheLine()
@@ -105,8 +105,8 @@ void TestFormVendelTips::theTicketsTipNamesTheLine()
     OpenCounter counter;
     counter.hover("tableView2", 0, 2);
     QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(),
-        QStringLiteral("Ticket\nClick sur : Eau\nPour supprimer l'article du ticket"));
+    QCOMPARE(
+        QToolTip::text(), QString("Ticket\nClick sur : Eau\nPour supprimer l'article du ticket"));
 }
 
 void TestFormVendelTips::everyColumnTellsTheName()
@@ -135,7 +135,7 @@ void TestFormVendelTips::aTotalHasATipToo()
     click(counter.window, "btn_Total_Ticket");
     counter.hover("tableView2", 1, 2);
     QCOMPARE(QToolTip::text(),
-        QStringLiteral("Ticket\nClick sur : Total ticket\nPour supprimer l'article du ticket"));
+        QString("Ticket\nClick sur : Total ticket\nPour supprimer l'article du ticket"));
 }
 
 void TestFormVendelTips::anEmptyAreaHidesTheTip()
@@ -280,42 +280,39 @@ void TestFormVendelTips::aNameLikeATagIsPlainText()
     OpenCounter counter("insert into Article (article, prix) values ('<b>x</b>', 1);"
                         "insert into Ticket (id, article, prix) values (1, '&lt;', 1)");
     counter.hover("tableView1", 0, 2);
-    QCOMPARE(
-        QToolTip::text(), QStringLiteral("Menu\nClick sur : <b>x</b>\nPour l'ajouter au ticket"));
+    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : <b>x</b>\nPour l'ajouter au ticket"));
     QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
     counter.hover("tableView2", 0, 2);
-    QCOMPARE(QToolTip::text(),
-        QStringLiteral("Ticket\nClick sur : &lt;\nPour supprimer l'article du ticket"));
+    QCOMPARE(
+        QToolTip::text(), QString("Ticket\nClick sur : &lt;\nPour supprimer l'article du ticket"));
     QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
 }
 
 void TestFormVendelTips::aTranslationWithoutALineBreakIsPlainTextToo()
 {
     Translation translation;
-    translation.add(QStringLiteral("FormVendelMessages"), QStringLiteral("Menu\nClick sur : "),
-        QStringLiteral("Click: "));
+    translation.add(
+        QString("FormVendelMessages"), QString("Menu\nClick sur : "), QString("Click: "));
     OpenCounter counter("insert into Article (article, prix) values ('<b>x</b>', 1)");
     counter.hover("tableView1", 0, 2);
     QCOMPARE(QToolTip::text(),
-        QStringLiteral("<p>Click: &lt;b&gt;x&lt;/b&gt;<br>\nPour l'ajouter au ticket</p>"));
+        QString("<p>Click: &lt;b&gt;x&lt;/b&gt;<br>\nPour l'ajouter au ticket</p>"));
 }
 
 void TestFormVendelTips::tipsAreTranslated()
 {
     Translation translation;
-    const QString context = QStringLiteral("FormVendelMessages");
-    translation.add(context, QStringLiteral("Menu\nClick sur : "), QStringLiteral("Menu\nClick: "));
+    const QString context = QString("FormVendelMessages");
+    translation.add(context, QString("Menu\nClick sur : "), QString("Menu\nClick: "));
+    translation.add(context, QString("\nPour l'ajouter au ticket"), QString("\nto add it"));
+    translation.add(context, QString("Ticket\nClick sur : "), QString("Ticket\nClick: "));
     translation.add(
-        context, QStringLiteral("\nPour l'ajouter au ticket"), QStringLiteral("\nto add it"));
-    translation.add(
-        context, QStringLiteral("Ticket\nClick sur : "), QStringLiteral("Ticket\nClick: "));
-    translation.add(context, QStringLiteral("\nPour supprimer l'article du ticket"),
-        QStringLiteral("\nto take it off"));
+        context, QString("\nPour supprimer l'article du ticket"), QString("\nto take it off"));
     OpenCounter counter;
     counter.hover("tableView1", 0, 2);
-    QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick: Eau\nto add it"));
+    QCOMPARE(QToolTip::text(), QString("Menu\nClick: Eau\nto add it"));
     counter.hover("tableView2", 0, 2);
-    QCOMPARE(QToolTip::text(), QStringLiteral("Ticket\nClick: Eau\nto take it off"));
+    QCOMPARE(QToolTip::text(), QString("Ticket\nClick: Eau\nto take it off"));
 }
 
 void TestFormVendelTips::aNameOfTenThousandCharactersIsCut()
@@ -328,5 +325,5 @@ void TestFormVendelTips::aNameOfTenThousandCharactersIsCut()
             + QLatin1String("\nPour l'ajouter au ticket"));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelTips)
+VENDEL_TEST(TestFormVendelTips)
 #include "tst_FormVendelTips.moc"

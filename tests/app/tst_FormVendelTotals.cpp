@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
@@ -46,7 +46,7 @@ struct TotalledCounter : Till
     {
         QStringList texts;
         for (int row = 0; row < rowCount(window, "tableView2"); ++row) {
-            texts << rowTexts(window, "tableView2", row).join(QLatin1Char(';'));
+            texts << rowTexts(window, "tableView2", row).join(';');
         }
         return texts;
     }
@@ -58,8 +58,8 @@ void TestFormVendelTotals::anEmptyTicketIsSaid()
     Till counter;
     AnswerBox box;
     click(counter.window, "btn_Total_Ticket");
-    QCOMPARE(box.title(), QStringLiteral("Total"));
-    QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+    QCOMPARE(box.title(), QString("Total"));
+    QCOMPARE(box.text(), QString("Le ticket est vide"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.parent(), &counter.window);
@@ -71,17 +71,17 @@ void TestFormVendelTotals::standBelowTheLines()
 {
     TotalledCounter counter(tenLessTwoAndAHalf);
     QCOMPARE(counter.rows(),
-        (QStringList{QStringLiteral("1;1;Menu;10.00$"), QStringLiteral("2;0;----;-2.50$"),
-            QStringLiteral("0;->;Total ticket;7.50$"), QStringLiteral("0;->;TVA 20.00%;1.50$"),
-            QStringLiteral("0;->;TOTAL ;$9.01")}));
+        (QStringList{QString("1;1;Menu;10.00$"), QString("2;0;----;-2.50$"),
+            QString("0;->;Total ticket;7.50$"), QString("0;->;TVA 20.00%;1.50$"),
+            QString("0;->;TOTAL ;$9.01")}));
 }
 
 void TestFormVendelTotals::haveTheHalfCentAtNoTax()
 {
     TotalledCounter counter("insert into Ticket (id, article, prix) values (1, 'Menu', 7.5)");
     QCOMPARE(counter.rows().mid(1),
-        (QStringList{QStringLiteral("0;->;Total ticket;7.50$"),
-            QStringLiteral("0;->;TVA 0.00%;0.00$"), QStringLiteral("0;->;TOTAL ;$7.51")}));
+        (QStringList{QString("0;->;Total ticket;7.50$"), QString("0;->;TVA 0.00%;0.00$"),
+            QString("0;->;TOTAL ;$7.51")}));
 }
 
 void TestFormVendelTotals::countAThousandAsNothing()
@@ -90,8 +90,8 @@ void TestFormVendelTotals::countAThousandAsNothing()
         "insert into Ticket (id, article, prix) values (1, 'Fût', 999.5), (1, 'Vin', 235);"
         "update Config set valeur = 20 where param = 'TVA'");
     QCOMPARE(counter.rows().mid(2),
-        (QStringList{QStringLiteral("0;->;Total ticket;1,234.50$"),
-            QStringLiteral("0;->;TVA 20.00%;0.00$"), QStringLiteral("0;->;TOTAL ;$0.00")}));
+        (QStringList{QString("0;->;Total ticket;1,234.50$"), QString("0;->;TVA 20.00%;0.00$"),
+            QString("0;->;TOTAL ;$0.00")}));
 }
 
 void TestFormVendelTotals::withoutARateThereIsNoTaxRow()
@@ -99,8 +99,7 @@ void TestFormVendelTotals::withoutARateThereIsNoTaxRow()
     TotalledCounter counter("insert into Ticket (id, article, prix) values (1, 'Menu', 7.5);"
                             "delete from Config where param = 'TVA'");
     QCOMPARE(counter.rows().mid(1),
-        (QStringList{
-            QStringLiteral("0;->;Total ticket;7.50$"), QStringLiteral("0;->;TOTAL ;$7.50")}));
+        (QStringList{QString("0;->;Total ticket;7.50$"), QString("0;->;TOTAL ;$7.50")}));
 }
 
 void TestFormVendelTotals::everyRateHasItsRow()
@@ -109,9 +108,8 @@ void TestFormVendelTotals::everyRateHasItsRow()
                             "update Config set valeur = 20 where param = 'TVA';"
                             "insert into Config (param, valeur) values ('TVA', 5.5)");
     QCOMPARE(counter.rows().mid(1),
-        (QStringList{QStringLiteral("0;->;Total ticket;10.00$"),
-            QStringLiteral("0;->;TVA 20.00%;2.01$"), QStringLiteral("0;->;TVA 5.50%;0.56$"),
-            QStringLiteral("0;->;TOTAL ;$10.56")}));
+        (QStringList{QString("0;->;Total ticket;10.00$"), QString("0;->;TVA 20.00%;2.01$"),
+            QString("0;->;TVA 5.50%;0.56$"), QString("0;->;TOTAL ;$10.56")}));
 }
 
 void TestFormVendelTotals::aRateThatIsNoNumberIsZero()
@@ -119,14 +117,14 @@ void TestFormVendelTotals::aRateThatIsNoNumberIsZero()
     TotalledCounter counter("insert into Ticket (id, article, prix) values (1, 'Menu', 7.5);"
                             "update Config set valeur = 'vingt' where param = 'TVA'");
     QCOMPARE(counter.rows().mid(2),
-        (QStringList{QStringLiteral("0;->;TVA 0.00%;0.00$"), QStringLiteral("0;->;TOTAL ;$7.51")}));
+        (QStringList{QString("0;->;TVA 0.00%;0.00$"), QString("0;->;TOTAL ;$7.51")}));
 }
 
 void TestFormVendelTotals::theRatesNameIsComparedWithoutCase()
 {
     TotalledCounter counter("insert into Ticket (id, article, prix) values (1, 'Menu', 10);"
                             "update Config set valeur = 20, param = 'tva' where param = 'TVA'");
-    QCOMPARE(counter.rows().at(2), QStringLiteral("0;->;TVA 20.00%;2.01$"));
+    QCOMPARE(counter.rows().at(2), QString("0;->;TVA 20.00%;2.01$"));
 }
 
 void TestFormVendelTotals::standOnYellow()
@@ -145,21 +143,20 @@ void TestFormVendelTotals::disappearWhenTheTicketIsShownAgain()
 {
     TotalledCounter counter(tenLessTwoAndAHalf);
     click(counter.window, "btn_Ticket");
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Menu|----"));
+    QCOMPARE(counter.names("tableView2"), QString("Menu|----"));
 }
 
 void TestFormVendelTotals::areShownOnceHoweverOftenAsked()
 {
     TotalledCounter counter(tenLessTwoAndAHalf);
     click(counter.window, "btn_Total_Ticket");
-    QCOMPARE(
-        counter.names("tableView2"), QStringLiteral("Menu|----|Total ticket|TVA 20.00%|TOTAL "));
+    QCOMPARE(counter.names("tableView2"), QString("Menu|----|Total ticket|TVA 20.00%|TOTAL "));
 }
 
 void TestFormVendelTotals::areStoredNowhere()
 {
     const TotalledCounter counter(tenLessTwoAndAHalf);
-    QCOMPARE(counter.shop.cell("select count(*) from Ticket"), QStringLiteral("2"));
+    QCOMPARE(counter.shop.cell("select count(*) from Ticket"), QString("2"));
     QVERIFY(counter.shop.sql("select * from Historique").empty());
 }
 
@@ -177,15 +174,15 @@ void TestFormVendelTotals::areInView()
 void TestFormVendelTotals::areTranslated()
 {
     Translation translation;
-    const QString context = QStringLiteral("FormVendelMessages");
-    translation.add(context, QStringLiteral("Total ticket"), QStringLiteral("Ticket total"));
-    translation.add(context, QStringLiteral("TVA "), QStringLiteral("VAT "));
-    translation.add(context, QStringLiteral("TOTAL "), QStringLiteral("GRAND TOTAL "));
+    const QString context = QString("FormVendelMessages");
+    translation.add(context, QString("Total ticket"), QString("Ticket total"));
+    translation.add(context, QString("TVA "), QString("VAT "));
+    translation.add(context, QString("TOTAL "), QString("GRAND TOTAL "));
     TotalledCounter counter(tenLessTwoAndAHalf);
     QCOMPARE(counter.rows().mid(2),
-        (QStringList{QStringLiteral("0;->;Ticket total;7.50$"),
-            QStringLiteral("0;->;VAT 20.00%;1.50$"), QStringLiteral("0;->;GRAND TOTAL ;$9.01")}));
+        (QStringList{QString("0;->;Ticket total;7.50$"), QString("0;->;VAT 20.00%;1.50$"),
+            QString("0;->;GRAND TOTAL ;$9.01")}));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelTotals)
+VENDEL_TEST(TestFormVendelTotals)
 #include "tst_FormVendelTotals.moc"

@@ -5,7 +5,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
 #include "tests/support/LeakCheck.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -128,7 +128,7 @@ void TestFormVendelTroubles::aKeyIsLoggedUnderItsNumber()
     click(till.window, QTest::currentDataTag());
     QTEST(log.criticals(), "criticals");
     click(till.window, "btn_5");
-    QCOMPARE(till.field().text(), digit + QLatin1Char('5'));
+    QCOMPARE(till.field().text(), digit + '5');
 }
 
 void TestFormVendelTroubles::theSeparatorIsLoggedUnderItsNumber()
@@ -143,8 +143,8 @@ void TestFormVendelTroubles::theSeparatorIsLoggedUnderItsNumber()
 void TestFormVendelTroubles::plusIsLoggedUnderItsNumber()
 {
     const LeakCheckPause pause;
-    TroubledField till(QStringLiteral("7"));
-    till.field().setText(QStringLiteral(" 7"));
+    TroubledField till(QString("7"));
+    till.field().setText(QString(" 7"));
     const CapturedLog log;
     const FailingLog failing;
     click(till.window, "btn_12");
@@ -155,18 +155,18 @@ void TestFormVendelTroubles::minusIsLoggedUnderItsNumber()
 {
     const LeakCheckPause pause;
     // The field goes from "13 " over "-13" to "13".
-    TroubledField till(QStringLiteral("13"));
-    till.field().setText(QStringLiteral("13 "));
+    TroubledField till(QString("13"));
+    till.field().setText(QString("13 "));
     const CapturedLog log;
     click(till.window, "btn_13");
     QCOMPARE(log.criticals(), line("Errors on_btn_13_clicked : trouble"));
-    QCOMPARE(till.shop.cell("select prix from Ticket"), QStringLiteral("-13"));
+    QCOMPARE(till.shop.cell("select prix from Ticket"), QString("-13"));
 }
 
 void TestFormVendelTroubles::clearingTheFieldIsLogged()
 {
     TroubledField till{QString()};
-    till.field().setText(QStringLiteral("7"));
+    till.field().setText(QString("7"));
     const CapturedLog log;
     click(till.window, "btn_Effacer_Saisie");
     QCOMPARE(log.criticals(), line("Errors on_btn_Effacer_Saisie_clicked : trouble"));
@@ -230,7 +230,7 @@ void TestFormVendelTroubles::aTipIsLogged()
     hoverCell(till.window, "tableView1", 0, 2);
     QCOMPARE(log.criticals(), line("Errors FormVendel eventFilter : no text"));
     clickCell(till.window, "tableView1", 0, 2);
-    QCOMPARE(till.names("tableView2"), QStringLiteral("Thé"));
+    QCOMPARE(till.names("tableView2"), QString("Thé"));
 }
 
 void TestFormVendelTroubles::theSplashIsLogged()
@@ -262,9 +262,9 @@ void TestFormVendelTroubles::aWindowThatCannotBeMadeIsLogged()
         const FormVendelStart splash(&opener);
     }
     QCOMPARE(log.criticals(),
-        (QStringList{QStringLiteral("Errors FormVendel Constructor : no text"),
-            QStringLiteral("Errors FormVendelStart Constructor : no text")}));
+        (QStringList{QString("Errors FormVendel Constructor : no text"),
+            QString("Errors FormVendelStart Constructor : no text")}));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelTroubles)
+VENDEL_TEST(TestFormVendelTroubles)
 #include "tst_FormVendelTroubles.moc"

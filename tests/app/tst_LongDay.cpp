@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/Till.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 #include <QPixmapCache>
@@ -45,7 +45,7 @@ double workedMs()
 
 Held held(const FormVendel& window)
 {
-    const QDir descriptors(QStringLiteral("/proc/self/fd"));
+    const QDir descriptors(QString("/proc/self/fd"));
     return {heapBytes(),
         int(descriptors.entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size()),
         int(QApplication::topLevelWidgets().size()), int(window.findChildren<QObject*>().size())};
@@ -104,5 +104,5 @@ void TestLongDay::aDayOfManySalesLeavesNothingBehind()
     QVERIFY2(grown < 200000, qPrintable(QString::number(grown)));
 }
 
-VENDEL_TEST_MAIN(TestLongDay)
+VENDEL_TEST(TestLongDay)
 #include "tst_LongDay.moc"

@@ -3,7 +3,7 @@
 #include "forms/FormVendelStockCalculation.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "widgets/Windows.h"
 
 #include <QAction>
@@ -124,7 +124,7 @@ private:
         // Two dates in order are rarely typed by a monkey.
         if (number(2000) == 0 && window->inherits("FormVendelHistorique")) {
             openWindow<FormVendelStockCalculation>(
-                window, QStringLiteral("01/05/2019"), QStringLiteral("30/05/2019"));
+                window, QString("01/05/2019"), QString("30/05/2019"));
             return;
         }
         const QPoint point(number(window->width()), number(window->height()));
@@ -171,11 +171,10 @@ private:
     {
         static constexpr Qt::Key keys[]{Qt::Key_Tab, Qt::Key_Return, Qt::Key_Backspace,
             Qt::Key_Delete, Qt::Key_Down, Qt::Key_Space, Qt::Key_Left, Qt::Key_Escape};
-        static const QStringList texts{QStringLiteral("Thé"), QStringLiteral("L'été"),
-            QStringLiteral("2.50"), QStringLiteral("-1"), QStringLiteral("01/05/2019"),
-            QStringLiteral("30/05/2019"), QStringLiteral("05/05/2019 12:00:00.000"),
-            QStringLiteral("%_\""), QStringLiteral("abcdefghijklmnop"), QStringLiteral("1e999"),
-            QStringLiteral("nan")};
+        static const QStringList texts{QString("Thé"), QString("L'été"), QString("2.50"),
+            QString("-1"), QString("01/05/2019"), QString("30/05/2019"),
+            QString("05/05/2019 12:00:00.000"), QString("%_\""), QString("abcdefghijklmnop"),
+            QString("1e999"), QString("nan")};
         QWidget* focus = widget.window()->focusWidget();
         const QPointer<QWidget> target = focus != nullptr ? focus : &widget;
         if (number(2) == 0) {
@@ -239,13 +238,12 @@ void stock(const Shop& shop)
 /// The windows that a cashier reaches, sorted.
 const QStringList& everyWindow()
 {
-    static const QStringList names{QStringLiteral("FormVendel"), QStringLiteral("FormVendelAbout"),
-        QStringLiteral("FormVendelConfig"), QStringLiteral("FormVendelFormulaireTicket"),
-        QStringLiteral("FormVendelHistorique"), QStringLiteral("FormVendelSaisieArticle"),
-        QStringLiteral("FormVendelSaisieStock"), QStringLiteral("FormVendelSaisieStockComposition"),
-        QStringLiteral("FormVendelSaisieStockCutPaste"), QStringLiteral("FormVendelSaisieStockMaj"),
-        QStringLiteral("FormVendelStockCalculation"), QStringLiteral("FormVendelTicket"),
-        QStringLiteral("QMessageBox")};
+    static const QStringList names{QString("FormVendel"), QString("FormVendelAbout"),
+        QString("FormVendelConfig"), QString("FormVendelFormulaireTicket"),
+        QString("FormVendelHistorique"), QString("FormVendelSaisieArticle"),
+        QString("FormVendelSaisieStock"), QString("FormVendelSaisieStockComposition"),
+        QString("FormVendelSaisieStockCutPaste"), QString("FormVendelSaisieStockMaj"),
+        QString("FormVendelStockCalculation"), QString("FormVendelTicket"), QString("QMessageBox")};
     return names;
 }
 
@@ -259,7 +257,7 @@ bool isEveryWindowIn(const QSet<QString>& seen)
 /// What Qt's offscreen platform says of itself is not the till's.
 QStringList ofTheTill(QStringList warnings)
 {
-    static const QString platform = QStringLiteral("This plugin does not support ");
+    static const QString platform = QString("This plugin does not support ");
     warnings.erase(std::remove_if(warnings.begin(), warnings.end(),
                        [](const QString& line) { return line.startsWith(platform); }),
         warnings.end());
@@ -303,8 +301,8 @@ void TestMonkey::anyMouseAndKeysLeaveTheTillStanding()
     }
     QCOMPARE(warnings, QStringList());
     QCOMPARE(criticals, QStringList());
-    QCOMPARE(shop.cell("pragma integrity_check"), QStringLiteral("ok"));
+    QCOMPARE(shop.cell("pragma integrity_check"), QString("ok"));
 }
 
-VENDEL_TEST_MAIN(TestMonkey)
+VENDEL_TEST(TestMonkey)
 #include "tst_Monkey.moc"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/Till.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QCursor>
@@ -35,7 +35,7 @@ constexpr QPoint outside(1300, 730);
 void mouse(const QStringList& commands)
 {
     QProcess tool;
-    tool.start(QStringLiteral("xdotool"), commands);
+    tool.start(QString("xdotool"), commands);
     while (tool.state() != QProcess::NotRunning) {
         QTest::qWait(5);
     }
@@ -46,7 +46,7 @@ void mouse(const QStringList& commands)
 
 QStringList moveTo(QPoint point)
 {
-    return {QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
+    return {QString("mousemove"), QString::number(point.x()), QString::number(point.y())};
 }
 
 /// Rests the pointer on \a point, in two steps: Qt takes no notice of a pointer that comes back
@@ -59,8 +59,8 @@ void rest(QPoint point)
 
 QStringList clicks(int count, int delayMs)
 {
-    return {QStringLiteral("click"), QStringLiteral("--repeat"), QString::number(count),
-        QStringLiteral("--delay"), QString::number(delayMs), QStringLiteral("1")};
+    return {QString("click"), QString("--repeat"), QString::number(count), QString("--delay"),
+        QString::number(delayMs), QString("1")};
 }
 
 const QWidget* shownTip()
@@ -115,8 +115,8 @@ void TestMouseOnScreen::aTipUnderThePointerLetsAClickThrough()
     rest(counter.cell("tableView1", 3));
     QTRY_VERIFY(QToolTip::isVisible());
     QVERIFY(shownTip()->geometry().contains(QCursor::pos()));
-    mouse({QStringLiteral("click"), QStringLiteral("1")});
-    QTRY_COMPARE(counter.names("tableView2"), QStringLiteral("Bière 04"));
+    mouse({QString("click"), QString("1")});
+    QTRY_COMPARE(counter.names("tableView2"), QString("Bière 04"));
 }
 
 void TestMouseOnScreen::aTipStandsWhileTheMouseRests()
@@ -127,8 +127,7 @@ void TestMouseOnScreen::aTipStandsWhileTheMouseRests()
     // Qt asks for a tip of its own after 0.7 s.
     QTest::qWait(2000);
     QVERIFY(QToolTip::isVisible());
-    QCOMPARE(
-        QToolTip::text(), QStringLiteral("Menu\nClick sur : Bière 04\nPour l'ajouter au ticket"));
+    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : Bière 04\nPour l'ajouter au ticket"));
 }
 
 void TestMouseOnScreen::movingBelowTheTipKeepsIt()
@@ -160,8 +159,8 @@ void TestMouseOnScreen::fivePressesAtATenthOfASecondAreFiveLines()
     ShownCounter counter;
     rest(counter.cell("tableView1", 2));
     mouse(clicks(5, 100));
-    QTRY_COMPARE(counter.names("tableView2"),
-        QStringLiteral("Bière 03|Bière 03|Bière 03|Bière 03|Bière 03"));
+    QTRY_COMPARE(
+        counter.names("tableView2"), QString("Bière 03|Bière 03|Bière 03|Bière 03|Bière 03"));
 }
 
 void TestMouseOnScreen::threeImmediatePressesAreThreeLines()
@@ -169,7 +168,7 @@ void TestMouseOnScreen::threeImmediatePressesAreThreeLines()
     ShownCounter counter;
     rest(counter.cell("tableView1", 2));
     mouse(clicks(3, 15));
-    QTRY_COMPARE(counter.names("tableView2"), QStringLiteral("Bière 03|Bière 03|Bière 03"));
+    QTRY_COMPARE(counter.names("tableView2"), QString("Bière 03|Bière 03|Bière 03"));
 }
 
 void TestMouseOnScreen::aDoubleClickOnTheTicketRemovesOneLine()
@@ -181,8 +180,8 @@ void TestMouseOnScreen::aDoubleClickOnTheTicketRemovesOneLine()
     rest(counter.cell("tableView2", 0));
     mouse(clicks(2, 60));
     QTest::qWait(300);
-    QCOMPARE(counter.names("tableView2"), QStringLiteral("Bière 03|Bière 03"));
+    QCOMPARE(counter.names("tableView2"), QString("Bière 03|Bière 03"));
 }
 
-VENDEL_TEST_MAIN(TestMouseOnScreen)
+VENDEL_TEST(TestMouseOnScreen)
 #include "tst_MouseOnScreen.moc"

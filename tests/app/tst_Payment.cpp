@@ -4,7 +4,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
 #include "tests/support/MarkedContext.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Trouble.h"
 
 #include <QDateTime>
@@ -58,8 +58,8 @@ void TestPayment::anEmptyTicketIsSaidAndNothingIsWritten()
     Till till;
     AnswerBox box;
     till.pay();
-    QCOMPARE(box.title(), QStringLiteral("Payer"));
-    QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+    QCOMPARE(box.title(), QString("Payer"));
+    QCOMPARE(box.text(), QString("Le ticket est vide"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.parent(), &till.window);
@@ -78,8 +78,8 @@ void TestPayment::eachLineGoesIntoTheHistory()
     till.run("insert into Ticket (id, article, prix) values (0, '----', -1.25)");
     till.pay();
     QCOMPARE(till.history(),
-        QStringList({QStringLiteral("7 Thé 2.5"), QStringLiteral("7 Eau 3"),
-            QStringLiteral("7 Thé 2.5"), QStringLiteral("0 ---- -1.25")}));
+        QStringList({QString("7 Thé 2.5"), QString("7 Eau 3"), QString("7 Thé 2.5"),
+            QString("0 ---- -1.25")}));
 }
 
 void TestPayment::aLineIsDatedWithTheLocalTime()
@@ -92,7 +92,7 @@ void TestPayment::aLineIsDatedWithTheLocalTime()
     const QDateTime after = QDateTime::currentDateTime().addMSecs(1);
     const QString stored = till.shop.cell("select date_heure from Historique");
     QCOMPARE(stored.size(), 23);
-    const QDateTime time = QDateTime::fromString(stored, QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz"));
+    const QDateTime time = QDateTime::fromString(stored, QString("yyyy-MM-dd hh:mm:ss.zzz"));
     QVERIFY2(time >= before && time <= after, qPrintable(stored));
 }
 
@@ -101,8 +101,8 @@ void TestPayment::anApostropheReachesTheHistory()
     Till till;
     till.sell("l''eau d''\"ici\"", "3");
     till.pay();
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 l'eau d'\"ici\" 3")));
-    QVERIFY(till.takeReceipt().contains(QStringLiteral("\n1  l'eau d'\"ici\"  \t$3.00")));
+    QCOMPARE(till.history(), QStringList(QString("7 l'eau d'\"ici\" 3")));
+    QVERIFY(till.takeReceipt().contains(QString("\n1  l'eau d'\"ici\"  \t$3.00")));
 }
 
 void TestPayment::theReceiptIsShownAndTheTicketEmptied()
@@ -117,8 +117,8 @@ void TestPayment::theReceiptIsShownAndTheTicketEmptied()
     QCOMPARE(till.ticket(), QStringList());
     QCOMPARE(till.shownLines(), 0);
     const QString text = till.takeReceipt();
-    QVERIFY(text.contains(QStringLiteral("\n1  Thé           \t$2.50       $2.50\n")));
-    QVERIFY(text.contains(QStringLiteral("\n->  TOTAL \t    $2.51\n")));
+    QVERIFY(text.contains(QString("\n1  Thé           \t$2.50       $2.50\n")));
+    QVERIFY(text.contains(QString("\n->  TOTAL \t    $2.51\n")));
     QVERIFY(!box.wasShown());
     QCOMPARE(log.criticals(), QStringList());
     QVERIFY(till.sellsOnScreen());
@@ -156,7 +156,7 @@ void TestPayment::theReceiptsTitleIsTranslated()
     const MarkedContext marked("FormVendelMessages");
     till.pay();
     QVERIFY(till.receipt() != nullptr);
-    QCOMPARE(till.receipt()->windowTitle(), QStringLiteral("FormVendelMessages:Impression Ticket"));
+    QCOMPARE(till.receipt()->windowTitle(), QString("FormVendelMessages:Impression Ticket"));
 }
 
 void TestPayment::theSalesScreenTakesNoPressWhileTheReceiptStands()
@@ -173,7 +173,7 @@ void TestPayment::theSalesScreenTakesNoPressWhileTheReceiptStands()
     QCOMPARE(till.ticket().size(), 1);
     till.takeReceipt();
     clickThroughTheScreen(till.window, "btn_Payer");
-    QVERIFY(till.takeReceipt().contains(QStringLiteral("\n1  Eau            \t$3.00")));
+    QVERIFY(till.takeReceipt().contains(QString("\n1  Eau            \t$3.00")));
     QCOMPARE(till.history().size(), 2);
     QCOMPARE(till.ticket().size(), 0);
 }
@@ -185,7 +185,7 @@ void TestPayment::payingAgainWhileTheReceiptStandsSellsNothing()
     till.sell("Thé", "2.5");
     till.pay();
     till.pay();
-    QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+    QCOMPARE(box.text(), QString("Le ticket est vide"));
     QCOMPARE(till.history().size(), 1);
     QCOMPARE(till.window.findChildren<FormVendelTicket*>().size(), 1);
 }
@@ -208,7 +208,7 @@ void TestPayment::twoQuickPressesAreOneSale()
     }
     QTRY_VERIFY(till.receipt() != nullptr);
     QTest::qWait(50);
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
     QCOMPARE(till.window.findChildren<FormVendelTicket*>().size(), 1);
     QVERIFY(!box.wasShown());
     till.takeReceipt();
@@ -255,11 +255,10 @@ void TestPayment::withAnotherSwitchTheTicketIsKept()
     QVERIFY(till.receipt() == nullptr);
     QVERIFY(!box.wasShown());
     QCOMPARE(till.shownLines(), 0);
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
     till.pay();
-    QCOMPARE(
-        till.history(), QStringList({QStringLiteral("7 Thé 2.5"), QStringLiteral("7 Thé 2.5")}));
+    QCOMPARE(till.history(), QStringList({QString("7 Thé 2.5"), QString("7 Thé 2.5")}));
     QCOMPARE(log.criticals(), QStringList());
     QCOMPARE(output.text(), QByteArray());
     QVERIFY(till.sellsOnScreen());
@@ -282,12 +281,12 @@ void TestPayment::withoutAReadableSwitchTheTicketIsKept()
     till.setSwitch(value);
     till.sell("Thé", "2.5");
     till.pay();
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendel on_btn_Payer_clicked : stoi")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Errors FormVendel on_btn_Payer_clicked : stoi")));
     QVERIFY(till.receipt() == nullptr);
     QVERIFY(!box.wasShown());
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
     QCOMPARE(till.shownLines(), 0);
     QVERIFY(till.sellsOnScreen());
 }
@@ -299,10 +298,10 @@ void TestPayment::withoutASwitchTheTicketIsKept()
     till.run("delete from Config where param = 'Epson TM-T20II'");
     till.sell("Thé", "2.5");
     till.pay();
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendel on_btn_Payer_clicked : stoi")));
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Errors FormVendel on_btn_Payer_clicked : stoi")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
     till.run("insert into Config (param, valeur) values ('Epson TM-T20II', 0)");
     QVERIFY(till.sellsOnScreen());
 }
@@ -349,11 +348,11 @@ void TestPayment::aReceiptThatCannotBeComposedKeepsTheTicket()
     const CapturedLog log;
     CapturedOutput output;
     till.pay();
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendelTicket Constructor : no text")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Errors FormVendelTicket Constructor : no text")));
     QVERIFY(!output.text().contains("delete"));
     QCOMPARE(child<QTextEdit>(*till.receipt(), "txt_Ticket").toPlainText(), QString());
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
 }
 
 void TestPayment::aReceiptThatCannotBeShownKeepsTheTicket()
@@ -363,10 +362,10 @@ void TestPayment::aReceiptThatCannotBeShownKeepsTheTicket()
     const TroubleAt trouble(QEvent::WindowTitleChange, "FormVendelTicket");
     const CapturedLog log;
     till.pay();
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendelTicket Constructor : trouble")));
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Errors FormVendelTicket Constructor : trouble")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
 }
 
-VENDEL_TEST_MAIN(TestPayment)
+VENDEL_TEST(TestPayment)
 #include "tst_Payment.moc"

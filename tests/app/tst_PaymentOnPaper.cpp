@@ -6,7 +6,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/EmulatedPrinter.h"
 #include "tests/support/MarkedContext.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QRegularExpression>
 
@@ -30,7 +30,7 @@ QStringList doings(const EmulatedPrinter& printer)
     for (const auto& doing : printer.conversation()) {
         words << QString::fromStdString(doing);
     }
-    words.removeAll(QStringLiteral("0 taken"));
+    words.removeAll(QString("0 taken"));
     return words;
 }
 
@@ -110,9 +110,9 @@ void TestPaymentOnPaper::aReceiptBearsTheTimeOfTheSale()
     till.sellOnPaper();
     const QDateTime after = QDateTime::currentDateTime();
     const QString text = QString::fromLatin1(jobs(printer).at(0));
-    const QRegularExpression pattern(QStringLiteral("Produit\t\t\t     ([^\r]*)\r\n\r\n"));
+    const QRegularExpression pattern(QString("Produit\t\t\t     ([^\r]*)\r\n\r\n"));
     const QString shown = pattern.match(text).captured(1);
-    const QDateTime time = QDateTime::fromString(shown, QStringLiteral("dd/MM/yyyy hh:mm:ss"));
+    const QDateTime time = QDateTime::fromString(shown, QString("dd/MM/yyyy hh:mm:ss"));
     QVERIFY2(time >= before && time <= after, qPrintable(shown));
 }
 
@@ -123,10 +123,10 @@ void TestPaymentOnPaper::aPrintedSaleEmptiesTicketAndList()
     till.sellOnPaper();
     QCOMPARE(till.ticket(), QStringList());
     QCOMPARE(till.shownLines(), 0);
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
     AnswerBox box;
     till.pay();
-    QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+    QCOMPARE(box.text(), QString("Le ticket est vide"));
     QCOMPARE(printer.transfers().size(), 2U);
     QVERIFY(till.sellsOnScreen());
 }
@@ -142,7 +142,7 @@ void TestPaymentOnPaper::thePrinterStaysHeldBetweenSales()
     QVERIFY(till.sellsOnScreen());
     till.sellOnPaper();
     QCOMPARE(Printer::getPrinter(), held);
-    QCOMPARE(doings(printer), QStringList({QStringLiteral("0 open"), QStringLiteral("0 claim")}));
+    QCOMPARE(doings(printer), QStringList({QString("0 open"), QString("0 claim")}));
     QCOMPARE(printer.transfers().size(), 6U);
     QCOMPARE(till.history().size(), 4);
 }
@@ -171,8 +171,8 @@ void TestPaymentOnPaper::twoQuickPressesAreOneReceipt()
     QTest::mouseDClick(till.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
         button.mapTo(&till.window, button.rect().center()));
     QCOMPARE(printer.transfers().size(), 2U);
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
-    QCOMPARE(box.text(), QStringLiteral("Le ticket est vide"));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
+    QCOMPARE(box.text(), QString("Le ticket est vide"));
     QCOMPARE(box.strays(), 0);
 }
 
@@ -185,13 +185,13 @@ void TestPaymentOnPaper::withoutAPrinterTheTicketIsKept_data()
     QTest::newRow("an empty bus") << QString() << false << false
                                   << QByteArray("Cannot open device\n");
     QTest::newRow("another model")
-        << QStringLiteral("04b8:0202") << false << false << QByteArray("Cannot open device\n");
+        << QString("04b8:0202") << false << false << QByteArray("Cannot open device\n");
     QTest::newRow("another maker")
-        << QStringLiteral("04b9:0e15") << false << false << QByteArray("Cannot open device\n");
-    QTest::newRow("no access") << QStringLiteral("04b8:0e15") << false << true
+        << QString("04b9:0e15") << false << false << QByteArray("Cannot open device\n");
+    QTest::newRow("no access") << QString("04b8:0e15") << false << true
                                << QByteArray("Cannot open device\n");
     QTest::newRow("claimed by another program")
-        << QStringLiteral("04b8:0e15") << true << false << QByteArray("Cannot Claim Interface\n");
+        << QString("04b8:0e15") << true << false << QByteArray("Cannot Claim Interface\n");
 }
 
 void TestPaymentOnPaper::withoutAPrinterTheTicketIsKept()
@@ -219,16 +219,15 @@ void TestPaymentOnPaper::withoutAPrinterTheTicketIsKept()
     QCOMPARE(output.text(), diagnostics);
     QCOMPARE(log.criticals(), QStringList());
     QVERIFY(Printer::getPrinter() == nullptr);
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
     QCOMPARE(till.shownLines(), 0);
-    QCOMPARE(till.history(), QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(till.history(), QStringList(QString("7 Thé 2.5")));
 
     const AnswerBox again;
     till.pay();
     QVERIFY(saysNotConnected(again, till));
     QCOMPARE(output.text(), diagnostics + diagnostics);
-    QCOMPARE(
-        till.history(), QStringList({QStringLiteral("7 Thé 2.5"), QStringLiteral("7 Thé 2.5")}));
+    QCOMPARE(till.history(), QStringList({QString("7 Thé 2.5"), QString("7 Thé 2.5")}));
     QCOMPARE(till.ticket().size(), 1);
     QVERIFY(printer.transfers().empty());
     QVERIFY(till.sellsOnScreen());
@@ -246,7 +245,7 @@ void TestPaymentOnPaper::theSaleIsRecordedBeforeThePrinterIsMissed()
         linesDuringTheNotice = till.shownLines();
     });
     till.sellOnPaper();
-    QCOMPARE(historyDuringTheNotice, QStringList(QStringLiteral("7 Thé 2.5")));
+    QCOMPARE(historyDuringTheNotice, QStringList(QString("7 Thé 2.5")));
     QCOMPARE(linesDuringTheNotice, 0);
 }
 
@@ -259,13 +258,13 @@ void TestPaymentOnPaper::noticesAreTranslated()
     {
         const AnswerBox box;
         till.pay();
-        QCOMPARE(box.title(), QStringLiteral("FormVendelMessages:Payer"));
-        QCOMPARE(box.text(), QStringLiteral("FormVendelMessages:Le ticket est vide"));
+        QCOMPARE(box.title(), QString("FormVendelMessages:Payer"));
+        QCOMPARE(box.text(), QString("FormVendelMessages:Le ticket est vide"));
     }
     const AnswerBox box;
     till.sellOnPaper();
-    QCOMPARE(box.title(), QStringLiteral("FormVendelMessages:Payer"));
-    QCOMPARE(box.text(), QStringLiteral("FormVendelMessages:Imprimante non connectée"));
+    QCOMPARE(box.title(), QString("FormVendelMessages:Payer"));
+    QCOMPARE(box.text(), QString("FormVendelMessages:Imprimante non connectée"));
 }
 
 void TestPaymentOnPaper::aPrinterThatIsPluggedInLaterPrints()
@@ -348,8 +347,7 @@ void TestPaymentOnPaper::aCharacterThatThePrinterLacksKeepsTheTicket()
     till.sell(article, "2.5");
     till.pay();
     QCOMPARE(log.criticals().size(), 1);
-    QVERIFY(log.criticals().at(0).startsWith(
-        QStringLiteral("Errors FormVendel on_btn_Payer_clicked : ")));
+    QVERIFY(log.criticals().at(0).startsWith(QString("Errors FormVendel on_btn_Payer_clicked : ")));
     QVERIFY(!box.wasShown());
     QCOMPARE(output.text(), QByteArray());
     QVERIFY(printer.transfers().empty());
@@ -373,13 +371,12 @@ void TestPaymentOnPaper::everyPressRecordsASaleThatCannotBePrinted()
     till.pay();
     QVERIFY(printer.transfers().empty());
     QVERIFY(!box.wasShown());
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Bière 🍺 2.5")));
-    QCOMPARE(till.history(),
-        (QStringList{QStringLiteral("7 Bière 🍺 2.5"), QStringLiteral("7 Bière 🍺 2.5")}));
+    QCOMPARE(till.ticket(), QStringList(QString("Bière 🍺 2.5")));
+    QCOMPARE(till.history(), (QStringList{QString("7 Bière 🍺 2.5"), QString("7 Bière 🍺 2.5")}));
     click(till.window, "btn_Effacer_Ticket");
     QCOMPARE(till.ticket(), QStringList());
     QCOMPARE(till.history().size(), 2);
 }
 
-VENDEL_TEST_MAIN(TestPaymentOnPaper)
+VENDEL_TEST(TestPaymentOnPaper)
 #include "tst_PaymentOnPaper.moc"

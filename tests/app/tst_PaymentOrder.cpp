@@ -3,7 +3,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/EmulatedPrinter.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <functional>
 
@@ -47,14 +47,14 @@ void TestPaymentOrder::theTicketIsEmptiedBehindTheCut()
     Till till;
     QStringList seen;
     onTransfer = [&] {
-        seen << QStringLiteral("%1 sold, %2 shown, %3 recorded")
+        seen << QString("%1 sold, %2 shown, %3 recorded")
                     .arg(till.ticket().size())
                     .arg(till.shownLines())
                     .arg(till.history().size());
     };
     till.sellOnPaper();
     onTransfer = [] {};
-    const QString line = QStringLiteral("1 sold, 0 shown, 1 recorded");
+    const QString line = QString("1 sold, 0 shown, 1 recorded");
     QCOMPARE(seen, QStringList({line, line}));
     QCOMPARE(till.ticket(), QStringList());
 }
@@ -83,8 +83,8 @@ void TestPaymentOrder::anotherIntIsIgnored()
     till.sellOnPaper();
     QVERIFY(!box.wasShown());
     QCOMPARE(log.criticals(), QStringList());
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
 }
 
-VENDEL_TEST_MAIN(TestPaymentOrder)
+VENDEL_TEST(TestPaymentOrder)
 #include "tst_PaymentOrder.moc"

@@ -2,7 +2,7 @@
 #include "tests/app/Till.h"
 #include "tests/support/Captured.h"
 #include "tests/support/EmulatedPrinter.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 namespace {
 const std::string cut = "\x1d\x56\x41\x96";
@@ -43,7 +43,7 @@ void TestPaymentUnplugged::unpluggedBeforeTheReceipt()
     QCOMPARE(
         output.text(), writeError + writeError + "Cannot Release Interface\nCannot open device\n");
     QVERIFY(saysNotConnected(box, till));
-    QCOMPARE(till.ticket(), QStringList(QStringLiteral("Thé 2.5")));
+    QCOMPARE(till.ticket(), QStringList(QString("Thé 2.5")));
     QCOMPARE(till.history().size(), 3);
 
     printer.plug();
@@ -140,5 +140,5 @@ void TestPaymentUnplugged::aWriteThatFails()
     QCOMPARE(till.history().size(), 2);
 }
 
-VENDEL_TEST_MAIN(TestPaymentUnplugged)
+VENDEL_TEST(TestPaymentUnplugged)
 #include "tst_PaymentUnplugged.moc"

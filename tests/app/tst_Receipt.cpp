@@ -2,7 +2,7 @@
 #include "app/Receipt.h"
 #include "tests/app/PrintedReceipt.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 
 #include <stdexcept>
@@ -334,19 +334,19 @@ void TestReceipt::theRuleIsFortyEightDashes()
 
 void TestReceipt::aTranslationChangesTheReceiptAndTheTitleMark()
 {
-    const QString context = QStringLiteral("FormVendelMessages");
+    const QString context = QString("FormVendelMessages");
     const Shop shop;
     Translation english;
-    english.add(context, QStringLiteral("titre:"), QStringLiteral("title:"));
-    english.add(context, QStringLiteral("Produit"), QStringLiteral("Item"));
-    english.add(context, QStringLiteral("dd/MM/yyyy"), QStringLiteral("MM-dd-yyyy"));
-    english.add(context, QStringLiteral("Qtité  "), QStringLiteral("Qty    "));
-    english.add(context, QStringLiteral("Article"), QStringLiteral("Name"));
-    english.add(context, QStringLiteral("Prix U"), QStringLiteral("Price"));
-    english.add(context, QStringLiteral("Prix * Qtité"), QStringLiteral("Price * Qty"));
-    english.add(context, QStringLiteral("Total ticket"), QStringLiteral("Ticket"));
-    english.add(context, QStringLiteral("TVA "), QStringLiteral("VAT "));
-    english.add(context, QStringLiteral("TOTAL "), QStringLiteral("SUM "));
+    english.add(context, QString("titre:"), QString("title:"));
+    english.add(context, QString("Produit"), QString("Item"));
+    english.add(context, QString("dd/MM/yyyy"), QString("MM-dd-yyyy"));
+    english.add(context, QString("Qtité  "), QString("Qty    "));
+    english.add(context, QString("Article"), QString("Name"));
+    english.add(context, QString("Prix U"), QString("Price"));
+    english.add(context, QString("Prix * Qtité"), QString("Price * Qty"));
+    english.add(context, QString("Total ticket"), QString("Ticket"));
+    english.add(context, QString("TVA "), QString("VAT "));
+    english.add(context, QString("TOTAL "), QString("SUM "));
     writeHeader(shop, "title:Paul\ntitre:Anne");
     putOnTicket(shop, "Eau", "7.5");
     COMPARE_BYTES(printedReceipt(),
@@ -377,10 +377,8 @@ void TestReceipt::theReceiptsOwnTranslationComesFirst()
 {
     const Shop shop;
     Translation english;
-    english.add(
-        QStringLiteral("FormVendelMessages"), QStringLiteral("Produit"), QStringLiteral("Item"));
-    english.add(QStringLiteral("FormVendelTicketMessages"), QStringLiteral("Produit"),
-        QStringLiteral("Product"));
+    english.add(QString("FormVendelMessages"), QString("Produit"), QString("Item"));
+    english.add(QString("FormVendelTicketMessages"), QString("Produit"), QString("Product"));
     QVERIFY(printedReceipt().startsWith("\r\n\r\nProduct\t\t\t     05/03/2024"));
 }
 
@@ -393,5 +391,5 @@ void TestReceipt::withoutATicketTableThereIsNoReceipt()
     QCOMPARE(output.text().count("no such table: Ticket"), 2);
 }
 
-VENDEL_TEST_MAIN(TestReceipt)
+VENDEL_TEST(TestReceipt)
 #include "tst_Receipt.moc"

@@ -4,7 +4,7 @@
 #include "tests/app/Till.h"
 #include "tests/support/Captured.h"
 #include "tests/support/EmulatedPrinter.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <cerrno>
 #include <memory>
@@ -61,11 +61,11 @@ private slots:
         QTest::addColumn<QString>("reason");
         QTest::newRow("a character outside the code page")
             << QByteArray("Caf\xc3\xa9 \xf0\x9f\x98\x80") << 0
-            << QStringLiteral("a character of the receipt is not in code page 858");
-        QTest::newRow("no such code page") << QByteArray(
-            "Cafe") << EINVAL << QStringLiteral("this system cannot write code page 858");
-        QTest::newRow("no memory") << QByteArray("Cafe") << ENOMEM
-                                   << QStringLiteral("there is no memory left for the receipt");
+            << QString("a character of the receipt is not in code page 858");
+        QTest::newRow("no such code page")
+            << QByteArray("Cafe") << EINVAL << QString("this system cannot write code page 858");
+        QTest::newRow("no memory")
+            << QByteArray("Cafe") << ENOMEM << QString("there is no memory left for the receipt");
     }
     void theReasonIsOneOfThree()
     {
@@ -101,5 +101,5 @@ private slots:
     }
 };
 
-VENDEL_TEST_MAIN(TestReceiptConversion)
+VENDEL_TEST(TestReceiptConversion)
 #include "tst_ReceiptConversion.moc"

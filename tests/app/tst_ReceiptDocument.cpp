@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/ReceiptDocument.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QTextBlock>
 #include <QTextEdit>
@@ -38,7 +38,7 @@ void showNarrow(QTextEdit& edit, const Receipt& receipt)
 void TestReceiptDocument::aWideFaceIsDrawnNarrower()
 {
     QTextEdit edit;
-    showNarrow(edit, {{ReceiptLine::Style::Plain, QString(48, QLatin1Char('0'))}});
+    showNarrow(edit, {{ReceiptLine::Style::Plain, QString(48, '0')}});
     QCOMPARE(firstLine(edit, 0).textLength(), 48);
     QVERIFY(firstLine(edit, 0).naturalTextWidth() <= narrow);
 }
@@ -46,7 +46,7 @@ void TestReceiptDocument::aWideFaceIsDrawnNarrower()
 void TestReceiptDocument::aTotalIsTwiceAsWideAsTheNarrowFace()
 {
     QTextEdit edit;
-    const QString digits(24, QLatin1Char('0'));
+    const QString digits(24, '0');
     showNarrow(
         edit, {{ReceiptLine::Style::Plain, digits}, {ReceiptLine::Style::GrandTotal, digits}});
     const double plain = firstLine(edit, 0).naturalTextWidth();
@@ -55,5 +55,5 @@ void TestReceiptDocument::aTotalIsTwiceAsWideAsTheNarrowFace()
     QVERIFY(wide < 2.3 * plain);
 }
 
-VENDEL_TEST_MAIN(TestReceiptDocument)
+VENDEL_TEST(TestReceiptDocument)
 #include "tst_ReceiptDocument.moc"

@@ -2,7 +2,7 @@
 #include "app/Receipt.h"
 #include "common/ReceiptFiles.h"
 #include "tests/app/PrintedReceipt.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 
@@ -181,7 +181,7 @@ void TestReceiptFrame::anEmptyFileIsAnEmptyLineAndAMissingOneIsNothing()
 void TestReceiptFrame::aFolderInAFilesPlaceIsNothing()
 {
     const Shop shop;
-    QVERIFY(QDir().mkdir(QStringLiteral("EnteteFormulaire.dat")));
+    QVERIFY(QDir().mkdir(QString("EnteteFormulaire.dat")));
     QVERIFY(printedReceipt().startsWith("\r\n\r\nProduit"));
 }
 
@@ -240,5 +240,5 @@ void TestReceiptFrame::bothFilesAreReadAtEachSale()
     QVERIFY(printedReceipt().endsWith(titleLine("Soir")));
 }
 
-VENDEL_TEST_MAIN(TestReceiptFrame)
+VENDEL_TEST(TestReceiptFrame)
 #include "tst_ReceiptFrame.moc"

@@ -4,7 +4,7 @@
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <functional>
@@ -44,14 +44,13 @@ void TestSaleStatements::standWordForWord_data()
         "select cpte, article, prix, cpte*prix as calcul from (select count(article) as cpte, "
         "article, prix from Ticket group by article, prix) as t");
     row(
-        "an article", [] { Ticket::addArticle(QStringLiteral("12")); },
+        "an article", [] { Ticket::addArticle(QString("12")); },
         "select * from Article where id = 12 order by Article asc", "Article");
     row(
-        "an amount", [] { Ticket::addAmount(QStringLiteral("-2.5")); },
+        "an amount", [] { Ticket::addAmount(QString("-2.5")); },
         "insert into Ticket(id, article, prix) values (0, '----', -2.5)");
     row(
-        "removal", [] { Ticket::remove(QStringLiteral("7")); },
-        "delete from Ticket where idlig = 7");
+        "removal", [] { Ticket::remove(QString("7")); }, "delete from Ticket where idlig = 7");
     row(
         "clearing", [] { Ticket::clear(); }, "delete from Ticket");
     row(
@@ -92,9 +91,9 @@ void TestSaleStatements::thatOfTheMenusDoublesStandsWordForWord()
     QCOMPARE(log.criticals().size(), 1);
     QVERIFY(log.criticals().at(0).startsWith(
         QLatin1String("Errors FormVendel on_btn_Afficher_clicked : ")));
-    QCOMPARE(counter.names("tableView1"), QStringLiteral("Thé"));
+    QCOMPARE(counter.names("tableView1"), QString("Thé"));
     QVERIFY(!box.wasShown());
 }
 
-VENDEL_TEST_MAIN(TestSaleStatements)
+VENDEL_TEST(TestSaleStatements)
 #include "tst_SaleStatements.moc"

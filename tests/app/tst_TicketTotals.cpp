@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/TicketTotals.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <stdexcept>
 
@@ -83,23 +83,22 @@ void TestTicketTotals::areReckonedInSinglePrecision()
 
 void TestTicketTotals::withoutARateThereIsNoTax()
 {
-    const TicketTotals totals = totalTicket(QStringLiteral("7.5"), {});
-    QCOMPARE(totals.sum, QStringLiteral("7.50"));
+    const TicketTotals totals = totalTicket(QString("7.5"), {});
+    QCOMPARE(totals.sum, QString("7.50"));
     QVERIFY(totals.taxes.empty());
-    QCOMPARE(totals.grandTotal, QStringLiteral("7.50"));
+    QCOMPARE(totals.grandTotal, QString("7.50"));
 }
 
 void TestTicketTotals::eachRateGivesItsTaxAndTheLastOneCounts()
 {
-    const TicketTotals totals
-        = totalTicket(QStringLiteral("10"), {QStringLiteral("20"), QStringLiteral("5.5")});
+    const TicketTotals totals = totalTicket(QString("10"), {QString("20"), QString("5.5")});
     QCOMPARE(totals.taxes.size(), std::size_t{2});
-    QCOMPARE(totals.taxes.at(0).rate, QStringLiteral("20.00"));
-    QCOMPARE(totals.taxes.at(0).amount, QStringLiteral("2.01"));
-    QCOMPARE(totals.taxes.at(1).rate, QStringLiteral("5.50"));
-    QCOMPARE(totals.taxes.at(1).amount, QStringLiteral("0.56"));
-    QCOMPARE(totals.grandTotal, QStringLiteral("10.56"));
+    QCOMPARE(totals.taxes.at(0).rate, QString("20.00"));
+    QCOMPARE(totals.taxes.at(0).amount, QString("2.01"));
+    QCOMPARE(totals.taxes.at(1).rate, QString("5.50"));
+    QCOMPARE(totals.taxes.at(1).amount, QString("0.56"));
+    QCOMPARE(totals.grandTotal, QString("10.56"));
 }
 
-VENDEL_TEST_MAIN(TestTicketTotals)
+VENDEL_TEST(TestTicketTotals)
 #include "tst_TicketTotals.moc"

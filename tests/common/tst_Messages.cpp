@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Messages.h"
-#include "tests/support/CoreTestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <array>
 #include <string>
@@ -253,5 +253,5 @@ void TestMessages::entriesHaveFixedLengths()
     static_assert(std::is_const_v<decltype(Messages::Messages0)>);
 }
 
-VENDEL_CORE_TEST_MAIN(TestMessages)
+VENDEL_TEST(TestMessages)
 #include "tst_Messages.moc"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Money.h"
-#include "tests/support/CoreTestMain.h"
+#include "tests/support/TestProgram.h"
 
 class TestMoney : public QObject
 {
@@ -45,8 +45,8 @@ void TestMoney::amountsHaveTwoDecimals()
 
 void TestMoney::decimalsMayBeAsked()
 {
-    QCOMPARE(formatAmount(1234.5678F, 0), QStringLiteral("1,235"));
-    QCOMPARE(formatAmount(0.125F, 3), QStringLiteral("0.125"));
+    QCOMPARE(formatAmount(1234.5678F, 0), QString("1,235"));
+    QCOMPARE(formatAmount(0.125F, 3), QString("0.125"));
 }
 
 void TestMoney::storedTextIsReadInSinglePrecision_data()
@@ -70,9 +70,9 @@ void TestMoney::storedTextIsReadInSinglePrecision()
 
 void TestMoney::listsPutTheSignBehind()
 {
-    QCOMPARE(formatMoney(12.5F), QStringLiteral("12.50$"));
-    QCOMPARE(formatMoney(1234.5F), QStringLiteral("1,234.50$"));
-    QCOMPARE(formatMoney(-2.5F), QStringLiteral("-2.50$"));
+    QCOMPARE(formatMoney(12.5F), QString("12.50$"));
+    QCOMPARE(formatMoney(1234.5F), QString("1,234.50$"));
+    QCOMPARE(formatMoney(-2.5F), QString("-2.50$"));
 }
 
 void TestMoney::cellsShowNumbersAsMoney_data()
@@ -82,7 +82,7 @@ void TestMoney::cellsShowNumbersAsMoney_data()
     QTest::newRow("a price") << QByteArray("12.5") << "12.50$";
     QTest::newRow("an article named by a number") << QByteArray("33") << "33.00$";
     QTest::newRow("an article named with an exponent") << QByteArray("1e5") << "100,000.00$";
-    QTest::newRow("an article") << QByteArray("Thé") << QStringLiteral("Thé");
+    QTest::newRow("an article") << QByteArray("Thé") << QString("Thé");
     QTest::newRow("a number in a name") << QByteArray("33 cl") << "33 cl";
     QTest::newRow("a decimal comma") << QByteArray("12,5") << "12,5";
     QTest::newRow("empty") << QByteArray() << "";
@@ -100,7 +100,7 @@ void TestMoney::exactCellsKeepTheirCents_data()
     QTest::addColumn<QString>("cell");
     QTest::newRow("a price") << QByteArray("12.5") << "12.50$";
     QTest::newRow("a year") << QByteArray("1234567.91") << "1,234,567.91$";
-    QTest::newRow("an article") << QByteArray("Thé") << QStringLiteral("Thé");
+    QTest::newRow("an article") << QByteArray("Thé") << QString("Thé");
     QTest::newRow("empty") << QByteArray() << "";
 }
 
@@ -130,10 +130,10 @@ void TestMoney::aShownAmountIsReadBack()
 
 void TestMoney::commasBecomePoints()
 {
-    QCOMPARE(withPoint(QStringLiteral("12,5")), QStringLiteral("12.5"));
-    QCOMPARE(withPoint(QStringLiteral("1,2,3")), QStringLiteral("1.2.3"));
-    QCOMPARE(withPoint(QStringLiteral("12.5")), QStringLiteral("12.5"));
+    QCOMPARE(withPoint(QString("12,5")), QString("12.5"));
+    QCOMPARE(withPoint(QString("1,2,3")), QString("1.2.3"));
+    QCOMPARE(withPoint(QString("12.5")), QString("12.5"));
 }
 
-VENDEL_CORE_TEST_MAIN(TestMoney)
+VENDEL_TEST(TestMoney)
 #include "tst_Money.moc"

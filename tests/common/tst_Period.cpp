@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Period.h"
-#include "tests/support/CoreTestMain.h"
+#include "tests/support/TestProgram.h"
 
 Q_DECLARE_METATYPE(Period::Fault)
 
@@ -86,12 +86,12 @@ void TestPeriod::everyHourOfAClockChangeIsADate_data()
 {
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("second");
-    QTest::newRow("put forward") << QStringLiteral("03/31/2019 02:30:00.000")
-                                 << QStringLiteral("03/31/2019 02:59:59.999");
-    QTest::newRow("put back") << QStringLiteral("10/27/2019 02:30:00.000")
-                              << QStringLiteral("10/27/2019 02:59:59.999");
-    QTest::newRow("around it") << QStringLiteral("03/31/2019 01:59:59.999")
-                               << QStringLiteral("03/31/2019 03:00:00.000");
+    QTest::newRow("put forward") << QString("03/31/2019 02:30:00.000")
+                                 << QString("03/31/2019 02:59:59.999");
+    QTest::newRow("put back") << QString("10/27/2019 02:30:00.000")
+                              << QString("10/27/2019 02:59:59.999");
+    QTest::newRow("around it") << QString("03/31/2019 01:59:59.999")
+                               << QString("03/31/2019 03:00:00.000");
 }
 
 void TestPeriod::everyHourOfAClockChangeIsADate()
@@ -104,34 +104,33 @@ void TestPeriod::everyHourOfAClockChangeIsADate()
 
 void TestPeriod::boundsAreInTheStoredForm()
 {
-    const Period period(QStringLiteral("05/01/2019"), QStringLiteral("12/31/2020"));
-    QCOMPARE(period.from(), QStringLiteral("2019-05-01"));
-    QCOMPARE(period.to(), QStringLiteral("2020-12-31"));
+    const Period period(QString("05/01/2019"), QString("12/31/2020"));
+    QCOMPARE(period.from(), QString("2019-05-01"));
+    QCOMPARE(period.to(), QString("2020-12-31"));
 }
 
 void TestPeriod::aMomentKeepsItsTimeOfDay()
 {
-    const Period period(
-        QStringLiteral("05/01/2019 01:02:03.004"), QStringLiteral("05/01/2019 23:59:59.999"));
-    QCOMPARE(period.from(), QStringLiteral("2019-05-01 01:02:03.004"));
-    QCOMPARE(period.to(), QStringLiteral("2019-05-01 23:59:59.999"));
+    const Period period(QString("05/01/2019 01:02:03.004"), QString("05/01/2019 23:59:59.999"));
+    QCOMPARE(period.from(), QString("2019-05-01 01:02:03.004"));
+    QCOMPARE(period.to(), QString("2019-05-01 23:59:59.999"));
 }
 
 void TestPeriod::blanksAroundADateDoNotCount()
 {
-    const Period period(QStringLiteral("  05/01/2019 "), QStringLiteral("\t05/02/2019\n"));
+    const Period period(QString("  05/01/2019 "), QString("\t05/02/2019\n"));
     QCOMPARE(period.fault(), Period::Fault::None);
-    QCOMPARE(period.first(), QStringLiteral("05/01/2019"));
-    QCOMPARE(period.second(), QStringLiteral("05/02/2019"));
-    QCOMPARE(period.to(), QStringLiteral("2019-05-02"));
+    QCOMPARE(period.first(), QString("05/01/2019"));
+    QCOMPARE(period.second(), QString("05/02/2019"));
+    QCOMPARE(period.to(), QString("2019-05-02"));
 }
 
 void TestPeriod::separatorsAreNotLookedAt()
 {
-    const Period period(QStringLiteral("05-01.2019"), QStringLiteral("05'02'2019'10:20:30'123"));
+    const Period period(QString("05-01.2019"), QString("05'02'2019'10:20:30'123"));
     QCOMPARE(period.fault(), Period::Fault::None);
-    QCOMPARE(period.from(), QStringLiteral("2019-05-01"));
-    QCOMPARE(period.to(), QStringLiteral("2019-05-02 10:20:30.123"));
+    QCOMPARE(period.from(), QString("2019-05-01"));
+    QCOMPARE(period.to(), QString("2019-05-02 10:20:30.123"));
 }
 
 void TestPeriod::textsThatAreNoDatesNeverPass_data()
@@ -149,12 +148,12 @@ void TestPeriod::textsThatAreNoDatesNeverPass_data()
 void TestPeriod::textsThatAreNoDatesNeverPass()
 {
     QFETCH(QString, typed);
-    const auto late = QStringLiteral("12/31/9999");
+    const auto late = QString("12/31/9999");
     const Period::Fault asFirst = Period(typed, late).fault();
     QVERIFY(asFirst == Period::Fault::NoDate || asFirst == Period::Fault::Length);
-    const Period::Fault asSecond = Period(QStringLiteral("01/01/0001"), typed).fault();
+    const Period::Fault asSecond = Period(QString("01/01/0001"), typed).fault();
     QCOMPARE(asSecond, asFirst);
 }
 
-VENDEL_CORE_TEST_MAIN(TestPeriod)
+VENDEL_TEST(TestPeriod)
 #include "tst_Period.moc"

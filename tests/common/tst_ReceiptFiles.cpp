@@ -2,8 +2,8 @@
 #include "common/ReceiptFiles.h"
 #include "tests/support/BadDays.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -33,8 +33,8 @@ private slots:
 
 void TestReceiptFiles::haveTheirNames()
 {
-    QCOMPARE(QString(ReceiptFiles::header), QStringLiteral("EnteteFormulaire.dat"));
-    QCOMPARE(QString(ReceiptFiles::footer), QStringLiteral("PiedFormulaire.dat"));
+    QCOMPARE(QString(ReceiptFiles::header), QString("EnteteFormulaire.dat"));
+    QCOMPARE(QString(ReceiptFiles::footer), QString("PiedFormulaire.dat"));
 }
 
 void TestReceiptFiles::aMissingFileIsNothing()
@@ -55,15 +55,15 @@ void TestReceiptFiles::lineEndsStayAsTheyAre()
 {
     const Shop shop(Shop::Database::None);
     shop.write(ReceiptFiles::footer, "Merci à vous\r\ntitre:À bientôt €\n");
-    QCOMPARE(*ReceiptFiles::read(ReceiptFiles::footer),
-        QStringLiteral("Merci à vous\r\ntitre:À bientôt €\n"));
+    QCOMPARE(
+        *ReceiptFiles::read(ReceiptFiles::footer), QString("Merci à vous\r\ntitre:À bientôt €\n"));
 }
 
 void TestReceiptFiles::readsUpToTheFirstNul()
 {
     const Shop shop(Shop::Database::None);
     shop.write(ReceiptFiles::header, QByteArray("Bar\nRue\0 du Port\nx\0y", 19));
-    QCOMPARE(*ReceiptFiles::read(ReceiptFiles::header), QStringLiteral("Bar\nRue"));
+    QCOMPARE(*ReceiptFiles::read(ReceiptFiles::header), QString("Bar\nRue"));
     shop.write(ReceiptFiles::header, QByteArray("\0Bar", 4));
     QCOMPARE(*ReceiptFiles::read(ReceiptFiles::header), QString());
 }
@@ -72,7 +72,7 @@ void TestReceiptFiles::invalidUtf8BecomesReplacementCharacters()
 {
     const Shop shop(Shop::Database::None);
     shop.write(ReceiptFiles::header, "Caf\xE9 noir");
-    QCOMPARE(*ReceiptFiles::read(ReceiptFiles::header), QStringLiteral("Caf\uFFFD noir"));
+    QCOMPARE(*ReceiptFiles::read(ReceiptFiles::header), QString("Caf\uFFFD noir"));
 }
 
 void TestReceiptFiles::aMegabyteIsReadWhole()
@@ -103,9 +103,9 @@ void TestReceiptFiles::anUnreadableFileIsNothing()
 void TestReceiptFiles::aFileThatFailsWhileItIsReadIsNothing()
 {
     const Shop shop(Shop::Database::None);
-    QVERIFY(QFile::link(QStringLiteral("/proc/self/mem"), ReceiptFiles::header));
+    QVERIFY(QFile::link(QString("/proc/self/mem"), ReceiptFiles::header));
     QVERIFY(!ReceiptFiles::read(ReceiptFiles::header).has_value());
-    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QStringLiteral("Bar")));
+    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QString("Bar")));
 }
 
 void TestReceiptFiles::anUnreadableFileIsNotReplaced()
@@ -116,7 +116,7 @@ void TestReceiptFiles::anUnreadableFileIsNotReplaced()
     QVERIFY(chmod(".", 0777) == 0);
     {
         const OrdinaryUser user;
-        QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QStringLiteral("Rue")));
+        QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QString("Rue")));
     }
     QVERIFY(chmod("EnteteFormulaire.dat", 0644) == 0);
     QCOMPARE(shop.read(ReceiptFiles::header), QByteArray("Bar"));
@@ -128,13 +128,12 @@ void TestReceiptFiles::aFifoIsNeitherReadNorReplaced()
     QVERIFY(mkfifo("EnteteFormulaire.dat", 0600) == 0);
     const CapturedLog log;
     QVERIFY(!ReceiptFiles::read(ReceiptFiles::header).has_value());
-    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QStringLiteral("Bar")));
+    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QString("Bar")));
     struct stat status
     { };
     QVERIFY(stat("EnteteFormulaire.dat", &status) == 0);
     QVERIFY(S_ISFIFO(status.st_mode));
-    const QString line
-        = QStringLiteral("EnteteFormulaire.dat is not read: it is not a regular file");
+    const QString line = QString("EnteteFormulaire.dat is not read: it is not a regular file");
     QCOMPARE(log.criticals(), (QStringList{line, line}));
 }
 
@@ -145,7 +144,7 @@ void TestReceiptFiles::aFileThatIsTooLargeIsNeitherReadNorReplaced()
     QVERIFY(QFile::resize(ReceiptFiles::header, 4'194'305));
     const CapturedLog log;
     QVERIFY(!ReceiptFiles::read(ReceiptFiles::header).has_value());
-    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QStringLiteral("Rue")));
+    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, QString("Rue")));
     QCOMPARE(QFileInfo(ReceiptFiles::header).size(), 4'194'305);
     QCOMPARE(log.criticals().size(), 2);
 }
@@ -154,11 +153,11 @@ void TestReceiptFiles::aTextThatIsTooLongIsNotWritten()
 {
     const Shop shop(Shop::Database::None);
     shop.write(ReceiptFiles::footer, "Merci");
-    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::footer, QString(4'194'305, QLatin1Char('x'))));
+    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::footer, QString(4'194'305, 'x')));
     QCOMPARE(shop.read(ReceiptFiles::footer), QByteArray("Merci"));
-    QVERIFY(ReceiptFiles::replace(ReceiptFiles::footer, QString(4'194'304, QLatin1Char('x'))));
+    QVERIFY(ReceiptFiles::replace(ReceiptFiles::footer, QString(4'194'304, 'x')));
     QCOMPARE(ReceiptFiles::read(ReceiptFiles::footer)->size(), 4'194'304);
 }
 
-VENDEL_CORE_TEST_MAIN(TestReceiptFiles)
+VENDEL_TEST(TestReceiptFiles)
 #include "tst_ReceiptFiles.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "common/SlotGuard.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <stdexcept>
 
@@ -30,21 +30,21 @@ void TestSlotGuard::anExceptionIsOneCriticalLine()
 {
     const CapturedLog log;
     guarded("Errors Shop open : ", [] { throw std::runtime_error("no key"); });
-    QCOMPARE(log.criticals(), QStringList(QStringLiteral("Errors Shop open : no key")));
+    QCOMPARE(log.criticals(), QStringList(QString("Errors Shop open : no key")));
 }
 
 void TestSlotGuard::theTextOfAnExceptionIsUtf8()
 {
     const CapturedLog log;
     guarded("Errors Shop open : ", [] { throw std::runtime_error("fermé"); });
-    QCOMPARE(log.criticals(), QStringList(QStringLiteral("Errors Shop open : fermé")));
+    QCOMPARE(log.criticals(), QStringList(QString("Errors Shop open : fermé")));
 }
 
 void TestSlotGuard::percentSignsStand()
 {
     const CapturedLog log;
     guarded("Errors Shop open : ", [] { throw std::runtime_error("100 %s %n"); });
-    QCOMPARE(log.criticals(), QStringList(QStringLiteral("Errors Shop open : 100 %s %n")));
+    QCOMPARE(log.criticals(), QStringList(QString("Errors Shop open : 100 %s %n")));
 }
 
 void TestSlotGuard::whatIsNoStandardExceptionGoesOn()
@@ -60,5 +60,5 @@ void TestSlotGuard::whatIsNoStandardExceptionGoesOn()
     QVERIFY(log.criticals().isEmpty());
 }
 
-VENDEL_CORE_TEST_MAIN(TestSlotGuard)
+VENDEL_TEST(TestSlotGuard)
 #include "tst_SlotGuard.moc"

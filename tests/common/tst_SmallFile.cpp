@@ -2,8 +2,8 @@
 #include "common/SmallFile.h"
 #include "tests/support/BadDays.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 
@@ -30,7 +30,7 @@ private slots:
 };
 
 namespace {
-const QString name = QStringLiteral("Essai é.dat");
+const QString name = QString("Essai é.dat");
 constexpr qint64 fourMegabytes = 4'194'304;
 
 void makeSparse(qint64 size)
@@ -57,9 +57,9 @@ void TestSmallFile::everyByteIsRead()
 void TestSmallFile::aLinkIsFollowed()
 {
     const Shop shop(Shop::Database::None);
-    shop.write(QStringLiteral("Bar"), "Rue");
-    QVERIFY(QFile::link(QStringLiteral("Bar"), QStringLiteral("Lien")));
-    QVERIFY(QFile::link(QStringLiteral("Lien"), name));
+    shop.write(QString("Bar"), "Rue");
+    QVERIFY(QFile::link(QString("Bar"), QString("Lien")));
+    QVERIFY(QFile::link(QString("Lien"), name));
     QCOMPARE(SmallFile::read(name).value(), QByteArray("Rue"));
 }
 
@@ -68,7 +68,7 @@ void TestSmallFile::aMissingFileIsNoTrouble()
     const Shop shop(Shop::Database::None);
     const CapturedLog log;
     QVERIFY(!SmallFile::read(name));
-    QVERIFY(QFile::link(QStringLiteral("nowhere"), name));
+    QVERIFY(QFile::link(QString("nowhere"), name));
     QVERIFY(!SmallFile::read(name));
     QCOMPARE(log.criticals(), QStringList());
 }
@@ -118,7 +118,7 @@ void TestSmallFile::whatCannotBeReadIsLogged()
     make();
     const CapturedLog log;
     QVERIFY(!SmallFile::read(name));
-    QCOMPARE(log.criticals(), QStringList(QStringLiteral("Essai é.dat is not read: ") + reason));
+    QCOMPARE(log.criticals(), QStringList(QString("Essai é.dat is not read: ") + reason));
 }
 
 void TestSmallFile::aFileWithoutRightsIsLogged()
@@ -130,27 +130,26 @@ void TestSmallFile::aFileWithoutRightsIsLogged()
     const OrdinaryUser user;
     const CapturedLog log;
     QVERIFY(!SmallFile::read(name));
-    QCOMPARE(
-        log.criticals(), QStringList(QStringLiteral("Essai é.dat is not read: Permission denied")));
+    QCOMPARE(log.criticals(), QStringList(QString("Essai é.dat is not read: Permission denied")));
 }
 
 void TestSmallFile::aFileWithoutASizeIsReadToItsEnd()
 {
     const Shop shop(Shop::Database::None);
-    QVERIFY(QFile::link(QStringLiteral("/proc/self/comm"), name));
-    QCOMPARE(SmallFile::read(name).value(), QByteArray("tst_SmallFile\n"));
+    QVERIFY(QFile::link(QString("/proc/self/comm"), name));
+    QCOMPARE(SmallFile::read(name).value(), QByteArray("tests_common\n"));
 }
 
 // The kernel writes a process' page map as it is read: no size, and far more than 4 MB.
 void TestSmallFile::aFileThatNeverEndsIsRefused()
 {
     const Shop shop(Shop::Database::None);
-    QVERIFY(QFile::link(QStringLiteral("/proc/self/pagemap"), name));
+    QVERIFY(QFile::link(QString("/proc/self/pagemap"), name));
     const CapturedLog log;
     QVERIFY(!SmallFile::read(name));
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Essai é.dat is not read: it is larger than 4 MB")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Essai é.dat is not read: it is larger than 4 MB")));
 }
 
-VENDEL_CORE_TEST_MAIN(TestSmallFile)
+VENDEL_TEST(TestSmallFile)
 #include "tst_SmallFile.moc"

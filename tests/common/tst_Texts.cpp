@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Texts.h"
-#include "tests/support/CoreTestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 
 class TestTexts : public QObject
@@ -25,71 +25,70 @@ namespace {
 constexpr auto own = "FormVendelSaisieArticle";
 constexpr Texts texts{own};
 const QString ownContext = QString::fromLatin1(own);
-const QString catalogue = QStringLiteral("FormVendelMessages");
-const QString duplicates = QStringLiteral("Supprimer le(s) %n doublon(s)");
+const QString catalogue = QString("FormVendelMessages");
+const QString duplicates = QString("Supprimer le(s) %n doublon(s)");
 } // namespace
 
 void TestTexts::withoutATranslationTheTextStandsAsItIs()
 {
-    QCOMPARE(texts("Première Date"), QStringLiteral("Première Date"));
+    QCOMPARE(texts("Première Date"), QString("Première Date"));
     QCOMPARE(texts(""), QString());
 }
 
 void TestTexts::theOwnContextComesFirst()
 {
     Translation translation;
-    translation.add(ownContext, QStringLiteral("Entête"), QStringLiteral("Own heading"));
-    translation.add(catalogue, QStringLiteral("Entête"), QStringLiteral("Heading"));
-    QCOMPARE(texts("Entête"), QStringLiteral("Own heading"));
+    translation.add(ownContext, QString("Entête"), QString("Own heading"));
+    translation.add(catalogue, QString("Entête"), QString("Heading"));
+    QCOMPARE(texts("Entête"), QString("Own heading"));
 }
 
 void TestTexts::theCatalogueServesWhereTheOwnContextHasNothing()
 {
     Translation translation;
-    translation.add(catalogue, QStringLiteral("Entête"), QStringLiteral("Heading"));
-    QCOMPARE(texts("Entête"), QStringLiteral("Heading"));
+    translation.add(catalogue, QString("Entête"), QString("Heading"));
+    QCOMPARE(texts("Entête"), QString("Heading"));
 }
 
 void TestTexts::anotherContextIsNotAsked()
 {
     Translation translation;
-    translation.add(
-        QStringLiteral("FormVendel"), QStringLiteral("Entête"), QStringLiteral("Heading"));
-    QCOMPARE(texts("Entête"), QStringLiteral("Entête"));
+    translation.add(QString("FormVendel"), QString("Entête"), QString("Heading"));
+    QCOMPARE(texts("Entête"), QString("Entête"));
 }
 
 void TestTexts::theNumberIsFilledInWithoutATranslation()
 {
-    QCOMPARE(texts(duplicates.toStdString(), 3), QStringLiteral("Supprimer le(s) 3 doublon(s)"));
+    QCOMPARE(texts(duplicates.toStdString(), 3), QString("Supprimer le(s) 3 doublon(s)"));
 }
 
 void TestTexts::theNumberIsFilledInFromTheOwnContext()
 {
     Translation translation;
-    translation.add(ownContext, duplicates, QStringLiteral("Delete %n own"));
-    translation.add(catalogue, duplicates, QStringLiteral("Delete %n"));
-    QCOMPARE(texts(duplicates.toStdString(), 3), QStringLiteral("Delete 3 own"));
+    translation.add(ownContext, duplicates, QString("Delete %n own"));
+    translation.add(catalogue, duplicates, QString("Delete %n"));
+    QCOMPARE(texts(duplicates.toStdString(), 3), QString("Delete 3 own"));
 }
 
 void TestTexts::theNumberIsFilledInFromTheCatalogue()
 {
     Translation translation;
-    translation.add(catalogue, duplicates, QStringLiteral("Delete %n"));
-    QCOMPARE(texts(duplicates.toStdString(), 3), QStringLiteral("Delete 3"));
+    translation.add(catalogue, duplicates, QString("Delete %n"));
+    QCOMPARE(texts(duplicates.toStdString(), 3), QString("Delete 3"));
 }
 
 void TestTexts::thePluralIsChosenByTheCount()
 {
     Translation translation;
-    translation.add(catalogue, duplicates, QStringLiteral("Delete %n double"));
-    translation.addPlural(catalogue, duplicates, QStringLiteral("Delete %n doubles"));
-    QCOMPARE(texts(duplicates.toStdString(), 1), QStringLiteral("Delete 1 double"));
-    QCOMPARE(texts(duplicates.toStdString(), 2), QStringLiteral("Delete 2 doubles"));
+    translation.add(catalogue, duplicates, QString("Delete %n double"));
+    translation.addPlural(catalogue, duplicates, QString("Delete %n doubles"));
+    QCOMPARE(texts(duplicates.toStdString(), 1), QString("Delete 1 double"));
+    QCOMPARE(texts(duplicates.toStdString(), 2), QString("Delete 2 doubles"));
 }
 
 void TestTexts::theCountZeroIsFilledIn()
 {
-    QCOMPARE(texts(duplicates.toStdString(), 0), QStringLiteral("Supprimer le(s) 0 doublon(s)"));
+    QCOMPARE(texts(duplicates.toStdString(), 0), QString("Supprimer le(s) 0 doublon(s)"));
 }
 
 void TestTexts::withoutACountTheMarkStays()
@@ -99,20 +98,19 @@ void TestTexts::withoutACountTheMarkStays()
 
 void TestTexts::aCaptionIsLookedUpInTheWindowsTwoContextsAndTheCatalogue()
 {
-    const QString heading = QStringLiteral("Entête");
+    const QString heading = QString("Entête");
     const auto caption = [&] { return Texts::caption(own, heading); };
     QCOMPARE(caption(), heading);
     Translation translation;
-    translation.add(QStringLiteral("FormVendel"), heading, QStringLiteral("elsewhere"));
+    translation.add(QString("FormVendel"), heading, QString("elsewhere"));
     QCOMPARE(caption(), heading);
-    translation.add(catalogue, heading, QStringLiteral("catalogue"));
-    QCOMPARE(caption(), QStringLiteral("catalogue"));
-    translation.add(
-        QStringLiteral("FormVendelSaisieArticleMessages"), heading, QStringLiteral("messages"));
-    QCOMPARE(caption(), QStringLiteral("messages"));
-    translation.add(ownContext, heading, QStringLiteral("own"));
-    QCOMPARE(caption(), QStringLiteral("own"));
+    translation.add(catalogue, heading, QString("catalogue"));
+    QCOMPARE(caption(), QString("catalogue"));
+    translation.add(QString("FormVendelSaisieArticleMessages"), heading, QString("messages"));
+    QCOMPARE(caption(), QString("messages"));
+    translation.add(ownContext, heading, QString("own"));
+    QCOMPARE(caption(), QString("own"));
 }
 
-VENDEL_CORE_TEST_MAIN(TestTexts)
+VENDEL_TEST(TestTexts)
 #include "tst_Texts.moc"

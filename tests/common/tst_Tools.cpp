@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Tools.h"
-#include "tests/support/CoreTestMain.h"
+#include "tests/support/TestProgram.h"
 
 class TestTools : public QObject
 {
@@ -31,7 +31,7 @@ void TestTools::tellsNumbers_data()
     QTest::newRow("a decimal comma") << "12,50" << false;
     QTest::newRow("empty") << "" << false;
     QTest::newRow("blanks alone") << "  " << false;
-    QTest::newRow("a currency sign") << QStringLiteral("3€") << false;
+    QTest::newRow("a currency sign") << QString("3€") << false;
     QTest::newRow("a dollar sign") << "3$" << false;
     QTest::newRow("a minus") << "-2.5" << true;
     QTest::newRow("a plus") << "+2.5" << true;
@@ -50,7 +50,7 @@ void TestTools::tellsNumbers_data()
     QTest::newRow("a blank inside") << "1 000" << false;
     QTest::newRow("infinity") << "inf" << true;
     QTest::newRow("no number by name") << "nan" << true;
-    QTest::newRow("a name") << QStringLiteral("Thé") << false;
+    QTest::newRow("a name") << QString("Thé") << false;
     QTest::newRow("a large number") << "123456789012345678901234567890" << true;
 }
 
@@ -65,11 +65,11 @@ void TestTools::doublesSingleQuotes_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("result");
     QTest::newRow("a quote") << QByteArray("l'eau") << "l''eau";
-    QTest::newRow("no quote") << QByteArray("Bière") << QStringLiteral("Bière");
+    QTest::newRow("no quote") << QByteArray("Bière") << QString("Bière");
     QTest::newRow("empty") << QByteArray() << "";
     QTest::newRow("only quotes") << QByteArray("'''") << "''''''";
     QTest::newRow("double quotes stay") << QByteArray("\"l'eau\"") << "\"l''eau\"";
-    QTest::newRow("other apostrophes stay") << QByteArray("l’eau`") << QStringLiteral("l’eau`");
+    QTest::newRow("other apostrophes stay") << QByteArray("l’eau`") << QString("l’eau`");
     QTest::newRow("a semicolon stays") << QByteArray("a; b'") << "a; b''";
 }
 
@@ -152,8 +152,7 @@ void TestTools::putsDatesInYearFirstOrder_data()
                                    << "";
     QTest::newRow("empty") << ""
                            << "";
-    QTest::newRow("characters, not bytes")
-        << QStringLiteral("éé/àà/çççç") << QStringLiteral("çççç-éé-àà");
+    QTest::newRow("characters, not bytes") << QString("éé/àà/çççç") << QString("çççç-éé-àà");
 }
 
 void TestTools::putsDatesInYearFirstOrder()
@@ -191,5 +190,5 @@ void TestTools::namesHaveFifteenCharacters()
     QCOMPARE(Tools::NbrChar, 15);
 }
 
-VENDEL_CORE_TEST_MAIN(TestTools)
+VENDEL_TEST(TestTools)
 #include "tst_Tools.moc"

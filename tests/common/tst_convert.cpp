@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/Handle.h"
 #include "common/convert.h"
-#include "tests/support/CoreTestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 
@@ -155,7 +155,7 @@ void TestConvert::controlBytesPassThrough()
 
 void TestConvert::noDescriptorStaysOpen()
 {
-    const QDir descriptors(QStringLiteral("/proc/self/fd"));
+    const QDir descriptors(QString("/proc/self/fd"));
     converted("UTF-8", "CP858", "é");
     const auto before = descriptors.entryList(QDir::AllEntries | QDir::System).size();
     for (int call = 0; call < 2000; ++call) {
@@ -166,5 +166,5 @@ void TestConvert::noDescriptorStaysOpen()
     QCOMPARE(descriptors.entryList(QDir::AllEntries | QDir::System).size(), before);
 }
 
-VENDEL_CORE_TEST_MAIN(TestConvert)
+VENDEL_TEST(TestConvert)
 #include "tst_convert.moc"

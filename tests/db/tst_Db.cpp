@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "db/Db.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 
@@ -40,7 +40,7 @@ private slots:
 namespace {
 long openDescriptors()
 {
-    return QDir(QStringLiteral("/proc/self/fd"))
+    return QDir(QString("/proc/self/fd"))
         .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
         .size();
 }
@@ -233,9 +233,9 @@ void TestDb::aMissingDatabaseIsMade()
     const Shop shop(Shop::Database::None);
     CapturedOutput output;
     QCOMPARE(Db::DbLoad("select 1"), DbRows(1, {std::string("1")}));
-    QVERIFY(QFile::exists(QStringLiteral("Vendel.db")));
+    QVERIFY(QFile::exists(QString("Vendel.db")));
     QCOMPARE(output.text(), QByteArray());
 }
 
-VENDEL_CORE_TEST_MAIN(TestDb)
+VENDEL_TEST(TestDb)
 #include "tst_Db.moc"

@@ -2,8 +2,8 @@
 #include "db/Db.h"
 #include "tests/support/BadDays.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -55,7 +55,7 @@ protected:
 void TestDbBadDays::aDatabaseThatIsADirectoryCannotBeOpened()
 {
     const Shop shop(Shop::Database::None);
-    QVERIFY(QDir().mkdir(QStringLiteral("Vendel.db")));
+    QVERIFY(QDir().mkdir(QString("Vendel.db")));
     CapturedOutput output;
     QVERIFY(Db::DbLoad("select 1").empty());
     QCOMPARE(output.text(),
@@ -66,7 +66,7 @@ void TestDbBadDays::aDatabaseThatIsADirectoryCannotBeOpened()
 void TestDbBadDays::nullOnADatabaseThatCannotBeOpenedSpoilsTheStream()
 {
     const Shop shop(Shop::Database::None);
-    QVERIFY(QDir().mkdir(QStringLiteral("Vendel.db")));
+    QVERIFY(QDir().mkdir(QString("Vendel.db")));
     CapturedOutput output;
     QVERIFY(Db::DbLoad(nullptr).empty());
     QVERIFY(std::cout.fail());
@@ -78,7 +78,7 @@ void TestDbBadDays::nullOnADatabaseThatCannotBeOpenedSpoilsTheStream()
 void TestDbBadDays::creatingASchemaInADirectoryOnlyComplains()
 {
     const Shop shop(Shop::Database::None);
-    QVERIFY(QDir().mkdir(QStringLiteral("Vendel.db")));
+    QVERIFY(QDir().mkdir(QString("Vendel.db")));
     CapturedOutput output;
     Db::DbCreate();
     QCOMPARE(output.text().count("Not open database successfully\n"), 9);
@@ -89,7 +89,7 @@ void TestDbBadDays::creatingASchemaInADirectoryOnlyComplains()
 void TestDbBadDays::anExceptionInTheCreationIsWrittenOnStandardError()
 {
     const Shop shop(Shop::Database::None);
-    QVERIFY(QDir().mkdir(QStringLiteral("Vendel.db")));
+    QVERIFY(QDir().mkdir(QString("Vendel.db")));
     FullStream full;
     std::ostringstream errors;
     std::streambuf* output = std::cout.rdbuf(&full);
@@ -110,20 +110,20 @@ void TestDbBadDays::aFileThatIsNoDatabaseIsReported()
 {
     const Shop shop(Shop::Database::None);
     const QByteArray letter = QByteArray("Chère cliente, cher client,\n").repeated(100);
-    shop.write(QStringLiteral("Vendel.db"), letter);
+    shop.write(QString("Vendel.db"), letter);
     CapturedOutput output;
     QVERIFY(Db::DbLoad("select * from Ticket").empty());
     QCOMPARE(output.text(),
         QByteArray("Errors Db::DbLoad sqlite3_errmsg : select * from Ticket "
                    "file is not a database\n"));
     Db::DbLoad(addTea);
-    QCOMPARE(shop.read(QStringLiteral("Vendel.db")), letter);
+    QCOMPARE(shop.read(QString("Vendel.db")), letter);
 }
 
 void TestDbBadDays::anEmptyFileLacksItsTables()
 {
     const Shop shop(Shop::Database::None);
-    shop.write(QStringLiteral("Vendel.db"), QByteArray());
+    shop.write(QString("Vendel.db"), QByteArray());
     CapturedOutput output;
     QVERIFY(Db::DbLoad("select * from Ticket").empty());
     QCOMPARE(output.text(),
@@ -239,5 +239,5 @@ void TestDbBadDays::aReaderOfAnotherProcessDisturbsNobody()
     QCOMPARE(output.text(), QByteArray());
 }
 
-VENDEL_CORE_TEST_MAIN(TestDbBadDays)
+VENDEL_TEST(TestDbBadDays)
 #include "tst_DbBadDays.moc"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "db/Db.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDateTime>
 
@@ -89,7 +89,7 @@ void TestDbSchema::aSecondCreationOnlyComplains()
     Db::DbCreate();
     QCOMPARE(output.text().count("Errors Db::DbLoad sqlite3_errmsg : CREATE "), 7);
     QCOMPARE(output.text().count('\n'), 7);
-    QCOMPARE(shop.cell("select count(*) from Article"), QStringLiteral("1"));
+    QCOMPARE(shop.cell("select count(*) from Article"), QString("1"));
 }
 
 void TestDbSchema::theMenuNeverReusesAnArticleNumber()
@@ -98,7 +98,7 @@ void TestDbSchema::theMenuNeverReusesAnArticleNumber()
     shop.sql("insert into Article (article, prix) values ('Thé', 1), ('Eau', 1)");
     shop.sql("delete from Article where id = 2");
     shop.sql("insert into Article (article, prix) values ('Vin', 1)");
-    QCOMPARE(shop.cell("select id from Article where article = 'Vin'"), QStringLiteral("3"));
+    QCOMPARE(shop.cell("select id from Article where article = 'Vin'"), QString("3"));
 }
 
 void TestDbSchema::ticketLinesGetTheirKeyFromTheDatabase()
@@ -111,7 +111,7 @@ void TestDbSchema::ticketLinesGetTheirKeyFromTheDatabase()
 void TestDbSchema::aSaleGetsTheLocalTimeOfItsInsertion()
 {
     const Shop shop;
-    const QString format = QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz");
+    const QString format = QString("yyyy-MM-dd hh:mm:ss.zzz");
     const QDateTime before = QDateTime::currentDateTime();
     shop.sql("insert into Historique (id, article, prix) values (1, 'Thé', 1)");
     const QDateTime after = QDateTime::currentDateTime();
@@ -125,8 +125,8 @@ void TestDbSchema::asciiLettersCompareWithoutCase()
 {
     const Shop shop;
     shop.sql("insert into Article (article, prix) values ('CAFÉ', 1), ('cafÉ', 1), ('café', 1)");
-    QCOMPARE(shop.cell("select count(*) from Article where article = 'CafÉ'"), QStringLiteral("2"));
-    QCOMPARE(shop.cell("select valeur from Config where param = 'tva'"), QStringLiteral("0"));
+    QCOMPARE(shop.cell("select count(*) from Article where article = 'CafÉ'"), QString("2"));
+    QCOMPARE(shop.cell("select valeur from Config where param = 'tva'"), QString("0"));
 }
 
 void TestDbSchema::pricesThatLookLikeNumbersAreNumbers()
@@ -153,5 +153,5 @@ void TestDbSchema::missingValuesAreRefused()
                    "NOT NULL constraint failed: Config.valeur\n"));
 }
 
-VENDEL_CORE_TEST_MAIN(TestDbSchema)
+VENDEL_TEST(TestDbSchema)
 #include "tst_DbSchema.moc"

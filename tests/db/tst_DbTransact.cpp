@@ -2,8 +2,8 @@
 #include "db/Db.h"
 #include "tests/support/BadDays.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -21,7 +21,7 @@ std::string names()
 
 int openDescriptors()
 {
-    return static_cast<int>(QDir(QStringLiteral("/proc/self/fd"))
+    return static_cast<int>(QDir(QString("/proc/self/fd"))
                                 .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
                                 .size());
 }
@@ -38,7 +38,7 @@ private slots:
         CapturedOutput output;
         QVERIFY(Db::DbTransact({addTea, addMilk, "update Article set prix = 3 where prix = 1"}));
         QCOMPARE(names(), std::string("Thé,Lait"));
-        QCOMPARE(shop.cell("select prix from Article where article = 'Lait'"), QStringLiteral("3"));
+        QCOMPARE(shop.cell("select prix from Article where article = 'Lait'"), QString("3"));
         QCOMPARE(output.text(), QByteArray());
     }
 
@@ -99,7 +99,7 @@ private slots:
             QCOMPARE(output.text(), databaseReport("commit", "database is locked"));
         }
         QCOMPARE(names(), std::string());
-        QCOMPARE(shop.cell("pragma integrity_check"), QStringLiteral("ok"));
+        QCOMPARE(shop.cell("pragma integrity_check"), QString("ok"));
     }
 
     void aFullFileSystemTakesAllBack()
@@ -116,7 +116,7 @@ private slots:
             QVERIFY(output.text().endsWith(" disk I/O error\n"));
         }
         QCOMPARE(names(), std::string("Thé"));
-        QCOMPARE(shop.cell("pragma integrity_check"), QStringLiteral("ok"));
+        QCOMPARE(shop.cell("pragma integrity_check"), QString("ok"));
     }
 
     void noDescriptorStaysOpen()
@@ -126,9 +126,9 @@ private slots:
         QVERIFY(Db::DbTransact({addTea}));
         QVERIFY(!Db::DbTransact({addMilk, "refused"}));
         QCOMPARE(openDescriptors(), before);
-        QVERIFY(!QFile::exists(QStringLiteral("Vendel.db-journal")));
+        QVERIFY(!QFile::exists(QString("Vendel.db-journal")));
     }
 };
 
-VENDEL_CORE_TEST_MAIN(TestDbTransact)
+VENDEL_TEST(TestDbTransact)
 #include "tst_DbTransact.moc"

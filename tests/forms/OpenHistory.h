@@ -21,10 +21,10 @@ public:
     /// Writes one sale into the journal; \a price as SQL.
     void sell(const char* article, const char* price, const char* moment) const
     {
-        const QString sql = QStringLiteral("insert into Historique values (1, '%1', %2, '%3')")
-                                .arg(QString::fromUtf8(article).replace(
-                                         QStringLiteral("'"), QStringLiteral("''")),
-                                    QString::fromUtf8(price), QString::fromUtf8(moment));
+        const QString sql
+            = QString("insert into Historique values (1, '%1', %2, '%3')")
+                  .arg(QString::fromUtf8(article).replace(QString("'"), QString("''")),
+                      QString::fromUtf8(price), QString::fromUtf8(moment));
         QVERIFY(Db::DbTransact({sql.toStdString()}));
     }
 

@@ -10,8 +10,8 @@
 #include <QLabel>
 #include <QTextEdit>
 
-inline const QString headerFile = QStringLiteral("EnteteFormulaire.dat");
-inline const QString footerFile = QStringLiteral("PiedFormulaire.dat");
+inline const QString headerFile = QString("EnteteFormulaire.dat");
+inline const QString footerFile = QString("PiedFormulaire.dat");
 
 /// A folder that holds the shop's two files, where they are not null, made before anything reads
 /// them.

@@ -4,7 +4,7 @@
 #include "tests/forms/OpenArticleEditor.h"
 #include "tests/forms/StockSample.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QTableView>
@@ -106,9 +106,9 @@ void TestChosenRow::removingAnArticleNeedsAMarkedRow()
     QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(editor.window, "tableView")));
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Supprimer");
-    QCOMPARE(box.text(), QStringLiteral("Selectionner un/des article(s) dans le menu"));
+    QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
 }
 
 void TestChosenRow::renamingAnArticleNeedsAMarkedRow_data()
@@ -125,9 +125,9 @@ void TestChosenRow::renamingAnArticleNeedsAMarkedRow()
     QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(editor.window, "tableView")));
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Renommer");
-    QCOMPARE(box.text(), QStringLiteral("Selectionner 1 article dans le menu à renommer"));
+    QCOMPARE(box.text(), QString("Selectionner 1 article dans le menu à renommer"));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
 }
 
 void TestChosenRow::removingAStockArticleNeedsAMarkedRow_data()
@@ -145,9 +145,9 @@ void TestChosenRow::removingAStockArticleNeedsAMarkedRow()
     QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(stock, "tableView1")));
     const AnswerBox box(QMessageBox::Yes);
     click(stock, "btn_Remove");
-    QCOMPARE(box.text(), QStringLiteral("Selectionner un/des article(s) dans le menu"));
+    QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QStringLiteral("1,2,3"));
+    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QString("1,2,3"));
 }
 
 void TestChosenRow::movingALineNeedsAMarkedRow_data()
@@ -164,10 +164,9 @@ void TestChosenRow::movingALineNeedsAMarkedRow()
     QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(window, "tableView2")));
     const AnswerBox box(QMessageBox::Yes);
     click(window, "btn_Modify");
-    QCOMPARE(
-        box.text(), QStringLiteral("Selectionner un/des composition(s) / dose(s) dans la list"));
+    QCOMPARE(box.text(), QString("Selectionner un/des composition(s) / dose(s) dans la list"));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(shop.cell("select id from DoseStock where idlig = 12"), QStringLiteral("3"));
+    QCOMPARE(shop.cell("select id from DoseStock where idlig = 12"), QString("3"));
 }
 
 void TestChosenRow::theDeleteKeyNeedsAMarkedLine_data()
@@ -185,8 +184,8 @@ void TestChosenRow::theDeleteKeyNeedsAMarkedLine()
     auto& recipe = child<QTableView>(stock, "tableView2");
     QVERIFY(leadsToAFrameWithoutAMark(recipe));
     QTest::keyClick(&recipe, Qt::Key_Delete);
-    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QStringLiteral("10,11,12"));
+    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QString("10,11,12"));
 }
 
-VENDEL_TEST_MAIN(TestChosenRow)
+VENDEL_TEST(TestChosenRow)
 #include "tst_ChosenRow.moc"

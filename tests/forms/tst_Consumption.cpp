@@ -3,7 +3,7 @@
 #include "tests/forms/StockSample.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/ListLook.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 /// What counts as consumed, read off the window.
 class TestConsumption : public QObject
@@ -46,19 +46,19 @@ void TestConsumption::largerUnitsAreConverted_data()
     QTest::addColumn<QString>("update");
     QTest::addColumn<QStringList>("detail");
     QTest::addColumn<QStringList>("total");
-    QTest::newRow("oz") << QStringLiteral("dose = 8, unite = 'oz'")
+    QTest::newRow("oz") << QString("dose = 8, unite = 'oz'")
                         << cells({"3", "Café", "Lait", "8.00 oz", "24.00 oz"})
                         << cells({"Lait", "24.00", "oz", "1.500", "pound"});
-    QTest::newRow("fl. oz") << QStringLiteral("dose = 2.6666666666666665, unite = 'fl. oz'")
+    QTest::newRow("fl. oz") << QString("dose = 2.6666666666666665, unite = 'fl. oz'")
                             << cells({"3", "Café", "Lait", "2.67 fl. oz", "8.00 fl. oz"})
                             << cells({"Lait", "8.00", "fl. oz", "0.250", "quart"});
-    QTest::newRow("many oz") << QStringLiteral("dose = 16000, unite = 'oz'")
+    QTest::newRow("many oz") << QString("dose = 16000, unite = 'oz'")
                              << cells({"3", "Café", "Lait", "16,000.00 oz", "48,000.00 oz"})
                              << cells({"Lait", "48,000.00", "oz", "3,000.000", "pound"});
-    QTest::newRow("g") << QStringLiteral("dose = 7, unite = 'g'")
+    QTest::newRow("g") << QString("dose = 7, unite = 'g'")
                        << cells({"3", "Café", "Lait", "7.00 g", "21.00 g"})
                        << cells({"Lait", "21.00", "g", "", ""});
-    QTest::newRow("OZ is no oz") << QStringLiteral("dose = 8, unite = 'OZ'")
+    QTest::newRow("OZ is no oz") << QString("dose = 8, unite = 'OZ'")
                                  << cells({"3", "Café", "Lait", "8.00 OZ", "24.00 OZ"})
                                  << cells({"Lait", "24.00", "OZ", "", ""});
 }
@@ -83,8 +83,8 @@ void TestConsumption::theSecondDateItselfIsNotCounted()
     bar.sell("Café", 2, "2", "2019-05-01 00:00:00.000");
     bar.sell("Café", 3, "2", "2019-05-31 23:59:59.999");
     bar.sell("Café", 4, "2", "2019-06-01 00:00:00.000");
-    QCOMPARE(Consumed().detail(0).at(0), QStringLiteral("5"));
-    QCOMPARE(Consumed(mayFirst, QStringLiteral("06/02/2019")).detail(0).at(0), QStringLiteral("9"));
+    QCOMPARE(Consumed().detail(0).at(0), QString("5"));
+    QCOMPARE(Consumed(mayFirst, QString("06/02/2019")).detail(0).at(0), QString("9"));
 }
 
 void TestConsumption::aTimeOfDayBoundsThePeriod()
@@ -94,11 +94,10 @@ void TestConsumption::aTimeOfDayBoundsThePeriod()
     bar.sell("Café", 2, "2", "2019-05-10 10:00:00.000");
     bar.sell("Café", 3, "2", "2019-05-10 12:30:00.250");
     bar.sell("Café", 4, "2", "2019-05-10 12:30:00.251");
-    Consumed at(
-        QStringLiteral("05/10/2019 10:00:00.000"), QStringLiteral("05/10/2019 12:30:00.250"));
+    Consumed at(QString("05/10/2019 10:00:00.000"), QString("05/10/2019 12:30:00.250"));
     QCOMPARE(at.detail(0), cells({"5", "Café", "Lait", "2.50 cl", "12.50 cl"}));
-    Consumed mixed(QStringLiteral("05/10/2019"), QStringLiteral("05/10/2019 10:00:00.000"));
-    QCOMPARE(mixed.detail(0).at(0), QStringLiteral("3"));
+    Consumed mixed(QString("05/10/2019"), QString("05/10/2019 10:00:00.000"));
+    QCOMPARE(mixed.detail(0).at(0), QString("3"));
 }
 
 void TestConsumption::twoPricesWithDifferentCountsAreBothCounted()
@@ -137,7 +136,7 @@ void TestConsumption::oneCompositionInTwoUnitsIsAddedUp()
     QCOMPARE(at.detail(0), cells({"2", "Café", "Lait", "2.50 cl", "5.00 cl"}));
     QCOMPARE(at.detail(1), cells({"3", "Thé", "lait", "10.00 g", "30.00 g"}));
     QCOMPARE(at.totals(), 1);
-    QCOMPARE(at.total(0).at(1), QStringLiteral("35.00"));
+    QCOMPARE(at.total(0).at(1), QString("35.00"));
     QVERIFY(cells({"cl", "g"}).contains(at.total(0).at(2)));
 }
 
@@ -150,7 +149,7 @@ void TestConsumption::articlesSharingACompositionAreAddedUp()
     Consumed at;
     QCOMPARE(at.details(), 3);
     QCOMPARE(at.detail(0), cells({"2", "Café", "Lait", "2.50 cl", "5.00 cl"}));
-    QCOMPARE(at.detail(1).at(1), QStringLiteral("Thé"));
+    QCOMPARE(at.detail(1).at(1), QString("Thé"));
     QCOMPARE(at.totals(), 2);
     QCOMPARE(at.total(0), cells({"Eau", "80.00", "cl", "", ""}));
     QCOMPARE(at.total(1), cells({"Lait", "9.00", "cl", "", ""}));
@@ -206,10 +205,10 @@ void TestConsumption::aQuoteInADateStaysText()
     bar.sell("Café", 3);
     const AnswerBox box;
     CapturedOutput output;
-    Consumed at(QStringLiteral("05/01/2019"), QStringLiteral("06/01/2019 10:00:00'000"));
+    Consumed at(QString("05/01/2019"), QString("06/01/2019 10:00:00'000"));
     const QByteArray said = diagnostics(output);
     QCOMPARE(said, QByteArray());
-    QCOMPARE(at.detail(0).at(0), QStringLiteral("3"));
+    QCOMPARE(at.detail(0).at(0), QString("3"));
 }
 
 void TestConsumption::aDateOfAnotherLengthFindsNothing()
@@ -217,10 +216,10 @@ void TestConsumption::aDateOfAnotherLengthFindsNothing()
     const Bar bar;
     bar.sell("Café", 3);
     const AnswerBox box;
-    Consumed at(QStringLiteral("5/1/2019"), QStringLiteral("6/1/2019"));
-    QCOMPARE(box.title(), QStringLiteral("Calcul Stock"));
+    Consumed at(QString("5/1/2019"), QString("6/1/2019"));
+    QCOMPARE(box.title(), QString("Calcul Stock"));
     QCOMPARE(at.details(), 0);
 }
 
-VENDEL_TEST_MAIN(TestConsumption)
+VENDEL_TEST(TestConsumption)
 #include "tst_Consumption.moc"

@@ -5,7 +5,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
 #include "tests/support/LeakCheck.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QApplication>
 
@@ -50,11 +50,11 @@ void TestFormVendelConfigStore::aRateIsStoredAndClosesTheWindow_data()
 {
     QTest::addColumn<QByteArray>("typed");
     QTest::addColumn<QString>("stored");
-    QTest::newRow("comma") << QByteArray("5,5") << QStringLiteral("5.5");
-    QTest::newRow("point") << QByteArray("5.5") << QStringLiteral("5.5");
-    QTest::newRow("blanks") << QByteArray("  20 ") << QStringLiteral("20");
-    QTest::newRow("negative") << QByteArray("-3") << QStringLiteral("-3");
-    QTest::newRow("beyond a hundred") << QByteArray("1e3") << QStringLiteral("1000");
+    QTest::newRow("comma") << QByteArray("5,5") << QString("5.5");
+    QTest::newRow("point") << QByteArray("5.5") << QString("5.5");
+    QTest::newRow("blanks") << QByteArray("  20 ") << QString("20");
+    QTest::newRow("negative") << QByteArray("-3") << QString("-3");
+    QTest::newRow("beyond a hundred") << QByteArray("1e3") << QString("1000");
 }
 
 void TestFormVendelConfigStore::aRateIsStoredAndClosesTheWindow()
@@ -77,9 +77,9 @@ void TestFormVendelConfigStore::aBadRateIsRefused_data()
     QTest::addColumn<QString>("kept");
     QTest::newRow("empty") << QByteArray() << QString();
     QTest::newRow("blanks") << QByteArray("   ") << QString();
-    QTest::newRow("letters") << QByteArray(" abc ") << QStringLiteral("abc");
-    QTest::newRow("per cent") << QByteArray("20%") << QStringLiteral("20%");
-    QTest::newRow("group separator") << QByteArray("1,234.50") << QStringLiteral("1,234.50");
+    QTest::newRow("letters") << QByteArray(" abc ") << QString("abc");
+    QTest::newRow("per cent") << QByteArray("20%") << QString("20%");
+    QTest::newRow("group separator") << QByteArray("1,234.50") << QString("1,234.50");
 }
 
 void TestFormVendelConfigStore::aBadRateIsRefused()
@@ -91,15 +91,15 @@ void TestFormVendelConfigStore::aBadRateIsRefused()
     typeRate(window, typed.constData());
     const AnswerBox box;
     click(window, "btn_Maj_TVA");
-    QCOMPARE(box.title(), QStringLiteral("TVA"));
-    QCOMPARE(box.text(), QStringLiteral("Saisir une TVA valide"));
+    QCOMPARE(box.title(), QString("TVA"));
+    QCOMPARE(box.text(), QString("Saisir une TVA valide"));
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.parent(), &window);
     QCOMPARE(box.strays(), 0);
     QVERIFY(window.isVisible());
     QTEST(rateOf(window), "kept");
-    QCOMPARE(storedRate(shop), QStringLiteral("0"));
+    QCOMPARE(storedRate(shop), QString("0"));
 }
 
 void TestFormVendelConfigStore::aRateThatSqlDoesNotKnowIsNotStored()
@@ -118,7 +118,7 @@ void TestFormVendelConfigStore::aRateThatSqlDoesNotKnowIsNotStored()
         QByteArray("Errors Db::DbLoad sqlite3_errmsg : update Config set valeur = nan where param "
                    "like 'TVA' no such column: nan\n"));
     QVERIFY(!window.isVisible());
-    QCOMPARE(storedRate(shop), QStringLiteral("0"));
+    QCOMPARE(storedRate(shop), QString("0"));
 }
 
 void TestFormVendelConfigStore::theSwitchIsStoredAndClosesTheWindow()
@@ -144,16 +144,16 @@ void TestFormVendelConfigStore::eachButtonStoresItsOwnSettingOnly()
     typeRate(first, "abc");
     QTest::keyClick(&child<QComboBox>(first, "cbx_Epson"), Qt::Key_Down);
     click(first, "btn_Maj_Epson");
-    QCOMPARE(storedSwitch(shop), QStringLiteral("1"));
-    QCOMPARE(storedRate(shop), QStringLiteral("0"));
+    QCOMPARE(storedSwitch(shop), QString("1"));
+    QCOMPARE(storedRate(shop), QString("0"));
 
     FormVendelConfig second;
     second.show();
     typeRate(second, "20");
     QTest::keyClick(&child<QComboBox>(second, "cbx_Epson"), Qt::Key_Up);
     click(second, "btn_Maj_TVA");
-    QCOMPARE(storedSwitch(shop), QStringLiteral("1"));
-    QCOMPARE(storedRate(shop), QStringLiteral("20"));
+    QCOMPARE(storedSwitch(shop), QString("1"));
+    QCOMPARE(storedRate(shop), QString("20"));
 }
 
 void TestFormVendelConfigStore::reopeningShowsWhatWasStored()
@@ -162,8 +162,8 @@ void TestFormVendelConfigStore::reopeningShowsWhatWasStored()
     shop.sql("update Config set valeur = 5.5 where param = 'TVA'");
     shop.sql("update Config set valeur = 1 where param = 'Epson TM-T20II'");
     FormVendelConfig window;
-    QCOMPARE(rateOf(window), QStringLiteral("5.50"));
-    QCOMPARE(switchOf(window), QStringLiteral("ON"));
+    QCOMPARE(rateOf(window), QString("5.50"));
+    QCOMPARE(switchOf(window), QString("ON"));
 }
 
 void TestFormVendelConfigStore::theStatementsAreSplicedFromTheFields()
@@ -203,13 +203,11 @@ void TestFormVendelConfigStore::failuresAreLogged()
     {
         const FailingText failure("Saisir une TVA valide");
         click(window, "btn_Maj_TVA");
-        QCOMPARE(log.criticals(),
-            QStringList(QStringLiteral("Errors on_btn_Maj_TVA_clicked : no text")));
+        QCOMPARE(log.criticals(), QStringList(QString("Errors on_btn_Maj_TVA_clicked : no text")));
     }
     connect(&window, &QDialog::rejected, [] { throw std::runtime_error("no closing"); });
     click(window, "btn_Maj_Epson");
-    QCOMPARE(log.criticals().constLast(),
-        QStringLiteral("Errors on_btn_Maj_Epson_clicked : no closing"));
+    QCOMPARE(log.criticals().constLast(), QString("Errors on_btn_Maj_Epson_clicked : no closing"));
     QCOMPARE(log.criticals().size(), 2);
 }
 
@@ -224,10 +222,9 @@ void TestFormVendelConfigStore::receiptsTextsThatDoNotOpenAreLogged()
     qApp->installEventFilter(&failure);
     click(window, "btn_Maj_Formulaire");
     QCOMPARE(log.criticals(),
-        QStringList(
-            QStringLiteral("Errors FormVendelConfig on_btn_Maj_Formulaire_clicked : no window")));
+        QStringList(QString("Errors FormVendelConfig on_btn_Maj_Formulaire_clicked : no window")));
     QVERIFY(window.isVisible());
 }
 
-VENDEL_TEST_MAIN(TestFormVendelConfigStore)
+VENDEL_TEST(TestFormVendelConfigStore)
 #include "tst_FormVendelConfigStore.moc"

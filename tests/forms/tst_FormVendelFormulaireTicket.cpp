@@ -5,7 +5,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/ContextEcho.h"
 #include "tests/support/FailingText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QAction>
 #include <QMenu>
@@ -47,22 +47,22 @@ void TestFormVendelFormulaireTicket::looksLikeTheReceiptsTexts()
     const CapturedLog log;
     OpenReceiptTexts editor;
     QCOMPARE(log.criticals(), QStringList());
-    QVERIFY(!log.warnings().join(QLatin1Char('\n')).contains(QLatin1String("No matching signal")));
+    QVERIFY(!log.warnings().join('\n').contains(QLatin1String("No matching signal")));
     auto& window = editor.window;
-    QCOMPARE(window.objectName(), QStringLiteral("FormVendelFormulaireTicket"));
-    QCOMPARE(window.windowTitle(), QStringLiteral("Formulaire Impression Ticket"));
+    QCOMPARE(window.objectName(), QString("FormVendelFormulaireTicket"));
+    QCOMPARE(window.windowTitle(), QString("Formulaire Impression Ticket"));
     QCOMPARE(window.size(), QSize(477, 501));
     QCOMPARE(window.minimumSize(), QSize(477, 501));
     QCOMPARE(window.maximumSize(), QSize(477, 501));
     QCOMPARE(window.windowModality(), Qt::WindowModal);
     QCOMPARE(child<QTextEdit>(window, "txt_Form").font().pointSize(), 12);
-    QCOMPARE(child<QMenu>(window, "menuAfficher").title(), QStringLiteral("Afficher"));
-    QCOMPARE(child<QAction>(window, "actionEntete_Page").text(), QStringLiteral("Entête Page"));
-    QCOMPARE(child<QAction>(window, "actionPied_Page").text(), QStringLiteral("Pied Page"));
+    QCOMPARE(child<QMenu>(window, "menuAfficher").title(), QString("Afficher"));
+    QCOMPARE(child<QAction>(window, "actionEntete_Page").text(), QString("Entête Page"));
+    QCOMPARE(child<QAction>(window, "actionPied_Page").text(), QString("Pied Page"));
     const auto& header = child<QPushButton>(window, "btn_Entete_Page");
     const auto& footer = child<QPushButton>(window, "btn_Pied_Page");
-    QCOMPARE(header.text(), QStringLiteral("Sauv Entête Page"));
-    QCOMPARE(footer.text(), QStringLiteral("Sauv Pied Page"));
+    QCOMPARE(header.text(), QString("Sauv Entête Page"));
+    QCOMPARE(footer.text(), QString("Sauv Pied Page"));
     QVERIFY(!header.autoDefault() && !header.isDefault());
     QVERIFY(!footer.autoDefault() && !footer.isDefault());
     QVERIFY(child<QMenuBar>(window, "menubar").isVisible());
@@ -73,12 +73,12 @@ void TestFormVendelFormulaireTicket::everyTextIsLookedUpInItsContext()
 {
     const ContextEcho translation;
     OpenReceiptTexts editor;
-    const QString captions = QStringLiteral("FormVendelFormulaireTicket");
+    const QString captions = QString("FormVendelFormulaireTicket");
     QCOMPARE(editor.window.windowTitle(), captions);
     QCOMPARE(child<QMenu>(editor.window, "menuAfficher").title(), captions);
     QCOMPARE(child<QAction>(editor.window, "actionEntete_Page").text(), captions);
     QCOMPARE(child<QAction>(editor.window, "actionPied_Page").text(), captions);
-    const QString own = QStringLiteral("FormVendelFormulaireTicketMessages");
+    const QString own = QString("FormVendelFormulaireTicketMessages");
     QCOMPARE(editor.label(), own);
     const AnswerBox box(QMessageBox::No);
     click(editor.window, "btn_Pied_Page");
@@ -110,8 +110,7 @@ void TestFormVendelFormulaireTicket::tabFollowsTheEye()
     OpenReceiptTexts editor;
     QVERIFY(QTest::qWaitForWindowActive(&editor.window));
     QCOMPARE(tabOrder(editor.window),
-        QStringList({QStringLiteral("txt_Form"), QStringLiteral("btn_Entete_Page"),
-            QStringLiteral("btn_Pied_Page")}));
+        QStringList({QString("txt_Form"), QString("btn_Entete_Page"), QString("btn_Pied_Page")}));
 }
 
 void TestFormVendelFormulaireTicket::returnPressesNoButton()
@@ -120,7 +119,7 @@ void TestFormVendelFormulaireTicket::returnPressesNoButton()
     const AnswerBox box;
     editor.typeAtEnd("\n");
     QVERIFY(!box.wasShown());
-    QCOMPARE(editor.text(), QStringLiteral("Chez Paul\n"));
+    QCOMPARE(editor.text(), QString("Chez Paul\n"));
     QTest::keyClick(&editor.window, Qt::Key_Return);
     QVERIFY(!box.wasShown());
     QTest::keyClick(&editor.window, Qt::Key_Escape);
@@ -131,14 +130,14 @@ void TestFormVendelFormulaireTicket::returnPressesNoButton()
 void TestFormVendelFormulaireTicket::opensWithTheHeader()
 {
     OpenReceiptTexts editor("titre:Chez Paul\n\n12 rue des Écoles\n", "Merci");
-    QCOMPARE(editor.label(), QStringLiteral("Entête de page"));
-    QCOMPARE(editor.text(), QStringLiteral("titre:Chez Paul\n\n12 rue des Écoles\n"));
+    QCOMPARE(editor.label(), QString("Entête de page"));
+    QCOMPARE(editor.text(), QString("titre:Chez Paul\n\n12 rue des Écoles\n"));
 }
 
 void TestFormVendelFormulaireTicket::opensEmptyWithoutAHeader()
 {
     OpenReceiptTexts editor;
-    QCOMPARE(editor.label(), QStringLiteral("Entête de page"));
+    QCOMPARE(editor.label(), QString("Entête de page"));
     QCOMPARE(editor.text(), QString());
     QVERIFY(!QFile::exists(headerFile));
 }
@@ -147,18 +146,18 @@ void TestFormVendelFormulaireTicket::theMenuShowsTheFooterAndTheHeaderAgain()
 {
     OpenReceiptTexts editor("Chez Paul", "Merci");
     chooseMenu(editor.window, "menuAfficher", "actionPied_Page");
-    QCOMPARE(editor.label(), QStringLiteral("Pied de page"));
-    QCOMPARE(editor.text(), QStringLiteral("Merci"));
+    QCOMPARE(editor.label(), QString("Pied de page"));
+    QCOMPARE(editor.text(), QString("Merci"));
     chooseMenu(editor.window, "menuAfficher", "actionEntete_Page");
-    QCOMPARE(editor.label(), QStringLiteral("Entête de page"));
-    QCOMPARE(editor.text(), QStringLiteral("Chez Paul"));
+    QCOMPARE(editor.label(), QString("Entête de page"));
+    QCOMPARE(editor.text(), QString("Chez Paul"));
 }
 
 void TestFormVendelFormulaireTicket::aMissingFooterEmptiesTheText()
 {
     OpenReceiptTexts editor("Chez Paul", {});
     chooseMenu(editor.window, "menuAfficher", "actionPied_Page");
-    QCOMPARE(editor.label(), QStringLiteral("Pied de page"));
+    QCOMPARE(editor.label(), QString("Pied de page"));
     QCOMPARE(editor.text(), QString());
 }
 
@@ -166,27 +165,27 @@ void TestFormVendelFormulaireTicket::showingAFileDropsWhatWasTyped()
 {
     OpenReceiptTexts editor("Chez Paul", "Merci");
     editor.typeAtEnd(" et Anne");
-    QCOMPARE(editor.text(), QStringLiteral("Chez Paul et Anne"));
+    QCOMPARE(editor.text(), QString("Chez Paul et Anne"));
     chooseMenu(editor.window, "menuAfficher", "actionEntete_Page");
-    QCOMPARE(editor.text(), QStringLiteral("Chez Paul"));
+    QCOMPARE(editor.text(), QString("Chez Paul"));
 }
 
 void TestFormVendelFormulaireTicket::aTextLikeHtmlIsShownAsRichText()
 {
     OpenReceiptTexts editor("<b>Chez Paul</b><br>Paris", "Merci");
-    QCOMPARE(editor.text(), QStringLiteral("Chez Paul\nParis"));
+    QCOMPARE(editor.text(), QString("Chez Paul\nParis"));
 }
 
 void TestFormVendelFormulaireTicket::theTextEndsAtTheFirstNul()
 {
     OpenReceiptTexts editor(QByteArray("Chez\0Paul", 9), "Merci");
-    QCOMPARE(editor.text(), QStringLiteral("Chez"));
+    QCOMPARE(editor.text(), QString("Chez"));
 }
 
 void TestFormVendelFormulaireTicket::invalidUtf8IsShownAsFarAsItGoes()
 {
     OpenReceiptTexts editor("Caf\xE9 Paul", "Merci");
-    QCOMPARE(editor.text(), QStringLiteral("Caf\uFFFD Paul"));
+    QCOMPARE(editor.text(), QString("Caf\uFFFD Paul"));
 }
 
 void TestFormVendelFormulaireTicket::aMegabyteIsShownWhole()
@@ -198,7 +197,7 @@ void TestFormVendelFormulaireTicket::aMegabyteIsShownWhole()
 void TestFormVendelFormulaireTicket::windowsLineEndsAreShownAsLines()
 {
     OpenReceiptTexts editor("titre:Chez Paul\r\nParis\r\n", "Merci");
-    QCOMPARE(editor.text(), QStringLiteral("titre:Chez Paul\nParis\n"));
+    QCOMPARE(editor.text(), QString("titre:Chez Paul\nParis\n"));
     QCOMPARE(editor.shop.read(headerFile), QByteArray("titre:Chez Paul\r\nParis\r\n"));
 }
 
@@ -210,7 +209,7 @@ void TestFormVendelFormulaireTicket::aFileThatCannotBeReadIsShownEmpty()
     chooseMenu(editor.window, "menuAfficher", "actionEntete_Page");
     QCOMPARE(editor.text(), QString());
     QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("EnteteFormulaire.dat is not read: it is not a regular file")));
+        QStringList(QString("EnteteFormulaire.dat is not read: it is not a regular file")));
 }
 
 void TestFormVendelFormulaireTicket::failuresAreLogged_data()
@@ -218,20 +217,18 @@ void TestFormVendelFormulaireTicket::failuresAreLogged_data()
     QTest::addColumn<QString>("slot");
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("line");
-    QTest::newRow("header") << QStringLiteral("on_actionEntete_Page_triggered")
+    QTest::newRow("header") << QString("on_actionEntete_Page_triggered")
                             << QByteArray("Entête de page")
-                            << QStringLiteral("Errors FormVendelFormulaireTicket "
-                                              "on_actionEntete_Page_triggered : no text");
-    QTest::newRow("footer") << QStringLiteral("on_actionPied_Page_triggered")
-                            << QByteArray("Pied de page")
-                            << QStringLiteral("Errors FormVendelFormulaireTicket "
-                                              "on_actionPied_Page_triggered : no text");
-    QTest::newRow("save header") << QStringLiteral("on_btn_Entete_Page_clicked")
+                            << QString("Errors FormVendelFormulaireTicket "
+                                       "on_actionEntete_Page_triggered : no text");
+    QTest::newRow("footer") << QString("on_actionPied_Page_triggered") << QByteArray("Pied de page")
+                            << QString("Errors FormVendelFormulaireTicket "
+                                       "on_actionPied_Page_triggered : no text");
+    QTest::newRow("save header") << QString("on_btn_Entete_Page_clicked")
                                  << QByteArray("Sauvegarde")
-                                 << QStringLiteral("Errors on_btn_Entete_Page_clicked : no text");
-    QTest::newRow("save footer") << QStringLiteral("on_btn_Pied_Page_clicked")
-                                 << QByteArray("Sauvegarde")
-                                 << QStringLiteral("Errors on_btn_Pied_Page_clicked : no text");
+                                 << QString("Errors on_btn_Entete_Page_clicked : no text");
+    QTest::newRow("save footer") << QString("on_btn_Pied_Page_clicked") << QByteArray("Sauvegarde")
+                                 << QString("Errors on_btn_Pied_Page_clicked : no text");
 }
 
 void TestFormVendelFormulaireTicket::failuresAreLogged()
@@ -263,8 +260,8 @@ void TestFormVendelFormulaireTicket::aFailingConstructorIsLogged()
     const FailingText failure(text.constData());
     const FormVendelFormulaireTicket window;
     QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendelFormulaireTicket Constructor : no text")));
+        QStringList(QString("Errors FormVendelFormulaireTicket Constructor : no text")));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelFormulaireTicket)
+VENDEL_TEST(TestFormVendelFormulaireTicket)
 #include "tst_FormVendelFormulaireTicket.moc"

@@ -2,7 +2,7 @@
 #include "tests/forms/OpenHistory.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QAction>
 #include <QTableView>
@@ -40,9 +40,8 @@ void TestFormVendelHistoriqueSales::noSaleMeansNoDay()
     OpenHistory history;
     const AnswerBox box;
     click(history.window, "btn_Show_Date");
-    QCOMPARE(box.title(), QStringLiteral("Historique"));
-    QCOMPARE(
-        box.text(), QStringLiteral("Historique est vide\nAjouter des articles et faite PAYER"));
+    QCOMPARE(box.title(), QString("Historique"));
+    QCOMPARE(box.text(), QString("Historique est vide\nAjouter des articles et faite PAYER"));
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.format(), Qt::PlainText);
@@ -86,14 +85,14 @@ void TestFormVendelHistoriqueSales::malformedDatesAreEmptyDays()
 
 void TestFormVendelHistoriqueSales::refusals_data()
 {
-    const auto noTexts = QStringLiteral(
+    const auto noTexts = QString(
         "Saisir une date valide dans première date et seconde date\nClick sur Afficher Date");
-    const auto noDate = QStringLiteral("Saisir une date valide");
-    const auto backwards = QStringLiteral("Première date doit-être < seconde date");
-    const auto backwardsInTime = QStringLiteral("Première date doit-être <= seconde date");
-    const auto sameDay = QStringLiteral(
-        "Première date doit-être < seconde date\nAjouter 1 jour à la seconde date");
-    const auto valid = QStringLiteral("Valide date");
+    const auto noDate = QString("Saisir une date valide");
+    const auto backwards = QString("Première date doit-être < seconde date");
+    const auto backwardsInTime = QString("Première date doit-être <= seconde date");
+    const auto sameDay
+        = QString("Première date doit-être < seconde date\nAjouter 1 jour à la seconde date");
+    const auto valid = QString("Valide date");
     struct Case
     {
         const char* first;
@@ -111,11 +110,11 @@ void TestFormVendelHistoriqueSales::refusals_data()
         {"05/02/2019", "05/01/2019 10:00:00.000", valid, backwards},
         {"05/01/2019 10:00:00.001", "05/01/2019 10:00:00.000", valid, backwardsInTime},
         {"05/01/2019", "05/01/2019", valid, sameDay},
-        {"05/02/2019", "05/03/2019", QStringLiteral("Historique"),
-            QStringLiteral("Historique est vide pour la pèriode du 05/02/2019 au 05/03/2019")},
-        {" 05-02-2019", "05/02/2019 23:59:59.999", QStringLiteral("Historique"),
-            QStringLiteral("Historique est vide pour la pèriode du 05-02-2019 au 05/02/2019 "
-                           "23:59:59.999")},
+        {"05/02/2019", "05/03/2019", QString("Historique"),
+            QString("Historique est vide pour la pèriode du 05/02/2019 au 05/03/2019")},
+        {" 05-02-2019", "05/02/2019 23:59:59.999", QString("Historique"),
+            QString("Historique est vide pour la pèriode du 05-02-2019 au 05/02/2019 "
+                    "23:59:59.999")},
     };
     QTest::addColumn<QString>("trigger");
     QTest::addColumn<QString>("first");
@@ -155,7 +154,7 @@ void TestFormVendelHistoriqueSales::refusals()
     QCOMPARE(box.strays(), 0);
     QCOMPARE(rowCount(history.window, "tableView1"), 0);
     QCOMPARE(rowCount(history.window, "tableView3"), 0);
-    QCOMPARE(history.sold(), QStringLiteral("1"));
+    QCOMPARE(history.sold(), QString("1"));
     QCOMPARE(history.window.findChildren<QDialog*>().size(), 0);
 }
 
@@ -164,14 +163,14 @@ void TestFormVendelHistoriqueSales::trimsTheFields()
     OpenHistory history;
     history.type("  05/01/2019 ", " 05/02/2019  ");
     QVERIFY(history.window.ValidDate());
-    QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
-    QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+    QCOMPARE(history.first(), QString("05/01/2019"));
+    QCOMPARE(history.second(), QString("05/02/2019"));
     history.type(" 05/01/2019", "05/01/2019 ");
     QVERIFY(history.window.ValidDate());
     const AnswerBox box;
     history.type(" 5/1/2019 ", "");
     QVERIFY(!history.window.ValidDate());
-    QCOMPARE(history.first(), QStringLiteral("5/1/2019"));
+    QCOMPARE(history.first(), QString("5/1/2019"));
 }
 
 void TestFormVendelHistoriqueSales::listsOneDayUpToTheStartOfTheNext()
@@ -202,12 +201,12 @@ void TestFormVendelHistoriqueSales::listsBetweenTwoMoments()
     history.type("05/01/2019 10:00:00.001", "05/01/2019 10:00:00.002");
     click(history.window, "btn_View_Historical");
     QCOMPARE(rowCount(history.window, "tableView1"), 2);
-    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QStringLiteral("B"));
-    QCOMPARE(rowTexts(history.window, "tableView1", 1).at(0), QStringLiteral("C"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QString("B"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 1).at(0), QString("C"));
     history.type("05/01/2019 10:00:00.003", "05/01/2019 10:00:00.003");
     click(history.window, "btn_View_Historical");
     QCOMPARE(rowCount(history.window, "tableView1"), 1);
-    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QStringLiteral("D"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QString("D"));
 }
 
 void TestFormVendelHistoriqueSales::listsFromAMomentToADay()
@@ -224,7 +223,7 @@ void TestFormVendelHistoriqueSales::listsFromAMomentToADay()
     history.type("02/29/2020", "02/29/2020 09:59:59.999");
     click(history.window, "btn_View_Historical");
     QCOMPARE(rowCount(history.window, "tableView1"), 1);
-    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QStringLiteral("A"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QString("A"));
 }
 
 void TestFormVendelHistoriqueSales::listsTheHourThatTheClockSkips()
@@ -245,12 +244,12 @@ void TestFormVendelHistoriqueSales::listsNamesAsTheyStand()
     history.sell("----", "0", "2019-05-01 10:00:03.000");
     history.type("05/01/2019", "05/02/2019");
     click(history.window, "btn_View_Historical");
-    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QStringLiteral("l'eau"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QString("l'eau"));
     QCOMPARE(rowTexts(history.window, "tableView1", 1),
         texts({"<b>\"Pastis\"</b>", "gratuit", "05/01/2019 10:00:01.000"}));
     QCOMPARE(rowTexts(history.window, "tableView1", 2),
         texts({"33.00$", "-0.50$", "05/01/2019 10:00:02.000"}));
-    QCOMPARE(rowTexts(history.window, "tableView1", 3).at(1), QStringLiteral("0.00$"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 3).at(1), QString("0.00$"));
 }
 
 void TestFormVendelHistoriqueSales::listsMalformedDatesEmpty()
@@ -308,7 +307,7 @@ void TestFormVendelHistoriqueSales::aSecondListReplacesTheFirst()
     history.type("05/02/2019", "05/03/2019");
     click(history.window, "btn_View_Historical");
     QCOMPARE(rowCount(history.window, "tableView1"), 1);
-    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QStringLiteral("Café"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(0), QString("Café"));
     QCOMPARE(rowCount(history.window, "tableView3"), 1);
     QCOMPARE(child<QTableView>(history.window, "tableView1").columnWidth(0), 210);
 }
@@ -339,9 +338,9 @@ void TestFormVendelHistoriqueSales::anUnreadableSaleIsLogged()
     click(history.window, "btn_View_Historical");
     QCOMPARE(log.criticals().size(), 1);
     QVERIFY(log.criticals().at(0).startsWith(
-        QStringLiteral("Errors FormVendelHistorique Display_History : ")));
+        QString("Errors FormVendelHistorique Display_History : ")));
     QVERIFY(child<QTableView>(history.window, "tableView1").updatesEnabled());
 }
 
-VENDEL_TEST_MAIN(TestFormVendelHistoriqueSales)
+VENDEL_TEST(TestFormVendelHistoriqueSales)
 #include "tst_FormVendelHistoriqueSales.moc"

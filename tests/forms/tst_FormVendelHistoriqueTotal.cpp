@@ -3,7 +3,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/BoxDiary.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QPushButton>
 #include <QTableView>
@@ -14,7 +14,7 @@ struct HistoryDiary
 {
     explicit HistoryDiary(FormVendelHistorique& window)
         : diary([this, &window] {
-            listed << QStringLiteral("%1 %2 %3")
+            listed << QString("%1 %2 %3")
                           .arg(rowCount(window, "tableView1"))
                           .arg(rowCount(window, "tableView2"))
                           .arg(rowCount(window, "tableView3"));
@@ -79,8 +79,8 @@ void TestFormVendelHistoriqueTotal::totalOfAYearKeepsItsCents()
     history.sell("Bonbon", "0.02", "2019-06-01 10:00:00.000");
     history.type("01/01/2019", "01/01/2020");
     click(history.window, "btn_Total");
-    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(1), QStringLiteral("1,234,567.89$"));
-    QCOMPARE(rowTexts(history.window, "tableView1", 2).at(1), QStringLiteral("1,234,567.91$"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 0).at(1), QString("1,234,567.89$"));
+    QCOMPARE(rowTexts(history.window, "tableView1", 2).at(1), QString("1,234,567.91$"));
     QCOMPARE(rowTexts(history.window, "tableView3", 1),
         texts({"1", "Mariage", "1,234,567.89$", "1,234,567.89$"}));
 }
@@ -112,8 +112,8 @@ void TestFormVendelHistoriqueTotal::theTotalsRowIsNoDate()
     clickCell(history.window, "tableView1", 1, 2);
     click(history.window, "rb_Second_Date");
     clickCell(history.window, "tableView1", 1, 0);
-    QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
-    QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+    QCOMPARE(history.first(), QString("05/01/2019"));
+    QCOMPARE(history.second(), QString("05/02/2019"));
 }
 
 void TestFormVendelHistoriqueTotal::anUnreadableSumIsLogged()
@@ -128,7 +128,7 @@ void TestFormVendelHistoriqueTotal::anUnreadableSumIsLogged()
     click(history.window, "btn_Total");
     QCOMPARE(log.criticals().size(), 1);
     QVERIFY(log.criticals().at(0).startsWith(
-        QStringLiteral("Errors FormVendelHistorique on_btn_Total_clicked : ")));
+        QString("Errors FormVendelHistorique on_btn_Total_clicked : ")));
     QVERIFY(output.text().startsWith(
         "Errors Db::DbLoad sqlite3_errmsg : select sum(prix) from Historique where date_heure "
         "between '2019-05-01' and '2019-05-02' "));
@@ -194,13 +194,13 @@ void TestFormVendelHistoriqueTotal::purgeAsksAndNoKeepsTheSales()
     click(history.window, "btn_Total");
     const AnswerBox box(QMessageBox::No);
     click(history.window, "btn_Clear");
-    QCOMPARE(box.title(), QStringLiteral("Purger"));
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous purger de 05/01/2019 au 05/02/2019"));
+    QCOMPARE(box.title(), QString("Purger"));
+    QCOMPARE(box.text(), QString("Voulez-vous purger de 05/01/2019 au 05/02/2019"));
     QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.format(), Qt::PlainText);
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(history.sold(), QStringLiteral("1"));
+    QCOMPARE(history.sold(), QString("1"));
     QCOMPARE(rowCount(history.window, "tableView1"), 2);
     QCOMPARE(rowCount(history.window, "tableView3"), 1);
 }
@@ -220,8 +220,8 @@ void TestFormVendelHistoriqueTotal::purgeEmptiesTheListsBeforeItReports()
             "Historique: Historique est vide pour la pèriode du 05/01/2019 10:00:00.000 au "
             "05/01/2019 10:00:00.001"}));
     QCOMPARE(boxes.listed, texts({"3 0 2", "0 0 0"}));
-    QCOMPARE(history.shop.cell("select article from Historique"), QStringLiteral("Bière"));
-    QCOMPARE(history.sold(), QStringLiteral("1"));
+    QCOMPARE(history.shop.cell("select article from Historique"), QString("Bière"));
+    QCOMPARE(history.sold(), QString("1"));
     QCOMPARE(rowCount(history.window, "tableView2"), 1);
     QCOMPARE(rowTexts(history.window, "tableView2", 0), texts({"05/01/2019"}));
 }
@@ -241,7 +241,7 @@ void TestFormVendelHistoriqueTotal::purgeOfEverythingLeavesNoDay()
             "Historique: Historique est vide pour la pèriode du 01/01/0001 au 12/31/9999",
             "Historique: Historique est vide\nAjouter des articles et faite PAYER"}));
     QCOMPARE(boxes.listed, texts({"0 2 0", "0 2 0", "0 0 0"}));
-    QCOMPARE(history.sold(), QStringLiteral("0"));
+    QCOMPARE(history.sold(), QString("0"));
 }
 
 void TestFormVendelHistoriqueTotal::aPurgeThatFailsListsTheSalesAgain()
@@ -262,5 +262,5 @@ void TestFormVendelHistoriqueTotal::aPurgeThatFailsListsTheSalesAgain()
         "'2019-05-01' and '2019-05-02' gardé\n"));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelHistoriqueTotal)
+VENDEL_TEST(TestFormVendelHistoriqueTotal)
 #include "tst_FormVendelHistoriqueTotal.moc"

@@ -3,7 +3,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 class TestFormVendelSaisieArticleAdd : public QObject
 {
@@ -45,13 +45,13 @@ void TestFormVendelSaisieArticleAdd::addingNeedsBothFields()
     editor.type("txt_Montant", amount.constData());
     const AnswerBox box;
     click(editor.window, "btn_Ajouter");
-    QCOMPARE(box.title(), QStringLiteral("Ajouter"));
-    QCOMPARE(box.text(), QStringLiteral("Saisir un article avec son montant"));
+    QCOMPARE(box.title(), QString("Ajouter"));
+    QCOMPARE(box.text(), QString("Saisir un article avec son montant"));
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.strays(), 0);
     QCOMPARE(editor.text("txt_Article"), QString::fromLatin1(article.trimmed()));
     QCOMPARE(editor.text("txt_Montant"), QString::fromLatin1(amount.trimmed()));
-    QCOMPARE(editor.stored(), QStringLiteral("1 The 2"));
+    QCOMPARE(editor.stored(), QString("1 The 2"));
     QCOMPARE(rowCount(editor.window, "tableView"), 1);
 }
 
@@ -71,8 +71,8 @@ void TestFormVendelSaisieArticleAdd::addingNeedsANumber()
     editor.type("txt_Montant", amount.constData());
     const AnswerBox box;
     click(editor.window, "btn_Ajouter");
-    QCOMPARE(box.title(), QStringLiteral("Ajouter"));
-    QCOMPARE(box.text(), QStringLiteral("Saisir un montant valide"));
+    QCOMPARE(box.title(), QString("Ajouter"));
+    QCOMPARE(box.text(), QString("Saisir un montant valide"));
     QCOMPARE(box.strays(), 0);
     QCOMPARE(editor.text("txt_Montant"), QString::fromLatin1(amount));
     QCOMPARE(editor.stored(), QString());
@@ -84,20 +84,20 @@ void TestFormVendelSaisieArticleAdd::addsWhatIsTyped_data()
     QTest::addColumn<QByteArray>("amount");
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("price");
-    QTest::newRow("comma") << QByteArray("Cafe") << QByteArray("3,5")
-                           << QStringLiteral("1 Cafe 3.5") << QStringLiteral("3.50$");
-    QTest::newRow("point") << QByteArray("Cafe") << QByteArray("3.5")
-                           << QStringLiteral("1 Cafe 3.5") << QStringLiteral("3.50$");
-    QTest::newRow("blanks") << QByteArray("  Cafe ") << QByteArray(" 2 ")
-                            << QStringLiteral("1 Cafe 2") << QStringLiteral("2.00$");
+    QTest::newRow("comma") << QByteArray("Cafe") << QByteArray("3,5") << QString("1 Cafe 3.5")
+                           << QString("3.50$");
+    QTest::newRow("point") << QByteArray("Cafe") << QByteArray("3.5") << QString("1 Cafe 3.5")
+                           << QString("3.50$");
+    QTest::newRow("blanks") << QByteArray("  Cafe ") << QByteArray(" 2 ") << QString("1 Cafe 2")
+                            << QString("2.00$");
     QTest::newRow("negative") << QByteArray("Avoir") << QByteArray("-1,5")
-                              << QStringLiteral("1 Avoir -1.5") << QStringLiteral("-1.50$");
-    QTest::newRow("exponent") << QByteArray("Lot") << QByteArray("1e3")
-                              << QStringLiteral("1 Lot 1000") << QStringLiteral("1,000.00$");
-    QTest::newRow("apostrophe") << QByteArray("L'eau") << QByteArray("1")
-                                << QStringLiteral("1 L'eau 1") << QStringLiteral("1.00$");
+                              << QString("1 Avoir -1.5") << QString("-1.50$");
+    QTest::newRow("exponent") << QByteArray("Lot") << QByteArray("1e3") << QString("1 Lot 1000")
+                              << QString("1,000.00$");
+    QTest::newRow("apostrophe") << QByteArray("L'eau") << QByteArray("1") << QString("1 L'eau 1")
+                                << QString("1.00$");
     QTest::newRow("statement") << QByteArray("');drop table") << QByteArray("1")
-                               << QStringLiteral("1 ');drop table 1") << QStringLiteral("1.00$");
+                               << QString("1 ');drop table 1") << QString("1.00$");
 }
 
 void TestFormVendelSaisieArticleAdd::addsWhatIsTyped()
@@ -123,10 +123,9 @@ void TestFormVendelSaisieArticleAdd::theFieldsKeepTheirTextAfterAdding()
     editor.type("txt_Article", " Vin ");
     editor.type("txt_Montant", " 3,5 ");
     click(editor.window, "btn_Ajouter");
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("Vin"));
-    QCOMPARE(editor.text("txt_Montant"), QStringLiteral("3,5"));
-    QCOMPARE(editor.names(),
-        QStringList({QStringLiteral("Cafe"), QStringLiteral("The"), QStringLiteral("Vin")}));
+    QCOMPARE(editor.text("txt_Article"), QString("Vin"));
+    QCOMPARE(editor.text("txt_Montant"), QString("3,5"));
+    QCOMPARE(editor.names(), QStringList({QString("Cafe"), QString("The"), QString("Vin")}));
 }
 
 void TestFormVendelSaisieArticleAdd::anEqualNameIsAddedAndSaid()
@@ -136,11 +135,11 @@ void TestFormVendelSaisieArticleAdd::anEqualNameIsAddedAndSaid()
     editor.type("txt_Montant", "2");
     const AnswerBox box;
     click(editor.window, "btn_Ajouter");
-    QCOMPARE(box.title(), QStringLiteral("Doublon"));
-    QCOMPARE(box.text(), QStringLiteral("Supprimer le(s) 1 doublon(s) note(s) X..."));
+    QCOMPARE(box.title(), QString("Doublon"));
+    QCOMPARE(box.text(), QString("Supprimer le(s) 1 doublon(s) note(s) X..."));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 Cafe 2"));
-    QCOMPARE(editor.marked(), QStringList(QStringLiteral("1")));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 Cafe 2"));
+    QCOMPARE(editor.marked(), QStringList(QString("1")));
 }
 
 void TestFormVendelSaisieArticleAdd::aNumberThatSqlDoesNotKnowAddsNothing()
@@ -157,8 +156,8 @@ void TestFormVendelSaisieArticleAdd::aNumberThatSqlDoesNotKnowAddsNothing()
     QCOMPARE(said,
         QByteArray("Errors Db::DbLoad sqlite3_errmsg : insert into Article (article, prix) values "
                    "('Cafe', inf) no such column: inf\n"));
-    QCOMPARE(editor.stored(), QStringLiteral("1 The 2"));
-    QCOMPARE(editor.names(), QStringList(QStringLiteral("The")));
+    QCOMPARE(editor.stored(), QString("1 The 2"));
+    QCOMPARE(editor.names(), QStringList(QString("The")));
 }
 
 void TestFormVendelSaisieArticleAdd::theInsertIsSplicedFromTheFields()
@@ -180,7 +179,7 @@ void TestFormVendelSaisieArticleAdd::theInsertIsSplicedFromTheFields()
                    "('L''eau', 3.5) no such table: Article\n"
                    "Errors Db::DbLoad sqlite3_errmsg : select * from Article order by Article asc "
                    "no such table: Article\n"));
-    QCOMPARE(box.text(), QStringLiteral("Le menu est vide\nAjouter des articles"));
+    QCOMPARE(box.text(), QString("Le menu est vide\nAjouter des articles"));
 }
 
 void TestFormVendelSaisieArticleAdd::aFailureIsLogged()
@@ -190,9 +189,8 @@ void TestFormVendelSaisieArticleAdd::aFailureIsLogged()
     const FailingText failure("Saisir un article avec son montant");
     click(editor.window, "btn_Ajouter");
     QCOMPARE(log.criticals(),
-        QStringList(
-            QStringLiteral("Errors FormVendelSaisieArticle on_btn_Ajouter_clicked : no text")));
+        QStringList(QString("Errors FormVendelSaisieArticle on_btn_Ajouter_clicked : no text")));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieArticleAdd)
+VENDEL_TEST(TestFormVendelSaisieArticleAdd)
 #include "tst_FormVendelSaisieArticleAdd.moc"

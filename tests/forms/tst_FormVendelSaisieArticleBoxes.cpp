@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenArticleEditor.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 /// Every box of the article editor is an information box that stands on the editor.
 class TestFormVendelSaisieArticleBoxes : public QObject
@@ -63,17 +63,17 @@ void TestFormVendelSaisieArticleBoxes::aBoxStandsOnTheEditor()
     QCOMPARE(box.parent(), &editor.window);
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 Cafe 2"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 Cafe 2"));
 }
 
 void TestFormVendelSaisieArticleBoxes::theBoxOfASurplusLetterStandsOnTheEditor()
 {
     OpenArticleEditor editor;
     const AnswerBox box;
-    editor.paste("txt_Article", QStringLiteral("Seize lettres..."));
-    QCOMPARE(box.title(), QStringLiteral("Nbre caractères"));
+    editor.paste("txt_Article", QString("Seize lettres..."));
+    QCOMPARE(box.title(), QString("Nbre caractères"));
     QCOMPARE(box.parent(), &editor.window);
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieArticleBoxes)
+VENDEL_TEST(TestFormVendelSaisieArticleBoxes)
 #include "tst_FormVendelSaisieArticleBoxes.moc"

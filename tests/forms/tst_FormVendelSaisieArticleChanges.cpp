@@ -3,7 +3,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QTableView>
 
@@ -52,11 +52,11 @@ void TestFormVendelSaisieArticleChanges::removingNeedsASelection()
     click(editor.window, "btn_Afficher");
     const AnswerBox box;
     click(editor.window, "btn_Supprimer");
-    QCOMPARE(box.title(), QStringLiteral("Supprimer"));
-    QCOMPARE(box.text(), QStringLiteral("Selectionner un/des article(s) dans le menu"));
+    QCOMPARE(box.title(), QString("Supprimer"));
+    QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1"));
 }
 
 void TestFormVendelSaisieArticleChanges::removingAsksForTheName()
@@ -66,8 +66,8 @@ void TestFormVendelSaisieArticleChanges::removingAsksForTheName()
     selectRow(editor.window, 0);
     const AnswerBox box(QMessageBox::No);
     click(editor.window, "btn_Supprimer");
-    QCOMPARE(box.title(), QStringLiteral("Supprimer"));
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : 33.00$ ..."));
+    QCOMPARE(box.title(), QString("Supprimer"));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : 33.00$ ..."));
     QCOMPARE(box.buttons(), yesAndNo);
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.parent(), &editor.window);
@@ -81,7 +81,7 @@ void TestFormVendelSaisieArticleChanges::noKeepsTheArticle()
     const AnswerBox box(QMessageBox::No);
     click(editor.window, "btn_Supprimer");
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
     QCOMPARE(rowCount(editor.window, "tableView"), 2);
 }
 
@@ -94,7 +94,7 @@ void TestFormVendelSaisieArticleChanges::escapeKeepsTheArticle()
         [](QMessageBox& question) { QTest::keyClick(&question, Qt::Key_Escape); });
     click(editor.window, "btn_Supprimer");
     QVERIFY(box.wasShown());
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1"));
 }
 
 void TestFormVendelSaisieArticleChanges::yesRemovesTheCurrentRowOnly()
@@ -105,9 +105,9 @@ void TestFormVendelSaisieArticleChanges::yesRemovesTheCurrentRowOnly()
     selectRow(editor.window, 2, Qt::ControlModifier);
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Supprimer");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Vin ..."));
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
-    QCOMPARE(editor.names(), QStringList({QStringLiteral("Cafe"), QStringLiteral("The")}));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : Vin ..."));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
+    QCOMPARE(editor.names(), QStringList({QString("Cafe"), QString("The")}));
 }
 
 void TestFormVendelSaisieArticleChanges::aDeselectedRowIsStillTheCurrentOne()
@@ -119,8 +119,8 @@ void TestFormVendelSaisieArticleChanges::aDeselectedRowIsStillTheCurrentOne()
     selectRow(editor.window, 2, Qt::ControlModifier);
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Supprimer");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Vin ..."));
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : Vin ..."));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
 }
 
 void TestFormVendelSaisieArticleChanges::allSelectedWithoutACurrentRowRemovesNone()
@@ -131,8 +131,8 @@ void TestFormVendelSaisieArticleChanges::allSelectedWithoutACurrentRowRemovesNon
     const CapturedOutput output;
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Supprimer");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer :  ..."));
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer :  ..."));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
 }
 
 void TestFormVendelSaisieArticleChanges::removingTheLastArticleSaysSo()
@@ -143,8 +143,8 @@ void TestFormVendelSaisieArticleChanges::removingTheLastArticleSaysSo()
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Supprimer");
     QCOMPARE(box.texts(),
-        QStringList({QStringLiteral("Voulez-vous supprimer : Cafe ..."),
-            QStringLiteral("Le menu est vide\nAjouter des articles")}));
+        QStringList({QString("Voulez-vous supprimer : Cafe ..."),
+            QString("Le menu est vide\nAjouter des articles")}));
     QCOMPARE(rowCount(editor.window, "tableView"), 0);
 }
 
@@ -155,7 +155,7 @@ void TestFormVendelSaisieArticleChanges::aNameLikeATagIsAskedAsItStands()
     selectRow(editor.window, 0);
     const AnswerBox box(QMessageBox::No);
     click(editor.window, "btn_Supprimer");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : <b>Cafe</b> ..."));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : <b>Cafe</b> ..."));
     QCOMPARE(box.format(), Qt::PlainText);
 }
 
@@ -178,8 +178,8 @@ void TestFormVendelSaisieArticleChanges::renamingNeedsBothFieldsFirst()
     editor.type("txt_Montant", amount.constData());
     const AnswerBox box;
     click(editor.window, "btn_Renommer");
-    QCOMPARE(box.title(), QStringLiteral("Renommer"));
-    QCOMPARE(box.text(), QStringLiteral("Saisir un article et son montant"));
+    QCOMPARE(box.title(), QString("Renommer"));
+    QCOMPARE(box.text(), QString("Saisir un article et son montant"));
     QCOMPARE(box.strays(), 0);
     QCOMPARE(editor.text("txt_Article"), QString::fromLatin1(article.trimmed()));
 }
@@ -192,8 +192,8 @@ void TestFormVendelSaisieArticleChanges::renamingNeedsASelectionBeforeANumber()
     editor.type("txt_Montant", "abc");
     const AnswerBox box;
     click(editor.window, "btn_Renommer");
-    QCOMPARE(box.title(), QStringLiteral("Renommer"));
-    QCOMPARE(box.text(), QStringLiteral("Selectionner 1 article dans le menu à renommer"));
+    QCOMPARE(box.title(), QString("Renommer"));
+    QCOMPARE(box.text(), QString("Selectionner 1 article dans le menu à renommer"));
     QCOMPARE(box.strays(), 0);
 }
 
@@ -206,10 +206,10 @@ void TestFormVendelSaisieArticleChanges::renamingNeedsANumber()
     editor.type("txt_Montant", "3a");
     const AnswerBox box;
     click(editor.window, "btn_Renommer");
-    QCOMPARE(box.title(), QStringLiteral("Renommer"));
-    QCOMPARE(box.text(), QStringLiteral("Saisir un montant valide"));
+    QCOMPARE(box.title(), QString("Renommer"));
+    QCOMPARE(box.text(), QString("Saisir un montant valide"));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1"));
 }
 
 void TestFormVendelSaisieArticleChanges::renamingAsksForTheStoredName()
@@ -221,8 +221,8 @@ void TestFormVendelSaisieArticleChanges::renamingAsksForTheStoredName()
     editor.type("txt_Montant", "3");
     const AnswerBox box(QMessageBox::No);
     click(editor.window, "btn_Renommer");
-    QCOMPARE(box.title(), QStringLiteral("Renommer"));
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous renommer : L'eau ..."));
+    QCOMPARE(box.title(), QString("Renommer"));
+    QCOMPARE(box.text(), QString("Voulez-vous renommer : L'eau ..."));
     QCOMPARE(box.buttons(), yesAndNo);
     QCOMPARE(box.icon(), QMessageBox::Information);
 }
@@ -236,8 +236,8 @@ void TestFormVendelSaisieArticleChanges::noKeepsNameAndPrice()
     editor.type("txt_Montant", "3");
     const AnswerBox box(QMessageBox::No);
     click(editor.window, "btn_Renommer");
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1"));
-    QCOMPARE(editor.names(), QStringList(QStringLiteral("Cafe")));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1"));
+    QCOMPARE(editor.names(), QStringList(QString("Cafe")));
 }
 
 void TestFormVendelSaisieArticleChanges::yesRenamesTheCurrentRowOnly()
@@ -251,10 +251,9 @@ void TestFormVendelSaisieArticleChanges::yesRenamesTheCurrentRowOnly()
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Renommer");
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 L'eau 4.25; 3 Vin 3"));
-    QCOMPARE(editor.names(),
-        QStringList({QStringLiteral("Cafe"), QStringLiteral("L'eau"), QStringLiteral("Vin")}));
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("L'eau"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 L'eau 4.25; 3 Vin 3"));
+    QCOMPARE(editor.names(), QStringList({QString("Cafe"), QString("L'eau"), QString("Vin")}));
+    QCOMPARE(editor.text("txt_Article"), QString("L'eau"));
 }
 
 void TestFormVendelSaisieArticleChanges::theUpdateIsSplicedFromTheFields()
@@ -299,7 +298,7 @@ void TestFormVendelSaisieArticleChanges::failuresAreLogged()
     const FailingText failure(text.constData());
     click(editor.window, button.constData());
     QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendelSaisieArticle on_%1_clicked : no text")
+        QStringList(QString("Errors FormVendelSaisieArticle on_%1_clicked : no text")
                         .arg(QString::fromLatin1(button))));
     QVERIFY(editor.window.isVisible());
 }
@@ -313,10 +312,9 @@ void TestFormVendelSaisieArticleChanges::aFailingRemovalIsLogged()
     const FailingText failure("Voulez-vous supprimer : ");
     click(editor.window, "btn_Supprimer");
     QCOMPARE(log.criticals(),
-        QStringList(
-            QStringLiteral("Errors FormVendelSaisieArticle on_btn_Supprimer_clicked : no text")));
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1"));
+        QStringList(QString("Errors FormVendelSaisieArticle on_btn_Supprimer_clicked : no text")));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1"));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieArticleChanges)
+VENDEL_TEST(TestFormVendelSaisieArticleChanges)
 #include "tst_FormVendelSaisieArticleChanges.moc"

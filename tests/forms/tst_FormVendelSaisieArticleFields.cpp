@@ -4,7 +4,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
 #include "tests/support/LeakCheck.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QMouseEvent>
 #include <QTableView>
@@ -52,11 +52,11 @@ void TestFormVendelSaisieArticleFields::aTipCountsTheLetters()
     editor.window.setGeometry(40, 30, 641, 626);
     const AnswerBox box;
     editor.type("txt_Article", "C");
-    QCOMPARE(tipText(), QStringLiteral("Article Nbre caractères : 1"));
+    QCOMPARE(tipText(), QString("Article Nbre caractères : 1"));
     QVERIFY(tipStandsAt(QPoint(440, 50)));
     editor.type("txt_Article", "Quinze lettres.");
-    QCOMPARE(tipText(), QStringLiteral("Article Nbre caractères : 15"));
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("Quinze lettres."));
+    QCOMPARE(tipText(), QString("Article Nbre caractères : 15"));
+    QCOMPARE(editor.text("txt_Article"), QString("Quinze lettres."));
     QVERIFY(!box.wasShown());
 }
 
@@ -65,13 +65,13 @@ void TestFormVendelSaisieArticleFields::theSixteenthLetterIsTakenBack()
     OpenArticleEditor editor;
     const AnswerBox box;
     editor.type("txt_Article", "Seize lettres...");
-    QCOMPARE(box.title(), QStringLiteral("Nbre caractères"));
-    QCOMPARE(box.text(), QStringLiteral("Nombre de caractères ne doient pas dépasser : 15"));
+    QCOMPARE(box.title(), QString("Nbre caractères"));
+    QCOMPARE(box.text(), QString("Nombre de caractères ne doient pas dépasser : 15"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("Seize lettres.."));
-    QCOMPARE(tipText(), QStringLiteral("Article Nbre caractères : 15"));
+    QCOMPARE(editor.text("txt_Article"), QString("Seize lettres.."));
+    QCOMPARE(tipText(), QString("Article Nbre caractères : 15"));
 }
 
 void TestFormVendelSaisieArticleFields::aLetterTypedInTheMiddleDropsTheLast()
@@ -83,27 +83,26 @@ void TestFormVendelSaisieArticleFields::aLetterTypedInTheMiddleDropsTheLast()
     QTest::keyClick(&field, Qt::Key_Home);
     QTest::keyClick(&field, 'x');
     QVERIFY(box.wasShown());
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("x12345678901234"));
+    QCOMPARE(editor.text("txt_Article"), QString("x12345678901234"));
 }
 
 void TestFormVendelSaisieArticleFields::eachSurplusLetterHasItsBox()
 {
     OpenArticleEditor editor;
     const AnswerBox box;
-    editor.paste("txt_Article", QStringLiteral("ABCDEFGHIJKLMNOPQRST"));
+    editor.paste("txt_Article", QString("ABCDEFGHIJKLMNOPQRST"));
     QCOMPARE(box.texts().size(), 5);
-    QCOMPARE(box.texts().constLast(),
-        QStringLiteral("Nombre de caractères ne doient pas dépasser : 15"));
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("ABCDEFGHIJKLMNO"));
+    QCOMPARE(box.texts().constLast(), QString("Nombre de caractères ne doient pas dépasser : 15"));
+    QCOMPARE(editor.text("txt_Article"), QString("ABCDEFGHIJKLMNO"));
 }
 
 void TestFormVendelSaisieArticleFields::theFieldTakesFortyLetters()
 {
     OpenArticleEditor editor;
     const AnswerBox box;
-    editor.paste("txt_Article", QString(1000, QLatin1Char('a')));
+    editor.paste("txt_Article", QString(1000, 'a'));
     QCOMPARE(box.texts().size(), 25);
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("aaaaaaaaaaaaaaa"));
+    QCOMPARE(editor.text("txt_Article"), QString("aaaaaaaaaaaaaaa"));
 }
 
 void TestFormVendelSaisieArticleFields::theCountTipCoversNoField()
@@ -124,7 +123,7 @@ void TestFormVendelSaisieArticleFields::effacerSaisieEmptiesBothFields()
     click(editor.window, "btn_Effacer_Saisie");
     QCOMPARE(editor.text("txt_Article"), QString());
     QCOMPARE(editor.text("txt_Montant"), QString());
-    QCOMPARE(tipText(), QStringLiteral("Article Nbre caractères : 0"));
+    QCOMPARE(tipText(), QString("Article Nbre caractères : 0"));
     QVERIFY(!box.wasShown());
 }
 
@@ -133,11 +132,11 @@ void TestFormVendelSaisieArticleFields::aDoubleClickCopiesNameAndPrice()
     OpenArticleEditor editor("('Cafe', 1.2), ('L''eau', 2)");
     click(editor.window, "btn_Afficher");
     doubleClickCell(editor.window, "tableView", 1, 1);
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("L'eau"));
-    QCOMPARE(editor.text("txt_Montant"), QStringLiteral("2.00"));
+    QCOMPARE(editor.text("txt_Article"), QString("L'eau"));
+    QCOMPARE(editor.text("txt_Montant"), QString("2.00"));
     doubleClickCell(editor.window, "tableView", 0, 3);
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("Cafe"));
-    QCOMPARE(editor.text("txt_Montant"), QStringLiteral("1.20"));
+    QCOMPARE(editor.text("txt_Article"), QString("Cafe"));
+    QCOMPARE(editor.text("txt_Montant"), QString("1.20"));
 }
 
 void TestFormVendelSaisieArticleFields::aDoubleClickOnAThousandKeepsItsGroupSeparator()
@@ -145,12 +144,12 @@ void TestFormVendelSaisieArticleFields::aDoubleClickOnAThousandKeepsItsGroupSepa
     OpenArticleEditor editor("('33', 1234.5)");
     click(editor.window, "btn_Afficher");
     doubleClickCell(editor.window, "tableView", 0, 2);
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("33.00$"));
-    QCOMPARE(editor.text("txt_Montant"), QStringLiteral("1,234.50"));
+    QCOMPARE(editor.text("txt_Article"), QString("33.00$"));
+    QCOMPARE(editor.text("txt_Montant"), QString("1,234.50"));
     const AnswerBox box;
     click(editor.window, "btn_Renommer");
-    QCOMPARE(box.text(), QStringLiteral("Saisir un montant valide"));
-    QCOMPARE(editor.stored(), QStringLiteral("1 33 1234.5"));
+    QCOMPARE(box.text(), QString("Saisir un montant valide"));
+    QCOMPARE(editor.stored(), QString("1 33 1234.5"));
 }
 
 void TestFormVendelSaisieArticleFields::aDoubleClickThatDeselectsCopiesNothing()
@@ -172,8 +171,8 @@ void TestFormVendelSaisieArticleFields::aDoubleClickOnALongNameCutsItAndCopiesTh
     const AnswerBox box;
     doubleClickCell(editor.window, "tableView", 0, 2);
     QCOMPARE(box.texts().size(), 3);
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("ABCDEFGHIJKLMNO"));
-    QCOMPARE(editor.text("txt_Montant"), QStringLiteral("3.00"));
+    QCOMPARE(editor.text("txt_Article"), QString("ABCDEFGHIJKLMNO"));
+    QCOMPARE(editor.text("txt_Montant"), QString("3.00"));
 }
 
 void TestFormVendelSaisieArticleFields::hoveringARowShowsItsTip()
@@ -181,8 +180,8 @@ void TestFormVendelSaisieArticleFields::hoveringARowShowsItsTip()
     OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
     click(editor.window, "btn_Afficher");
     hoverCell(editor.window, "tableView", 1, 1);
-    QCOMPARE(tipText(),
-        QStringLiteral("Menu\nDblClick sur : The\nPour l'afficher dans Article et Montant"));
+    QCOMPARE(
+        tipText(), QString("Menu\nDblClick sur : The\nPour l'afficher dans Article et Montant"));
     const auto& list = child<QTableView>(editor.window, "tableView");
     const QPoint mouse = list.visualRect(list.model()->index(1, 1)).center();
     QVERIFY(tipStandsAt(mouse + QPoint(350, 130)));
@@ -226,8 +225,7 @@ void TestFormVendelSaisieArticleFields::aNameLikeATagIsShownAsItStands()
     click(editor.window, "btn_Afficher");
     hoverCell(editor.window, "tableView", 0, 2);
     QCOMPARE(tipText(),
-        QStringLiteral(
-            "Menu\nDblClick sur : <b>Cafe</b>\nPour l'afficher dans Article et Montant"));
+        QString("Menu\nDblClick sur : <b>Cafe</b>\nPour l'afficher dans Article et Montant"));
 }
 
 void TestFormVendelSaisieArticleFields::onlyTheListIsWatchedAndNothingIsSwallowed()
@@ -251,8 +249,8 @@ void TestFormVendelSaisieArticleFields::failuresAreLogged()
     click(editor.window, "btn_Afficher");
     const CapturedLog log;
     const auto prefix = [](const char* slot) {
-        return QStringLiteral("Errors FormVendelSaisieArticle ") + QLatin1String(slot)
-            + QStringLiteral(" : no text");
+        return QString("Errors FormVendelSaisieArticle ") + QLatin1String(slot)
+            + QString(" : no text");
     };
     {
         const FailingText failure("Article Nbre caractères : ");
@@ -273,5 +271,5 @@ void TestFormVendelSaisieArticleFields::failuresAreLogged()
     QCOMPARE(log.criticals().size(), 4);
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieArticleFields)
+VENDEL_TEST(TestFormVendelSaisieArticleFields)
 #include "tst_FormVendelSaisieArticleFields.moc"

@@ -4,7 +4,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
 #include "tests/support/StatementLog.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QTableView>
 
@@ -54,8 +54,8 @@ void TestFormVendelSaisieArticleList::aNameThatIsANumberIsShownAsAnAmount()
 {
     OpenArticleEditor editor("('33', 3), ('Thé', 'deux')");
     click(editor.window, "btn_Afficher");
-    QCOMPARE(rowTexts(editor.window, "tableView", 0).at(2), QStringLiteral("33.00$"));
-    QCOMPARE(rowTexts(editor.window, "tableView", 1).at(3), QStringLiteral("deux"));
+    QCOMPARE(rowTexts(editor.window, "tableView", 0).at(2), QString("33.00$"));
+    QCOMPARE(rowTexts(editor.window, "tableView", 1).at(3), QString("deux"));
 }
 
 void TestFormVendelSaisieArticleList::anEmptyMenuIsSaid()
@@ -63,8 +63,8 @@ void TestFormVendelSaisieArticleList::anEmptyMenuIsSaid()
     OpenArticleEditor editor;
     const AnswerBox box;
     click(editor.window, "btn_Afficher");
-    QCOMPARE(box.title(), QStringLiteral("Afficher"));
-    QCOMPARE(box.text(), QStringLiteral("Le menu est vide\nAjouter des articles"));
+    QCOMPARE(box.title(), QString("Afficher"));
+    QCOMPARE(box.text(), QString("Le menu est vide\nAjouter des articles"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.parent(), &editor.window);
@@ -87,8 +87,7 @@ void TestFormVendelSaisieArticleList::displayAppendsToWhatTheListHolds()
     editor.window.Display();
     QCOMPARE(rowCount(editor.window, "tableView"), 4);
     QCOMPARE(editor.names(),
-        QStringList({QStringLiteral("Cafe"), QStringLiteral("The"), QStringLiteral("Cafe"),
-            QStringLiteral("The")}));
+        QStringList({QString("Cafe"), QString("The"), QString("Cafe"), QString("The")}));
 }
 
 void TestFormVendelSaisieArticleList::theOlderOfTwoEqualNamesIsMarked()
@@ -98,11 +97,11 @@ void TestFormVendelSaisieArticleList::theOlderOfTwoEqualNamesIsMarked()
     const AnswerBox box(QMessageBox::Ok,
         [&](QMessageBox&) { rowsUnderTheBox = rowCount(editor.window, "tableView"); });
     click(editor.window, "btn_Afficher");
-    QCOMPARE(box.title(), QStringLiteral("Doublon"));
-    QCOMPARE(box.text(), QStringLiteral("Supprimer le(s) 1 doublon(s) note(s) X..."));
+    QCOMPARE(box.title(), QString("Doublon"));
+    QCOMPARE(box.text(), QString("Supprimer le(s) 1 doublon(s) note(s) X..."));
     QCOMPARE(box.strays(), 0);
     QCOMPARE(rowsUnderTheBox, 3);
-    QCOMPARE(editor.marked(), QStringList(QStringLiteral("1")));
+    QCOMPARE(editor.marked(), QStringList(QString("1")));
 }
 
 void TestFormVendelSaisieArticleList::lettersOutsideAsciiAreNotFolded()
@@ -119,8 +118,8 @@ void TestFormVendelSaisieArticleList::twoPairsAreTwoDuplicates()
     OpenArticleEditor editor("('Cafe', 1), ('The', 2), ('Cafe', 3), ('The', 4)");
     const AnswerBox box;
     click(editor.window, "btn_Afficher");
-    QCOMPARE(box.text(), QStringLiteral("Supprimer le(s) 2 doublon(s) note(s) X..."));
-    QCOMPARE(editor.marked(), QStringList({QStringLiteral("1"), QStringLiteral("2")}));
+    QCOMPARE(box.text(), QString("Supprimer le(s) 2 doublon(s) note(s) X..."));
+    QCOMPARE(editor.marked(), QStringList({QString("1"), QString("2")}));
 }
 
 void TestFormVendelSaisieArticleList::threeEqualNamesAreTwoDuplicates()
@@ -128,8 +127,8 @@ void TestFormVendelSaisieArticleList::threeEqualNamesAreTwoDuplicates()
     OpenArticleEditor editor("('Cafe', 1), ('Cafe', 2), ('Cafe', 3)");
     const AnswerBox box;
     click(editor.window, "btn_Afficher");
-    QCOMPARE(box.text(), QStringLiteral("Supprimer le(s) 2 doublon(s) note(s) X..."));
-    QCOMPARE(editor.marked(), QStringList({QStringLiteral("1"), QStringLiteral("2")}));
+    QCOMPARE(box.text(), QString("Supprimer le(s) 2 doublon(s) note(s) X..."));
+    QCOMPARE(editor.marked(), QStringList({QString("1"), QString("2")}));
 }
 
 // Without its key the table still lists, while each question for duplicates shows as a diagnostic.
@@ -179,8 +178,8 @@ void TestFormVendelSaisieArticleList::anIdBeyondAnIntIsLogged()
     click(window, "btn_Afficher");
     QVERIFY(!box.wasShown());
     QCOMPARE(rowCount(window, "tableView"), 0);
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendelSaisieArticle Display : stoi")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Errors FormVendelSaisieArticle Display : stoi")));
     QVERIFY(window.isEnabled());
 }
 
@@ -192,7 +191,7 @@ void TestFormVendelSaisieArticleList::anIdBeyondAnIntIsShownWithoutDuplicates()
     window.show();
     const CapturedLog log;
     click(window, "btn_Afficher");
-    QCOMPARE(rowTexts(window, "tableView", 0).at(0), QStringLiteral("9999999999"));
+    QCOMPARE(rowTexts(window, "tableView", 0).at(0), QString("9999999999"));
     QCOMPARE(log.criticals(), QStringList());
 }
 
@@ -207,7 +206,7 @@ void TestFormVendelSaisieArticleList::aRefreshAsksForTheDuplicatesOnce()
     const AnswerBox box;
     click(window, "btn_Afficher");
     QCOMPARE(rowCount(window, "tableView"), 300);
-    QCOMPARE(box.text(), QStringLiteral("Supprimer le(s) 2 doublon(s) note(s) X..."));
+    QCOMPARE(box.text(), QString("Supprimer le(s) 2 doublon(s) note(s) X..."));
     QCOMPARE(log.count("select * from Article order by Article asc"), 1L);
     QCOMPARE(log.count("select d.id, d.article from"), 1L);
     QCOMPARE(log.count("select sum(z.art) as som from"), 1L);
@@ -220,12 +219,12 @@ void TestFormVendelSaisieArticleList::aSearchAsksForTheDuplicatesOnce()
     shop.sql("insert into Article (article, prix) values ('Eau', 1), ('eau', 2), ('Eau vive', 3)");
     FormVendelSaisieArticle window;
     window.show();
-    child<QLineEdit>(window, "txt_Article").setText(QStringLiteral("eau"));
+    child<QLineEdit>(window, "txt_Article").setText(QString("eau"));
     const StatementLog log;
     const AnswerBox box;
     click(window, "btn_Rechercher");
     QCOMPARE(rowCount(window, "tableView"), 3);
-    QCOMPARE(rowTexts(window, "tableView", 0).at(1), QStringLiteral("X"));
+    QCOMPARE(rowTexts(window, "tableView", 0).at(1), QString("X"));
     QCOMPARE(log.count("select d.id, d.article from"), 1L);
     QCOMPARE(log.statements().size(), std::size_t{3});
 }
@@ -236,8 +235,8 @@ void TestFormVendelSaisieArticleList::aFailingDisplayIsLogged()
     const CapturedLog log;
     const FailingText failure("Le menu est vide\nAjouter des articles");
     editor.window.Display();
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendelSaisieArticle Display : no text")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Errors FormVendelSaisieArticle Display : no text")));
 }
 
 void TestFormVendelSaisieArticleList::aFailingAfficherIsLogged()
@@ -249,9 +248,8 @@ void TestFormVendelSaisieArticleList::aFailingAfficherIsLogged()
         [] { throw std::runtime_error("no row"); });
     click(editor.window, "btn_Afficher");
     QCOMPARE(log.criticals(),
-        QStringList(
-            QStringLiteral("Errors FormVendelSaisieArticle on_btn_Afficher_clicked : no row")));
+        QStringList(QString("Errors FormVendelSaisieArticle on_btn_Afficher_clicked : no row")));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieArticleList)
+VENDEL_TEST(TestFormVendelSaisieArticleList)
 #include "tst_FormVendelSaisieArticleList.moc"

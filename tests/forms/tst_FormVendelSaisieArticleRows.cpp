@@ -2,7 +2,7 @@
 #include "tests/forms/OpenArticleEditor.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QTableView>
 
@@ -52,7 +52,7 @@ void TestFormVendelSaisieArticleRows::addingListsEachArticleOnce()
     editor.type("txt_Article", "The");
     editor.type("txt_Montant", "2");
     click(editor.window, "btn_Ajouter");
-    QCOMPARE(editor.names(), QStringList({QStringLiteral("Cafe"), QStringLiteral("The")}));
+    QCOMPARE(editor.names(), QStringList({QString("Cafe"), QString("The")}));
 }
 
 void TestFormVendelSaisieArticleRows::aRefusedAmountKeepsTheList()
@@ -63,8 +63,8 @@ void TestFormVendelSaisieArticleRows::aRefusedAmountKeepsTheList()
     editor.type("txt_Montant", "3a");
     const AnswerBox box;
     click(editor.window, "btn_Ajouter");
-    QCOMPARE(box.text(), QStringLiteral("Saisir un montant valide"));
-    QCOMPARE(editor.names(), QStringList(QStringLiteral("Cafe")));
+    QCOMPARE(box.text(), QString("Saisir un montant valide"));
+    QCOMPARE(editor.names(), QStringList(QString("Cafe")));
 }
 
 void TestFormVendelSaisieArticleRows::foundArticlesStandUnderTheBoxOfTheirDuplicates()
@@ -76,9 +76,9 @@ void TestFormVendelSaisieArticleRows::foundArticlesStandUnderTheBoxOfTheirDuplic
     const AnswerBox box(
         QMessageBox::Ok, [&](QMessageBox&) { markedUnderTheBox = editor.marked(); });
     click(editor.window, "btn_Rechercher");
-    QCOMPARE(box.title(), QStringLiteral("Doublon"));
-    QCOMPARE(markedUnderTheBox, QStringList(QStringLiteral("1")));
-    QCOMPARE(editor.names(), QStringList({QStringLiteral("Cafe"), QStringLiteral("Cafe")}));
+    QCOMPARE(box.title(), QString("Doublon"));
+    QCOMPARE(markedUnderTheBox, QStringList(QString("1")));
+    QCOMPARE(editor.names(), QStringList({QString("Cafe"), QString("Cafe")}));
 }
 
 void TestFormVendelSaisieArticleRows::aCurrentRowWithoutASelectionIsNotRemoved()
@@ -90,8 +90,8 @@ void TestFormVendelSaisieArticleRows::aCurrentRowWithoutASelectionIsNotRemoved()
     QVERIFY(child<QTableView>(editor.window, "tableView").currentIndex().isValid());
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Supprimer");
-    QCOMPARE(box.text(), QStringLiteral("Selectionner un/des article(s) dans le menu"));
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1"));
+    QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1"));
 }
 
 void TestFormVendelSaisieArticleRows::aCurrentRowWithoutASelectionIsNotRenamed()
@@ -104,8 +104,8 @@ void TestFormVendelSaisieArticleRows::aCurrentRowWithoutASelectionIsNotRenamed()
     editor.type("txt_Montant", "3");
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Renommer");
-    QCOMPARE(box.text(), QStringLiteral("Selectionner 1 article dans le menu à renommer"));
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1"));
+    QCOMPARE(box.text(), QString("Selectionner 1 article dans le menu à renommer"));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1"));
 }
 
 void TestFormVendelSaisieArticleRows::renamingMeansTheCurrentRowNotTheFirstSelected()
@@ -119,8 +119,8 @@ void TestFormVendelSaisieArticleRows::renamingMeansTheCurrentRowNotTheFirstSelec
     editor.type("txt_Montant", "4");
     const AnswerBox box(QMessageBox::Yes);
     click(editor.window, "btn_Renommer");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous renommer : Vin ..."));
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2; 3 Eau 4"));
+    QCOMPARE(box.text(), QString("Voulez-vous renommer : Vin ..."));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2; 3 Eau 4"));
 }
 
 void TestFormVendelSaisieArticleRows::allSelectedWithoutACurrentRowRenamesNone()
@@ -137,12 +137,12 @@ void TestFormVendelSaisieArticleRows::allSelectedWithoutACurrentRowRenamesNone()
         click(editor.window, "btn_Renommer");
         said = output.text();
     }
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous renommer :  ..."));
+    QCOMPARE(box.text(), QString("Voulez-vous renommer :  ..."));
     QCOMPARE(said.count("Errors Db::DbLoad sqlite3_errmsg : update Article set article = 'Eau', "
                         "prix = 4 where id = "),
         1);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
-    QCOMPARE(editor.names(), QStringList({QStringLiteral("Cafe"), QStringLiteral("The")}));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
+    QCOMPARE(editor.names(), QStringList({QString("Cafe"), QString("The")}));
 }
 
 void TestFormVendelSaisieArticleRows::aRefusedNumberAndANoKeepTheList()
@@ -156,7 +156,7 @@ void TestFormVendelSaisieArticleRows::aRefusedNumberAndANoKeepTheList()
         const AnswerBox box(QMessageBox::No);
         click(editor.window, "btn_Renommer");
         QVERIFY(box.wasShown());
-        QCOMPARE(editor.names(), QStringList({QStringLiteral("Cafe"), QStringLiteral("The")}));
+        QCOMPARE(editor.names(), QStringList({QString("Cafe"), QString("The")}));
         QVERIFY(child<QTableView>(editor.window, "tableView").selectionModel()->hasSelection());
     }
 }
@@ -179,10 +179,10 @@ void TestFormVendelSaisieArticleRows::everyDollarOfAPriceIsTakenAway()
     OpenArticleEditor editor("('Cafe', '$ 2 $ ou 3'), ('The', 'offert')");
     click(editor.window, "btn_Afficher");
     doubleClickCell(editor.window, "tableView", 0, 2);
-    QCOMPARE(editor.text("txt_Montant"), QStringLiteral(" 2  ou 3"));
+    QCOMPARE(editor.text("txt_Montant"), QString(" 2  ou 3"));
     doubleClickCell(editor.window, "tableView", 1, 2);
-    QCOMPARE(editor.text("txt_Montant"), QStringLiteral("offert"));
+    QCOMPARE(editor.text("txt_Montant"), QString("offert"));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieArticleRows)
+VENDEL_TEST(TestFormVendelSaisieArticleRows)
 #include "tst_FormVendelSaisieArticleRows.moc"

@@ -3,7 +3,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/FailingText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 class TestFormVendelSaisieArticleSearch : public QObject
 {
@@ -31,11 +31,11 @@ void TestFormVendelSaisieArticleSearch::anEmptyFieldIsRefused()
     click(editor.window, "btn_Afficher");
     const AnswerBox box;
     click(editor.window, "btn_Rechercher");
-    QCOMPARE(box.title(), QStringLiteral("Rechercher"));
-    QCOMPARE(box.text(), QStringLiteral("Saisir un article"));
+    QCOMPARE(box.title(), QString("Rechercher"));
+    QCOMPARE(box.text(), QString("Saisir un article"));
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.names(), QStringList(QStringLiteral("Cafe")));
+    QCOMPARE(editor.names(), QStringList(QString("Cafe")));
 }
 
 void TestFormVendelSaisieArticleSearch::blanksAloneAreRefusedAndTakenAway()
@@ -44,7 +44,7 @@ void TestFormVendelSaisieArticleSearch::blanksAloneAreRefusedAndTakenAway()
     editor.type("txt_Article", "   ");
     const AnswerBox box;
     click(editor.window, "btn_Rechercher");
-    QCOMPARE(box.text(), QStringLiteral("Saisir un article"));
+    QCOMPARE(box.text(), QString("Saisir un article"));
     QCOMPARE(editor.text("txt_Article"), QString());
 }
 
@@ -54,8 +54,7 @@ void TestFormVendelSaisieArticleSearch::findsAPartOfTheNameInAnyCase()
     editor.type("txt_Article", "the");
     const AnswerBox box;
     click(editor.window, "btn_Rechercher");
-    QCOMPARE(
-        editor.names(), QStringList({QStringLiteral("Grand THE"), QStringLiteral("The vert")}));
+    QCOMPARE(editor.names(), QStringList({QString("Grand THE"), QString("The vert")}));
     QVERIFY(!box.wasShown());
 }
 
@@ -64,8 +63,8 @@ void TestFormVendelSaisieArticleSearch::blanksAroundTheTermDoNotCount()
     OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
     editor.type("txt_Article", "  af ");
     click(editor.window, "btn_Rechercher");
-    QCOMPARE(editor.names(), QStringList(QStringLiteral("Cafe")));
-    QCOMPARE(editor.text("txt_Article"), QStringLiteral("af"));
+    QCOMPARE(editor.names(), QStringList(QString("Cafe")));
+    QCOMPARE(editor.text("txt_Article"), QString("af"));
 }
 
 void TestFormVendelSaisieArticleSearch::findsAnApostrophe()
@@ -73,17 +72,17 @@ void TestFormVendelSaisieArticleSearch::findsAnApostrophe()
     OpenArticleEditor editor("('L''eau', 1), ('Leau', 2)");
     editor.type("txt_Article", "L'e");
     click(editor.window, "btn_Rechercher");
-    QCOMPARE(editor.names(), QStringList(QStringLiteral("L'eau")));
+    QCOMPARE(editor.names(), QStringList(QString("L'eau")));
 }
 
 void TestFormVendelSaisieArticleSearch::wildcardsAreSqls_data()
 {
     QTest::addColumn<QByteArray>("term");
     QTest::addColumn<QString>("found");
-    QTest::newRow("per cent") << QByteArray("%") << QStringLiteral("Cafe|Remise 10%|The|a_b");
-    QTest::newRow("between") << QByteArray("c%f") << QStringLiteral("Cafe");
-    QTest::newRow("one letter") << QByteArray("c_fe") << QStringLiteral("Cafe");
-    QTest::newRow("underscore") << QByteArray("____") << QStringLiteral("Cafe|Remise 10%");
+    QTest::newRow("per cent") << QByteArray("%") << QString("Cafe|Remise 10%|The|a_b");
+    QTest::newRow("between") << QByteArray("c%f") << QString("Cafe");
+    QTest::newRow("one letter") << QByteArray("c_fe") << QString("Cafe");
+    QTest::newRow("underscore") << QByteArray("____") << QString("Cafe|Remise 10%");
     QTest::newRow("double quote") << QByteArray("\"") << QString();
     QTest::newRow("semicolon") << QByteArray("';--") << QString();
     QTest::newRow("backslash") << QByteArray("\\") << QString();
@@ -99,7 +98,7 @@ void TestFormVendelSaisieArticleSearch::wildcardsAreSqls()
     click(editor.window, "btn_Rechercher");
     QStringList names = editor.names();
     names.sort();
-    QCOMPARE(names.join(QLatin1Char('|')), found);
+    QCOMPARE(names.join('|'), found);
     QCOMPARE(output.text(), QByteArray());
 }
 
@@ -120,8 +119,7 @@ void TestFormVendelSaisieArticleSearch::pricesAreShownAsInTheMenu()
     editor.type("txt_Article", "3");
     click(editor.window, "btn_Rechercher");
     QCOMPARE(rowTexts(editor.window, "tableView", 0),
-        QStringList({QStringLiteral("1"), QString(), QStringLiteral("33.00$"),
-            QStringLiteral("1,234.50$")}));
+        QStringList({QString("1"), QString(), QString("33.00$"), QString("1,234.50$")}));
 }
 
 void TestFormVendelSaisieArticleSearch::duplicatesAmongTheFoundAreCounted()
@@ -130,11 +128,11 @@ void TestFormVendelSaisieArticleSearch::duplicatesAmongTheFoundAreCounted()
     editor.type("txt_Article", "caf");
     const AnswerBox box;
     click(editor.window, "btn_Rechercher");
-    QCOMPARE(box.title(), QStringLiteral("Doublon"));
-    QCOMPARE(box.text(), QStringLiteral("Supprimer le(s) 1 doublon(s) note(s) X..."));
+    QCOMPARE(box.title(), QString("Doublon"));
+    QCOMPARE(box.text(), QString("Supprimer le(s) 1 doublon(s) note(s) X..."));
     QCOMPARE(box.strays(), 0);
     QCOMPARE(rowCount(editor.window, "tableView"), 2);
-    QCOMPARE(editor.marked(), QStringList(QStringLiteral("1")));
+    QCOMPARE(editor.marked(), QStringList(QString("1")));
 }
 
 void TestFormVendelSaisieArticleSearch::duplicatesElsewhereAreNotSaid()
@@ -144,7 +142,7 @@ void TestFormVendelSaisieArticleSearch::duplicatesElsewhereAreNotSaid()
     const AnswerBox box;
     click(editor.window, "btn_Rechercher");
     QVERIFY(!box.wasShown());
-    QCOMPARE(editor.names(), QStringList(QStringLiteral("The")));
+    QCOMPARE(editor.names(), QStringList(QString("The")));
     QCOMPARE(editor.marked(), QStringList());
 }
 
@@ -183,9 +181,8 @@ void TestFormVendelSaisieArticleSearch::aFailureIsLogged()
     const FailingText failure("Saisir un article");
     click(editor.window, "btn_Rechercher");
     QCOMPARE(log.criticals(),
-        QStringList(
-            QStringLiteral("Errors FormVendelSaisieArticle on_btn_Rechercher_clicked : no text")));
+        QStringList(QString("Errors FormVendelSaisieArticle on_btn_Rechercher_clicked : no text")));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieArticleSearch)
+VENDEL_TEST(TestFormVendelSaisieArticleSearch)
 #include "tst_FormVendelSaisieArticleSearch.moc"

@@ -8,7 +8,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
 #include "tests/support/MarkedContext.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -50,11 +50,11 @@ void TestFormVendelSaisieStock::looksLikeTheStockEditor()
     QCOMPARE(stock.minimumSize(), QSize(904, 531));
     QCOMPARE(stock.maximumSize(), QSize(904, 531));
     QCOMPARE(stock.windowModality(), Qt::WindowModal);
-    QCOMPARE(stock.windowTitle(), QStringLiteral("Saisie Stock"));
-    QCOMPARE(child<QPushButton>(stock, "btn_Display").text(), QStringLiteral("Afficher"));
-    QCOMPARE(child<QPushButton>(stock, "btn_Update").text(), QStringLiteral("Mise à Jour"));
-    QCOMPARE(child<QPushButton>(stock, "btn_Remove").text(), QStringLiteral("Supprimer"));
-    QCOMPARE(child<QPushButton>(stock, "btn_Cut_Paste").text(), QStringLiteral("Couper /\nColler"));
+    QCOMPARE(stock.windowTitle(), QString("Saisie Stock"));
+    QCOMPARE(child<QPushButton>(stock, "btn_Display").text(), QString("Afficher"));
+    QCOMPARE(child<QPushButton>(stock, "btn_Update").text(), QString("Mise à Jour"));
+    QCOMPARE(child<QPushButton>(stock, "btn_Remove").text(), QString("Supprimer"));
+    QCOMPARE(child<QPushButton>(stock, "btn_Cut_Paste").text(), QString("Couper /\nColler"));
     QVERIFY(!anyAutoDefault(stock));
 
     const auto& articles = child<QTableView>(stock, "tableView1");
@@ -89,8 +89,8 @@ void TestFormVendelSaisieStock::anEmptyStockSaysSo()
     shop.sql("delete from ArticleStock");
     const AnswerBox box;
     click(stock, "btn_Display");
-    QCOMPARE(box.text(), QStringLiteral("Aucun Article\nFaite Mise à jour"));
-    QCOMPARE(box.title(), QStringLiteral("Afficher"));
+    QCOMPARE(box.text(), QString("Aucun Article\nFaite Mise à jour"));
+    QCOMPARE(box.title(), QString("Afficher"));
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.parent(), &stock);
@@ -165,7 +165,7 @@ void TestFormVendelSaisieStock::arrowKeysShowTheRecipe()
     clickCell(stock, "tableView1", 0, 1);
     QTest::keyClick(&articles, Qt::Key_Down);
     QCOMPARE(rowCount(stock, "tableView2"), 1);
-    QCOMPARE(rowTexts(stock, "tableView2", 0).at(2), QStringLiteral("Menthe"));
+    QCOMPARE(rowTexts(stock, "tableView2", 0).at(2), QString("Menthe"));
     QTest::keyClick(&articles, Qt::Key_Up);
     QCOMPARE(rowCount(stock, "tableView2"), 2);
 }
@@ -189,13 +189,12 @@ void TestFormVendelSaisieStock::dosesAreShownWithTwoDecimals_data()
 {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("decimals are filled up") << QStringLiteral("1.5") << QStringLiteral("1.50");
-    QTest::newRow("whole") << QStringLiteral("12") << QStringLiteral("12.00");
-    QTest::newRow("grouped") << QStringLiteral("1234.5") << QStringLiteral("1,234.50");
-    QTest::newRow("double precision")
-        << QStringLiteral("16777217.25") << QStringLiteral("16,777,217.25");
-    QTest::newRow("negative") << QStringLiteral("-0.25") << QStringLiteral("-0.25");
-    QTest::newRow("text stays") << QStringLiteral("'une pincée'") << QStringLiteral("une pincée");
+    QTest::newRow("decimals are filled up") << QString("1.5") << QString("1.50");
+    QTest::newRow("whole") << QString("12") << QString("12.00");
+    QTest::newRow("grouped") << QString("1234.5") << QString("1,234.50");
+    QTest::newRow("double precision") << QString("16777217.25") << QString("16,777,217.25");
+    QTest::newRow("negative") << QString("-0.25") << QString("-0.25");
+    QTest::newRow("text stays") << QString("'une pincée'") << QString("une pincée");
 }
 
 void TestFormVendelSaisieStock::dosesAreShownWithTwoDecimals()
@@ -203,12 +202,12 @@ void TestFormVendelSaisieStock::dosesAreShownWithTwoDecimals()
     QFETCH(const QString, stored);
     QFETCH(const QString, shown);
     const StockSample shop;
-    shop.sql(QStringLiteral("update DoseStock set dose = %1 where idlig = 12")
+    shop.sql(QString("update DoseStock set dose = %1 where idlig = 12")
                  .arg(stored)
                  .toUtf8()
                  .constData());
     FormVendelSaisieStock stock;
-    stock.Display_DoseStock(QStringLiteral("3"));
+    stock.Display_DoseStock(QString("3"));
     QCOMPARE(rowTexts(stock, "tableView2", 0),
         cells({"12", "3", "Menthe", qUtf8Printable(shown), "cl"}));
 }
@@ -217,7 +216,7 @@ void TestFormVendelSaisieStock::clearListEmptiesTheRecipe()
 {
     const StockSample shop;
     FormVendelSaisieStock stock;
-    stock.Display_DoseStock(QStringLiteral("1"));
+    stock.Display_DoseStock(QString("1"));
     stock.Clear_List();
     QCOMPARE(rowCount(stock, "tableView2"), 0);
     QCOMPARE(widths(child<QTableView>(stock, "tableView2")), std::vector({50, 180, 90, 50}));
@@ -234,7 +233,7 @@ void TestFormVendelSaisieStock::aDoubleClickComposes()
     QCOMPARE(windows.size(), 1);
     QVERIFY(windows.front()->isVisible());
     QVERIFY(windows.front()->testAttribute(Qt::WA_DeleteOnClose));
-    QCOMPARE(child<QLabel>(*windows.front(), "lbl_Article").text(), QStringLiteral("Sirop"));
+    QCOMPARE(child<QLabel>(*windows.front(), "lbl_Article").text(), QString("Sirop"));
 }
 
 void TestFormVendelSaisieStock::returnAndEnterCompose()
@@ -248,7 +247,7 @@ void TestFormVendelSaisieStock::returnAndEnterCompose()
         QTest::keyClick(&child<QTableView>(stock, "tableView1"), key);
         const auto windows = stock.findChildren<FormVendelSaisieStockComposition*>();
         QCOMPARE(windows.size(), 1);
-        QCOMPARE(child<QLabel>(*windows.front(), "lbl_Article").text(), QStringLiteral("Café"));
+        QCOMPARE(child<QLabel>(*windows.front(), "lbl_Article").text(), QString("Café"));
     }
 }
 
@@ -301,21 +300,21 @@ void TestFormVendelSaisieStock::textsAreTranslatedInTheirContexts()
     {
         const MarkedContext captions("FormVendelSaisieStock");
         FormVendelSaisieStock stock;
-        QCOMPARE(stock.windowTitle(), QStringLiteral("FormVendelSaisieStock:Saisie Stock"));
+        QCOMPARE(stock.windowTitle(), QString("FormVendelSaisieStock:Saisie Stock"));
         QCOMPARE(child<QPushButton>(stock, "btn_Remove").text(),
-            QStringLiteral("FormVendelSaisieStock:Supprimer"));
+            QString("FormVendelSaisieStock:Supprimer"));
     }
     const MarkedContext texts("FormVendelSaisieStockMessages");
     FormVendelSaisieStock stock;
     stock.Display(true);
-    QCOMPARE(stock.windowTitle(), QStringLiteral("FormVendelSaisieStockMessages:Saisie Stock"));
+    QCOMPARE(stock.windowTitle(), QString("FormVendelSaisieStockMessages:Saisie Stock"));
     QCOMPARE(labels(child<QTableView>(stock, "tableView1")).at(1),
-        QStringLiteral("FormVendelSaisieStockMessages:Article"));
-    QCOMPARE(rowTexts(stock, "tableView1", 0).at(2),
-        QStringLiteral("FormVendelSaisieStockMessages:Valide"));
+        QString("FormVendelSaisieStockMessages:Article"));
+    QCOMPARE(
+        rowTexts(stock, "tableView1", 0).at(2), QString("FormVendelSaisieStockMessages:Valide"));
     const AnswerBox box;
     click(stock, "btn_Remove");
-    QCOMPARE(box.title(), QStringLiteral("FormVendelSaisieStockMessages:Supprimer"));
+    QCOMPARE(box.title(), QString("FormVendelSaisieStockMessages:Supprimer"));
 }
 
 void TestFormVendelSaisieStock::troubleIsLogged()
@@ -357,7 +356,7 @@ void TestFormVendelSaisieStock::troubleIsLogged()
     shop.sql("drop table DoseStock");
     shop.sql("create table DoseStock (id, composition)");
     shop.sql("insert into DoseStock values (1, 'Lait')");
-    stock.Display_DoseStock(QStringLiteral("1"));
+    stock.Display_DoseStock(QString("1"));
 
     QCOMPARE(log.criticals().mid(0, 8),
         cells({"Errors FormVendelSaisieStock Contructor : trouble",
@@ -373,5 +372,5 @@ void TestFormVendelSaisieStock::troubleIsLogged()
         QLatin1String("Errors FormVendelSaisieStock Display_DoseStock : ")));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieStock)
+VENDEL_TEST(TestFormVendelSaisieStock)
 #include "tst_FormVendelSaisieStock.moc"

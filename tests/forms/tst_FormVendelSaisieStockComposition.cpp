@@ -6,7 +6,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
 #include "tests/support/MarkedContext.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -45,7 +45,7 @@ struct Composing
     Composing()
     {
         stock.show();
-        stock.Display_DoseStock(QStringLiteral("3"));
+        stock.Display_DoseStock(QString("3"));
         window.show();
     }
 
@@ -57,7 +57,7 @@ struct Composing
 
     StockSample shop;
     FormVendelSaisieStock stock;
-    FormVendelSaisieStockComposition window{QStringLiteral("Sirop"), QStringLiteral("3"), &stock};
+    FormVendelSaisieStockComposition window{QString("Sirop"), QString("3"), &stock};
 };
 } // namespace
 
@@ -65,25 +65,24 @@ void TestFormVendelSaisieStockComposition::looksLikeTheCompositionWindow()
 {
     const Shop shop;
     const CapturedLog log;
-    FormVendelSaisieStockComposition window(
-        QStringLiteral("<b>Café</b>"), QStringLiteral("1"), nullptr);
+    FormVendelSaisieStockComposition window(QString("<b>Café</b>"), QString("1"), nullptr);
     QCOMPARE(window.size(), QSize(495, 86));
     QCOMPARE(window.minimumSize(), QSize(495, 86));
     QCOMPARE(window.maximumSize(), QSize(495, 86));
     QCOMPARE(window.windowModality(), Qt::WindowModal);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Saisie Stock"));
-    QCOMPARE(child<QLabel>(window, "lbl_ArticleTitle").text(), QStringLiteral("Article :"));
-    QCOMPARE(child<QLabel>(window, "lbl_Article").text(), QStringLiteral("<b>Café</b>"));
+    QCOMPARE(window.windowTitle(), QString("Saisie Stock"));
+    QCOMPARE(child<QLabel>(window, "lbl_ArticleTitle").text(), QString("Article :"));
+    QCOMPARE(child<QLabel>(window, "lbl_Article").text(), QString("<b>Café</b>"));
     QCOMPARE(child<QLabel>(window, "lbl_Article").textFormat(), Qt::PlainText);
-    QCOMPARE(child<QLabel>(window, "lbl_Composition").text(), QStringLiteral("Composition"));
-    QCOMPARE(child<QLabel>(window, "lbl_Dose").text(), QStringLiteral("Dose"));
-    QCOMPARE(child<QLabel>(window, "lbl_Unit").text(), QStringLiteral("Unité"));
-    QCOMPARE(child<QPushButton>(window, "btn_Add").text(), QStringLiteral("Ajouter"));
+    QCOMPARE(child<QLabel>(window, "lbl_Composition").text(), QString("Composition"));
+    QCOMPARE(child<QLabel>(window, "lbl_Dose").text(), QString("Dose"));
+    QCOMPARE(child<QLabel>(window, "lbl_Unit").text(), QString("Unité"));
+    QCOMPARE(child<QPushButton>(window, "btn_Add").text(), QString("Ajouter"));
     const auto& units = child<QComboBox>(window, "cbx_Unit");
     QCOMPARE(units.count(), 2);
-    QCOMPARE(units.itemText(0), QStringLiteral("cl"));
-    QCOMPARE(units.itemText(1), QStringLiteral("g"));
-    QCOMPARE(units.currentText(), QStringLiteral("cl"));
+    QCOMPARE(units.itemText(0), QString("cl"));
+    QCOMPARE(units.itemText(1), QString("g"));
+    QCOMPARE(units.currentText(), QString("cl"));
     QVERIFY(!units.isEditable());
     QVERIFY(child<QPushButton>(window, "btn_Add").isDefault());
     QVERIFY(!anyAutoDefault(window));
@@ -93,9 +92,8 @@ void TestFormVendelSaisieStockComposition::looksLikeTheCompositionWindow()
 void TestFormVendelSaisieStockComposition::aLongNameKeepsItsNeighboursInPlace()
 {
     const Shop shop;
-    FormVendelSaisieStockComposition brief(QStringLiteral("Thé"), QStringLiteral("1"), nullptr);
-    FormVendelSaisieStockComposition long_(
-        QString(300, QLatin1Char('W')), QStringLiteral("1"), nullptr);
+    FormVendelSaisieStockComposition brief(QString("Thé"), QString("1"), nullptr);
+    FormVendelSaisieStockComposition long_(QString(300, 'W'), QString("1"), nullptr);
     brief.show();
     long_.show();
     QCOMPARE(long_.size(), QSize(495, 86));
@@ -110,12 +108,12 @@ void TestFormVendelSaisieStockComposition::addsALineAndCloses()
 {
     Composing at;
     const AnswerBox box;
-    at.type(QStringLiteral("  Eau \t"), QStringLiteral(" 20 "));
+    at.type(QString("  Eau \t"), QString(" 20 "));
     click(at.window, "btn_Add");
     QVERIFY(!box.wasShown());
     QVERIFY(!at.window.isVisible());
-    QCOMPARE(child<QLineEdit>(at.window, "txt_Composition").text(), QStringLiteral("Eau"));
-    QCOMPARE(child<QLineEdit>(at.window, "txt_Dose").text(), QStringLiteral("20"));
+    QCOMPARE(child<QLineEdit>(at.window, "txt_Composition").text(), QString("Eau"));
+    QCOMPARE(child<QLineEdit>(at.window, "txt_Dose").text(), QString("20"));
     QCOMPARE(rowCount(at.stock, "tableView2"), 2);
     QCOMPARE(rowTexts(at.stock, "tableView2", 0), cells({"13", "3", "Eau", "20.00", "cl"}));
 }
@@ -145,7 +143,7 @@ void TestFormVendelSaisieStockComposition::doseAndUnitAreStored()
     QFETCH(const QString, stored);
     QFETCH(const QString, shown);
     Composing at;
-    at.type(QStringLiteral("Eau"), typed);
+    at.type(QString("Eau"), typed);
     child<QComboBox>(at.window, "cbx_Unit").setCurrentIndex(unit);
     click(at.window, "btn_Add");
     QCOMPARE(at.shop.cell("select dose || '|' || unite from DoseStock where composition = 'Eau'"),
@@ -156,11 +154,11 @@ void TestFormVendelSaisieStockComposition::doseAndUnitAreStored()
 void TestFormVendelSaisieStockComposition::quotesAreStoredAsTyped()
 {
     Composing at;
-    at.type(QStringLiteral("L'eau d''ici"), QStringLiteral("1"));
+    at.type(QString("L'eau d''ici"), QString("1"));
     click(at.window, "btn_Add");
     QCOMPARE(at.shop.cell("select composition from DoseStock where idlig = 13"),
-        QStringLiteral("L'eau d''ici"));
-    QCOMPARE(rowTexts(at.stock, "tableView2", 0).at(2), QStringLiteral("L'eau d''ici"));
+        QString("L'eau d''ici"));
+    QCOMPARE(rowTexts(at.stock, "tableView2", 0).at(2), QString("L'eau d''ici"));
 }
 
 void TestFormVendelSaisieStockComposition::missingTextsAreAskedFor_data()
@@ -168,8 +166,8 @@ void TestFormVendelSaisieStockComposition::missingTextsAreAskedFor_data()
     QTest::addColumn<QString>("composition");
     QTest::addColumn<QString>("dose");
     QTest::newRow("both") << QString() << QString();
-    QTest::newRow("composition of blanks") << QStringLiteral("  ") << QStringLiteral("1");
-    QTest::newRow("dose of blanks") << QStringLiteral("Eau") << QStringLiteral(" ");
+    QTest::newRow("composition of blanks") << QString("  ") << QString("1");
+    QTest::newRow("dose of blanks") << QString("Eau") << QString(" ");
 }
 
 void TestFormVendelSaisieStockComposition::missingTextsAreAskedFor()
@@ -180,15 +178,15 @@ void TestFormVendelSaisieStockComposition::missingTextsAreAskedFor()
     at.type(composition, dose);
     const AnswerBox box;
     click(at.window, "btn_Add");
-    QCOMPARE(box.text(), QStringLiteral("Saisir Composition / Dose / Choisir Unité"));
-    QCOMPARE(box.title(), QStringLiteral("Ajouter"));
+    QCOMPARE(box.text(), QString("Saisir Composition / Dose / Choisir Unité"));
+    QCOMPARE(box.title(), QString("Ajouter"));
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.parent(), &at.window);
     QCOMPARE(box.strays(), 0);
     QVERIFY(at.window.isVisible());
     QCOMPARE(child<QLineEdit>(at.window, "txt_Composition").text(), composition.trimmed());
     QCOMPARE(child<QLineEdit>(at.window, "txt_Dose").text(), dose.trimmed());
-    QCOMPARE(at.shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    QCOMPARE(at.shop.cell("select count(*) from DoseStock"), QString("3"));
 }
 
 void TestFormVendelSaisieStockComposition::aDoseThatIsNoNumberIsRefused_data()
@@ -203,22 +201,22 @@ void TestFormVendelSaisieStockComposition::aDoseThatIsNoNumberIsRefused()
 {
     QFETCH(const QString, dose);
     Composing at;
-    at.type(QStringLiteral("Eau"), dose);
+    at.type(QString("Eau"), dose);
     const AnswerBox box;
     click(at.window, "btn_Add");
-    QCOMPARE(box.text(), QStringLiteral("Saisir une dose valide"));
-    QCOMPARE(box.title(), QStringLiteral("Ajouter"));
+    QCOMPARE(box.text(), QString("Saisir une dose valide"));
+    QCOMPARE(box.title(), QString("Ajouter"));
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.strays(), 0);
     QVERIFY(at.window.isVisible());
     QCOMPARE(child<QLineEdit>(at.window, "txt_Dose").text(), dose);
-    QCOMPARE(at.shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    QCOMPARE(at.shop.cell("select count(*) from DoseStock"), QString("3"));
 }
 
 void TestFormVendelSaisieStockComposition::aRefusedInsertIsReportedAndCloses()
 {
     Composing at;
-    at.type(QStringLiteral("Eau"), QStringLiteral("inf"));
+    at.type(QString("Eau"), QString("inf"));
     CapturedOutput output;
     click(at.window, "btn_Add");
     QCOMPARE(diagnostics(output),
@@ -232,8 +230,8 @@ void TestFormVendelSaisieStockComposition::returnAdds()
 {
     Composing at;
     QVERIFY(showActive(at.window));
-    QTest::keyClicks(&child<QLineEdit>(at.window, "txt_Composition"), QStringLiteral("Eau"));
-    QTest::keyClicks(&child<QLineEdit>(at.window, "txt_Dose"), QStringLiteral("2,5"));
+    QTest::keyClicks(&child<QLineEdit>(at.window, "txt_Composition"), QString("Eau"));
+    QTest::keyClicks(&child<QLineEdit>(at.window, "txt_Dose"), QString("2,5"));
     QTest::keyClick(&child<QLineEdit>(at.window, "txt_Dose"), Qt::Key_Return);
     QVERIFY(!at.window.isVisible());
     QCOMPARE(rowTexts(at.stock, "tableView2", 0), cells({"13", "3", "Eau", "2.50", "cl"}));
@@ -252,10 +250,10 @@ void TestFormVendelSaisieStockComposition::tabGoesFromFieldToField()
 void TestFormVendelSaisieStockComposition::closingAddsNothing()
 {
     Composing at;
-    at.type(QStringLiteral("Eau"), QStringLiteral("1"));
+    at.type(QString("Eau"), QString("1"));
     QTest::keyClick(&at.window, Qt::Key_Escape);
     QVERIFY(!at.window.isVisible());
-    QCOMPARE(at.shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    QCOMPARE(at.shop.cell("select count(*) from DoseStock"), QString("3"));
 }
 
 void TestFormVendelSaisieStockComposition::textsAreTranslatedInTheirContexts()
@@ -265,14 +263,14 @@ void TestFormVendelSaisieStockComposition::textsAreTranslatedInTheirContexts()
         const MarkedContext captions("FormVendelSaisieStockComposition");
         FormVendelSaisieStockComposition window(QString(), QString(), nullptr);
         QCOMPARE(child<QLabel>(window, "lbl_Dose").text(),
-            QStringLiteral("FormVendelSaisieStockComposition:Dose"));
+            QString("FormVendelSaisieStockComposition:Dose"));
     }
     const MarkedContext texts("FormVendelSaisieStockCompositionMessages");
     FormVendelSaisieStockComposition window(QString(), QString(), nullptr);
     window.show();
     const AnswerBox box;
     click(window, "btn_Add");
-    QCOMPARE(box.title(), QStringLiteral("FormVendelSaisieStockCompositionMessages:Ajouter"));
+    QCOMPARE(box.title(), QString("FormVendelSaisieStockCompositionMessages:Ajouter"));
 }
 
 void TestFormVendelSaisieStockComposition::troubleIsLogged()
@@ -290,5 +288,5 @@ void TestFormVendelSaisieStockComposition::troubleIsLogged()
             "Errors FormSaisieStockComposition on_btn_Add_clicked : trouble"}));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieStockComposition)
+VENDEL_TEST(TestFormVendelSaisieStockComposition)
 #include "tst_FormVendelSaisieStockComposition.moc"

@@ -5,7 +5,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/ListLook.h"
 #include "tests/support/MarkedContext.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -67,8 +67,8 @@ void TestFormVendelSaisieStockCutPaste::looksLikeTheTransferWindow()
     QCOMPARE(window.minimumSize(), QSize(845, 393));
     QCOMPARE(window.maximumSize(), QSize(845, 393));
     QCOMPARE(window.windowModality(), Qt::WindowModal);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Couper / Coller"));
-    QCOMPARE(child<QPushButton>(window, "btn_Modify").text(), QStringLiteral("Modifier"));
+    QCOMPARE(window.windowTitle(), QString("Couper / Coller"));
+    QCOMPARE(child<QPushButton>(window, "btn_Modify").text(), QString("Modifier"));
     QVERIFY(!anyAutoDefault(window));
     const auto& articles = child<QTableView>(window, "tableView1");
     QCOMPARE(labels(articles), cells({"#", "Article", "Validité"}));
@@ -89,8 +89,8 @@ void TestFormVendelSaisieStockCutPaste::offersTheArticlesOfTheMenuAndListsTheOth
     FormVendelSaisieStockCutPaste window;
     const auto& targets = child<QComboBox>(window, "cbx_Article");
     QCOMPARE(targets.count(), 2);
-    QCOMPARE(targets.itemText(0), QStringLiteral("1, Café, Valide"));
-    QCOMPARE(targets.itemText(1), QStringLiteral("2, Thé, Valide"));
+    QCOMPARE(targets.itemText(0), QString("1, Café, Valide"));
+    QCOMPARE(targets.itemText(1), QString("2, Thé, Valide"));
     QCOMPARE(rowCount(window, "tableView1"), 3);
     QCOMPARE(rowTexts(window, "tableView1", 0), cells({"5", "Ancien", "Périmé"}));
     QCOMPARE(rowTexts(window, "tableView1", 1), cells({"1000", "hors menu", "Périmé"}));
@@ -126,7 +126,7 @@ void TestFormVendelSaisieStockCutPaste::selectingAWithdrawnArticleShowsItsRecipe
     auto& articles = child<QTableView>(window, "tableView1");
     articles.selectionModel()->setCurrentIndex(
         articles.model()->index(0, 1), QItemSelectionModel::NoUpdate);
-    QCOMPARE(rowTexts(window, "tableView2", 0).at(2), QStringLiteral("Menthe"));
+    QCOMPARE(rowTexts(window, "tableView2", 0).at(2), QString("Menthe"));
 }
 
 void TestFormVendelSaisieStockCutPaste::withoutLinesThereIsNothingToMove()
@@ -137,8 +137,8 @@ void TestFormVendelSaisieStockCutPaste::withoutLinesThereIsNothingToMove()
     QCOMPARE(rowCount(window, "tableView1"), 0);
     const AnswerBox box;
     click(window, "btn_Modify");
-    QCOMPARE(box.text(), QStringLiteral("Vous n'avez rien à couper / coller"));
-    QCOMPARE(box.title(), QStringLiteral("Modifier"));
+    QCOMPARE(box.text(), QString("Vous n'avez rien à couper / coller"));
+    QCOMPARE(box.title(), QString("Modifier"));
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.parent(), &window);
     QCOMPARE(box.strays(), 0);
@@ -149,9 +149,8 @@ void TestFormVendelSaisieStockCutPaste::withoutASelectionItAsksForOne()
     Moving at;
     const AnswerBox box;
     click(at.window, "btn_Modify");
-    QCOMPARE(
-        box.text(), QStringLiteral("Selectionner un/des composition(s) / dose(s) dans la list"));
-    QCOMPARE(box.title(), QStringLiteral("Modifier"));
+    QCOMPARE(box.text(), QString("Selectionner un/des composition(s) / dose(s) dans la list"));
+    QCOMPARE(box.title(), QString("Modifier"));
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.strays(), 0);
 }
@@ -162,12 +161,12 @@ void TestFormVendelSaisieStockCutPaste::noMovesNothing()
     at.chooseLine();
     const AnswerBox box(QMessageBox::No);
     click(at.window, "btn_Modify");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous modifier : Menthe ... dans  Café,  Valide"));
-    QCOMPARE(box.title(), QStringLiteral("Modifier"));
+    QCOMPARE(box.text(), QString("Voulez-vous modifier : Menthe ... dans  Café,  Valide"));
+    QCOMPARE(box.title(), QString("Modifier"));
     QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(at.shop.cell("select id from DoseStock where idlig = 12"), QStringLiteral("3"));
+    QCOMPARE(at.shop.cell("select id from DoseStock where idlig = 12"), QString("3"));
     QCOMPARE(rowCount(at.window, "tableView2"), 1);
 }
 
@@ -178,8 +177,8 @@ void TestFormVendelSaisieStockCutPaste::yesMovesTheLine()
     child<QComboBox>(at.window, "cbx_Article").setCurrentIndex(1);
     const AnswerBox box(QMessageBox::Yes);
     click(at.window, "btn_Modify");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous modifier : Menthe ... dans  Thé,  Valide"));
-    QCOMPARE(at.shop.cell("select id from DoseStock where idlig = 12"), QStringLiteral("2"));
+    QCOMPARE(box.text(), QString("Voulez-vous modifier : Menthe ... dans  Thé,  Valide"));
+    QCOMPARE(at.shop.cell("select id from DoseStock where idlig = 12"), QString("2"));
     QCOMPARE(rowCount(at.window, "tableView2"), 0);
     QCOMPARE(rowCount(at.window, "tableView1"), 1);
     QVERIFY(at.window.isVisible());
@@ -189,7 +188,7 @@ void TestFormVendelSaisieStockCutPaste::onlyTheCurrentRowIsMoved()
 {
     Moving at;
     at.shop.sql("insert into DoseStock values (13, 3, 'Eau', 1, 'cl'), (14, 3, 'Sucre', 1, 'g')");
-    at.window.Display_DoseStock(QStringLiteral("3"));
+    at.window.Display_DoseStock(QString("3"));
     at.chooseLine(0);
     auto& recipe = child<QTableView>(at.window, "tableView2");
     QTest::mouseClick(recipe.viewport(), Qt::LeftButton, Qt::ShiftModifier,
@@ -197,10 +196,10 @@ void TestFormVendelSaisieStockCutPaste::onlyTheCurrentRowIsMoved()
     QCOMPARE(recipe.selectionModel()->selectedIndexes().size(), 2);
     const AnswerBox box(QMessageBox::Yes);
     click(at.window, "btn_Modify");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous modifier : Menthe ... dans  Café,  Valide"));
+    QCOMPARE(box.text(), QString("Voulez-vous modifier : Menthe ... dans  Café,  Valide"));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(at.shop.cell("select group_concat(idlig) from DoseStock where id = 3"),
-        QStringLiteral("13,14"));
+    QCOMPARE(
+        at.shop.cell("select group_concat(idlig) from DoseStock where id = 3"), QString("13,14"));
     QCOMPARE(rowCount(at.window, "tableView2"), 2);
 }
 
@@ -210,14 +209,14 @@ void TestFormVendelSaisieStockCutPaste::theQuestionCutsANameAtItsCommas()
     shop.sql("update ArticleStock set article = 'Café, crème' where id = 1");
     FormVendelSaisieStockCutPaste window;
     window.show();
-    QCOMPARE(child<QComboBox>(window, "cbx_Article").itemText(0),
-        QStringLiteral("1, Café, crème, Valide"));
+    QCOMPARE(
+        child<QComboBox>(window, "cbx_Article").itemText(0), QString("1, Café, crème, Valide"));
     clickCell(window, "tableView1", 0, 1);
     clickCell(window, "tableView2", 0, 2);
     const AnswerBox box(QMessageBox::Yes);
     click(window, "btn_Modify");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous modifier : Menthe ... dans  Café,  crème"));
-    QCOMPARE(shop.cell("select id from DoseStock where idlig = 12"), QStringLiteral("1"));
+    QCOMPARE(box.text(), QString("Voulez-vous modifier : Menthe ... dans  Café,  crème"));
+    QCOMPARE(shop.cell("select id from DoseStock where idlig = 12"), QString("1"));
 }
 
 void TestFormVendelSaisieStockCutPaste::namesAreAskedForAsTheyAre()
@@ -232,7 +231,7 @@ void TestFormVendelSaisieStockCutPaste::namesAreAskedForAsTheyAre()
     const AnswerBox box(QMessageBox::No);
     click(window, "btn_Modify");
     QCOMPARE(box.text(),
-        QStringLiteral("Voulez-vous modifier : <i>l'anis</i> ... dans  <b>l'eau</b>,  Valide"));
+        QString("Voulez-vous modifier : <i>l'anis</i> ... dans  <b>l'eau</b>,  Valide"));
     QCOMPARE(box.format(), Qt::PlainText);
 }
 
@@ -252,9 +251,9 @@ void TestFormVendelSaisieStockCutPaste::withoutATargetNothingMoves()
     QCOMPARE(said,
         QByteArray("Errors Db::DbLoad sqlite3_errmsg : update DoseStock set id =  where idlig = "
                    "12 near \"where\": syntax error\n"));
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous modifier : Menthe ... dans , "));
+    QCOMPARE(box.text(), QString("Voulez-vous modifier : Menthe ... dans , "));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(shop.cell("select id from DoseStock where idlig = 12"), QStringLiteral("3"));
+    QCOMPARE(shop.cell("select id from DoseStock where idlig = 12"), QString("3"));
     QCOMPARE(rowCount(window, "tableView2"), 1);
 }
 
@@ -272,14 +271,14 @@ void TestFormVendelSaisieStockCutPaste::aMovedLineOutlivesItsFormerArticle()
     clickCell(at.stock, "tableView1", 1, 1);
     const AnswerBox box(QMessageBox::Yes);
     click(at.stock, "btn_Remove");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Sirop, Périmé ..."));
-    QCOMPARE(at.shop.cell("select id from DoseStock where idlig = 12"), QStringLiteral("1"));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : Sirop, Périmé ..."));
+    QCOMPARE(at.shop.cell("select id from DoseStock where idlig = 12"), QString("1"));
 }
 
 void TestFormVendelSaisieStockCutPaste::theStockEditorsRecipeListIsEmptied()
 {
     Moving at;
-    at.stock.Display_DoseStock(QStringLiteral("3"));
+    at.stock.Display_DoseStock(QString("3"));
     at.stock.Display(true);
     at.chooseLine();
     const AnswerBox box(QMessageBox::Yes);
@@ -307,19 +306,18 @@ void TestFormVendelSaisieStockCutPaste::textsAreTranslatedInTheirContexts()
     {
         const MarkedContext captions("FormVendelSaisieStockCutPaste");
         FormVendelSaisieStockCutPaste window;
-        QCOMPARE(
-            window.windowTitle(), QStringLiteral("FormVendelSaisieStockCutPaste:Couper / Coller"));
+        QCOMPARE(window.windowTitle(), QString("FormVendelSaisieStockCutPaste:Couper / Coller"));
     }
     const MarkedContext texts("FormVendelSaisieStockCutPasteMessages");
     FormVendelSaisieStockCutPaste window;
     window.show();
     QCOMPARE(child<QComboBox>(window, "cbx_Article").itemText(0),
-        QStringLiteral("1, Café, FormVendelSaisieStockCutPasteMessages:Valide"));
+        QString("1, Café, FormVendelSaisieStockCutPasteMessages:Valide"));
     QCOMPARE(rowTexts(window, "tableView1", 0).at(2),
-        QStringLiteral("FormVendelSaisieStockCutPasteMessages:Périmé"));
+        QString("FormVendelSaisieStockCutPasteMessages:Périmé"));
     const AnswerBox box;
     click(window, "btn_Modify");
-    QCOMPARE(box.title(), QStringLiteral("FormVendelSaisieStockCutPasteMessages:Modifier"));
+    QCOMPARE(box.title(), QString("FormVendelSaisieStockCutPasteMessages:Modifier"));
 }
 
 void TestFormVendelSaisieStockCutPaste::troubleIsLogged()
@@ -351,7 +349,7 @@ void TestFormVendelSaisieStockCutPaste::troubleIsLogged()
     at.shop.sql("drop table DoseStock");
     at.shop.sql("create table DoseStock (id, composition)");
     at.shop.sql("insert into DoseStock values (1, 'Lait')");
-    at.window.Display_DoseStock(QStringLiteral("1"));
+    at.window.Display_DoseStock(QString("1"));
 
     QCOMPARE(log.criticals().mid(0, 5),
         cells({"Errors FormVendelSaisieStockCutPaste Constructor : trouble",
@@ -364,5 +362,5 @@ void TestFormVendelSaisieStockCutPaste::troubleIsLogged()
         QLatin1String("Errors FormVendelSaisieStockCutPaste Display_DoseStock : ")));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieStockCutPaste)
+VENDEL_TEST(TestFormVendelSaisieStockCutPaste)
 #include "tst_FormVendelSaisieStockCutPaste.moc"

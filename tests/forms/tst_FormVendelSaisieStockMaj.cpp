@@ -6,7 +6,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
 #include "tests/support/MarkedContext.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -43,8 +43,8 @@ void TestFormVendelSaisieStockMaj::looksLikeTheUpdateWindow()
     QCOMPARE(window.minimumSize(), QSize(563, 261));
     QCOMPARE(window.maximumSize(), QSize(563, 261));
     QCOMPARE(window.windowModality(), Qt::WindowModal);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Mise à jour Stock"));
-    QCOMPARE(child<QPushButton>(window, "btn_Update").text(), QStringLiteral("Mettre à jour"));
+    QCOMPARE(window.windowTitle(), QString("Mise à jour Stock"));
+    QCOMPARE(child<QPushButton>(window, "btn_Update").text(), QString("Mettre à jour"));
     QVERIFY(!anyAutoDefault(window));
     const auto& view = child<QTableView>(window, "tableView");
     QCOMPARE(labels(view), cells({"#", "Article", "Mise à jour"}));
@@ -62,8 +62,8 @@ void TestFormVendelSaisieStockMaj::inStepSaysSoAndCloses()
     QCOMPARE(rowCount(window, "tableView"), 0);
     const AnswerBox box;
     click(window, "btn_Update");
-    QCOMPARE(box.text(), QStringLiteral("Vous n'avez rien à mettre à jour "));
-    QCOMPARE(box.title(), QStringLiteral("Mettre à jour"));
+    QCOMPARE(box.text(), QString("Vous n'avez rien à mettre à jour "));
+    QCOMPARE(box.title(), QString("Mettre à jour"));
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.parent(), &window);
     QCOMPARE(box.strays(), 0);
@@ -94,7 +94,7 @@ void TestFormVendelSaisieStockMaj::aNewArticleBecomesValid()
     click(window, "btn_Update");
     QVERIFY(!box.wasShown());
     QVERIFY(!window.isVisible());
-    QCOMPARE(shop.cell("select article from ArticleStock where id = 7"), QStringLiteral("Zeste"));
+    QCOMPARE(shop.cell("select article from ArticleStock where id = 7"), QString("Zeste"));
     QCOMPARE(rowCount(stock, "tableView1"), 4);
     QCOMPARE(rowTexts(stock, "tableView1", 3), cells({"7", "Zeste", "Valide"}));
 }
@@ -108,7 +108,7 @@ void TestFormVendelSaisieStockMaj::aRenamedArticleKeepsItsRecipe()
     window.show();
     click(window, "btn_Update");
     QCOMPARE(rowTexts(stock, "tableView1", 0), cells({"1", "Noir", "Valide"}));
-    stock.Display_DoseStock(QStringLiteral("1"));
+    stock.Display_DoseStock(QString("1"));
     QCOMPARE(rowCount(stock, "tableView2"), 2);
 }
 
@@ -122,7 +122,7 @@ void TestFormVendelSaisieStockMaj::aNewSpellingInCapitalsAloneIsNoChange()
     const AnswerBox box;
     click(window, "btn_Update");
     QVERIFY(box.wasShown());
-    QCOMPARE(shop.cell("select article from ArticleStock where id = 2"), QStringLiteral("Thé"));
+    QCOMPARE(shop.cell("select article from ArticleStock where id = 2"), QString("Thé"));
 }
 
 void TestFormVendelSaisieStockMaj::everyKnownArticleTakesItsNameOfTheMenu()
@@ -134,7 +134,7 @@ void TestFormVendelSaisieStockMaj::everyKnownArticleTakesItsNameOfTheMenu()
     window.show();
     QCOMPARE(rowCount(window, "tableView"), 1);
     click(window, "btn_Update");
-    QCOMPARE(shop.cell("select article from ArticleStock where id = 2"), QStringLiteral("THé"));
+    QCOMPARE(shop.cell("select article from ArticleStock where id = 2"), QString("THé"));
 }
 
 void TestFormVendelSaisieStockMaj::withdrawnArticlesStayAsTheyAre()
@@ -166,7 +166,7 @@ void TestFormVendelSaisieStockMaj::applyingReadsTheDatabaseAgain()
     click(window, "btn_Update");
     QCOMPARE(shop.cell("select group_concat(id || article, ' ') from (select * from ArticleStock "
                        "order by id)"),
-        QStringLiteral("1Noir 2Thé 3Sirop 8Ananas"));
+        QString("1Noir 2Thé 3Sirop 8Ananas"));
 }
 
 void TestFormVendelSaisieStockMaj::aFailedInsertLeavesTheNewNames()
@@ -185,7 +185,7 @@ void TestFormVendelSaisieStockMaj::aFailedInsertLeavesTheNewNames()
                    "select Article.id,Article.article from Article left join ArticleStock on "
                    "ArticleStock.id = Article.id where ArticleStock.id is null refused\n"));
     QVERIFY(!window.isVisible());
-    QCOMPARE(shop.cell("select article from ArticleStock where id = 1"), QStringLiteral("Noir"));
+    QCOMPARE(shop.cell("select article from ArticleStock where id = 1"), QString("Noir"));
 }
 
 void TestFormVendelSaisieStockMaj::quotesTravelAsTheyAre()
@@ -196,8 +196,7 @@ void TestFormVendelSaisieStockMaj::quotesTravelAsTheyAre()
     window.show();
     QCOMPARE(rowTexts(window, "tableView", 0), cells({"7", "<b>l'eau</b>", "Ajouter"}));
     click(window, "btn_Update");
-    QCOMPARE(
-        shop.cell("select article from ArticleStock where id = 7"), QStringLiteral("<b>l'eau</b>"));
+    QCOMPARE(shop.cell("select article from ArticleStock where id = 7"), QString("<b>l'eau</b>"));
 }
 
 void TestFormVendelSaisieStockMaj::returnPressesNoButton()
@@ -219,16 +218,15 @@ void TestFormVendelSaisieStockMaj::textsAreTranslatedInTheirContexts()
     {
         const MarkedContext captions("FormVendelSaisieStockMaj");
         FormVendelSaisieStockMaj window;
-        QCOMPARE(
-            window.windowTitle(), QStringLiteral("FormVendelSaisieStockMaj:Mise à jour Stock"));
+        QCOMPARE(window.windowTitle(), QString("FormVendelSaisieStockMaj:Mise à jour Stock"));
     }
     shop.sql("insert into Article (id, article, prix) values (7, 'Zeste', 1)");
     const MarkedContext texts("FormVendelSaisieStockMajMessages");
     FormVendelSaisieStockMaj window;
     QCOMPARE(labels(child<QTableView>(window, "tableView")).at(1),
-        QStringLiteral("FormVendelSaisieStockMajMessages:Article"));
+        QString("FormVendelSaisieStockMajMessages:Article"));
     QCOMPARE(rowTexts(window, "tableView", 0).at(2),
-        QStringLiteral("FormVendelSaisieStockMajMessages:Ajouter"));
+        QString("FormVendelSaisieStockMajMessages:Ajouter"));
 }
 
 void TestFormVendelSaisieStockMaj::troubleIsLogged()
@@ -248,5 +246,5 @@ void TestFormVendelSaisieStockMaj::troubleIsLogged()
             "Errors FormVendelSaisieStock on_btn_Update_clicked : trouble"}));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieStockMaj)
+VENDEL_TEST(TestFormVendelSaisieStockMaj)
 #include "tst_FormVendelSaisieStockMaj.moc"

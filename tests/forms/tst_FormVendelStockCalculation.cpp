@@ -5,7 +5,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/ListLook.h"
 #include "tests/support/MarkedContext.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Trouble.h"
 #include "tests/support/Widgets.h"
 
@@ -34,17 +34,17 @@ void TestFormVendelStockCalculation::looksLikeTheConsumptionWindow()
 {
     const Shop shop;
     const CapturedLog log;
-    const QString to = QStringLiteral("06/01/2019 10:00:00.000");
+    const QString to = QString("06/01/2019 10:00:00.000");
     FormVendelStockCalculation window(mayFirst, to, nullptr);
     QCOMPARE(window.size(), QSize(751, 566));
     QCOMPARE(window.minimumSize(), QSize(751, 566));
     QCOMPARE(window.maximumSize(), QSize(751, 566));
     QCOMPARE(window.windowModality(), Qt::WindowModal);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Calcul Stock"));
-    QCOMPARE(child<QPushButton>(window, "btn_Display").text(), QStringLiteral("Afficher"));
-    QCOMPARE(child<QLabel>(window, "lbl_Period").text(), QStringLiteral("Pèriode du"));
+    QCOMPARE(window.windowTitle(), QString("Calcul Stock"));
+    QCOMPARE(child<QPushButton>(window, "btn_Display").text(), QString("Afficher"));
+    QCOMPARE(child<QLabel>(window, "lbl_Period").text(), QString("Pèriode du"));
     QCOMPARE(child<QLabel>(window, "lbl_Period_Date1").text(), mayFirst);
-    QCOMPARE(child<QLabel>(window, "lbl_To").text(), QStringLiteral("au"));
+    QCOMPARE(child<QLabel>(window, "lbl_To").text(), QString("au"));
     QCOMPARE(child<QLabel>(window, "lbl_To_Date2").text(), to);
     QVERIFY(!anyAutoDefault(window));
     const auto& details = child<QTableView>(window, "tableView1");
@@ -77,9 +77,9 @@ void TestFormVendelStockCalculation::aPeriodWithoutSalesSaysSo()
     const AnswerBox box;
     Consumed at;
     QCOMPARE(box.text(),
-        QStringLiteral("Composition est vide\nAller dans le menu Stock Saisie Stock\nDoubleClick "
-                       "sur article et composez"));
-    QCOMPARE(box.title(), QStringLiteral("Calcul Stock"));
+        QString("Composition est vide\nAller dans le menu Stock Saisie Stock\nDoubleClick "
+                "sur article et composez"));
+    QCOMPARE(box.title(), QString("Calcul Stock"));
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.parent(), &at.window);
     QCOMPARE(box.strays(), 0);
@@ -93,7 +93,7 @@ void TestFormVendelStockCalculation::salesWithoutARecipeSaySo()
     bar.sell("Thé", 3);
     const AnswerBox box;
     Consumed at;
-    QCOMPARE(box.title(), QStringLiteral("Calcul Stock"));
+    QCOMPARE(box.title(), QString("Calcul Stock"));
     QCOMPARE(at.details(), 0);
 }
 
@@ -166,15 +166,14 @@ void TestFormVendelStockCalculation::textsAreTranslatedInTheirContexts()
     {
         const MarkedContext captions("FormVendelStockCalculation");
         FormVendelStockCalculation window(mayFirst, juneFirst, nullptr);
-        QCOMPARE(child<QLabel>(window, "lbl_To").text(),
-            QStringLiteral("FormVendelStockCalculation:au"));
+        QCOMPARE(child<QLabel>(window, "lbl_To").text(), QString("FormVendelStockCalculation:au"));
     }
     const MarkedContext texts("FormVendelStockCalculationMessages");
     const AnswerBox box;
     Consumed at;
-    QCOMPARE(box.title(), QStringLiteral("FormVendelStockCalculationMessages:Calcul Stock"));
+    QCOMPARE(box.title(), QString("FormVendelStockCalculationMessages:Calcul Stock"));
     QCOMPARE(labels(child<QTableView>(at.window, "tableView2")).at(3),
-        QStringLiteral("FormVendelStockCalculationMessages:Conversion"));
+        QString("FormVendelStockCalculationMessages:Conversion"));
 }
 
 void TestFormVendelStockCalculation::troubleIsLogged()
@@ -192,5 +191,5 @@ void TestFormVendelStockCalculation::troubleIsLogged()
             "Errors FormVendelStockCalculation on_btn_Display_clicked : trouble"}));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelStockCalculation)
+VENDEL_TEST(TestFormVendelStockCalculation)
 #include "tst_FormVendelStockCalculation.moc"

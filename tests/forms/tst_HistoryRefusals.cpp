@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenHistory.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QAction>
 #include <QTableView>
@@ -35,7 +35,7 @@ struct ShownHistory : OpenHistory
     {
         QStringList texts;
         for (int row = 0; row < rowCount(window, list); ++row) {
-            texts << rowTexts(window, list, row).join(QLatin1Char(';'));
+            texts << rowTexts(window, list, row).join(';');
         }
         return texts;
     }
@@ -96,7 +96,7 @@ void TestHistoryRefusals::aRefusedPeriodKeepsWhatIsShown()
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.strays(), 0);
     QVERIFY(history.isAsBefore());
-    QCOMPARE(history.sold(), QStringLiteral("3"));
+    QCOMPARE(history.sold(), QString("3"));
     QCOMPARE(history.first(), first);
     QCOMPARE(history.second(), second);
 }
@@ -109,8 +109,8 @@ void TestHistoryRefusals::aRefusedPurgeKeepsWhatIsShown()
     QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
     QCOMPARE(box.strays(), 0);
     QVERIFY(history.isAsBefore());
-    QCOMPARE(history.sold(), QStringLiteral("3"));
+    QCOMPARE(history.sold(), QString("3"));
 }
 
-VENDEL_TEST_MAIN(TestHistoryRefusals)
+VENDEL_TEST(TestHistoryRefusals)
 #include "tst_HistoryRefusals.moc"

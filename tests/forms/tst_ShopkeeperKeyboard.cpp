@@ -3,7 +3,7 @@
 #include "tests/forms/OpenArticleEditor.h"
 #include "tests/forms/OpenReceiptTexts.h"
 #include "tests/forms/Settings.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -110,27 +110,27 @@ void TestShopkeeperKeyboard::anArticleIsAdded()
     press(Qt::Key_Tab);
     type("3,5");
     press(Qt::Key_Tab, 3);
-    QCOMPARE(focused(), QStringLiteral("btn_Ajouter"));
+    QCOMPARE(focused(), QString("btn_Ajouter"));
     press(Qt::Key_Space);
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 Vin 3.5"));
-    QCOMPARE(editor.names(), QStringList({QStringLiteral("Cafe"), QStringLiteral("Vin")}));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 Vin 3.5"));
+    QCOMPARE(editor.names(), QStringList({QString("Cafe"), QString("Vin")}));
 }
 
 void TestShopkeeperKeyboard::anArticleIsRenamed()
 {
     ListedArticles editor;
-    QCOMPARE(focused(), QStringLiteral("tableView"));
+    QCOMPARE(focused(), QString("tableView"));
     press(Qt::Key_Down);
     press(Qt::Key_Tab);
     type("The vert");
     press(Qt::Key_Tab);
     type("2,5");
     press(Qt::Key_Tab, 5);
-    QCOMPARE(focused(), QStringLiteral("btn_Renommer"));
+    QCOMPARE(focused(), QString("btn_Renommer"));
     const ReturnOnBoxes boxes;
     press(Qt::Key_Space);
-    QCOMPARE(boxes.texts(), QStringList(QStringLiteral("Voulez-vous renommer : The ...")));
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The vert 2.5; 3 Vin 3"));
+    QCOMPARE(boxes.texts(), QStringList(QString("Voulez-vous renommer : The ...")));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The vert 2.5; 3 Vin 3"));
 }
 
 void TestShopkeeperKeyboard::anArticleIsRemoved()
@@ -138,11 +138,11 @@ void TestShopkeeperKeyboard::anArticleIsRemoved()
     ListedArticles editor;
     press(Qt::Key_Down, 2);
     press(Qt::Key_Backtab, 3);
-    QCOMPARE(focused(), QStringLiteral("btn_Supprimer"));
+    QCOMPARE(focused(), QString("btn_Supprimer"));
     const ReturnOnBoxes boxes;
     press(Qt::Key_Space);
-    QCOMPARE(boxes.texts(), QStringList(QStringLiteral("Voulez-vous supprimer : Vin ...")));
-    QCOMPARE(editor.stored(), QStringLiteral("1 Cafe 1; 2 The 2"));
+    QCOMPARE(boxes.texts(), QStringList(QString("Voulez-vous supprimer : Vin ...")));
+    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
 }
 
 void TestShopkeeperKeyboard::anArticleIsSearched()
@@ -150,9 +150,9 @@ void TestShopkeeperKeyboard::anArticleIsSearched()
     OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
     type("th");
     press(Qt::Key_Backtab, 2);
-    QCOMPARE(focused(), QStringLiteral("btn_Rechercher"));
+    QCOMPARE(focused(), QString("btn_Rechercher"));
     press(Qt::Key_Space);
-    QCOMPARE(editor.names(), QStringList(QStringLiteral("The")));
+    QCOMPARE(editor.names(), QStringList(QString("The")));
     press(Qt::Key_Escape);
     QVERIFY(!editor.window.isVisible());
 }
@@ -164,7 +164,7 @@ void TestShopkeeperKeyboard::theFieldsAreEmptied()
     press(Qt::Key_Tab);
     type("3");
     press(Qt::Key_Tab);
-    QCOMPARE(focused(), QStringLiteral("btn_Effacer_Saisie"));
+    QCOMPARE(focused(), QString("btn_Effacer_Saisie"));
     press(Qt::Key_Space);
     QCOMPARE(editor.text("txt_Article"), QString());
     QCOMPARE(editor.text("txt_Montant"), QString());
@@ -173,42 +173,42 @@ void TestShopkeeperKeyboard::theFieldsAreEmptied()
 void TestShopkeeperKeyboard::aRateIsTypedOverTheOldOne()
 {
     OpenSettings settings;
-    QCOMPARE(focused(), QStringLiteral("txt_TVA"));
+    QCOMPARE(focused(), QString("txt_TVA"));
     type("5,5");
-    QCOMPARE(rateOf(settings.window), QStringLiteral("5,5"));
+    QCOMPARE(rateOf(settings.window), QString("5,5"));
     press(Qt::Key_Tab);
     const ReturnOnBoxes boxes;
     press(Qt::Key_Space);
     QCOMPARE(boxes.texts(), QStringList());
     QVERIFY(!settings.window.isVisible());
-    QCOMPARE(storedRate(settings.shop), QStringLiteral("5.5"));
+    QCOMPARE(storedRate(settings.shop), QString("5.5"));
     FormVendelConfig reopened;
-    QCOMPARE(rateOf(reopened), QStringLiteral("5.50"));
+    QCOMPARE(rateOf(reopened), QString("5.50"));
 }
 
 void TestShopkeeperKeyboard::thePrinterIsSwitchedOn()
 {
     OpenSettings settings;
     press(Qt::Key_Tab, 2);
-    QCOMPARE(focused(), QStringLiteral("cbx_Epson"));
+    QCOMPARE(focused(), QString("cbx_Epson"));
     press(Qt::Key_Down);
     press(Qt::Key_Tab);
     press(Qt::Key_Space);
     QVERIFY(!settings.window.isVisible());
-    QCOMPARE(storedSwitch(settings.shop), QStringLiteral("1"));
+    QCOMPARE(storedSwitch(settings.shop), QString("1"));
     FormVendelConfig reopened;
-    QCOMPARE(switchOf(reopened), QStringLiteral("ON"));
+    QCOMPARE(switchOf(reopened), QString("ON"));
 }
 
 void TestShopkeeperKeyboard::theSettingsLeadToTheReceiptsTexts()
 {
     OpenSettings settings;
     press(Qt::Key_Tab, 4);
-    QCOMPARE(focused(), QStringLiteral("btn_Maj_Formulaire"));
+    QCOMPARE(focused(), QString("btn_Maj_Formulaire"));
     press(Qt::Key_Space);
     auto* texts = settings.window.findChild<FormVendelFormulaireTicket*>();
     QVERIFY(texts != nullptr);
-    QTRY_COMPARE(focused(), QStringLiteral("txt_Form"));
+    QTRY_COMPARE(focused(), QString("txt_Form"));
     press(Qt::Key_Escape);
     QVERIFY(!texts->isVisible());
     QVERIFY(settings.window.isVisible());
@@ -221,10 +221,10 @@ void TestShopkeeperKeyboard::aHeaderIsSaved()
     type("Chez Paul");
     press(Qt::Key_Return);
     press(Qt::Key_Tab);
-    QCOMPARE(focused(), QStringLiteral("btn_Entete_Page"));
+    QCOMPARE(focused(), QString("btn_Entete_Page"));
     const ReturnOnBoxes boxes;
     press(Qt::Key_Space);
-    QCOMPARE(boxes.texts(), QStringList(QStringLiteral("Sauvegarde")));
+    QCOMPARE(boxes.texts(), QStringList(QString("Sauvegarde")));
     QCOMPARE(editor.shop.read(headerFile), QByteArray("Chez Paul\nParis"));
     QCOMPARE(editor.shop.read(footerFile), QByteArray("Merci"));
 }
@@ -234,13 +234,13 @@ void TestShopkeeperKeyboard::theMenuShowsTheFooter()
     OpenReceiptTexts editor("Chez Paul", "Merci");
     QVERIFY(QTest::qWaitForWindowActive(&editor.window));
     QTest::keyClick(editor.window.windowHandle(), Qt::Key_Alt, Qt::AltModifier);
-    QCOMPARE(focused(), QStringLiteral("menubar"));
+    QCOMPARE(focused(), QString("menubar"));
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    QCOMPARE(editor.label(), QStringLiteral("Pied de page"));
-    QCOMPARE(editor.text(), QStringLiteral("Merci"));
+    QCOMPARE(editor.label(), QString("Pied de page"));
+    QCOMPARE(editor.text(), QString("Merci"));
 }
 
-VENDEL_TEST_MAIN(TestShopkeeperKeyboard)
+VENDEL_TEST(TestShopkeeperKeyboard)
 #include "tst_ShopkeeperKeyboard.moc"

@@ -7,7 +7,7 @@
 #include "tests/forms/StockSample.h"
 #include "tests/support/BoxDiary.h"
 #include "tests/support/ListLook.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QLineEdit>
@@ -92,10 +92,10 @@ void TestStockKeys::deleteRemovesALineInTheRecipeOnly_data()
     QTest::addColumn<QString>("left");
     for (const char* name :
         {"tableView1", "btn_Display", "btn_Update", "btn_Remove", "btn_Cut_Paste"}) {
-        QTest::newRow(name) << QStringLiteral("10,11,12");
+        QTest::newRow(name) << QString("10,11,12");
     }
     // By name Grains (11) comes first, Lait (10) second.
-    QTest::newRow("tableView2") << QStringLiteral("11,12");
+    QTest::newRow("tableView2") << QString("11,12");
 }
 
 void TestStockKeys::deleteRemovesALineInTheRecipeOnly()
@@ -123,7 +123,7 @@ void TestStockKeys::returnComposesInTheArticlesOnly()
         const auto windows = at.stock.findChildren<FormVendelSaisieStockComposition*>();
         QTEST(static_cast<int>(windows.size()), "windows");
         QCOMPARE(at.stock.findChildren<QDialog*>().size(), windows.size());
-        QCOMPARE(at.lines(), QStringLiteral("10,11,12"));
+        QCOMPARE(at.lines(), QString("10,11,12"));
     }
 }
 
@@ -168,5 +168,5 @@ void TestStockKeys::theConsumptionsListsHaveNoKeys()
     QVERIFY(areKeysWithoutEffect(at.window, QTest::currentDataTag(), bar));
 }
 
-VENDEL_TEST_MAIN(TestStockKeys)
+VENDEL_TEST(TestStockKeys)
 #include "tst_StockKeys.moc"

@@ -5,7 +5,7 @@
 #include "forms/FormVendelSaisieStockMaj.h"
 #include "tests/forms/ConsumptionSample.h"
 #include "tests/forms/StockSample.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
@@ -36,8 +36,7 @@ std::unique_ptr<QWidget> makeWindow(const QString& name)
         return std::make_unique<FormVendelSaisieStock>();
     }
     if (name == QLatin1String("composition")) {
-        return std::make_unique<FormVendelSaisieStockComposition>(
-            QStringLiteral("Café"), QStringLiteral("1"));
+        return std::make_unique<FormVendelSaisieStockComposition>(QString("Café"), QString("1"));
     }
     if (name == QLatin1String("update")) {
         return std::make_unique<FormVendelSaisieStockMaj>();
@@ -45,15 +44,15 @@ std::unique_ptr<QWidget> makeWindow(const QString& name)
     if (name == QLatin1String("transfer")) {
         return std::make_unique<FormVendelSaisieStockCutPaste>();
     }
-    const QString moment = QStringLiteral("12/30/2019 23:59:59.999");
+    const QString moment = QString("12/30/2019 23:59:59.999");
     return std::make_unique<FormVendelStockCalculation>(moment, moment);
 }
 
 void speakEnglish(Translation& translation)
 {
     const auto add = [&](const char* french, const char* english) {
-        translation.add(QStringLiteral("FormVendelMessages"), QString::fromUtf8(french),
-            QString::fromUtf8(english));
+        translation.add(
+            QString("FormVendelMessages"), QString::fromUtf8(french), QString::fromUtf8(english));
     };
     add("Afficher", "Display");
     add("Ajouter", "Add");
@@ -131,14 +130,13 @@ void TestStockLayout::captionsAreShownWhole()
 void TestStockLayout::listsNeedNoScrollingSideways()
 {
     const Bar bar;
-    const QString many = QStringLiteral("with recursive row(n) as (select 100 union all select n "
-                                        "+ 1 from row where n < 220) select ");
-    for (const QString& insert : {QStringLiteral("insert into Article (id, article, prix) ") + many
-                 + QStringLiteral("n + 1000, 'Nouveau ' || n, 1 from row"),
-             QStringLiteral("insert into ArticleStock ") + many
-                 + QStringLiteral("n, 'Ancien ' || n from row"),
-             QStringLiteral("insert into DoseStock (id, composition, dose, unite) ") + many
-                 + QStringLiteral("100, 'Composition ' || n, 1234.5, 'fl. oz' from row")}) {
+    const QString many = QString("with recursive row(n) as (select 100 union all select n "
+                                 "+ 1 from row where n < 220) select ");
+    for (const QString& insert : {QString("insert into Article (id, article, prix) ") + many
+                 + QString("n + 1000, 'Nouveau ' || n, 1 from row"),
+             QString("insert into ArticleStock ") + many + QString("n, 'Ancien ' || n from row"),
+             QString("insert into DoseStock (id, composition, dose, unite) ") + many
+                 + QString("100, 'Composition ' || n, 1234.5, 'fl. oz' from row")}) {
         bar.sql(insert.toUtf8().constData());
     }
     bar.sell("Ancien 100", 100);
@@ -177,7 +175,7 @@ void TestStockLayout::tabGoesAsTheEyeDoes()
     const StockSample shop;
     const auto window = makeWindow(QLatin1String(QTest::currentDataTag()));
     QVERIFY(showActive(*window));
-    const QStringList names = order.split(QLatin1Char(' '));
+    const QStringList names = order.split(' ');
     for (const QString& name : names) {
         QCOMPARE(window->focusWidget()->objectName(), name);
         QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
@@ -185,5 +183,5 @@ void TestStockLayout::tabGoesAsTheEyeDoes()
     QCOMPARE(window->focusWidget()->objectName(), names.constFirst());
 }
 
-VENDEL_TEST_MAIN(TestStockLayout)
+VENDEL_TEST(TestStockLayout)
 #include "tst_StockLayout.moc"

@@ -6,7 +6,7 @@
 #include "forms/FormVendelSaisieStockMaj.h"
 #include "forms/FormVendelStockCalculation.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <memory>
@@ -40,14 +40,13 @@ std::unique_ptr<QWidget> open(const QString& name)
     } else if (name == QLatin1String("editor")) {
         window = std::make_unique<FormVendelSaisieStock>();
     } else if (name == QLatin1String("composition")) {
-        window = std::make_unique<FormVendelSaisieStockComposition>(
-            QStringLiteral("Café"), QStringLiteral("1"));
+        window = std::make_unique<FormVendelSaisieStockComposition>(QString("Café"), QString("1"));
     } else if (name == QLatin1String("update")) {
         window = std::make_unique<FormVendelSaisieStockMaj>();
     } else if (name == QLatin1String("transfer")) {
         window = std::make_unique<FormVendelSaisieStockCutPaste>();
     } else {
-        const QString day = QStringLiteral("05/01/2019");
+        const QString day = QString("05/01/2019");
         window = std::make_unique<FormVendelStockCalculation>(day, day);
     }
     window->show();
@@ -86,7 +85,7 @@ void TestStockLook::lettersAreAsLargeAsElsewhere()
     const auto shown = open(window);
     const QFont font = child<QWidget>(*shown, qPrintable(widget)).font();
     QCOMPARE(font.pointSize(), 12);
-    QCOMPARE(font.families().constFirst(), QStringLiteral("Carlito"));
+    QCOMPARE(font.families().constFirst(), QString("Carlito"));
     QVERIFY(!font.bold());
 }
 
@@ -172,5 +171,5 @@ void TestStockLook::windowsHaveTheSizeOfTheirForm()
     QCOMPARE(shown->maximumSize(), size);
 }
 
-VENDEL_TEST_MAIN(TestStockLook)
+VENDEL_TEST(TestStockLook)
 #include "tst_StockLook.moc"

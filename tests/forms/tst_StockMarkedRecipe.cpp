@@ -5,7 +5,7 @@
 #include "forms/FormVendelSaisieStockMaj.h"
 #include "tests/forms/StockSample.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QHeaderView>
@@ -34,7 +34,7 @@ struct Opened
         for (int row = 0; row < rowCount(*window, "tableView2"); ++row) {
             names << rowTexts(*window, "tableView2", row).at(2);
         }
-        return names.join(QLatin1Char('|'));
+        return names.join('|');
     }
     void clickRowNumber(int row) const
     {
@@ -54,14 +54,14 @@ Opened openEditor()
     auto stock = std::make_unique<FormVendelSaisieStock>();
     stock->show();
     stock->Display(true);
-    return {std::move(stock), QStringLiteral("Grains|Lait"), QStringLiteral("Eau")};
+    return {std::move(stock), QString("Grains|Lait"), QString("Eau")};
 }
 
 Opened openTransfer()
 {
     auto transfer = std::make_unique<FormVendelSaisieStockCutPaste>();
     transfer->show();
-    return {std::move(transfer), QStringLiteral("Eau"), QStringLiteral("Menthe")};
+    return {std::move(transfer), QString("Eau"), QString("Menthe")};
 }
 
 using Open = std::function<Opened()>;
@@ -199,8 +199,7 @@ private slots:
         clickCell(*opened.window, "tableView1", 0, 1);
         opened.clickRowNumber(1);
         doubleClickCell(*opened.window, "tableView2", 0, 2);
-        QCOMPARE(
-            shop.cell("select group_concat(idlig) from DoseStock"), QStringLiteral("10,11,12"));
+        QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QString("10,11,12"));
     }
 
     void theReturnKeyMarksTheArticleThatItComposes()
@@ -246,12 +245,12 @@ private slots:
             const AnswerBox box(QMessageBox::Yes);
             click(transfer, "btn_Modify");
         }
-        QCOMPARE(shop.cell("select id from DoseStock where idlig = 13"), QStringLiteral("1"));
+        QCOMPARE(shop.cell("select id from DoseStock where idlig = 13"), QString("1"));
         QCOMPARE(rowCount(transfer, "tableView2"), 0);
         QCOMPARE(opened.recipe(), QString());
         transfer.close();
         clickCell(*opened.window, "tableView1", 0, 1);
-        QCOMPARE(opened.recipe(), QStringLiteral("Eau|Grains|Lait"));
+        QCOMPARE(opened.recipe(), QString("Eau|Grains|Lait"));
     }
 
     void theArticleThatIsComposedIsMarked()
@@ -264,14 +263,14 @@ private slots:
         auto* composition = opened.window->findChild<FormVendelSaisieStockComposition*>();
         QVERIFY(composition != nullptr);
         QCOMPARE(opened.recipe(), opened.second);
-        child<QLineEdit>(*composition, "txt_Composition").setText(QStringLiteral("Sucre"));
-        child<QLineEdit>(*composition, "txt_Dose").setText(QStringLiteral("5"));
+        child<QLineEdit>(*composition, "txt_Composition").setText(QString("Sucre"));
+        child<QLineEdit>(*composition, "txt_Dose").setText(QString("5"));
         click(*composition, "btn_Add");
-        QCOMPARE(opened.recipe(), QStringLiteral("Eau|Sucre"));
+        QCOMPARE(opened.recipe(), QString("Eau|Sucre"));
         QCOMPARE(opened.articles().selectionModel()->currentIndex().row(), 1);
         QVERIFY(opened.articles().selectionModel()->rowIntersectsSelection(1, QModelIndex()));
     }
 };
 
-VENDEL_TEST_MAIN(TestStockMarkedRecipe)
+VENDEL_TEST(TestStockMarkedRecipe)
 #include "tst_StockMarkedRecipe.moc"

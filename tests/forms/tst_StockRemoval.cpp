@@ -5,7 +5,7 @@
 #include "tests/support/BoxDiary.h"
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QTableView>
@@ -49,8 +49,8 @@ void TestStockRemoval::anEmptyListAsksForAnUpdate()
     stock.show();
     const AnswerBox box;
     click(stock, "btn_Remove");
-    QCOMPARE(box.text(), QStringLiteral("Aucun Article\nFaite Mise à jour"));
-    QCOMPARE(box.title(), QStringLiteral("Afficher"));
+    QCOMPARE(box.text(), QString("Aucun Article\nFaite Mise à jour"));
+    QCOMPARE(box.title(), QString("Afficher"));
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.strays(), 0);
 }
@@ -62,11 +62,11 @@ void TestStockRemoval::withoutASelectionItAsksForOne()
     open(stock);
     const AnswerBox box;
     click(stock, "btn_Remove");
-    QCOMPARE(box.text(), QStringLiteral("Selectionner un/des article(s) dans le menu"));
-    QCOMPARE(box.title(), QStringLiteral("Supprimer"));
+    QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
+    QCOMPARE(box.title(), QString("Supprimer"));
     QCOMPARE(box.buttons(), QMessageBox::Ok);
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(shop.cell("select count(*) from ArticleStock"), QStringLiteral("3"));
+    QCOMPARE(shop.cell("select count(*) from ArticleStock"), QString("3"));
 }
 
 void TestStockRemoval::aSelectionWithoutACurrentRowCountsAsNone()
@@ -80,7 +80,7 @@ void TestStockRemoval::aSelectionWithoutACurrentRowCountsAsNone()
     const AnswerBox box(QMessageBox::Yes);
     CapturedOutput output;
     click(stock, "btn_Remove");
-    QCOMPARE(box.text(), QStringLiteral("Selectionner un/des article(s) dans le menu"));
+    QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
     QCOMPARE(diagnostics(output), QByteArray());
 }
 
@@ -92,8 +92,8 @@ void TestStockRemoval::theQuestionNamesArticleAndValidity()
     clickCell(stock, "tableView1", 1, 1);
     const AnswerBox box(QMessageBox::No);
     click(stock, "btn_Remove");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Sirop, Périmé ..."));
-    QCOMPARE(box.title(), QStringLiteral("Supprimer"));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : Sirop, Périmé ..."));
+    QCOMPARE(box.title(), QString("Supprimer"));
     QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.parent(), &stock);
@@ -108,7 +108,7 @@ void TestStockRemoval::namesAreAskedForAsTheyAre()
     clickCell(stock, "tableView1", 0, 2);
     const AnswerBox box(QMessageBox::No);
     click(stock, "btn_Remove");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : <i>l'eau</i>, Valide ..."));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : <i>l'eau</i>, Valide ..."));
     QCOMPARE(box.format(), Qt::PlainText);
 }
 
@@ -121,8 +121,8 @@ void TestStockRemoval::noKeepsTheArticle()
     const AnswerBox box(QMessageBox::No);
     click(stock, "btn_Remove");
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(shop.cell("select count(*) from ArticleStock"), QStringLiteral("3"));
-    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    QCOMPARE(shop.cell("select count(*) from ArticleStock"), QString("3"));
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QString("3"));
     QCOMPARE(rowCount(stock, "tableView1"), 3);
     QCOMPARE(rowCount(stock, "tableView2"), 2);
 }
@@ -135,11 +135,11 @@ void TestStockRemoval::yesRemovesTheArticleWithItsLines()
     clickCell(stock, "tableView1", 0, 1);
     const AnswerBox box(QMessageBox::Yes);
     click(stock, "btn_Remove");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Café, Valide ..."));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : Café, Valide ..."));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QStringLiteral("2,3"));
-    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QStringLiteral("12"));
-    QCOMPARE(shop.cell("select count(*) from Article"), QStringLiteral("2"));
+    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QString("2,3"));
+    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QString("12"));
+    QCOMPARE(shop.cell("select count(*) from Article"), QString("2"));
     QCOMPARE(rowCount(stock, "tableView1"), 2);
     QCOMPARE(rowCount(stock, "tableView2"), 0);
 }
@@ -154,8 +154,8 @@ void TestStockRemoval::theLastArticleLeavesTheEmptyMessage()
     const BoxDiary diary;
     click(stock, "btn_Remove");
     QCOMPARE(diary.said,
-        (QStringList{QStringLiteral("Supprimer: Voulez-vous supprimer : Sirop, Périmé ..."),
-            QStringLiteral("Afficher: Aucun Article\nFaite Mise à jour")}));
+        (QStringList{QString("Supprimer: Voulez-vous supprimer : Sirop, Périmé ..."),
+            QString("Afficher: Aucun Article\nFaite Mise à jour")}));
     QCOMPARE(rowCount(stock, "tableView1"), 0);
 }
 
@@ -169,7 +169,7 @@ void TestStockRemoval::linesGoBeforeTheirArticle()
     clickCell(stock, "tableView1", 0, 1);
     const AnswerBox box(QMessageBox::Yes);
     click(stock, "btn_Remove");
-    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QStringLiteral("2,3"));
+    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QString("2,3"));
 }
 
 void TestStockRemoval::aRefusedRemovalChangesNothing_data()
@@ -193,8 +193,8 @@ void TestStockRemoval::aRefusedRemovalChangesNothing()
     CapturedOutput output;
     click(stock, "btn_Remove");
     QCOMPARE(diagnostics(output), databaseReport("delete from " + table + " where id = 1", "no"));
-    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QStringLiteral("1,2,3"));
-    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QStringLiteral("10,11,12"));
+    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QString("1,2,3"));
+    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QString("10,11,12"));
     QCOMPARE(rowCount(stock, "tableView1"), 3);
     QCOMPARE(rowCount(stock, "tableView2"), 2);
     QVERIFY(child<QTableView>(stock, "tableView1").selectionModel()->hasSelection());
@@ -213,9 +213,9 @@ void TestStockRemoval::onlyTheCurrentRowIsRemoved()
     QCOMPARE(articles.selectionModel()->selectedIndexes().size(), 3);
     const AnswerBox box(QMessageBox::Yes);
     click(stock, "btn_Remove");
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Thé, Valide ..."));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : Thé, Valide ..."));
     QCOMPARE(box.strays(), 0);
-    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QStringLiteral("1,3"));
+    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QString("1,3"));
 }
 
 void TestStockRemoval::aDoubleClickRemovesALineAtOnce()
@@ -227,7 +227,7 @@ void TestStockRemoval::aDoubleClickRemovesALineAtOnce()
     const AnswerBox box;
     doubleClickCell(stock, "tableView2", 0, 3);
     QVERIFY(!box.wasShown());
-    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QStringLiteral("10,12"));
+    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QString("10,12"));
     QCOMPARE(rowCount(stock, "tableView2"), 1);
     QCOMPARE(rowTexts(stock, "tableView2", 0), cells({"10", "1", "Lait", "1.50", "cl"}));
 }
@@ -240,13 +240,13 @@ void TestStockRemoval::deleteRemovesTheCurrentLineOnly()
     stock.Display(true);
     clickCell(stock, "tableView1", 0, 1);
     QTest::keyClick(&child<QTableView>(stock, "tableView1"), Qt::Key_Delete);
-    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QString("3"));
     auto& recipe = child<QTableView>(stock, "tableView2");
     clickCell(stock, "tableView2", 0, 2);
     QTest::keyClick(&recipe, Qt::Key_Down, Qt::ShiftModifier);
     QCOMPARE(recipe.selectionModel()->selectedIndexes().size(), 2);
     QTest::keyClick(&recipe, Qt::Key_Delete);
-    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QStringLiteral("11,12"));
+    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QString("11,12"));
     QCOMPARE(rowCount(stock, "tableView2"), 1);
 }
 
@@ -261,9 +261,9 @@ void TestStockRemoval::aHeldDeleteKeyRemovesOneLine()
     clickCell(stock, "tableView2", 0, 2);
     constexpr bool isRepeat = true;
     qt_sendShortcutOverrideEvent(&recipe, 0, Qt::Key_Delete, Qt::NoModifier, QString(), isRepeat);
-    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QString("3"));
     qt_sendShortcutOverrideEvent(&recipe, 0, Qt::Key_Delete, Qt::NoModifier);
-    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("2"));
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QString("2"));
 }
 
 void TestStockRemoval::anUnselectedLineStays()
@@ -277,8 +277,8 @@ void TestStockRemoval::anUnselectedLineStays()
         QMetaObject::invokeMethod(&stock, "on_tableView2_doubleClicked", Q_ARG(QModelIndex, line)));
     QVERIFY(QMetaObject::invokeMethod(
         &stock, "on_tableView2_doubleClicked", Q_ARG(QModelIndex, QModelIndex())));
-    QCOMPARE(shop.cell("select count(*) from DoseStock"), QStringLiteral("3"));
+    QCOMPARE(shop.cell("select count(*) from DoseStock"), QString("3"));
 }
 
-VENDEL_TEST_MAIN(TestStockRemoval)
+VENDEL_TEST(TestStockRemoval)
 #include "tst_StockRemoval.moc"

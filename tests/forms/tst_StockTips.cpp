@@ -2,7 +2,7 @@
 #include "forms/FormVendelSaisieStock.h"
 #include "forms/FormVendelSaisieStockCutPaste.h"
 #include "tests/forms/StockSample.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QMouseEvent>
@@ -31,13 +31,11 @@ void TestStockTips::tipsSayWhatADoubleClickDoes()
     QCursor::setPos(300, 200);
     QCoreApplication::processEvents();
     hoverCell(stock, "tableView1", 0, 2);
-    QCOMPARE(QToolTip::text(),
-        QStringLiteral("Article\nDoubleClick sur : Café\nPour faire composition"));
+    QCOMPARE(QToolTip::text(), QString("Article\nDoubleClick sur : Café\nPour faire composition"));
     QVERIFY(tipIsBeside(QPoint(300, 200)));
     hoverCell(stock, "tableView2", 1, 3);
     QCOMPARE(QToolTip::text(),
-        QStringLiteral(
-            "Composition\nDoubleClick sur : Lait\nPour supprimer l'article de la composition"));
+        QString("Composition\nDoubleClick sur : Lait\nPour supprimer l'article de la composition"));
 
     stock.Clear_List();
     QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), QPointF(5, 5), Qt::NoButton, Qt::NoButton,
@@ -56,7 +54,7 @@ void TestStockTips::tipsShowNamesAsTheyAre()
     stock.Display(true);
     hoverCell(stock, "tableView1", 0, 1);
     QCOMPARE(QToolTip::text(),
-        QStringLiteral("Article\nDoubleClick sur : <b>l'eau</b>\nPour faire composition"));
+        QString("Article\nDoubleClick sur : <b>l'eau</b>\nPour faire composition"));
 }
 
 void TestStockTips::tipsIgnoreOtherEvents()
@@ -72,8 +70,7 @@ void TestStockTips::tipsIgnoreOtherEvents()
     QMouseEvent elsewhere(QEvent::MouseMove, QPointF(5, 5), QPointF(5, 5), Qt::NoButton,
         Qt::NoButton, Qt::NoModifier);
     QVERIFY(!static_cast<QObject&>(stock).eventFilter(&stock, &elsewhere));
-    QCOMPARE(QToolTip::text(),
-        QStringLiteral("Article\nDoubleClick sur : Café\nPour faire composition"));
+    QCOMPARE(QToolTip::text(), QString("Article\nDoubleClick sur : Café\nPour faire composition"));
 }
 
 void TestStockTips::tipsSayHowToMove()
@@ -85,8 +82,8 @@ void TestStockTips::tipsSayHowToMove()
     QCursor::setPos(300, 200);
     hoverCell(window, "tableView2", 0, 3);
     QCOMPARE(QToolTip::text(),
-        QStringLiteral("Composition\nFaire votre choix dans la liste déroulante\nSélectionner la "
-                       "composition : Menthe\nPuis Modifier"));
+        QString("Composition\nFaire votre choix dans la liste déroulante\nSélectionner la "
+                "composition : Menthe\nPuis Modifier"));
     QVERIFY(tipIsBeside(QPoint(300, 200)));
     hoverCell(window, "tableView1", 0, 1);
     QVERIFY(QToolTip::isVisible());
@@ -94,12 +91,12 @@ void TestStockTips::tipsSayHowToMove()
     auto& viewport = *child<QTableView>(window, "tableView2").viewport();
     QVERIFY(!static_cast<QObject&>(window).eventFilter(&viewport, &enter));
     QVERIFY(QToolTip::isVisible());
-    window.Display_DoseStock(QStringLiteral("2"));
+    window.Display_DoseStock(QString("2"));
     QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), QPointF(5, 5), Qt::NoButton, Qt::NoButton,
         Qt::NoModifier);
     QVERIFY(!static_cast<QObject&>(window).eventFilter(&viewport, &move));
     QTRY_VERIFY(!QToolTip::isVisible());
 }
 
-VENDEL_TEST_MAIN(TestStockTips)
+VENDEL_TEST(TestStockTips)
 #include "tst_StockTips.moc"

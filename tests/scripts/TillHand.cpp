@@ -23,8 +23,8 @@ constexpr int lookMs = 5;
 void note(const QStringList& words)
 {
     static std::FILE* report = std::fopen(qgetenv("VENDEL_HAND_REPORT").constData(), "a");
-    const QString line = words.join(QLatin1Char('\t')).replace(QLatin1Char('\n'), QLatin1Char(' '));
-    std::fputs((line + QLatin1Char('\n')).toUtf8().constData(), report);
+    const QString line = words.join('\t').replace('\n', ' ');
+    std::fputs((line + '\n').toUtf8().constData(), report);
     std::fflush(report);
 }
 
@@ -78,7 +78,7 @@ public:
 private:
     static void answer(QMessageBox& box)
     {
-        note({QStringLiteral("box"), box.windowTitle(), box.text()});
+        note({QString("box"), box.windowTitle(), box.text()});
         auto* yes = box.button(QMessageBox::Yes);
         QTest::mouseClick(yes == nullptr ? box.button(QMessageBox::Ok) : yes, Qt::LeftButton);
     }
@@ -93,7 +93,7 @@ void begin()
 /// Writes down how many rows the list \a name shows.
 void noteRows(QWidget& dialog, const char* name)
 {
-    note({QStringLiteral("rows"), QString::number(rowCount(dialog, name))});
+    note({QString("rows"), QString::number(rowCount(dialog, name))});
 }
 
 void showTicket(QWidget& till)
@@ -108,7 +108,7 @@ void payTicket(QWidget& till)
     click(till, "btn_Payer");
     noteRows(till, "tableView2");
     if (visibleWindow("FormVendelTicket") != nullptr) {
-        note({QStringLiteral("receipt")});
+        note({QString("receipt")});
     }
 }
 
@@ -172,7 +172,7 @@ void act()
 {
     QTest::keyClick(visibleWindow("FormVendelStart"), Qt::Key_Escape);
     acts().at(qgetenv("VENDEL_HAND_ACT"))(window("FormVendel"));
-    note({QStringLiteral("over")});
+    note({QString("over")});
     QCoreApplication::quit();
 }
 

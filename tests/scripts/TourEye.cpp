@@ -27,9 +27,9 @@ QString line(const QStringList& words)
 {
     QStringList plain;
     for (QString word : words) {
-        plain << word.replace(QLatin1Char('\n'), QLatin1Char(' ')).remove(QLatin1Char('\t'));
+        plain << word.replace('\n', ' ').remove('\t');
     }
-    return plain.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    return plain.join('\t') + '\n';
 }
 
 QString className(const QWidget& widget)
@@ -41,12 +41,12 @@ QString className(const QWidget& widget)
 QString middle(const QWidget& widget, const QRect& part)
 {
     const QPoint point = widget.mapToGlobal(part.center());
-    return QStringLiteral("%1 %2").arg(point.x()).arg(point.y());
+    return QString("%1 %2").arg(point.x()).arg(point.y());
 }
 
 QString withoutMnemonic(QString text)
 {
-    return text.remove(QLatin1Char('&'));
+    return text.remove('&');
 }
 
 QString textOf(const QWidget& widget)
@@ -91,8 +91,8 @@ QString rowsOf(const QTableView& view, const QString& window)
         if (!view.viewport()->rect().contains(widest.center())) {
             break;
         }
-        text += line({QStringLiteral("row"), window, view.objectName(),
-            middle(*view.viewport(), widest), cells.join(QLatin1Char('|'))});
+        text += line({QString("row"), window, view.objectName(), middle(*view.viewport(), widest),
+            cells.join('|')});
     }
     return text;
 }
@@ -102,7 +102,7 @@ QString actionsOf(const QMenu& menu)
     QString text;
     const auto actions = menu.actions();
     for (const QAction* action : actions) {
-        text += line({QStringLiteral("action"), withoutMnemonic(action->text()),
+        text += line({QString("action"), withoutMnemonic(action->text()),
             middle(menu, menu.actionGeometry(const_cast<QAction*>(action)))});
     }
     return text;
@@ -114,7 +114,7 @@ QString itemsOf(const QWidget& popup)
     if (const auto* list = popup.findChild<QListView*>()) {
         for (int row = 0; row < list->model()->rowCount(); ++row) {
             const auto index = list->model()->index(row, 0);
-            text += line({QStringLiteral("item"), index.data().toString(),
+            text += line({QString("item"), index.data().toString(),
                 middle(*list->viewport(), list->visualRect(index))});
         }
     }
@@ -132,7 +132,7 @@ QString partsOf(const QWidget& top, const QString& window)
         if (const auto* bar = qobject_cast<const QMenuBar*>(widget)) {
             const auto menus = bar->actions();
             for (QAction* action : menus) {
-                text += line({QStringLiteral("menu"), window, withoutMnemonic(action->text()),
+                text += line({QString("menu"), window, withoutMnemonic(action->text()),
                     middle(*bar, bar->actionGeometry(action))});
             }
         }
@@ -144,7 +144,7 @@ QString partsOf(const QWidget& top, const QString& window)
             ? QString()
             : widget->objectName();
         if (isButton || !name.isEmpty()) {
-            text += line({QStringLiteral("widget"), window, name, middle(*widget, widget->rect()),
+            text += line({QString("widget"), window, name, middle(*widget, widget->rect()),
                 textOf(*widget)});
         }
     }
@@ -155,7 +155,7 @@ QString everything()
 {
     QString text;
     if (const auto* active = QApplication::activeWindow()) {
-        text += line({QStringLiteral("active"), className(*active)});
+        text += line({QString("active"), className(*active)});
     }
     const auto windows = QApplication::topLevelWidgets();
     for (const auto* top : windows) {
@@ -163,17 +163,16 @@ QString everything()
             continue;
         }
         if (const auto* box = qobject_cast<const QMessageBox*>(top)) {
-            text += line({QStringLiteral("box"), box->windowTitle(), box->text()});
+            text += line({QString("box"), box->windowTitle(), box->text()});
             text += partsOf(*top, box->windowTitle());
         } else if (const auto* menu = qobject_cast<const QMenu*>(top)) {
             text += actionsOf(*menu);
         } else if (top->inherits("QTipLabel")) {
-            text += line({QStringLiteral("tip"), textOf(*top)});
+            text += line({QString("tip"), textOf(*top)});
         } else if (top->inherits("QComboBoxPrivateContainer")) {
             text += itemsOf(*top);
         } else {
-            text
-                += line({QStringLiteral("window"), className(*top), QString::number(top->winId())});
+            text += line({QString("window"), className(*top), QString::number(top->winId())});
             text += partsOf(*top, className(*top));
         }
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/Articles.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -133,5 +133,5 @@ void TestArticles::amongTenThousandTheyAreFoundInABlink()
     QCOMPARE(Articles::duplicateIds().size(), std::size_t{200});
 }
 
-VENDEL_CORE_TEST_MAIN(TestArticles)
+VENDEL_TEST(TestArticles)
 #include "tst_Articles.moc"

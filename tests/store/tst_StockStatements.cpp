@@ -3,8 +3,8 @@
 #include "store/Recipes.h"
 #include "store/StockArticles.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <functional>
 
@@ -37,9 +37,9 @@ void TestStockStatements::standWordForWord_data()
         QTest::newRow(name) << Case{std::move(run)}
                             << databaseReport(sql, QByteArray("no such table: ") + table);
     };
-    const QString five = QStringLiteral("5");
-    const QString from = QStringLiteral("2019-05-01");
-    const QString to = QStringLiteral("2019-06-01 10:00:00.000");
+    const QString five = QString("5");
+    const QString from = QString("2019-05-01");
+    const QString to = QString("2019-06-01 10:00:00.000");
 
     row(
         "all", [] { StockArticles::all(); }, "select * from ArticleStock order by article asc");
@@ -65,18 +65,14 @@ void TestStockStatements::standWordForWord_data()
         "recipe", [=] { Recipes::of(five); },
         "select * from DoseStock where id = 5 order by composition asc", "DoseStock");
     row(
-        "add",
-        [=] {
-            Recipes::add(
-                five, QStringLiteral("l'eau"), QStringLiteral("0.5"), QStringLiteral("cl"));
-        },
+        "add", [=] { Recipes::add(five, QString("l'eau"), QString("0.5"), QString("cl")); },
         "insert into DoseStock (id, composition, dose, unite) values (5, 'l''eau', 0.5, 'cl')",
         "DoseStock");
     row(
         "remove line", [=] { Recipes::remove(five); }, "delete from DoseStock where idlig = 5",
         "DoseStock");
     row(
-        "move", [=] { Recipes::move(QStringLiteral("9"), five); },
+        "move", [=] { Recipes::move(QString("9"), five); },
         "update DoseStock set id = 5 where idlig = 9", "DoseStock");
     row(
         "details", [=] { Consumption::details(from, to); },
@@ -135,12 +131,12 @@ void TestStockStatements::theArticlesRemovalStandsWordForWord()
     const Shop shop;
     shop.sql("drop table ArticleStock");
     CapturedOutput output;
-    StockArticles::remove(QStringLiteral("1"));
+    StockArticles::remove(QString("1"));
     const QByteArray said = output.text();
     QCOMPARE(said,
         QByteArray("Errors Db::DbLoad sqlite3_errmsg : delete from ArticleStock where id = 1 no "
                    "such table: ArticleStock\n"));
 }
 
-VENDEL_CORE_TEST_MAIN(TestStockStatements)
+VENDEL_TEST(TestStockStatements)
 #include "tst_StockStatements.moc"

@@ -2,8 +2,8 @@
 #include "store/Settings.h"
 #include "store/Ticket.h"
 #include "tests/support/Captured.h"
-#include "tests/support/CoreTestMain.h"
 #include "tests/support/Shop.h"
+#include "tests/support/TestProgram.h"
 
 #include <stdexcept>
 
@@ -17,7 +17,7 @@ private slots:
     {
         const Shop shop;
         shop.sql("insert into Ticket (id, article, prix) values (1, 'Eau', 2.5), (0, '----', -1)");
-        QCOMPARE(Ticket::sum(), QStringLiteral("1.5"));
+        QCOMPARE(Ticket::sum(), QString("1.5"));
     }
 
     void anEmptyTicketHasNoSum()
@@ -55,5 +55,5 @@ private slots:
     }
 };
 
-VENDEL_CORE_TEST_MAIN(TestTicketSum)
+VENDEL_TEST(TestTicketSum)
 #include "tst_TicketSum.moc"

@@ -14,7 +14,7 @@ BoxDiary::BoxDiary(std::function<void()> onBox)
         if (box == nullptr || !box->isVisible()) {
             return;
         }
-        said << box->windowTitle() + QStringLiteral(": ") + box->text();
+        said << box->windowTitle() + QString(": ") + box->text();
         onBox();
         auto* yes = box->button(QMessageBox::Yes);
         (yes == nullptr ? box->button(QMessageBox::Ok) : yes)->click();

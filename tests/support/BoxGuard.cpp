@@ -28,7 +28,7 @@ void BoxGuard::watch()
         return;
     }
     const QString text
-        = QStringLiteral("nobody answers the box \"%1\": %2").arg(box->windowTitle(), box->text());
+        = QString("nobody answers the box \"%1\": %2").arg(box->windowTitle(), box->text());
     QTest::qFail(qPrintable(text), __FILE__, __LINE__);
     box->done(QMessageBox::NoButton);
 }

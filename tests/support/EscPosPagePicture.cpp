@@ -14,7 +14,7 @@ constexpr int edgeFeed = 24;
 void draw(QPainter& painter, const PageGlyph& glyph, int left, int bottom)
 {
     const int height = glyph.style.fontB ? 17 : 24;
-    QFont font(QStringLiteral("DejaVu Sans Mono"));
+    QFont font(QString("DejaVu Sans Mono"));
     font.setStyleHint(QFont::TypeWriter);
     font.setStyleStrategy(QFont::NoAntialias);
     font.setPixelSize(height * 5 / 6);

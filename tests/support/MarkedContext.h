@@ -18,7 +18,7 @@ public:
     QString translate(const char* context, const char* source, const char*, int) const override
     {
         return qstrcmp(context, context_) == 0
-            ? QString::fromLatin1(context) + QLatin1Char(':') + QString::fromUtf8(source)
+            ? QString::fromLatin1(context) + ':' + QString::fromUtf8(source)
             : QString();
     }
 

@@ -13,7 +13,7 @@ const QByteArray& freshDatabase(const Shop& shop)
 {
     static const QByteArray bytes = [&] {
         Db::DbCreate();
-        return shop.read(QStringLiteral("Vendel.db"));
+        return shop.read(QString("Vendel.db"));
     }();
     return bytes;
 }
@@ -26,7 +26,7 @@ Shop::Shop(Database database)
         qFatal("no temporary directory for the test");
     }
     if (database == Database::Fresh) {
-        write(QStringLiteral("Vendel.db"), freshDatabase(*this));
+        write(QString("Vendel.db"), freshDatabase(*this));
     }
 }
 

@@ -117,7 +117,7 @@ QRect tipGeometry()
 bool tipStandsAt(QPoint point)
 {
     const QPoint stands = tipGeometry().topLeft();
-    QToolTip::showText(point, tipText() + QLatin1Char(' '));
+    QToolTip::showText(point, tipText() + ' ');
     return stands == tipGeometry().topLeft();
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "widgets/MessageBoxes.h"
 
 #include <QProcess>
@@ -9,8 +9,6 @@
 #include <atomic>
 
 namespace {
-constexpr auto hanging = "VENDEL_HANGING_TESTS";
-
 /// What a program of hanging tests wrote, and how it ended.
 struct Ended
 {
@@ -23,15 +21,14 @@ struct Ended
 Ended run(const char* function, int seconds)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QLatin1String(hanging), QStringLiteral("1"));
-    environment.insert(QStringLiteral("VENDEL_TEST_SECONDS"), QString::number(seconds));
+    environment.insert(QString("VENDEL_TEST_SECONDS"), QString::number(seconds));
     // A program that is aborted may leave its memory behind.
     const QTemporaryDir folder;
     QProcess process;
     process.setWorkingDirectory(folder.path());
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QCoreApplication::applicationFilePath(), {QLatin1String(function)});
+    process.start(QCoreApplication::applicationFilePath(), {"hanging", QLatin1String(function)});
     if (!process.waitForFinished(25'000)) {
         return {"it hangs", QProcess::CrashExit, -1};
     }
@@ -48,7 +45,7 @@ private slots:
     void aBoxIsShown()
     {
         QWidget window;
-        notice(&window, QStringLiteral("Bonjour"), QStringLiteral("Accueil"));
+        notice(&window, QString("Bonjour"), QString("Accueil"));
     }
     void aLoopRunsForever()
     {
@@ -82,17 +79,6 @@ private slots:
     }
 };
 
-int main(int argc, char* argv[])
-{
-    Application::setAttributes();
-    QApplication application(argc, argv);
-    Application::setUp(application);
-    const BoxGuard guard;
-    if (qEnvironmentVariableIsSet(hanging)) {
-        HangingTests tests;
-        return QTest::qExec(&tests, argc, argv);
-    }
-    TestWatchdogs tests;
-    return QTest::qExec(&tests, argc, argv);
-}
+VENDEL_TEST(TestWatchdogs)
+VENDEL_TEST_ENTRY(HangingTests, "hanging", true)
 #include "tst_Watchdogs.moc"

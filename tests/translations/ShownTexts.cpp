@@ -30,7 +30,7 @@ QSize inkSize(const QWidget& widget, const QString& text)
 {
     const QFontMetrics metrics = widget.fontMetrics();
     const QSize whole = metrics.size(Qt::TextShowMnemonic, text);
-    const int lines = int(text.count(QLatin1Char('\n')));
+    const int lines = int(text.count('\n'));
     return {
         whole.width(), metrics.tightBoundingRect(text).height() + lines * metrics.lineSpacing()};
 }
@@ -97,8 +97,7 @@ private:
     void add(const QWidget& widget, const char* place, const QString& text, int missing = 0)
     {
         if (!text.isEmpty()) {
-            texts.push_back(
-                {widget.objectName() + QLatin1Char(' ') + QLatin1String(place), text, missing});
+            texts.push_back({widget.objectName() + ' ' + QLatin1String(place), text, missing});
         }
     }
 

@@ -63,8 +63,7 @@ QString withoutEscapes(QString literal)
 /// The texts of one entry: adjacent literals are one text.
 QStringList readEntry(const QString& body)
 {
-    static const QRegularExpression literalOrComma(
-        QStringLiteral(R"re("((?:[^"\\]|\\.)*)"|(,))re"));
+    static const QRegularExpression literalOrComma(QString(R"re("((?:[^"\\]|\\.)*)"|(,))re"));
     QStringList texts{QString()};
     auto matches = literalOrComma.globalMatch(body);
     while (matches.hasNext()) {
@@ -99,8 +98,7 @@ QVector<TranslatedText> readTranslation(const QString& path)
 
 QVector<TranslatedText> readCaptions(const QString& path)
 {
-    static const QSet<QString> captions{
-        QStringLiteral("text"), QStringLiteral("title"), QStringLiteral("windowTitle")};
+    static const QSet<QString> captions{QString("text"), QString("title"), QString("windowTitle")};
     QXmlStreamReader xml(readFile(path));
     QVector<TranslatedText> texts;
     QString form;
@@ -124,7 +122,7 @@ QVector<TranslatedText> readCaptions(const QString& path)
 
 QStringList readCatalogue(const QString& path)
 {
-    static const QRegularExpression entry(QStringLiteral(R"re(Messages::Messages\d+\{(.*?)\};)re"),
+    static const QRegularExpression entry(QString(R"re(Messages::Messages\d+\{(.*?)\};)re"),
         QRegularExpression::DotMatchesEverythingOption);
     QStringList texts;
     auto matches = entry.globalMatch(QString::fromUtf8(readFile(path)));

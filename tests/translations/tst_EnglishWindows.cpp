@@ -14,7 +14,7 @@
 #include "forms/FormVendelSaisieStockMaj.h"
 #include "forms/FormVendelStockCalculation.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 #include "tests/translations/ShownTexts.h"
 
@@ -106,11 +106,11 @@ const QVector<Opening>& windows()
         opening<FormVendelSaisieArticle>("FormVendelSaisieArticle", {"btn_Afficher"}),
         opening<FormVendelSaisieStock>("FormVendelSaisieStock", {"btn_Display"}),
         opening<FormVendelSaisieStockComposition>(
-            "FormVendelSaisieStockComposition", {}, QStringLiteral("12"), QStringLiteral("1")),
+            "FormVendelSaisieStockComposition", {}, QString("12"), QString("1")),
         opening<FormVendelSaisieStockCutPaste>("FormVendelSaisieStockCutPaste", {}),
         opening<FormVendelSaisieStockMaj>("FormVendelSaisieStockMaj", {}),
         opening<FormVendelStockCalculation>("FormVendelStockCalculation", {"btn_Display"},
-            QStringLiteral("05/01/2019"), QStringLiteral("06/01/2019")),
+            QString("05/01/2019"), QString("06/01/2019")),
     };
     return all;
 }
@@ -131,29 +131,27 @@ public:
                  "insert into Ticket (id, article, prix) values (1, '11', 2)"}) {
             sql(statement);
         }
-        write(QStringLiteral("EnteteFormulaire.dat"), "1");
-        write(QStringLiteral("PiedFormulaire.dat"), "2");
+        write(QString("EnteteFormulaire.dat"), "1");
+        write(QString("PiedFormulaire.dat"), "2");
     }
 };
 
 /// What is the same in both languages, and what no language changes.
 const QSet<QString>& equalWords()
 {
-    static const QSet<QString> words{QStringLiteral("Ticket"), QStringLiteral("Menu"),
-        QStringLiteral("Config"), QStringLiteral("Total"), QStringLiteral("TOTAL"),
-        QStringLiteral("Vendel"), QStringLiteral("X"), QStringLiteral("Id"), QStringLiteral("Date"),
-        QStringLiteral("Options"), QStringLiteral("Stock"), QStringLiteral("Composition"),
-        QStringLiteral("Dose"), QStringLiteral("Conversion"), QStringLiteral("Purge"),
-        QStringLiteral("cl"), QStringLiteral("g"), QStringLiteral("Epson"), QStringLiteral("TM"),
-        QStringLiteral("T20II"), QStringLiteral("ON"), QStringLiteral("OFF"), QStringLiteral("OK"),
-        QStringLiteral("Dialog"), QStringLiteral("Version"), QStringLiteral("MIT"),
-        QStringLiteral("Page"), QStringLiteral("bar")};
+    static const QSet<QString> words{QString("Ticket"), QString("Menu"), QString("Config"),
+        QString("Total"), QString("TOTAL"), QString("Vendel"), QString("X"), QString("Id"),
+        QString("Date"), QString("Options"), QString("Stock"), QString("Composition"),
+        QString("Dose"), QString("Conversion"), QString("Purge"), QString("cl"), QString("g"),
+        QString("Epson"), QString("TM"), QString("T20II"), QString("ON"), QString("OFF"),
+        QString("OK"), QString("Dialog"), QString("Version"), QString("MIT"), QString("Page"),
+        QString("bar")};
     return words;
 }
 
 QStringList wordsOf(const QString& text)
 {
-    static const QRegularExpression word(QStringLiteral("\\p{L}[\\p{L}\\d]*"));
+    static const QRegularExpression word(QString("\\p{L}[\\p{L}\\d]*"));
     QStringList words;
     auto matches = word.globalMatch(text);
     while (matches.hasNext()) {
@@ -209,7 +207,7 @@ QStringList clippedIn(const Opening& opening)
     const auto texts = textsOf(opening);
     for (const ShownText& text : texts) {
         if (text.missing > 0) {
-            clipped << QStringLiteral("%1: \"%2\" lacks %3 pixels")
+            clipped << QString("%1: \"%2\" lacks %3 pixels")
                            .arg(text.place, text.text, QString::number(text.missing));
         }
     }
@@ -248,12 +246,12 @@ void TestEnglishWindows::noWindowStillShowsFrench()
             }
         }
     }
-    QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1Char('\n'))));
+    QVERIFY2(left.isEmpty(), qPrintable(left.join('\n')));
 }
 
 void TestEnglishWindows::aWidgetThatIsTooSmallLacksPixels()
 {
-    const QString text = QStringLiteral("The ticket is empty");
+    const QString text = QString("The ticket is empty");
     QLabel label(text);
     QPushButton button(text);
     QCheckBox check(text);
@@ -279,7 +277,7 @@ void TestEnglishWindows::noTextIsClipped()
 {
     QFETCH(int, number);
     const QStringList clipped = clippedIn(windows()[number]);
-    QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(QLatin1Char('\n'))));
+    QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
 }
 
 void TestEnglishWindows::noFrenchTextIsClipped_data()
@@ -292,7 +290,7 @@ void TestEnglishWindows::noFrenchTextIsClipped()
     QFETCH(int, number);
     const InFrench french;
     const QStringList clipped = clippedIn(windows()[number]);
-    QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(QLatin1Char('\n'))));
+    QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
 }
 
 void TestEnglishWindows::everyFieldHasAName_data()
@@ -316,7 +314,7 @@ void TestEnglishWindows::everyFieldHasAName()
             nameless << widget->objectName();
         }
     }
-    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(QLatin1Char('\n'))));
+    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join('\n')));
 }
 
 void TestEnglishWindows::boxesHaveEnglishButtons()
@@ -324,16 +322,16 @@ void TestEnglishWindows::boxesHaveEnglishButtons()
     QMessageBox box(QMessageBox::Information, QString(), QString(),
         QMessageBox::Yes | QMessageBox::No | QMessageBox::Ok | QMessageBox::Cancel
             | QMessageBox::Close | QMessageBox::Save);
-    QCOMPARE(box.button(QMessageBox::Yes)->text(), QStringLiteral("&Yes"));
-    QCOMPARE(box.button(QMessageBox::No)->text(), QStringLiteral("&No"));
-    QCOMPARE(box.button(QMessageBox::Ok)->text(), QStringLiteral("OK"));
-    QCOMPARE(box.button(QMessageBox::Cancel)->text(), QStringLiteral("Cancel"));
-    QCOMPARE(box.button(QMessageBox::Close)->text(), QStringLiteral("Close"));
-    QCOMPARE(box.button(QMessageBox::Save)->text(), QStringLiteral("Save"));
+    QCOMPARE(box.button(QMessageBox::Yes)->text(), QString("&Yes"));
+    QCOMPARE(box.button(QMessageBox::No)->text(), QString("&No"));
+    QCOMPARE(box.button(QMessageBox::Ok)->text(), QString("OK"));
+    QCOMPARE(box.button(QMessageBox::Cancel)->text(), QString("Cancel"));
+    QCOMPARE(box.button(QMessageBox::Close)->text(), QString("Close"));
+    QCOMPARE(box.button(QMessageBox::Save)->text(), QString("Save"));
 
     const InFrench french;
     const QMessageBox frenchBox(QMessageBox::Information, QString(), QString(), QMessageBox::Yes);
-    QCOMPARE(frenchBox.button(QMessageBox::Yes)->text(), QStringLiteral("&Oui"));
+    QCOMPARE(frenchBox.button(QMessageBox::Yes)->text(), QString("&Oui"));
 }
 
 void TestEnglishWindows::editMenusAreEnglish()
@@ -343,19 +341,18 @@ void TestEnglishWindows::editMenusAreEnglish()
         const auto actions = menu.actions();
         for (const QAction* action : actions) {
             if (!action->isSeparator()) {
-                labels << action->text().section(QLatin1Char('\t'), 0, 0).remove(QLatin1Char('&'));
+                labels << action->text().section('\t', 0, 0).remove('&');
             }
         }
         return labels;
     };
-    const QStringList english{QStringLiteral("Undo"), QStringLiteral("Redo"), QStringLiteral("Cut"),
-        QStringLiteral("Copy"), QStringLiteral("Paste"), QStringLiteral("Delete"),
-        QStringLiteral("Select All")};
+    const QStringList english{QString("Undo"), QString("Redo"), QString("Cut"), QString("Copy"),
+        QString("Paste"), QString("Delete"), QString("Select All")};
     QLineEdit line;
     QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(line.createStandardContextMenu())), english);
     QTextEdit text;
     QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(text.createStandardContextMenu())), english);
 }
 
-VENDEL_TEST_MAIN(TestEnglishWindows)
+VENDEL_TEST(TestEnglishWindows)
 #include "tst_EnglishWindows.moc"

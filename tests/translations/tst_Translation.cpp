@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "common/Messages.h"
 #include "common/Texts.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/translations/TranslationFile.h"
 #include "widgets/QtNames.h"
 
@@ -50,23 +50,20 @@ private:
 };
 
 namespace {
-const QString catalogueContext = QStringLiteral("FormVendelMessages");
+const QString catalogueContext = QString("FormVendelMessages");
 
 /// Contexts of Qt whose texts a user of the till can meet: buttons of boxes, edit menus, keys,
 /// what a screen reader says, errors of files.
-const QStringList qtContexts{QStringLiteral("QAbstractSpinBox"),
-    QStringLiteral("QAccessibleActionInterface"), QStringLiteral("QApplication"),
-    QStringLiteral("QComboBox"), QStringLiteral("QCoreApplication"), QStringLiteral("QDialog"),
-    QStringLiteral("QDialogButtonBox"), QStringLiteral("QErrorMessage"), QStringLiteral("QFile"),
-    QStringLiteral("QFileDevice"), QStringLiteral("QGnomeTheme"), QStringLiteral("QGuiApplication"),
-    QStringLiteral("QIODevice"), QStringLiteral("QImageReader"), QStringLiteral("QLineEdit"),
-    QStringLiteral("QMessageBox"), QStringLiteral("QPlatformTheme"), QStringLiteral("QSaveFile"),
-    QStringLiteral("QScrollBar"), QStringLiteral("QShortcut"),
-    QStringLiteral("QSpiAccessibleBridge"), QStringLiteral("QTabBar"),
-    QStringLiteral("QUnicodeControlCharacterMenu"), QStringLiteral("QWhatsThisAction"),
-    QStringLiteral("QWidget"), QStringLiteral("QWidgetTextControl")};
+const QStringList qtContexts{QString("QAbstractSpinBox"), QString("QAccessibleActionInterface"),
+    QString("QApplication"), QString("QComboBox"), QString("QCoreApplication"), QString("QDialog"),
+    QString("QDialogButtonBox"), QString("QErrorMessage"), QString("QFile"), QString("QFileDevice"),
+    QString("QGnomeTheme"), QString("QGuiApplication"), QString("QIODevice"),
+    QString("QImageReader"), QString("QLineEdit"), QString("QMessageBox"),
+    QString("QPlatformTheme"), QString("QSaveFile"), QString("QScrollBar"), QString("QShortcut"),
+    QString("QSpiAccessibleBridge"), QString("QTabBar"), QString("QUnicodeControlCharacterMenu"),
+    QString("QWhatsThisAction"), QString("QWidget"), QString("QWidgetTextControl")};
 
-const QString source = QStringLiteral(VENDEL_SOURCE "/");
+const QString source = QString(VENDEL_SOURCE "/");
 
 void runTool(const QString& program, const QStringList& arguments)
 {
@@ -78,7 +75,7 @@ void runTool(const QString& program, const QStringList& arguments)
 
 QString key(const TranslatedText& text)
 {
-    return text.context + QLatin1Char('\n') + text.source;
+    return text.context + '\n' + text.source;
 }
 
 QSet<QString> keys(const QVector<TranslatedText>& texts)
@@ -93,28 +90,24 @@ QSet<QString> keys(const QVector<TranslatedText>& texts)
 /// Words of the till in French that are the same in English, or that no language changes.
 const QSet<QString>& equalWords()
 {
-    static const QSet<QString> words{QStringLiteral("Click"), QStringLiteral("Composition"),
-        QStringLiteral("composition"), QStringLiteral("Config"), QStringLiteral("Conversion"),
-        QStringLiteral("Date"), QStringLiteral("date"), QStringLiteral("Dialog"),
-        QStringLiteral("Dose"), QStringLiteral("dose"), QStringLiteral("Epson"),
-        QStringLiteral("Id"), QStringLiteral("id"), QStringLiteral("II"), QStringLiteral("MIT"),
-        QStringLiteral("Menu"), QStringLiteral("menu"), QStringLiteral("OFF"), QStringLiteral("ON"),
-        QStringLiteral("Options"), QStringLiteral("Page"), QStringLiteral("Purge"),
-        QStringLiteral("Stock"), QStringLiteral("TM"), QStringLiteral("TOTAL"),
-        QStringLiteral("Ticket"), QStringLiteral("ticket"), QStringLiteral("Total"),
-        QStringLiteral("Vendel"), QStringLiteral("Version"), QStringLiteral("cl"),
-        QStringLiteral("list"), QStringLiteral("MM"), QStringLiteral("dd"), QStringLiteral("yyyy"),
-        QStringLiteral("titre")};
+    static const QSet<QString> words{QString("Click"), QString("Composition"),
+        QString("composition"), QString("Config"), QString("Conversion"), QString("Date"),
+        QString("date"), QString("Dialog"), QString("Dose"), QString("dose"), QString("Epson"),
+        QString("Id"), QString("id"), QString("II"), QString("MIT"), QString("Menu"),
+        QString("menu"), QString("OFF"), QString("ON"), QString("Options"), QString("Page"),
+        QString("Purge"), QString("Stock"), QString("TM"), QString("TOTAL"), QString("Ticket"),
+        QString("ticket"), QString("Total"), QString("Vendel"), QString("Version"), QString("cl"),
+        QString("list"), QString("MM"), QString("dd"), QString("yyyy"), QString("titre")};
     return words;
 }
 
 /// The words of two letters and more in \a text, without those of its HTML.
 QSet<QString> wordsOf(QString text)
 {
-    static const QRegularExpression tag(QStringLiteral("<[^>]*>"));
-    static const QRegularExpression word(QStringLiteral("\\p{L}{2,}"));
+    static const QRegularExpression tag(QString("<[^>]*>"));
+    static const QRegularExpression word(QString("\\p{L}{2,}"));
     QSet<QString> words;
-    auto matches = word.globalMatch(text.replace(tag, QStringLiteral(" ")));
+    auto matches = word.globalMatch(text.replace(tag, QString(" ")));
     while (matches.hasNext()) {
         words << matches.next().captured();
     }
@@ -125,14 +118,13 @@ QSet<QString> wordsOf(QString text)
 void TestTranslation::initTestCase()
 {
     const QTemporaryDir folder;
-    const QString designer = folder.filePath(QStringLiteral("designer.ts"));
-    runTool(QStringLiteral(VENDEL_LUPDATE),
-        {QStringLiteral("-silent"), source + QLatin1String("app"), source + QLatin1String("forms"),
-            source + QLatin1String("common"), QStringLiteral("-ts"), designer});
-    const QString qtFrench = folder.filePath(QStringLiteral("qt.ts"));
-    runTool(QStringLiteral(VENDEL_LCONVERT),
-        {QtNames::translationsFolder() + QLatin1String("/qtbase_fr.qm"), QStringLiteral("-o"),
-            qtFrench});
+    const QString designer = folder.filePath(QString("designer.ts"));
+    runTool(QString(VENDEL_LUPDATE),
+        {QString("-silent"), source + QLatin1String("app"), source + QLatin1String("forms"),
+            source + QLatin1String("common"), QString("-ts"), designer});
+    const QString qtFrench = folder.filePath(QString("qt.ts"));
+    runTool(QString(VENDEL_LCONVERT),
+        {QtNames::translationsFolder() + QLatin1String("/qtbase_fr.qm"), QString("-o"), qtFrench});
 
     catalogue_ = readCatalogue(source + QLatin1String("common/Messages.cpp"));
     catalogue_.removeAll(QString());
@@ -140,7 +132,7 @@ void TestTranslation::initTestCase()
     designer_ = readTranslation(designer);
     for (const char* place : {"app", "forms"}) {
         const QDir forms(source + QLatin1String(place));
-        const auto names = forms.entryList({QStringLiteral("*.ui")});
+        const auto names = forms.entryList({QString("*.ui")});
         for (const QString& name : names) {
             captions_ += readCaptions(forms.filePath(name));
         }
@@ -162,19 +154,18 @@ QVector<TranslatedText> TestTranslation::found(const QString& context) const
 void TestTranslation::theCatalogueIsReadWhole()
 {
     QVERIFY(catalogue_.size() >= 250);
-    QVERIFY(catalogue_.contains(QStringLiteral("+/-")));
-    QVERIFY(catalogue_.contains(
-        QStringLiteral("Composition est vide\nAller dans le menu Stock Saisie Stock\n"
-                       "DoubleClick sur article et composez")));
-    QVERIFY(!catalogue_.join(QString()).contains(QLatin1Char('\\')));
+    QVERIFY(catalogue_.contains(QString("+/-")));
+    QVERIFY(
+        catalogue_.contains(QString("Composition est vide\nAller dans le menu Stock Saisie Stock\n"
+                                    "DoubleClick sur article et composez")));
+    QVERIFY(!catalogue_.join(QString()).contains('\\'));
 }
 
 void TestTranslation::everyCatalogueTextIsTranslated()
 {
     const auto translated = keys(found(catalogueContext));
     for (const QString& text : qAsConst(catalogue_)) {
-        QVERIFY2(
-            translated.contains(catalogueContext + QLatin1Char('\n') + text), qPrintable(text));
+        QVERIFY2(translated.contains(catalogueContext + '\n' + text), qPrintable(text));
     }
 }
 
@@ -190,8 +181,8 @@ void TestTranslation::everyDesignerTextIsTranslated()
 void TestTranslation::everyCaptionIsInTheCatalogueOrTranslatedForItsWindow()
 {
     // Filled in by the window, or the same in every language.
-    const QStringList others{QString(), QStringLiteral("DateTime")};
-    static const QRegularExpression keypad(QStringLiteral("^[0-9+-]$"));
+    const QStringList others{QString(), QString("DateTime")};
+    static const QRegularExpression keypad(QString("^[0-9+-]$"));
     const auto translated = keys(english_);
     QVERIFY(captions_.size() > 80);
     for (const auto& caption : qAsConst(captions_)) {
@@ -226,7 +217,7 @@ void TestTranslation::everyTranslationIsFinished()
 
 void TestTranslation::noTranslationHasFrenchLetters()
 {
-    static const QRegularExpression french(QStringLiteral("[àâçéèêëîïôùûüœÀÂÇÉÈÊ]"));
+    static const QRegularExpression french(QString("[àâçéèêëîïôùûüœÀÂÇÉÈÊ]"));
     for (const auto& text : qAsConst(english_)) {
         QVERIFY2(!text.forms.join(QString()).contains(french), qPrintable(key(text)));
     }
@@ -245,7 +236,7 @@ void TestTranslation::noWordStaysFrench()
     QVERIFY(french.size() > 100);
     french -= equalWords();
     for (const auto& text : qAsConst(tills)) {
-        const QSet<QString> left = wordsOf(text.forms.join(QLatin1Char(' '))) & french;
+        const QSet<QString> left = wordsOf(text.forms.join(' ')) & french;
         QVERIFY2(left.isEmpty(), qPrintable(key(text)));
     }
 }
@@ -308,7 +299,7 @@ void TestTranslation::theMarkOfATitleLineStays()
     const auto texts = found(catalogueContext);
     for (const auto& text : texts) {
         if (text.source == QLatin1String("titre:")) {
-            QCOMPARE(text.forms, QStringList{QStringLiteral("titre:")});
+            QCOMPARE(text.forms, QStringList{QString("titre:")});
             return;
         }
     }
@@ -322,13 +313,13 @@ void TestTranslation::receiptHeadingsKeepTheirColumns()
     for (const auto& text : texts) {
         headings[text.source] = text.forms.first();
     }
-    QCOMPARE(headings[QStringLiteral("Qtité  ")], QStringLiteral("Qty    "));
-    QCOMPARE(headings[QStringLiteral("Produit")], QStringLiteral("Product"));
-    QCOMPARE(headings[QStringLiteral("Prix U")], QStringLiteral("Unit price"));
-    QCOMPARE(headings[QStringLiteral("Prix * Qtité")], QStringLiteral("Price * Qty"));
-    QCOMPARE(headings[QStringLiteral("Total ticket")], QStringLiteral("Ticket total"));
-    QCOMPARE(headings[QStringLiteral("TVA ")], QStringLiteral("VAT "));
-    QCOMPARE(headings[QStringLiteral("TOTAL ")], QStringLiteral("TOTAL "));
+    QCOMPARE(headings[QString("Qtité  ")], QString("Qty    "));
+    QCOMPARE(headings[QString("Produit")], QString("Product"));
+    QCOMPARE(headings[QString("Prix U")], QString("Unit price"));
+    QCOMPARE(headings[QString("Prix * Qtité")], QString("Price * Qty"));
+    QCOMPARE(headings[QString("Total ticket")], QString("Ticket total"));
+    QCOMPARE(headings[QString("TVA ")], QString("VAT "));
+    QCOMPARE(headings[QString("TOTAL ")], QString("TOTAL "));
 }
 
 void TestTranslation::qtsOwnTextsAreEnglishAgain()
@@ -337,9 +328,8 @@ void TestTranslation::qtsOwnTextsAreEnglishAgain()
         if (!qtContexts.contains(text.context)) {
             continue;
         }
-        const QString expected = text.source == QLatin1String("QT_LAYOUT_DIRECTION")
-            ? QStringLiteral("LTR")
-            : text.source;
+        const QString expected
+            = text.source == QLatin1String("QT_LAYOUT_DIRECTION") ? QString("LTR") : text.source;
         QCOMPARE(text.forms, QStringList{expected});
     }
 }
@@ -359,24 +349,21 @@ void TestTranslation::noTextOfQtsContextsStaysFrench()
 
 void TestTranslation::theTillFindsItsEnglish()
 {
-    QCOMPARE(Texts{"FormVendel"}(Messages::Messages89[0]), QStringLiteral("Pay"));
-    QCOMPARE(
-        Texts{"FormVendelMessages"}(Messages::Messages0[0]), QStringLiteral("The ticket is empty"));
-    QCOMPARE(Texts{"FormVendelMessages"}(Messages::Messages101[0]), QStringLiteral("."));
-    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "&Yes"), QStringLiteral("&Yes"));
-    QCOMPARE(QCoreApplication::translate("QLineEdit", "&Paste"), QStringLiteral("&Paste"));
+    QCOMPARE(Texts{"FormVendel"}(Messages::Messages89[0]), QString("Pay"));
+    QCOMPARE(Texts{"FormVendelMessages"}(Messages::Messages0[0]), QString("The ticket is empty"));
+    QCOMPARE(Texts{"FormVendelMessages"}(Messages::Messages101[0]), QString("."));
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "&Yes"), QString("&Yes"));
+    QCOMPARE(QCoreApplication::translate("QLineEdit", "&Paste"), QString("&Paste"));
 }
 
 void TestTranslation::theTillCountsInEnglish()
 {
     const Texts texts{"FormVendelSaisieArticleMessages"};
-    QCOMPARE(
-        texts(Messages::Messages23[0], 1), QStringLiteral("Delete the 1 duplicate marked X..."));
-    QCOMPARE(
-        texts(Messages::Messages23[0], 2), QStringLiteral("Delete the 2 duplicates marked X..."));
+    QCOMPARE(texts(Messages::Messages23[0], 1), QString("Delete the 1 duplicate marked X..."));
+    QCOMPARE(texts(Messages::Messages23[0], 2), QString("Delete the 2 duplicates marked X..."));
     QCOMPARE(texts(Messages::Messages26[0], 7),
-        QStringLiteral("Delete the 7 duplicates marked X...\nGo to the menu Vendel Item Entry"));
+        QString("Delete the 7 duplicates marked X...\nGo to the menu Vendel Item Entry"));
 }
 
-VENDEL_TEST_MAIN(TestTranslation)
+VENDEL_TEST(TestTranslation)
 #include "tst_Translation.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "widgets/ElidedLabel.h"
 
 #include <QPixmap>
@@ -28,7 +28,7 @@ QImage painted(QLabel& label, const QString& text)
 void TestElidedLabel::takesNoRoomOfItsOwn()
 {
     ElidedLabel label;
-    label.setText(QString(300, QLatin1Char('W')));
+    label.setText(QString(300, 'W'));
     QCOMPARE(label.minimumSizeHint().width(), 0);
     QVERIFY(label.minimumSizeHint().height() > 0);
     QCOMPARE(label.text().size(), 300);
@@ -38,18 +38,17 @@ void TestElidedLabel::paintsAShortTextWhole()
 {
     ElidedLabel label;
     QLabel plain;
-    QCOMPARE(
-        painted(label, QStringLiteral("Café & Thé")), painted(plain, QStringLiteral("Café & Thé")));
+    QCOMPARE(painted(label, QString("Café & Thé")), painted(plain, QString("Café & Thé")));
 }
 
 void TestElidedLabel::endsALongTextInDots()
 {
     ElidedLabel label;
-    const QImage image = painted(label, QString(100, QLatin1Char('W')));
+    const QImage image = painted(label, QString(100, 'W'));
     bool found = false;
     for (int letters = 1; letters < 20 && !found; ++letters) {
         QLabel plain;
-        found = image == painted(plain, QString(letters, QLatin1Char('W')) + QChar(0x2026));
+        found = image == painted(plain, QString(letters, 'W') + QChar(0x2026));
     }
     QVERIFY(found);
 }
@@ -58,9 +57,8 @@ void TestElidedLabel::showsTagsAsText()
 {
     ElidedLabel label;
     QLabel plain;
-    QCOMPARE(
-        painted(label, QStringLiteral("<b>T</b>")), painted(plain, QStringLiteral("<b>T</b>")));
+    QCOMPARE(painted(label, QString("<b>T</b>")), painted(plain, QString("<b>T</b>")));
 }
 
-VENDEL_TEST_MAIN(TestElidedLabel)
+VENDEL_TEST(TestElidedLabel)
 #include "tst_ElidedLabel.moc"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Messages.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "widgets/HoverTip.h"
 #include "widgets/Lists.h"
 
@@ -49,8 +49,8 @@ struct List : QTableView
         constexpr Texts texts{"FormVendelMessages"};
         setUpList(*this, model, texts, Messages::Messages97, {50, 25, 210, 110}, {0});
         ListFiller filler(*this, model);
-        filler.add({QStringLiteral("1"), QString(), QStringLiteral("Thé"), QString()});
-        filler.add({QStringLiteral("2"), QString(), QString(300, QLatin1Char('x')), QString()});
+        filler.add({QString("1"), QString(), QString("Thé"), QString()});
+        filler.add({QString("2"), QString(), QString(300, 'x'), QString()});
         resize(400, 560);
         show();
     }
@@ -151,8 +151,8 @@ void TestHoverTip::movesOverOtherWidgetsHaveNoPosition()
 void TestHoverTip::theTextUnderThePointerIsOfItsColumn()
 {
     List list;
-    QCOMPARE(textUnder(list, list.centreOf(0, 3), 2), QStringLiteral("Thé"));
-    QCOMPARE(textUnder(list, list.centreOf(0, 1), 0), QStringLiteral("1"));
+    QCOMPARE(textUnder(list, list.centreOf(0, 3), 2), QString("Thé"));
+    QCOMPARE(textUnder(list, list.centreOf(0, 1), 0), QString("1"));
 }
 
 void TestHoverTip::noTextStandsUnderAnEmptyArea()
@@ -165,26 +165,25 @@ void TestHoverTip::noTextStandsUnderAnEmptyArea()
 void TestHoverTip::aTextThatNoScreenHoldsIsCut()
 {
     List list;
-    QCOMPARE(
-        textUnder(list, list.centreOf(1, 2), 2), QString(200, QLatin1Char('x')) + QChar(0x2026));
-    list.model.item(1, 2)->setText(QString(200, QLatin1Char('y')));
-    QCOMPARE(textUnder(list, list.centreOf(1, 2), 2), QString(200, QLatin1Char('y')));
+    QCOMPARE(textUnder(list, list.centreOf(1, 2), 2), QString(200, 'x') + QChar(0x2026));
+    list.model.item(1, 2)->setText(QString(200, 'y'));
+    QCOMPARE(textUnder(list, list.centreOf(1, 2), 2), QString(200, 'y'));
 }
 
 void TestHoverTip::aCutSplitsNoCharacter()
 {
     List list;
-    list.model.item(1, 2)->setText(QLatin1Char('x') + QStringLiteral("😀").repeated(150));
-    QCOMPARE(textUnder(list, list.centreOf(1, 2), 2),
-        QLatin1Char('x') + QStringLiteral("😀").repeated(99) + QChar(0x2026));
+    list.model.item(1, 2)->setText('x' + QString("😀").repeated(150));
+    QCOMPARE(
+        textUnder(list, list.centreOf(1, 2), 2), 'x' + QString("😀").repeated(99) + QChar(0x2026));
 }
 
 void TestHoverTip::aTipShowsAndHides()
 {
     QWidget window;
-    showTip(window, QPoint(150, 130), QStringLiteral("Menu\nClick sur : Thé"));
+    showTip(window, QPoint(150, 130), QString("Menu\nClick sur : Thé"));
     QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick sur : Thé"));
+    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : Thé"));
     hideTip();
     QTRY_VERIFY(!QToolTip::isVisible());
 }
@@ -192,19 +191,19 @@ void TestHoverTip::aTipShowsAndHides()
 void TestHoverTip::aNameLikeATagIsPlainText()
 {
     QWidget window;
-    showTip(window, QPoint(150, 130), QStringLiteral("<b>x</b>"));
+    showTip(window, QPoint(150, 130), QString("<b>x</b>"));
     const auto* tip = qobject_cast<QLabel*>(shownTip());
     QVERIFY(tip != nullptr);
-    QCOMPARE(QToolTip::text(), QStringLiteral("<p>&lt;b&gt;x&lt;/b&gt;</p>"));
-    showTip(window, QPoint(150, 130), QStringLiteral("Menu\nClick sur : <b>x</b>"));
-    QCOMPARE(QToolTip::text(), QStringLiteral("Menu\nClick sur : <b>x</b>"));
+    QCOMPARE(QToolTip::text(), QString("<p>&lt;b&gt;x&lt;/b&gt;</p>"));
+    showTip(window, QPoint(150, 130), QString("Menu\nClick sur : <b>x</b>"));
+    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : <b>x</b>"));
     QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
 }
 
 void TestHoverTip::aTipLetsTheMouseThrough()
 {
     QWidget window;
-    showTip(window, QPoint(150, 130), QStringLiteral("Menu"));
+    showTip(window, QPoint(150, 130), QString("Menu"));
     const QWidget* tip = shownTip();
     QVERIFY(tip != nullptr);
     QVERIFY(tip->windowFlags().testFlag(Qt::WindowTransparentForInput));
@@ -214,13 +213,13 @@ void TestHoverTip::aTipSurvivesQtsOwnRequest()
 {
     List list;
     QVERIFY(QTest::qWaitForWindowActive(&list));
-    showTip(list, QPoint(150, 130), QStringLiteral("Menu"));
+    showTip(list, QPoint(150, 130), QString("Menu"));
     const QPoint point = list.centreOf(0, 2);
     QHelpEvent request(QEvent::ToolTip, point, list.viewport()->mapToGlobal(point));
     QApplication::sendEvent(list.viewport(), &request);
     QTest::qWait(400);
     QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), QStringLiteral("Menu"));
+    QCOMPARE(QToolTip::text(), QString("Menu"));
 }
 
 void TestHoverTip::aMoveWhileATipIsMadeLeavesItAlone()
@@ -236,19 +235,19 @@ void TestHoverTip::aMoveWhileATipIsMadeLeavesItAlone()
         {
             if (event->type() == QEvent::Polish && watched->inherits("QTipLabel") && moves == 0) {
                 ++moves;
-                showTip(window, QPoint(150, 130), QStringLiteral("Ticket"));
+                showTip(window, QPoint(150, 130), QString("Ticket"));
             }
             return false;
         }
     };
     Mover mover;
     qApp->installEventFilter(&mover);
-    showTip(mover.window, QPoint(150, 130), QStringLiteral("Menu"));
+    showTip(mover.window, QPoint(150, 130), QString("Menu"));
     QCOMPARE(mover.moves, 1);
     QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), QStringLiteral("Menu"));
-    showTip(mover.window, QPoint(150, 130), QStringLiteral("Ticket"));
-    QCOMPARE(QToolTip::text(), QStringLiteral("Ticket"));
+    QCOMPARE(QToolTip::text(), QString("Menu"));
+    showTip(mover.window, QPoint(150, 130), QString("Ticket"));
+    QCOMPARE(QToolTip::text(), QString("Ticket"));
 }
 
 void TestHoverTip::aLongTipGoesAfterTenSeconds()
@@ -256,10 +255,10 @@ void TestHoverTip::aLongTipGoesAfterTenSeconds()
     QWidget window;
     QElapsedTimer timer;
     timer.start();
-    showTip(window, QPoint(150, 130), QString(300, QLatin1Char('x')));
+    showTip(window, QPoint(150, 130), QString(300, 'x'));
     QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), 15000);
     QVERIFY2(timer.elapsed() >= 9500, qPrintable(QString::number(timer.elapsed())));
 }
 
-VENDEL_TEST_MAIN(TestHoverTip)
+VENDEL_TEST(TestHoverTip)
 #include "tst_HoverTip.moc"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Messages.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "widgets/Lists.h"
 
@@ -61,7 +61,7 @@ struct List
 
 QStringList row(const char* id, const char* name)
 {
-    return {QString::fromUtf8(id), QString(), QString::fromUtf8(name), QStringLiteral("1.00$")};
+    return {QString::fromUtf8(id), QString(), QString::fromUtf8(name), QString("1.00$")};
 }
 } // namespace
 
@@ -70,19 +70,18 @@ void TestLists::labelsStandInColumnOrder()
     const List list;
     QCOMPARE(list.model.columnCount(), 4);
     QCOMPARE(list.model.rowCount(), 0);
-    QCOMPARE(list.header(0), QStringLiteral("#"));
-    QCOMPARE(list.header(1), QStringLiteral("X"));
-    QCOMPARE(list.header(2), QStringLiteral("Article"));
-    QCOMPARE(list.header(3), QStringLiteral("Prix"));
+    QCOMPARE(list.header(0), QString("#"));
+    QCOMPARE(list.header(1), QString("X"));
+    QCOMPARE(list.header(2), QString("Article"));
+    QCOMPARE(list.header(3), QString("Prix"));
 }
 
 void TestLists::labelsAreTranslated()
 {
     Translation translation;
-    translation.add(
-        QStringLiteral("FormVendelMessages"), QStringLiteral("Prix"), QStringLiteral("Price"));
+    translation.add(QString("FormVendelMessages"), QString("Prix"), QString("Price"));
     const List list;
-    QCOMPARE(list.header(3), QStringLiteral("Price"));
+    QCOMPARE(list.header(3), QString("Price"));
 }
 
 void TestLists::columnsHaveTheirWidths()
@@ -116,7 +115,7 @@ void TestLists::coloursAlternate()
     const List list;
     QVERIFY(list.view.alternatingRowColors());
     QCOMPARE(list.view.styleSheet(),
-        QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
+        QString("alternate-background-color: LightBlue;background-color: White"));
 }
 
 void TestLists::cellsAreNotEdited()
@@ -153,7 +152,7 @@ void TestLists::clearingKeepsHeadersAndWidths()
     }
     clearList(list.model);
     QCOMPARE(list.model.rowCount(), 0);
-    QCOMPARE(list.header(2), QStringLiteral("Article"));
+    QCOMPARE(list.header(2), QString("Article"));
     QCOMPARE(list.view.columnWidth(2), 210);
     QVERIFY(list.view.isColumnHidden(0));
 }
@@ -165,10 +164,10 @@ void TestLists::rowsAreAppendedInOrder()
     filler.add(row("1", "Thé"));
     filler.add(row("2", "Eau"));
     QCOMPARE(list.model.rowCount(), 2);
-    QCOMPARE(list.cell(0, 2), QStringLiteral("Thé"));
-    QCOMPARE(list.cell(1, 0), QStringLiteral("2"));
-    QCOMPARE(list.cell(1, 2), QStringLiteral("Eau"));
-    QCOMPARE(list.cell(1, 3), QStringLiteral("1.00$"));
+    QCOMPARE(list.cell(0, 2), QString("Thé"));
+    QCOMPARE(list.cell(1, 0), QString("2"));
+    QCOMPARE(list.cell(1, 2), QString("Eau"));
+    QCOMPARE(list.cell(1, 3), QString("1.00$"));
 }
 
 void TestLists::rowsAreAsHighAsTheirFont()
@@ -217,10 +216,10 @@ void TestLists::marksStandInTheRowsOfTheirIds()
         filler.add(row("2", "cafe"));
         filler.add(row("1", "Eau"));
     }
-    markIds(list.model, {1, 12}, 1, QStringLiteral("X"));
-    QCOMPARE(list.cell(0, 1), QStringLiteral("X"));
+    markIds(list.model, {1, 12}, 1, QString("X"));
+    QCOMPARE(list.cell(0, 1), QString("X"));
     QCOMPARE(list.cell(1, 1), QString());
-    QCOMPARE(list.cell(2, 1), QStringLiteral("X"));
+    QCOMPARE(list.cell(2, 1), QString("X"));
 }
 
 void TestLists::marksOfUnknownIdsStandNowhere()
@@ -230,8 +229,8 @@ void TestLists::marksOfUnknownIdsStandNowhere()
         ListFiller filler(list.view, list.model);
         filler.add(row("1", "Eau"));
     }
-    markIds(list.model, {}, 1, QStringLiteral("X"));
-    markIds(list.model, {7}, 1, QStringLiteral("X"));
+    markIds(list.model, {}, 1, QString("X"));
+    markIds(list.model, {7}, 1, QString("X"));
     QCOMPARE(list.cell(0, 1), QString());
 }
 
@@ -246,5 +245,5 @@ void TestLists::theListPaintsAgainAfterFilling()
     QVERIFY(list.view.verticalHeader()->updatesEnabled());
 }
 
-VENDEL_TEST_MAIN(TestLists)
+VENDEL_TEST(TestLists)
 #include "tst_Lists.moc"

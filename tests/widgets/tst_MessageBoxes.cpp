@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "common/Messages.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 #include "widgets/MessageBoxes.h"
 
@@ -34,7 +34,7 @@ constexpr Texts texts{"FormVendelMessages"};
 
 QString captionOf(const QMessageBox& box, QMessageBox::StandardButton button)
 {
-    return box.button(button)->text().remove(QLatin1Char('&'));
+    return box.button(button)->text().remove('&');
 }
 } // namespace
 
@@ -44,8 +44,8 @@ void TestMessageBoxes::aNoticeShowsItsTextUnderItsTitle()
     AnswerBox box;
     notice(&window, texts, Messages::Messages12);
     QVERIFY(box.wasShown());
-    QCOMPARE(box.title(), QStringLiteral("+/-"));
-    QCOMPARE(box.text(), QStringLiteral("Saisir un montant"));
+    QCOMPARE(box.title(), QString("+/-"));
+    QCOMPARE(box.text(), QString("Saisir un montant"));
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.parent(), &window);
@@ -58,30 +58,30 @@ void TestMessageBoxes::aNoticeFillsInTheNumber()
     QWidget window;
     AnswerBox box;
     notice(&window, texts, Messages::Messages23, 12);
-    QCOMPARE(box.title(), QStringLiteral("Doublon"));
-    QCOMPARE(box.text(), QStringLiteral("Supprimer le(s) 12 doublon(s) note(s) X..."));
+    QCOMPARE(box.title(), QString("Doublon"));
+    QCOMPARE(box.text(), QString("Supprimer le(s) 12 doublon(s) note(s) X..."));
 }
 
 void TestMessageBoxes::aNoticeIsTranslatedInItsContext()
 {
     Translation translation;
-    const QString context = QStringLiteral("FormVendelMessages");
-    translation.add(context, QStringLiteral("Saisir un montant"), QStringLiteral("Amount, please"));
-    translation.add(context, QStringLiteral("+/-"), QStringLiteral("Plus or minus"));
+    const QString context = QString("FormVendelMessages");
+    translation.add(context, QString("Saisir un montant"), QString("Amount, please"));
+    translation.add(context, QString("+/-"), QString("Plus or minus"));
     QWidget window;
     AnswerBox box;
     notice(&window, texts, Messages::Messages12);
-    QCOMPARE(box.title(), QStringLiteral("Plus or minus"));
-    QCOMPARE(box.text(), QStringLiteral("Amount, please"));
+    QCOMPARE(box.title(), QString("Plus or minus"));
+    QCOMPARE(box.text(), QString("Amount, please"));
 }
 
 void TestMessageBoxes::aComposedNoticeIsPlainText()
 {
     QWidget window;
     AnswerBox box;
-    notice(&window, QStringLiteral("<b>Rosé</b> & co"), QStringLiteral("Titre"));
-    QCOMPARE(box.text(), QStringLiteral("<b>Rosé</b> & co"));
-    QCOMPARE(box.title(), QStringLiteral("Titre"));
+    notice(&window, QString("<b>Rosé</b> & co"), QString("Titre"));
+    QCOMPARE(box.text(), QString("<b>Rosé</b> & co"));
+    QCOMPARE(box.title(), QString("Titre"));
     QCOMPARE(box.format(), Qt::PlainText);
     QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
 }
@@ -101,7 +101,7 @@ void TestMessageBoxes::aQuestionHasNoDefault()
     QWidget window;
     const AnswerBox box(
         QMessageBox::No, [](QMessageBox& shown) { QVERIFY(shown.defaultButton() == nullptr); });
-    confirm(&window, QStringLiteral("Purger ?"), QStringLiteral("Purger"));
+    confirm(&window, QString("Purger ?"), QString("Purger"));
     QVERIFY(box.wasShown());
 }
 
@@ -109,7 +109,7 @@ void TestMessageBoxes::yesIsYes()
 {
     QWidget window;
     AnswerBox box(QMessageBox::Yes);
-    QVERIFY(confirm(&window, QStringLiteral("Purger ?"), QStringLiteral("Purger")));
+    QVERIFY(confirm(&window, QString("Purger ?"), QString("Purger")));
     QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
     QCOMPARE(box.icon(), QMessageBox::Information);
     QCOMPARE(box.parent(), &window);
@@ -119,7 +119,7 @@ void TestMessageBoxes::noIsNo()
 {
     QWidget window;
     AnswerBox box(QMessageBox::No);
-    QVERIFY(!confirm(&window, QStringLiteral("Purger ?"), QStringLiteral("Purger")));
+    QVERIFY(!confirm(&window, QString("Purger ?"), QString("Purger")));
     QVERIFY(box.wasShown());
 }
 
@@ -127,7 +127,7 @@ void TestMessageBoxes::aQuestionSentAwayIsNo()
 {
     QWidget window;
     AnswerBox box(QMessageBox::NoButton, [](QMessageBox& shown) { shown.reject(); });
-    QVERIFY(!confirm(&window, QStringLiteral("Purger ?"), QStringLiteral("Purger")));
+    QVERIFY(!confirm(&window, QString("Purger ?"), QString("Purger")));
     QVERIFY(box.wasShown());
 }
 
@@ -135,9 +135,9 @@ void TestMessageBoxes::aQuestionStandsAroundTheName()
 {
     QWidget window;
     AnswerBox box(QMessageBox::Yes);
-    QVERIFY(confirm(&window, texts, Messages::Messages16, QStringLiteral("Thé à l'anis")));
-    QCOMPARE(box.title(), QStringLiteral("Supprimer"));
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : Thé à l'anis ..."));
+    QVERIFY(confirm(&window, texts, Messages::Messages16, QString("Thé à l'anis")));
+    QCOMPARE(box.title(), QString("Supprimer"));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : Thé à l'anis ..."));
     QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
 }
 
@@ -145,8 +145,8 @@ void TestMessageBoxes::aNameLikeATagIsPlainText()
 {
     QWidget window;
     AnswerBox box(QMessageBox::Yes);
-    QVERIFY(confirm(&window, texts, Messages::Messages16, QStringLiteral("<b>x</b>")));
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : <b>x</b> ..."));
+    QVERIFY(confirm(&window, texts, Messages::Messages16, QString("<b>x</b>")));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : <b>x</b> ..."));
     QCOMPARE(box.format(), Qt::PlainText);
 }
 
@@ -154,8 +154,8 @@ void TestMessageBoxes::aPercentSignInANameStays()
 {
     QWidget window;
     AnswerBox box(QMessageBox::No);
-    QVERIFY(!confirm(&window, texts, Messages::Messages16, QStringLiteral("%n %1 100%")));
-    QCOMPARE(box.text(), QStringLiteral("Voulez-vous supprimer : %n %1 100% ..."));
+    QVERIFY(!confirm(&window, texts, Messages::Messages16, QString("%n %1 100%")));
+    QCOMPARE(box.text(), QString("Voulez-vous supprimer : %n %1 100% ..."));
 }
 
 void TestMessageBoxes::questionButtonsAreFrench()
@@ -165,22 +165,21 @@ void TestMessageBoxes::questionButtonsAreFrench()
     AnswerBox box(QMessageBox::No, [&](QMessageBox& shown) {
         captions << captionOf(shown, QMessageBox::Yes) << captionOf(shown, QMessageBox::No);
     });
-    QVERIFY(!confirm(&window, QStringLiteral("Purger ?"), QStringLiteral("Purger")));
-    QCOMPARE(captions, (QStringList{QStringLiteral("Oui"), QStringLiteral("Non")}));
+    QVERIFY(!confirm(&window, QString("Purger ?"), QString("Purger")));
+    QCOMPARE(captions, (QStringList{QString("Oui"), QString("Non")}));
 }
 
 void TestMessageBoxes::theTranslationMayReplaceTheButtons()
 {
     Translation translation;
-    translation.add(
-        QStringLiteral("QPlatformTheme"), QStringLiteral("&Yes"), QStringLiteral("&Sure"));
+    translation.add(QString("QPlatformTheme"), QString("&Yes"), QString("&Sure"));
     QWidget window;
     QString caption;
     AnswerBox box(
         QMessageBox::No, [&](QMessageBox& shown) { caption = captionOf(shown, QMessageBox::Yes); });
-    QVERIFY(!confirm(&window, QStringLiteral("Purger ?"), QStringLiteral("Purger")));
-    QCOMPARE(caption, QStringLiteral("Sure"));
+    QVERIFY(!confirm(&window, QString("Purger ?"), QString("Purger")));
+    QCOMPARE(caption, QString("Sure"));
 }
 
-VENDEL_TEST_MAIN(TestMessageBoxes)
+VENDEL_TEST(TestMessageBoxes)
 #include "tst_MessageBoxes.moc"

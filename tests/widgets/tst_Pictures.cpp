@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "widgets/Pictures.h"
 
 #include <QImage>
@@ -25,7 +25,7 @@ private slots:
 };
 
 namespace {
-const QString name = QStringLiteral("Vendel.png");
+const QString name = QString("Vendel.png");
 
 /// A PNG up to its first dot: \a width and \a height as four bytes each, the check sum \a sum.
 QByteArray pngHeader(const QByteArray& width, const QByteArray& height, const QByteArray& sum)
@@ -38,7 +38,7 @@ QByteArray pictureOf(int width, int height, const char* format)
 {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(Qt::blue);
-    const QString file = QStringLiteral("made");
+    const QString file = QString("made");
     if (!image.save(file, format)) {
         qFatal("no picture");
     }
@@ -135,7 +135,7 @@ void TestPictures::whatIsNoPictureIsLogged()
     shop.write(name, bytes);
     const CapturedLog log;
     QVERIFY(Pictures::read(name).isNull());
-    QCOMPARE(log.criticals(), QStringList(QStringLiteral("Vendel.png is not shown: ") + reason));
+    QCOMPARE(log.criticals(), QStringList(QString("Vendel.png is not shown: ") + reason));
 }
 
 void TestPictures::aFifoIsNotWaitedFor()
@@ -144,8 +144,8 @@ void TestPictures::aFifoIsNotWaitedFor()
     QVERIFY(mkfifo("Vendel.png", 0600) == 0);
     const CapturedLog log;
     QVERIFY(Pictures::read(name).isNull());
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Vendel.png is not read: it is not a regular file")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Vendel.png is not read: it is not a regular file")));
 }
 
 void TestPictures::aHugeFileIsNotRead()
@@ -155,9 +155,9 @@ void TestPictures::aHugeFileIsNotRead()
     QVERIFY(QFile::resize(name, 1LL << 40));
     const CapturedLog log;
     QVERIFY(Pictures::read(name).isNull());
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Vendel.png is not read: it is larger than 4 MB")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Vendel.png is not read: it is larger than 4 MB")));
 }
 
-VENDEL_TEST_MAIN(TestPictures)
+VENDEL_TEST(TestPictures)
 #include "tst_Pictures.moc"

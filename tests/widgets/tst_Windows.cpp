@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "widgets/Windows.h"
 
 #include <QDialog>
@@ -44,8 +44,8 @@ void TestWindows::anOpenedWindowIsShownOnTopOfItsOpener()
 void TestWindows::argumentsReachTheWindow()
 {
     QWidget opener;
-    openWindow<Dialog>(&opener, QStringLiteral("05/01/2019"), QStringLiteral("05/02/2019"));
-    QCOMPARE(opener.findChild<QDialog*>()->windowTitle(), QStringLiteral("05/01/201905/02/2019"));
+    openWindow<Dialog>(&opener, QString("05/01/2019"), QString("05/02/2019"));
+    QCOMPARE(opener.findChild<QDialog*>()->windowTitle(), QString("05/01/201905/02/2019"));
 }
 
 void TestWindows::aClosedWindowIsDeleted()
@@ -66,5 +66,5 @@ void TestWindows::aWindowGoesWithItsOpener()
     QVERIFY(dialog.isNull());
 }
 
-VENDEL_TEST_MAIN(TestWindows)
+VENDEL_TEST(TestWindows)
 #include "tst_Windows.moc"

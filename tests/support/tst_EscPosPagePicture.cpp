@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/EscPosPagePicture.h"
+#include "tests/support/TestProgram.h"
 
 #include <QImage>
-#include <QtTest>
+#include <QTest>
 
 using namespace std::string_literals;
 
@@ -107,6 +108,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestEscPosPagePicture)
+VENDEL_TEST(TestEscPosPagePicture)
 
 #include "tst_EscPosPagePicture.moc"

@@ -6,7 +6,7 @@
 #include "tests/support/FailingText.h"
 #include "tests/support/LeakCheck.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QDialogButtonBox>
@@ -53,14 +53,14 @@ void TestFormVendelAbout::looksLikeTheAboutWindow()
     FormVendelAbout window;
     QCOMPARE(log.warnings(), QStringList());
     QCOMPARE(log.criticals(), QStringList());
-    QCOMPARE(window.objectName(), QStringLiteral("FormVendelAbout"));
-    QCOMPARE(window.windowTitle(), QStringLiteral("A propos de Système Vendel"));
+    QCOMPARE(window.objectName(), QString("FormVendelAbout"));
+    QCOMPARE(window.windowTitle(), QString("A propos de Système Vendel"));
     QCOMPARE(window.size(), QSize(435, 283));
     QCOMPARE(window.minimumSize(), QSize(435, 283));
     QCOMPARE(window.maximumSize(), QSize(435, 283));
     QCOMPARE(window.windowModality(), Qt::WindowModal);
-    QCOMPARE(child<QLabel>(window, "lbl_ProductName").text(), QStringLiteral("Système Vendel"));
-    QCOMPARE(child<QLabel>(window, "lbl_Version").text(), QStringLiteral("Version 1.0.0.0"));
+    QCOMPARE(child<QLabel>(window, "lbl_ProductName").text(), QString("Système Vendel"));
+    QCOMPARE(child<QLabel>(window, "lbl_Version").text(), QString("Version 1.0.0.0"));
     QVERIFY(child<QTextEdit>(window, "txt_Edit").isReadOnly());
     QCOMPARE(child<QDialogButtonBox>(window, "btn_buttonBox").standardButtons(),
         QDialogButtonBox::StandardButtons(QDialogButtonBox::Ok));
@@ -75,7 +75,7 @@ void TestFormVendelAbout::everyTextIsLookedUpInItsContext()
     const Shop shop;
     const ContextEcho translation;
     FormVendelAbout window;
-    const QString own = QStringLiteral("FormVendelAbout");
+    const QString own = QString("FormVendelAbout");
     QCOMPARE(window.windowTitle(), own);
     QCOMPARE(child<QLabel>(window, "lbl_ProductName").text(), own);
     QCOMPARE(child<QLabel>(window, "lbl_Version").text(), own);
@@ -88,7 +88,7 @@ void TestFormVendelAbout::thePictureStandsAtTheLeftEdge()
     const Shop shop;
     QPixmap picture(264, 512);
     picture.fill(Qt::blue);
-    QVERIFY(picture.save(QStringLiteral("AproposdeImage.png")));
+    QVERIFY(picture.save(QString("AproposdeImage.png")));
     FormVendelAbout window;
     const auto& label = child<QLabel>(window, "lbl_QPixmap");
     QCOMPARE(label.geometry(), QRect(3, 3, 132, 256));
@@ -121,14 +121,13 @@ void TestFormVendelAbout::aPictureThatMustNotBeReadLeavesTheLabelEmpty()
     FormVendelAbout window;
     window.show();
     QVERIFY(child<QLabel>(window, "lbl_QPixmap").pixmap(Qt::ReturnByValue).isNull());
-    QVERIFY(QFile::remove(QStringLiteral("AproposdeImage.png")));
-    QVERIFY(QImage(4097, 1, QImage::Format_Mono).save(QStringLiteral("AproposdeImage.png")));
+    QVERIFY(QFile::remove(QString("AproposdeImage.png")));
+    QVERIFY(QImage(4097, 1, QImage::Format_Mono).save(QString("AproposdeImage.png")));
     FormVendelAbout another;
     QVERIFY(child<QLabel>(another, "lbl_QPixmap").pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(log.criticals(),
-        (QStringList{QStringLiteral("AproposdeImage.png is not read: it is not a regular file"),
-            QStringLiteral(
-                "AproposdeImage.png is not shown: it has a side of more than 4096 pixels")}));
+        (QStringList{QString("AproposdeImage.png is not read: it is not a regular file"),
+            QString("AproposdeImage.png is not shown: it has a side of more than 4096 pixels")}));
 }
 
 void TestFormVendelAbout::theTextTellsNameVersionLicenceAndFolder()
@@ -136,20 +135,20 @@ void TestFormVendelAbout::theTextTellsNameVersionLicenceAndFolder()
     const Shop shop;
     FormVendelAbout window;
     QCOMPARE(child<QTextEdit>(window, "txt_Edit").toPlainText(),
-        QStringLiteral("Système Vendel\nVersion 1.0.0.0\nCaisse enregistreuse sous licence "
-                       "MIT\nLes données du magasin se trouvent dans le dossier\n")
+        QString("Système Vendel\nVersion 1.0.0.0\nCaisse enregistreuse sous licence "
+                "MIT\nLes données du magasin se trouvent dans le dossier\n")
             + shop.path());
 }
 
 void TestFormVendelAbout::aFolderLikeATagIsShownAsItStands()
 {
     const Shop shop;
-    QVERIFY(QDir().mkdir(QStringLiteral("<b>%1 caisse")));
-    QVERIFY(QDir::setCurrent(QStringLiteral("<b>%1 caisse")));
+    QVERIFY(QDir().mkdir(QString("<b>%1 caisse")));
+    QVERIFY(QDir::setCurrent(QString("<b>%1 caisse")));
     FormVendelAbout window;
     QVERIFY(child<QTextEdit>(window, "txt_Edit")
                 .toPlainText()
-                .endsWith(shop.path() + QStringLiteral("/<b>%1 caisse")));
+                .endsWith(shop.path() + QString("/<b>%1 caisse")));
 }
 
 void TestFormVendelAbout::nothingIsClipped()
@@ -232,14 +231,13 @@ void TestFormVendelAbout::failuresAreLogged()
         = connect(&window, &QDialog::rejected, [] { throw std::runtime_error("no closing"); });
     QTest::mouseClick(&okButton(window), Qt::LeftButton);
     QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendel on_btn_buttonBox_clicked : no closing")));
+        QStringList(QString("Errors FormVendel on_btn_buttonBox_clicked : no closing")));
     disconnect(once);
     const FailingText failure("Version 1.0.0.0");
     const FormVendelAbout another;
-    QCOMPARE(log.criticals().constLast(),
-        QStringLiteral("Errors FormVendelAbout Constructor : no text"));
+    QCOMPARE(log.criticals().constLast(), QString("Errors FormVendelAbout Constructor : no text"));
     QCOMPARE(log.criticals().size(), 2);
 }
 
-VENDEL_TEST_MAIN(TestFormVendelAbout)
+VENDEL_TEST(TestFormVendelAbout)
 #include "tst_FormVendelAbout.moc"

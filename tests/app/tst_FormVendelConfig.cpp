@@ -7,7 +7,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/ContextEcho.h"
 #include "tests/support/FailingText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -50,22 +50,22 @@ void TestFormVendelConfig::looksLikeTheSettings()
     FormVendelConfig window;
     QCOMPARE(log.warnings(), QStringList());
     QCOMPARE(log.criticals(), QStringList());
-    QCOMPARE(window.objectName(), QStringLiteral("FormVendelConfig"));
-    QCOMPARE(window.windowTitle(), QStringLiteral("Config"));
+    QCOMPARE(window.objectName(), QString("FormVendelConfig"));
+    QCOMPARE(window.windowTitle(), QString("Config"));
     QCOMPARE(window.size(), QSize(370, 261));
     QCOMPARE(window.minimumSize(), QSize(370, 261));
     QCOMPARE(window.maximumSize(), QSize(370, 261));
     QCOMPARE(window.windowModality(), Qt::WindowModal);
-    QCOMPARE(child<QLabel>(window, "lbl_TVA").text(), QStringLiteral("TVA"));
-    QCOMPARE(child<QLabel>(window, "lbl_Epson").text(), QStringLiteral("Epson TM-T20II"));
-    QCOMPARE(child<QLabel>(window, "lbl_Formulaire").text(),
-        QStringLiteral("Formulaire Impression Ticket"));
+    QCOMPARE(child<QLabel>(window, "lbl_TVA").text(), QString("TVA"));
+    QCOMPARE(child<QLabel>(window, "lbl_Epson").text(), QString("Epson TM-T20II"));
+    QCOMPARE(
+        child<QLabel>(window, "lbl_Formulaire").text(), QString("Formulaire Impression Ticket"));
     for (const char* name : labels) {
         QCOMPARE(child<QLabel>(window, name).font().pointSize(), 12);
     }
     for (const char* name : buttons) {
         const auto& button = child<QPushButton>(window, name);
-        QCOMPARE(button.text(), QStringLiteral("MAJ"));
+        QCOMPARE(button.text(), QString("MAJ"));
         QCOMPARE(button.font().pointSize(), 12);
         QVERIFY(!button.autoDefault());
         QVERIFY(!button.isDefault());
@@ -75,8 +75,8 @@ void TestFormVendelConfig::looksLikeTheSettings()
     QCOMPARE(printer.font().pointSize(), 12);
     QCOMPARE(printer.count(), 2);
     QVERIFY(!printer.isEditable());
-    QCOMPARE(printer.itemText(0), QStringLiteral("OFF"));
-    QCOMPARE(printer.itemText(1), QStringLiteral("ON"));
+    QCOMPARE(printer.itemText(0), QString("OFF"));
+    QCOMPARE(printer.itemText(1), QString("ON"));
 }
 
 void TestFormVendelConfig::everyTextIsLookedUpInItsContext()
@@ -85,7 +85,7 @@ void TestFormVendelConfig::everyTextIsLookedUpInItsContext()
     const ContextEcho translation;
     FormVendelConfig window;
     window.show();
-    const QString own = QStringLiteral("FormVendelConfig");
+    const QString own = QString("FormVendelConfig");
     QCOMPARE(window.windowTitle(), own);
     for (const char* name : labels) {
         QCOMPARE(child<QLabel>(window, name).text(), own);
@@ -96,8 +96,8 @@ void TestFormVendelConfig::everyTextIsLookedUpInItsContext()
     typeRate(window, "");
     const AnswerBox box;
     click(window, "btn_Maj_TVA");
-    QCOMPARE(box.title(), QStringLiteral("FormVendelConfigMessages"));
-    QCOMPARE(box.text(), QStringLiteral("FormVendelConfigMessages"));
+    QCOMPARE(box.title(), QString("FormVendelConfigMessages"));
+    QCOMPARE(box.text(), QString("FormVendelConfigMessages"));
 }
 
 void TestFormVendelConfig::fieldsStandBesideTheirLabels()
@@ -137,9 +137,8 @@ void TestFormVendelConfig::tabFollowsTheEye()
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     QCOMPARE(tabOrder(window),
-        QStringList(
-            {QStringLiteral("txt_TVA"), QStringLiteral("btn_Maj_TVA"), QStringLiteral("cbx_Epson"),
-                QStringLiteral("btn_Maj_Epson"), QStringLiteral("btn_Maj_Formulaire")}));
+        QStringList({QString("txt_TVA"), QString("btn_Maj_TVA"), QString("cbx_Epson"),
+            QString("btn_Maj_Epson"), QString("btn_Maj_Formulaire")}));
 }
 
 void TestFormVendelConfig::returnPressesNoButton()
@@ -151,10 +150,10 @@ void TestFormVendelConfig::returnPressesNoButton()
     typeRate(window, "20");
     QTest::keyClick(&child<QLineEdit>(window, "txt_TVA"), Qt::Key_Return);
     QVERIFY(window.isVisible());
-    QCOMPARE(storedRate(shop), QStringLiteral("0"));
+    QCOMPARE(storedRate(shop), QString("0"));
     QTest::keyClick(&window, Qt::Key_Escape);
     QVERIFY(!window.isVisible());
-    QCOMPARE(storedRate(shop), QStringLiteral("0"));
+    QCOMPARE(storedRate(shop), QString("0"));
 }
 
 void TestFormVendelConfig::theMenuOpensAndClosingDeletesIt()
@@ -175,11 +174,11 @@ void TestFormVendelConfig::theStoredRateIsShownWithTwoDecimals_data()
 {
     QTest::addColumn<QByteArray>("stored");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("whole") << QByteArray("20") << QStringLiteral("20.00");
-    QTest::newRow("fraction") << QByteArray("5.5") << QStringLiteral("5.50");
-    QTest::newRow("negative") << QByteArray("-1") << QStringLiteral("-1.00");
-    QTest::newRow("thousand") << QByteArray("1234.5") << QStringLiteral("1,234.50");
-    QTest::newRow("no number") << QByteArray("'vingt'") << QStringLiteral("0.00");
+    QTest::newRow("whole") << QByteArray("20") << QString("20.00");
+    QTest::newRow("fraction") << QByteArray("5.5") << QString("5.50");
+    QTest::newRow("negative") << QByteArray("-1") << QString("-1.00");
+    QTest::newRow("thousand") << QByteArray("1234.5") << QString("1,234.50");
+    QTest::newRow("no number") << QByteArray("'vingt'") << QString("0.00");
 }
 
 void TestFormVendelConfig::theStoredRateIsShownWithTwoDecimals()
@@ -195,13 +194,13 @@ void TestFormVendelConfig::theStoredSwitchIsShown_data()
 {
     QTest::addColumn<QByteArray>("stored");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("0") << QByteArray("0") << QStringLiteral("OFF");
-    QTest::newRow("1") << QByteArray("1") << QStringLiteral("ON");
-    QTest::newRow("2") << QByteArray("2") << QStringLiteral("OFF");
-    QTest::newRow("-1") << QByteArray("-1") << QStringLiteral("OFF");
-    QTest::newRow("fraction") << QByteArray("1.5") << QStringLiteral("OFF");
-    QTest::newRow("no number") << QByteArray("'oui'") << QStringLiteral("OFF");
-    QTest::newRow("too large") << QByteArray("99999999999") << QStringLiteral("OFF");
+    QTest::newRow("0") << QByteArray("0") << QString("OFF");
+    QTest::newRow("1") << QByteArray("1") << QString("ON");
+    QTest::newRow("2") << QByteArray("2") << QString("OFF");
+    QTest::newRow("-1") << QByteArray("-1") << QString("OFF");
+    QTest::newRow("fraction") << QByteArray("1.5") << QString("OFF");
+    QTest::newRow("no number") << QByteArray("'oui'") << QString("OFF");
+    QTest::newRow("too large") << QByteArray("99999999999") << QString("OFF");
 }
 
 void TestFormVendelConfig::theStoredSwitchIsShown()
@@ -212,7 +211,7 @@ void TestFormVendelConfig::theStoredSwitchIsShown()
     const CapturedLog log;
     FormVendelConfig window;
     QTEST(switchOf(window), "shown");
-    QCOMPARE(rateOf(window), QStringLiteral("0.00"));
+    QCOMPARE(rateOf(window), QString("0.00"));
     QCOMPARE(log.criticals(), QStringList());
 }
 
@@ -234,7 +233,7 @@ void TestFormVendelConfig::aMissingSettingIsLogged()
     QCOMPARE(log.criticals().size(), 1);
     QVERIFY(log.criticals().constFirst().startsWith(
         QLatin1String("Errors FormVendelConfig Constructor : ")));
-    QCOMPARE(switchOf(window), QStringLiteral("OFF"));
+    QCOMPARE(switchOf(window), QString("OFF"));
     QCOMPARE(rateOf(window), QString());
 }
 
@@ -244,11 +243,11 @@ void TestFormVendelConfig::settingsAreFoundWhateverTheirCase()
     shop.sql("update Config set param = lower(param), valeur = 1");
     FormVendelConfig window;
     window.show();
-    QCOMPARE(switchOf(window), QStringLiteral("ON"));
-    QCOMPARE(rateOf(window), QStringLiteral("1.00"));
+    QCOMPARE(switchOf(window), QString("ON"));
+    QCOMPARE(rateOf(window), QString("1.00"));
     typeRate(window, "7");
     click(window, "btn_Maj_TVA");
-    QCOMPARE(shop.cell("select valeur from Config where param = 'tva'"), QStringLiteral("7"));
+    QCOMPARE(shop.cell("select valeur from Config where param = 'tva'"), QString("7"));
 }
 
 void TestFormVendelConfig::majOpensTheReceiptsTexts()
@@ -273,9 +272,9 @@ void TestFormVendelConfig::aFailingConstructorIsLogged()
     const CapturedLog log;
     const FailingText failure("Config");
     const FormVendelConfig window;
-    QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendelConfig Constructor : no text")));
+    QCOMPARE(
+        log.criticals(), QStringList(QString("Errors FormVendelConfig Constructor : no text")));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelConfig)
+VENDEL_TEST(TestFormVendelConfig)
 #include "tst_FormVendelConfig.moc"

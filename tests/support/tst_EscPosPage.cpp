@@ -3,10 +3,11 @@
 #include "Print/escpospp/EscPos.h"
 #include "tests/support/EscPosPage.h"
 #include "tests/support/EscPosPagePicture.h"
+#include "tests/support/TestProgram.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <array>
 
@@ -366,6 +367,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestEscPosPage)
+VENDEL_TEST(TestEscPosPage)
 
 #include "tst_EscPosPage.moc"

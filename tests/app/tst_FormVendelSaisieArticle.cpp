@@ -6,7 +6,7 @@
 #include "tests/support/ContextEcho.h"
 #include "tests/support/FailingText.h"
 #include "tests/support/Shop.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QAction>
@@ -18,9 +18,9 @@
 #include <QTableView>
 
 namespace {
-const QStringList buttons{QStringLiteral("btn_Effacer_Saisie"), QStringLiteral("btn_Afficher"),
-    QStringLiteral("btn_Ajouter"), QStringLiteral("btn_Supprimer"), QStringLiteral("btn_Renommer"),
-    QStringLiteral("btn_Rechercher")};
+const QStringList buttons{QString("btn_Effacer_Saisie"), QString("btn_Afficher"),
+    QString("btn_Ajouter"), QString("btn_Supprimer"), QString("btn_Renommer"),
+    QString("btn_Rechercher")};
 
 QString textOf(QWidget& window, const char* label)
 {
@@ -60,7 +60,7 @@ void TestFormVendelSaisieArticle::looksLikeTheArticleEditor()
     FormVendelSaisieArticle window;
     QCOMPARE(log.warnings(), QStringList());
     QCOMPARE(log.criticals(), QStringList());
-    QCOMPARE(window.objectName(), QStringLiteral("FormVendelSaisieArticle"));
+    QCOMPARE(window.objectName(), QString("FormVendelSaisieArticle"));
     QCOMPARE(window.size(), QSize(641, 626));
     QCOMPARE(window.minimumSize(), QSize(641, 626));
     QCOMPARE(window.maximumSize(), QSize(641, 626));
@@ -81,7 +81,7 @@ void TestFormVendelSaisieArticle::looksLikeTheArticleEditor()
         const bool isPlain = name == QLatin1String("btn_Effacer_Saisie")
             || name == QLatin1String("btn_Rechercher");
         QCOMPARE(button.styleSheet(),
-            isPlain ? QString() : QStringLiteral("background-color: rgb(114, 159, 207)"));
+            isPlain ? QString() : QString("background-color: rgb(114, 159, 207)"));
     }
 }
 
@@ -92,7 +92,7 @@ void TestFormVendelSaisieArticle::theListIsSetUp()
     const auto& list = child<QTableView>(window, "tableView");
     QCOMPARE(list.font().pointSize(), 18);
     QCOMPARE(list.styleSheet(),
-        QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
+        QString("alternate-background-color: LightBlue;background-color: White"));
     QVERIFY(list.alternatingRowColors());
     QCOMPARE(list.editTriggers(), QAbstractItemView::NoEditTriggers);
     QCOMPARE(list.selectionMode(), QAbstractItemView::ExtendedSelection);
@@ -107,9 +107,8 @@ void TestFormVendelSaisieArticle::theListIsSetUp()
     for (int column = 0; column < 4; ++column) {
         labels << model->headerData(column, Qt::Horizontal).toString();
     }
-    QCOMPARE(labels,
-        QStringList({QStringLiteral("#"), QStringLiteral("X"), QStringLiteral("Article"),
-            QStringLiteral("Prix")}));
+    QCOMPARE(
+        labels, QStringList({QString("#"), QString("X"), QString("Article"), QString("Prix")}));
     QVERIFY(list.isColumnHidden(0));
     QCOMPARE(list.columnWidth(1), 25);
     QCOMPARE(list.columnWidth(2), 210);
@@ -120,16 +119,16 @@ void TestFormVendelSaisieArticle::captionsAreFrench()
 {
     const Shop shop;
     FormVendelSaisieArticle window;
-    QCOMPARE(window.windowTitle(), QStringLiteral("Saisie Article"));
-    QCOMPARE(textOf(window, "lbl_Menu"), QStringLiteral("Menu"));
-    QCOMPARE(textOf(window, "lbl_Article"), QStringLiteral("Article"));
-    QCOMPARE(textOf(window, "lbl_Montant"), QStringLiteral("Montant"));
-    QCOMPARE(captionOf(window, "btn_Effacer_Saisie"), QStringLiteral("Effacer Saisie"));
-    QCOMPARE(captionOf(window, "btn_Afficher"), QStringLiteral("Afficher"));
-    QCOMPARE(captionOf(window, "btn_Ajouter"), QStringLiteral("Ajouter"));
-    QCOMPARE(captionOf(window, "btn_Supprimer"), QStringLiteral("Supprimer"));
-    QCOMPARE(captionOf(window, "btn_Renommer"), QStringLiteral("Renommer"));
-    QCOMPARE(captionOf(window, "btn_Rechercher"), QStringLiteral("Rechercher"));
+    QCOMPARE(window.windowTitle(), QString("Saisie Article"));
+    QCOMPARE(textOf(window, "lbl_Menu"), QString("Menu"));
+    QCOMPARE(textOf(window, "lbl_Article"), QString("Article"));
+    QCOMPARE(textOf(window, "lbl_Montant"), QString("Montant"));
+    QCOMPARE(captionOf(window, "btn_Effacer_Saisie"), QString("Effacer Saisie"));
+    QCOMPARE(captionOf(window, "btn_Afficher"), QString("Afficher"));
+    QCOMPARE(captionOf(window, "btn_Ajouter"), QString("Ajouter"));
+    QCOMPARE(captionOf(window, "btn_Supprimer"), QString("Supprimer"));
+    QCOMPARE(captionOf(window, "btn_Renommer"), QString("Renommer"));
+    QCOMPARE(captionOf(window, "btn_Rechercher"), QString("Rechercher"));
 }
 
 void TestFormVendelSaisieArticle::everyTextIsLookedUpInItsContext()
@@ -138,7 +137,7 @@ void TestFormVendelSaisieArticle::everyTextIsLookedUpInItsContext()
     const ContextEcho translation;
     FormVendelSaisieArticle window;
     window.show();
-    const QString own = QStringLiteral("FormVendelSaisieArticle");
+    const QString own = QString("FormVendelSaisieArticle");
     QCOMPARE(window.windowTitle(), own);
     for (const char* label : {"lbl_Menu", "lbl_Article", "lbl_Montant"}) {
         QCOMPARE(textOf(window, label), own);
@@ -147,11 +146,11 @@ void TestFormVendelSaisieArticle::everyTextIsLookedUpInItsContext()
         QCOMPARE(captionOf(window, name.toLatin1().constData()), own);
     }
     const auto* model = child<QTableView>(window, "tableView").model();
-    QCOMPARE(model->headerData(2, Qt::Horizontal).toString(), QStringLiteral("FormVendelMessages"));
+    QCOMPARE(model->headerData(2, Qt::Horizontal).toString(), QString("FormVendelMessages"));
     const AnswerBox box;
     click(window, "btn_Afficher");
-    QCOMPARE(box.text(), QStringLiteral("FormVendelSaisieArticleMessages"));
-    QCOMPARE(box.title(), QStringLiteral("FormVendelSaisieArticleMessages"));
+    QCOMPARE(box.text(), QString("FormVendelSaisieArticleMessages"));
+    QCOMPARE(box.title(), QString("FormVendelSaisieArticleMessages"));
 }
 
 void TestFormVendelSaisieArticle::fieldsStandBesideTheirLabels()
@@ -174,9 +173,9 @@ void TestFormVendelSaisieArticle::fieldsStandBesideTheirLabels()
         QCOMPARE(button.right(), article.right());
     }
     QCOMPARE(child<QLabel>(window, "lbl_Menu").buddy(),
-        window.findChild<QWidget*>(QStringLiteral("tableView")));
-    QCOMPARE(articleLabel.buddy(), window.findChild<QWidget*>(QStringLiteral("txt_Article")));
-    QCOMPARE(amountLabel.buddy(), window.findChild<QWidget*>(QStringLiteral("txt_Montant")));
+        window.findChild<QWidget*>(QString("tableView")));
+    QCOMPARE(articleLabel.buddy(), window.findChild<QWidget*>(QString("txt_Article")));
+    QCOMPARE(amountLabel.buddy(), window.findChild<QWidget*>(QString("txt_Montant")));
 }
 
 void TestFormVendelSaisieArticle::nothingIsClipped()
@@ -197,8 +196,8 @@ void TestFormVendelSaisieArticle::tabFollowsTheEye()
     click(window, "btn_Afficher");
     child<QLineEdit>(window, "txt_Article").setFocus();
     QCOMPARE(tabOrder(window),
-        QStringList({QStringLiteral("txt_Article"), QStringLiteral("txt_Montant")}) + buttons
-            + QStringList(QStringLiteral("tableView")));
+        QStringList({QString("txt_Article"), QString("txt_Montant")}) + buttons
+            + QStringList(QString("tableView")));
 }
 
 void TestFormVendelSaisieArticle::returnPressesNoButton()
@@ -207,16 +206,16 @@ void TestFormVendelSaisieArticle::returnPressesNoButton()
     FormVendelSaisieArticle window;
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    QCOMPARE(window.focusWidget()->objectName(), QStringLiteral("txt_Article"));
+    QCOMPARE(window.focusWidget()->objectName(), QString("txt_Article"));
     const AnswerBox box;
-    QTest::keyClicks(window.focusWidget(), QStringLiteral("The"));
+    QTest::keyClicks(window.focusWidget(), QString("The"));
     QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
-    QTest::keyClicks(window.focusWidget(), QStringLiteral("2"));
+    QTest::keyClicks(window.focusWidget(), QString("2"));
     QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     QVERIFY(!box.wasShown());
     QVERIFY(window.isVisible());
-    QCOMPARE(shop.cell("select count(*) from Article"), QStringLiteral("0"));
+    QCOMPARE(shop.cell("select count(*) from Article"), QString("0"));
 }
 
 void TestFormVendelSaisieArticle::escapeClosesTheWindow()
@@ -258,8 +257,8 @@ void TestFormVendelSaisieArticle::aFailingConstructorIsLogged()
     const FailingText failure("Saisie Article");
     const FormVendelSaisieArticle window;
     QCOMPARE(log.criticals(),
-        QStringList(QStringLiteral("Errors FormVendelSaisieArticle Constructor : no text")));
+        QStringList(QString("Errors FormVendelSaisieArticle Constructor : no text")));
 }
 
-VENDEL_TEST_MAIN(TestFormVendelSaisieArticle)
+VENDEL_TEST(TestFormVendelSaisieArticle)
 #include "tst_FormVendelSaisieArticle.moc"

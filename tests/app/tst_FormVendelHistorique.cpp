@@ -5,7 +5,7 @@
 #include "tests/forms/OpenHistory.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 
 #include <QAction>
@@ -23,8 +23,8 @@
 #include <vector>
 
 namespace {
-const auto afterTheTip = QStringLiteral("\nPour sélectionner la date dans première date ou seconde "
-                                        "date\nClick Options Pre date ou Sec date");
+const auto afterTheTip = QString("\nPour sélectionner la date dans première date ou seconde "
+                                 "date\nClick Options Pre date ou Sec date");
 
 QWidget* shownTip()
 {
@@ -92,27 +92,27 @@ void TestFormVendelHistorique::captionsAreTheCatalogues()
 {
     OpenHistory history;
     auto& window = history.window;
-    QCOMPARE(window.objectName(), QStringLiteral("FormVendelHistorique"));
-    QCOMPARE(window.windowTitle(), QStringLiteral("Vendel Historique"));
+    QCOMPARE(window.objectName(), QString("FormVendelHistorique"));
+    QCOMPARE(window.windowTitle(), QString("Vendel Historique"));
     QCOMPARE(window.windowModality(), Qt::WindowModal);
     const auto button = [&](const char* name) { return child<QPushButton>(window, name).text(); };
-    QCOMPARE(button("btn_View_Historical"), QStringLiteral("Afficher Historique"));
-    QCOMPARE(button("btn_Show_Date"), QStringLiteral("Afficher Date"));
-    QCOMPARE(button("btn_Total"), QStringLiteral("Total"));
-    QCOMPARE(button("btn_Clear"), QStringLiteral("Purge"));
-    QCOMPARE(button("btn_Del_Seizure"), QStringLiteral("Effacer Saisie"));
-    QCOMPARE(child<QLabel>(window, "lbl_First_Date").text(), QStringLiteral("Première Date"));
-    QCOMPARE(child<QLabel>(window, "lbl_Second_Date").text(), QStringLiteral("Seconde Date"));
-    QCOMPARE(child<QGroupBox>(window, "groupBox").title(), QStringLiteral("Options"));
-    QCOMPARE(child<QRadioButton>(window, "rb_First_Date").text(), QStringLiteral("Pre Date"));
-    QCOMPARE(child<QRadioButton>(window, "rb_Second_Date").text(), QStringLiteral("Sec Date"));
+    QCOMPARE(button("btn_View_Historical"), QString("Afficher Historique"));
+    QCOMPARE(button("btn_Show_Date"), QString("Afficher Date"));
+    QCOMPARE(button("btn_Total"), QString("Total"));
+    QCOMPARE(button("btn_Clear"), QString("Purge"));
+    QCOMPARE(button("btn_Del_Seizure"), QString("Effacer Saisie"));
+    QCOMPARE(child<QLabel>(window, "lbl_First_Date").text(), QString("Première Date"));
+    QCOMPARE(child<QLabel>(window, "lbl_Second_Date").text(), QString("Seconde Date"));
+    QCOMPARE(child<QGroupBox>(window, "groupBox").title(), QString("Options"));
+    QCOMPARE(child<QRadioButton>(window, "rb_First_Date").text(), QString("Pre Date"));
+    QCOMPARE(child<QRadioButton>(window, "rb_Second_Date").text(), QString("Sec Date"));
     QVERIFY(child<QRadioButton>(window, "rb_First_Date").isChecked());
-    auto* menu = window.findChild<QMenu*>(QStringLiteral("menuStock"));
+    auto* menu = window.findChild<QMenu*>(QString("menuStock"));
     QVERIFY(menu != nullptr);
-    QCOMPARE(menu->title(), QStringLiteral("Stock"));
+    QCOMPARE(menu->title(), QString("Stock"));
     QCOMPARE(menu->actions().size(), 2);
-    QCOMPARE(menu->actions().at(0)->text(), QStringLiteral("Saisie Stock"));
-    QCOMPARE(menu->actions().at(1)->text(), QStringLiteral("Calcul Stock"));
+    QCOMPARE(menu->actions().at(0)->text(), QString("Saisie Stock"));
+    QCOMPARE(menu->actions().at(1)->text(), QString("Calcul Stock"));
 }
 
 void TestFormVendelHistorique::listsAreLaidOutAndEmpty()
@@ -141,7 +141,7 @@ void TestFormVendelHistorique::listsAreLaidOutAndEmpty()
         }
         QCOMPARE(view.horizontalHeader()->defaultAlignment(), Qt::Alignment(Qt::AlignLeft));
         QCOMPARE(view.styleSheet(),
-            QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
+            QString("alternate-background-color: LightBlue;background-color: White"));
         QVERIFY(qobject_cast<QStandardItemModel*>(view.model()) != nullptr);
     }
 }
@@ -161,11 +161,11 @@ void TestFormVendelHistorique::fitsASmallScreen()
     const auto fits = [&](const QString& text, int column) {
         return sales.fontMetrics().horizontalAdvance(text) + margins < sales.columnWidth(column);
     };
-    QVERIFY(fits(QStringLiteral("1,234,567.89$"), 1));
-    QVERIFY(fits(QStringLiteral("05/01/2019 10:20:30.123"), 2));
+    QVERIFY(fits(QString("1,234,567.89$"), 1));
+    QVERIFY(fits(QString("05/01/2019 10:20:30.123"), 2));
     QVERIFY(!sales.wordWrap());
     auto& field = child<QLineEdit>(history.window, "txt_First_Date");
-    QVERIFY(field.fontMetrics().horizontalAdvance(QStringLiteral("05/01/2019 10:20:30.123"))
+    QVERIFY(field.fontMetrics().horizontalAdvance(QString("05/01/2019 10:20:30.123"))
         < field.width() - 10);
 }
 
@@ -211,23 +211,22 @@ void TestFormVendelHistorique::theMainMenuOpensIt()
 void TestFormVendelHistorique::aTranslationOfTheCatalogueChangesIt()
 {
     Translation english;
-    const auto catalogue = QStringLiteral("FormVendelMessages");
-    english.add(catalogue, QStringLiteral("Vendel Historique"), QStringLiteral("History"));
-    english.add(catalogue, QStringLiteral("Prix"), QStringLiteral("Price"));
-    english.add(catalogue, QStringLiteral("Valide date"), QStringLiteral("Check the date"));
-    english.add(
-        QStringLiteral("FormVendelHistorique"), QStringLiteral("Purge"), QStringLiteral("Delete"));
+    const auto catalogue = QString("FormVendelMessages");
+    english.add(catalogue, QString("Vendel Historique"), QString("History"));
+    english.add(catalogue, QString("Prix"), QString("Price"));
+    english.add(catalogue, QString("Valide date"), QString("Check the date"));
+    english.add(QString("FormVendelHistorique"), QString("Purge"), QString("Delete"));
     OpenHistory history;
-    QCOMPARE(history.window.windowTitle(), QStringLiteral("History"));
+    QCOMPARE(history.window.windowTitle(), QString("History"));
     QCOMPARE(child<QTableView>(history.window, "tableView1")
                  .model()
                  ->headerData(1, Qt::Horizontal)
                  .toString(),
-        QStringLiteral("Price"));
+        QString("Price"));
     const AnswerBox box;
     click(history.window, "btn_Total");
-    QCOMPARE(box.title(), QStringLiteral("Check the date"));
-    QCOMPARE(child<QPushButton>(history.window, "btn_Clear").text(), QStringLiteral("Delete"));
+    QCOMPARE(box.title(), QString("Check the date"));
+    QCOMPARE(child<QPushButton>(history.window, "btn_Clear").text(), QString("Delete"));
 }
 
 void TestFormVendelHistorique::aDayGoesIntoTheChosenField()
@@ -237,12 +236,12 @@ void TestFormVendelHistorique::aDayGoesIntoTheChosenField()
     history.sell("Thé", "2", "2019-05-02 10:00:00.000");
     click(history.window, "btn_Show_Date");
     clickCell(history.window, "tableView2", 0, 0);
-    QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
+    QCOMPARE(history.first(), QString("05/01/2019"));
     QCOMPARE(history.second(), QString());
     click(history.window, "rb_Second_Date");
     clickCell(history.window, "tableView2", 1, 0);
-    QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
-    QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+    QCOMPARE(history.first(), QString("05/01/2019"));
+    QCOMPARE(history.second(), QString("05/02/2019"));
 }
 
 void TestFormVendelHistorique::aSaleGoesIntoTheChosenField()
@@ -253,11 +252,11 @@ void TestFormVendelHistorique::aSaleGoesIntoTheChosenField()
     history.type("05/01/2019", "05/02/2019");
     click(history.window, "btn_View_Historical");
     clickCell(history.window, "tableView1", 0, 0);
-    QCOMPARE(history.first(), QStringLiteral("05/01/2019 10:00:00.250"));
-    QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+    QCOMPARE(history.first(), QString("05/01/2019 10:00:00.250"));
+    QCOMPARE(history.second(), QString("05/02/2019"));
     click(history.window, "rb_Second_Date");
     clickCell(history.window, "tableView1", 1, 2);
-    QCOMPARE(history.second(), QStringLiteral("05/01/2019 11:00:00.500"));
+    QCOMPARE(history.second(), QString("05/01/2019 11:00:00.500"));
 }
 
 void TestFormVendelHistorique::aClickOnNoRowLeavesTheFields()
@@ -267,8 +266,8 @@ void TestFormVendelHistorique::aClickOnNoRowLeavesTheFields()
     for (const char* slot : {"on_tableView1_clicked", "on_tableView2_clicked"}) {
         QVERIFY(QMetaObject::invokeMethod(
             &history.window, slot, Qt::DirectConnection, Q_ARG(QModelIndex, QModelIndex())));
-        QCOMPARE(history.first(), QStringLiteral("05/01/2019"));
-        QCOMPARE(history.second(), QStringLiteral("05/02/2019"));
+        QCOMPARE(history.first(), QString("05/01/2019"));
+        QCOMPARE(history.second(), QString("05/02/2019"));
     }
 }
 
@@ -307,9 +306,9 @@ void TestFormVendelHistorique::calculStockOpensWithTheDatesAsTyped()
         = history.window.findChild<FormVendelStockCalculation*>();
     QVERIFY(calculation != nullptr);
     QVERIFY(calculation->isVisible());
-    QCOMPARE(child<QLabel>(*calculation, "lbl_Period_Date1").text(), QStringLiteral("05/01/2019"));
-    QCOMPARE(child<QLabel>(*calculation, "lbl_To_Date2").text(),
-        QStringLiteral("05/01/2019 10:00:00.250"));
+    QCOMPARE(child<QLabel>(*calculation, "lbl_Period_Date1").text(), QString("05/01/2019"));
+    QCOMPARE(
+        child<QLabel>(*calculation, "lbl_To_Date2").text(), QString("05/01/2019 10:00:00.250"));
     calculation->close();
     QTRY_VERIFY(calculation.isNull());
     QCOMPARE(rowCount(history.window, "tableView1"), 0);
@@ -324,7 +323,7 @@ void TestFormVendelHistorique::aSaleHasItsTip()
     for (int column = 0; column < 3; ++column) {
         hoverCell(history.window, "tableView1", 0, column);
         QCOMPARE(QToolTip::text(),
-            QStringLiteral("Date Heure\nClick sur : 05/01/2019 10:00:00.250") + afterTheTip);
+            QString("Date Heure\nClick sur : 05/01/2019 10:00:00.250") + afterTheTip);
     }
     const QPoint mouse = cellCentre(history.window, "tableView1", 0, 0);
     moveMouse(history.window, "tableView1", mouse);
@@ -333,7 +332,7 @@ void TestFormVendelHistorique::aSaleHasItsTip()
     QCOMPARE(shownTip()->pos(), mouse + QPoint(0, 80) + QPoint(2, 16));
     for (int column = 0; column < 3; ++column) {
         hoverCell(history.window, "tableView1", 1, column);
-        QVERIFY(!QToolTip::text().contains(QStringLiteral("<-")));
+        QVERIFY(!QToolTip::text().contains(QString("<-")));
     }
     QTRY_VERIFY(shownTip() == nullptr);
 }
@@ -345,7 +344,7 @@ void TestFormVendelHistorique::aDayHasItsTip()
     click(history.window, "btn_Show_Date");
     const QPoint mouse = cellCentre(history.window, "tableView2", 0, 0);
     moveMouse(history.window, "tableView2", mouse);
-    QCOMPARE(QToolTip::text(), QStringLiteral("Date\nClick sur : 05/01/2019") + afterTheTip);
+    QCOMPARE(QToolTip::text(), QString("Date\nClick sur : 05/01/2019") + afterTheTip);
     QWidget* tip = shownTip();
     QVERIFY(tip != nullptr);
     // The offscreen screen ends before the tip does, which is why Qt shows it left of the point.
@@ -379,5 +378,5 @@ void TestFormVendelHistorique::emptyPlacesHaveNoTip()
     QTRY_VERIFY(shownTip() == nullptr);
 }
 
-VENDEL_TEST_MAIN(TestFormVendelHistorique)
+VENDEL_TEST(TestFormVendelHistorique)
 #include "tst_FormVendelHistorique.moc"
