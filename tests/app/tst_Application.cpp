@@ -18,34 +18,6 @@
 
 #include <sys/stat.h>
 
-class TestApplication : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void cleanup();
-
-    void textIsLaidOutAt96DotsPerInch();
-    void theTillHasANarrowTypeface();
-    void withoutATranslationTheTextsAreFrench();
-    void qtsOwnTextsAreFrench();
-    void theTranslationOfTheWorkingDirectoryIsShown();
-    void theTranslationIsFoundUnderEachOfItsNames_data();
-    void theTranslationIsFoundUnderEachOfItsNames();
-    void noOtherNameIsTried_data();
-    void noOtherNameIsTried();
-    void theFirstFileOfTheNamesDecides();
-    void aFileThatMustNotBeReadCountsAsMissing();
-    void aTranslationThatNamesAnotherFileIsRefused_data();
-    void aTranslationThatNamesAnotherFileIsRefused();
-    void theTranslationOutlivesItsFile();
-    void theTillIsFrenchAgainWithoutItsTranslation();
-    void theTranslationMayReplaceQtsTexts();
-    void pluralsOfTheTranslationFollowTheCount();
-    void aBrokenTranslationIsNoError();
-    void anotherFolderIsNotAsked();
-};
-
 namespace {
 const QString translationName = QString("FormVendelTr_Us");
 
@@ -74,204 +46,211 @@ QString yesCaption()
 }
 } // namespace
 
-void TestApplication::cleanup()
+class TestApplication : public QObject
 {
-    qDeleteAll(qApp->findChildren<QTranslator*>());
-}
+    Q_OBJECT
 
-void TestApplication::textIsLaidOutAt96DotsPerInch()
-{
-    QVERIFY(QCoreApplication::testAttribute(Qt::AA_Use96Dpi));
-    QCOMPARE(QWidget().logicalDpiX(), 96);
-}
-
-void TestApplication::theTillHasANarrowTypeface()
-{
-    setUp();
-    QCOMPARE(QApplication::font().families().constFirst(), QString("Carlito"));
-    QCOMPARE(QFontInfo(QApplication::font()).family(), QString("Carlito"));
-}
-
-void TestApplication::withoutATranslationTheTextsAreFrench()
-{
-    const Shop shop;
-    const CapturedLog log;
-    setUp();
-    FormVendel form;
-    QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QString("Payer"));
-    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
-    QCOMPARE(log.warnings(), QStringList());
-    QCOMPARE(log.criticals(), QStringList());
-}
-
-void TestApplication::qtsOwnTextsAreFrench()
-{
-    const Shop shop;
-    setUp();
-    QCOMPARE(yesCaption(), QString("&Oui"));
-}
-
-void TestApplication::theTranslationOfTheWorkingDirectoryIsShown()
-{
-    const Shop shop;
-    installTranslationFile(translationName);
-    setUp();
-    FormVendel form;
-    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
-    // The window's own context comes first, the catalogue's serves the rest.
-    QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QString("Pay now"));
-    QCOMPARE(child<QPushButton>(form, "btn_11").text(), QString("."));
-    QCOMPARE(child<QPushButton>(form, "btn_Afficher").text(), QString("Afficher"));
-    FormVendelStart splash(&form);
-    QCOMPARE(child<QLabel>(splash, "lbl_Titre").text(), QString("Vendel System"));
-}
-
-void TestApplication::theTranslationIsFoundUnderEachOfItsNames_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char* name :
-        {"FormVendelTr_Us.qm", "FormVendelTr_Us", "FormVendelTr.qm", "FormVendelTr"}) {
-        QTest::newRow(name) << QString::fromLatin1(name);
+private slots:
+    void cleanup()
+    {
+        qDeleteAll(qApp->findChildren<QTranslator*>());
     }
-}
 
-void TestApplication::theTranslationIsFoundUnderEachOfItsNames()
-{
-    QFETCH(QString, name);
-    const Shop shop;
-    const CapturedLog log;
-    installTranslationFile(name);
-    setUp();
-    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
-    QCOMPARE(log.criticals(), QStringList());
-}
-
-void TestApplication::noOtherNameIsTried_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char* name : {"FormVendel.qm", "FormVendel", "FormVendelTr_", "FormVendelTr_Us.ts",
-             "FormVendelTr_Us.qm.qm", "formvendeltr_us.qm"}) {
-        QTest::newRow(name) << QString::fromLatin1(name);
+    void textIsLaidOutAt96DotsPerInch()
+    {
+        QVERIFY(QCoreApplication::testAttribute(Qt::AA_Use96Dpi));
+        QCOMPARE(QWidget().logicalDpiX(), 96);
     }
-}
 
-void TestApplication::noOtherNameIsTried()
-{
-    QFETCH(QString, name);
-    const Shop shop;
-    installTranslationFile(name);
-    setUp();
-    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
-}
+    void theTillHasANarrowTypeface()
+    {
+        setUp();
+        QCOMPARE(QApplication::font().families().constFirst(), QString("Carlito"));
+        QCOMPARE(QFontInfo(QApplication::font()).family(), QString("Carlito"));
+    }
 
-void TestApplication::theFirstFileOfTheNamesDecides()
-{
-    const Shop shop;
-    shop.write(QString("FormVendelTr_Us.qm"), "not a translation");
-    installTranslationFile(translationName);
-    setUp();
-    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
-    QVERIFY(QFile::rename(QString("FormVendelTr_Us.qm"), QString("FormVendelTr.qm")));
-    setUp();
-    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
-}
+    void withoutATranslationTheTextsAreFrench()
+    {
+        const Shop shop;
+        const CapturedLog log;
+        setUp();
+        FormVendel form;
+        QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QString("Payer"));
+        QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
+        QCOMPARE(log.warnings(), QStringList());
+        QCOMPARE(log.criticals(), QStringList());
+    }
 
-void TestApplication::aFileThatMustNotBeReadCountsAsMissing()
-{
-    const Shop shop;
-    const CapturedLog log;
-    QVERIFY(mkfifo("FormVendelTr_Us.qm", 0600) == 0);
-    installTranslationFile(translationName);
-    QVERIFY(QFile::resize(translationName, 4'194'305));
-    installTranslationFile(QString("FormVendelTr"));
-    setUp();
-    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
-    QCOMPARE(log.criticals(),
-        (QStringList{QString("FormVendelTr_Us.qm is not read: it is not a regular file"),
-            QString("FormVendelTr_Us is not read: it is larger than 4 MB")}));
-}
+    void qtsOwnTextsAreFrench()
+    {
+        const Shop shop;
+        setUp();
+        QCOMPARE(yesCaption(), QString("&Oui"));
+    }
 
-void TestApplication::aTranslationThatNamesAnotherFileIsRefused_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    const Shop shop;
-    const QByteArray recursive = shop.read(QString(RECURSIVE_TRANSLATION_FILE));
-    const auto magic = recursive.left(16);
-    const QByteArray section(
-        "\x96\0\0\0\x22\0\0\0\x1e\0F\0o\0r\0m\0V\0e\0n\0d\0e\0l\0T\0r\0_\0U\0s", 39);
-    QTest::newRow("as the compiler writes it") << recursive;
-    QTest::newRow("alone") << magic + section;
-    QTest::newRow("behind another section") << magic + QByteArray("\x42\0\0\0\x01x", 6) + section;
-    QTest::newRow("behind an empty section") << magic + QByteArray("\x42\0\0\0\0", 5) + section;
-}
+    void theTranslationOfTheWorkingDirectoryIsShown()
+    {
+        const Shop shop;
+        installTranslationFile(translationName);
+        setUp();
+        FormVendel form;
+        QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
+        // The window's own context comes first, the catalogue's serves the rest.
+        QCOMPARE(child<QPushButton>(form, "btn_Payer").text(), QString("Pay now"));
+        QCOMPARE(child<QPushButton>(form, "btn_11").text(), QString("."));
+        QCOMPARE(child<QPushButton>(form, "btn_Afficher").text(), QString("Afficher"));
+        FormVendelStart splash(&form);
+        QCOMPARE(child<QLabel>(splash, "lbl_Titre").text(), QString("Vendel System"));
+    }
 
-void TestApplication::aTranslationThatNamesAnotherFileIsRefused()
-{
-    QFETCH(QByteArray, bytes);
-    const Shop shop;
-    const CapturedLog log;
-    shop.write(translationName, bytes);
-    setUp();
-    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
-    QCOMPARE(log.criticals(),
-        QStringList(QString("FormVendelTr_Us is not shown: it names another file to load")));
-}
+    void theTranslationIsFoundUnderEachOfItsNames_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name :
+            {"FormVendelTr_Us.qm", "FormVendelTr_Us", "FormVendelTr.qm", "FormVendelTr"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
 
-void TestApplication::theTranslationOutlivesItsFile()
-{
-    const Shop shop;
-    installTranslationFile(translationName);
-    setUp();
-    shop.write(translationName, "not a translation");
-    QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
-}
+    void theTranslationIsFoundUnderEachOfItsNames()
+    {
+        QFETCH(QString, name);
+        const Shop shop;
+        const CapturedLog log;
+        installTranslationFile(name);
+        setUp();
+        QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
+        QCOMPARE(log.criticals(), QStringList());
+    }
 
-void TestApplication::theTillIsFrenchAgainWithoutItsTranslation()
-{
-    const Shop shop;
-    installTranslationFile(translationName);
-    setUp();
-    cleanup();
-    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
-}
+    void noOtherNameIsTried_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"FormVendel.qm", "FormVendel", "FormVendelTr_",
+                 "FormVendelTr_Us.ts", "FormVendelTr_Us.qm.qm", "formvendeltr_us.qm"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
 
-void TestApplication::theTranslationMayReplaceQtsTexts()
-{
-    const Shop shop;
-    installTranslationFile(translationName);
-    setUp();
-    QCOMPARE(yesCaption(), QString("&Sure"));
-}
+    void noOtherNameIsTried()
+    {
+        QFETCH(QString, name);
+        const Shop shop;
+        installTranslationFile(name);
+        setUp();
+        QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
+    }
 
-void TestApplication::pluralsOfTheTranslationFollowTheCount()
-{
-    const Shop shop;
-    installTranslationFile(translationName);
-    setUp();
-    const std::string& source = Messages::Messages23[0];
-    QCOMPARE(catalogueText(source.c_str(), 1), QString("Delete 1 double marked X..."));
-    QCOMPARE(catalogueText(source.c_str(), 3), QString("Delete 3 doubles marked X..."));
-}
+    void theFirstFileOfTheNamesDecides()
+    {
+        const Shop shop;
+        shop.write(QString("FormVendelTr_Us.qm"), "not a translation");
+        installTranslationFile(translationName);
+        setUp();
+        QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
+        QVERIFY(QFile::rename(QString("FormVendelTr_Us.qm"), QString("FormVendelTr.qm")));
+        setUp();
+        QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
+    }
 
-void TestApplication::aBrokenTranslationIsNoError()
-{
-    const Shop shop;
-    const CapturedLog log;
-    shop.write(translationName, QByteArray("not a translation\n").repeated(50));
-    setUp();
-    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
-    QCOMPARE(log.warnings(), QStringList());
-    QCOMPARE(log.criticals(), QStringList());
-}
+    void aFileThatMustNotBeReadCountsAsMissing()
+    {
+        const Shop shop;
+        const CapturedLog log;
+        QVERIFY(mkfifo("FormVendelTr_Us.qm", 0600) == 0);
+        installTranslationFile(translationName);
+        QVERIFY(QFile::resize(translationName, 4'194'305));
+        installTranslationFile(QString("FormVendelTr"));
+        setUp();
+        QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
+        QCOMPARE(log.criticals(),
+            (QStringList{QString("FormVendelTr_Us.qm is not read: it is not a regular file"),
+                QString("FormVendelTr_Us is not read: it is larger than 4 MB")}));
+    }
 
-void TestApplication::anotherFolderIsNotAsked()
-{
-    const Shop outer;
-    installTranslationFile(translationName);
-    const Shop inner;
-    setUp();
-    QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
-}
+    void aTranslationThatNamesAnotherFileIsRefused_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const Shop shop;
+        const QByteArray recursive = shop.read(QString(RECURSIVE_TRANSLATION_FILE));
+        const auto magic = recursive.left(16);
+        const QByteArray section(
+            "\x96\0\0\0\x22\0\0\0\x1e\0F\0o\0r\0m\0V\0e\0n\0d\0e\0l\0T\0r\0_\0U\0s", 39);
+        QTest::newRow("as the compiler writes it") << recursive;
+        QTest::newRow("alone") << magic + section;
+        QTest::newRow("behind another section")
+            << magic + QByteArray("\x42\0\0\0\x01x", 6) + section;
+        QTest::newRow("behind an empty section") << magic + QByteArray("\x42\0\0\0\0", 5) + section;
+    }
+
+    void aTranslationThatNamesAnotherFileIsRefused()
+    {
+        QFETCH(QByteArray, bytes);
+        const Shop shop;
+        const CapturedLog log;
+        shop.write(translationName, bytes);
+        setUp();
+        QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
+        QCOMPARE(log.criticals(),
+            QStringList(QString("FormVendelTr_Us is not shown: it names another file to load")));
+    }
+
+    void theTranslationOutlivesItsFile()
+    {
+        const Shop shop;
+        installTranslationFile(translationName);
+        setUp();
+        shop.write(translationName, "not a translation");
+        QCOMPARE(catalogueText("Total ticket"), QString("Ticket total"));
+    }
+
+    void theTillIsFrenchAgainWithoutItsTranslation()
+    {
+        const Shop shop;
+        installTranslationFile(translationName);
+        setUp();
+        cleanup();
+        QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
+    }
+
+    void theTranslationMayReplaceQtsTexts()
+    {
+        const Shop shop;
+        installTranslationFile(translationName);
+        setUp();
+        QCOMPARE(yesCaption(), QString("&Sure"));
+    }
+
+    void pluralsOfTheTranslationFollowTheCount()
+    {
+        const Shop shop;
+        installTranslationFile(translationName);
+        setUp();
+        const std::string& source = Messages::Messages23[0];
+        QCOMPARE(catalogueText(source.c_str(), 1), QString("Delete 1 double marked X..."));
+        QCOMPARE(catalogueText(source.c_str(), 3), QString("Delete 3 doubles marked X..."));
+    }
+
+    void aBrokenTranslationIsNoError()
+    {
+        const Shop shop;
+        const CapturedLog log;
+        shop.write(translationName, QByteArray("not a translation\n").repeated(50));
+        setUp();
+        QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
+        QCOMPARE(log.warnings(), QStringList());
+        QCOMPARE(log.criticals(), QStringList());
+    }
+
+    void anotherFolderIsNotAsked()
+    {
+        const Shop outer;
+        installTranslationFile(translationName);
+        const Shop inner;
+        setUp();
+        QCOMPARE(catalogueText("Total ticket"), QString("Total ticket"));
+    }
+};
 
 VENDEL_BARE_TEST(TestApplication)
 #include "tst_Application.moc"

@@ -2,19 +2,6 @@
 #include "app/Clock.h"
 #include "tests/support/TestProgram.h"
 
-class TestClock : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void showsColonsOnOddSeconds();
-    void showsBlanksOnEvenSeconds();
-    void midnightIsEven();
-    void theLastSecondOfADayIsOdd();
-    void theDateFollowsItsPattern();
-    void singleDigitsArePadded();
-};
-
 namespace {
 const QString pattern = QString("dd/MM/yyyy");
 
@@ -24,37 +11,43 @@ QString at(int hour, int minute, int second)
 }
 } // namespace
 
-void TestClock::showsColonsOnOddSeconds()
+class TestClock : public QObject
 {
-    QCOMPARE(at(14, 7, 31), QString("05/03/2019 14:07:31"));
-}
+    Q_OBJECT
 
-void TestClock::showsBlanksOnEvenSeconds()
-{
-    QCOMPARE(at(14, 7, 32), QString("05/03/2019 14 07 32"));
-}
+private slots:
+    void showsColonsOnOddSeconds()
+    {
+        QCOMPARE(at(14, 7, 31), QString("05/03/2019 14:07:31"));
+    }
 
-void TestClock::midnightIsEven()
-{
-    QCOMPARE(at(0, 0, 0), QString("05/03/2019 00 00 00"));
-}
+    void showsBlanksOnEvenSeconds()
+    {
+        QCOMPARE(at(14, 7, 32), QString("05/03/2019 14 07 32"));
+    }
 
-void TestClock::theLastSecondOfADayIsOdd()
-{
-    QCOMPARE(at(23, 59, 59), QString("05/03/2019 23:59:59"));
-}
+    void midnightIsEven()
+    {
+        QCOMPARE(at(0, 0, 0), QString("05/03/2019 00 00 00"));
+    }
 
-void TestClock::theDateFollowsItsPattern()
-{
-    const QDateTime time({2019, 3, 5}, {14, 7, 31});
-    QCOMPARE(clockText(time, QString("MM/dd/yyyy")), QString("03/05/2019 14:07:31"));
-    QCOMPARE(clockText(time, QString("yyyy-MM-dd")), QString("2019-03-05 14:07:31"));
-}
+    void theLastSecondOfADayIsOdd()
+    {
+        QCOMPARE(at(23, 59, 59), QString("05/03/2019 23:59:59"));
+    }
 
-void TestClock::singleDigitsArePadded()
-{
-    QCOMPARE(at(1, 2, 3), QString("05/03/2019 01:02:03"));
-}
+    void theDateFollowsItsPattern()
+    {
+        const QDateTime time({2019, 3, 5}, {14, 7, 31});
+        QCOMPARE(clockText(time, QString("MM/dd/yyyy")), QString("03/05/2019 14:07:31"));
+        QCOMPARE(clockText(time, QString("yyyy-MM-dd")), QString("2019-03-05 14:07:31"));
+    }
+
+    void singleDigitsArePadded()
+    {
+        QCOMPARE(at(1, 2, 3), QString("05/03/2019 01:02:03"));
+    }
+};
 
 VENDEL_TEST(TestClock)
 #include "tst_Clock.moc"

@@ -16,24 +16,6 @@
 #include <memory>
 #include <vector>
 
-/// The look that all lists of the till share, in each of them as its window shows it.
-class TestEveryList : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void hasItsFont_data();
-    void hasItsFont();
-    void hasItsColumnWidthsAndStretchesNone_data();
-    void hasItsColumnWidthsAndStretchesNone();
-    void hasItsColours_data();
-    void hasItsColours();
-    void hasItsHeaders_data();
-    void hasItsHeaders();
-    void isReadRowByRowAndNeverEdited_data();
-    void isReadRowByRowAndNeverEdited();
-};
-
 namespace {
 using Widths = std::vector<int>;
 
@@ -108,89 +90,96 @@ struct Shown
 };
 } // namespace
 
-void TestEveryList::hasItsFont_data()
+/// The look that all lists of the till share, in each of them as its window shows it.
+class TestEveryList : public QObject
 {
-    addLists();
-}
+    Q_OBJECT
 
-void TestEveryList::hasItsFont()
-{
-    QFETCH(const int, points);
-    const Shown at;
-    QCOMPARE(at.view->font().pointSize(), points);
-    QCOMPARE(at.view->font().families().constFirst(), QString("Carlito"));
-    QVERIFY(!at.view->font().bold());
-}
-
-void TestEveryList::hasItsColumnWidthsAndStretchesNone_data()
-{
-    addLists();
-}
-
-void TestEveryList::hasItsColumnWidthsAndStretchesNone()
-{
-    QFETCH(const Widths, widths);
-    QFETCH(const QString, hidden);
-    const Shown at;
-    const QHeaderView& header = *at.view->horizontalHeader();
-    QVERIFY(!header.stretchLastSection());
-    QCOMPARE(header.count(), static_cast<int>(widths.size()));
-    for (int column = 0; column < header.count(); ++column) {
-        QCOMPARE(header.sectionResizeMode(column), QHeaderView::Interactive);
-        QCOMPARE(at.view->isColumnHidden(column), hidden.contains(QString::number(column)));
-        at.view->showColumn(column);
-        QCOMPARE(at.view->columnWidth(column), widths.at(static_cast<std::size_t>(column)));
+private slots:
+    void hasItsFont_data()
+    {
+        addLists();
     }
-}
 
-void TestEveryList::hasItsColours_data()
-{
-    addLists();
-}
+    void hasItsFont()
+    {
+        QFETCH(const int, points);
+        const Shown at;
+        QCOMPARE(at.view->font().pointSize(), points);
+        QCOMPARE(at.view->font().families().constFirst(), QString("Carlito"));
+        QVERIFY(!at.view->font().bold());
+    }
 
-void TestEveryList::hasItsColours()
-{
-    const Shown at;
-    QCOMPARE(at.view->styleSheet(),
-        QString("alternate-background-color: LightBlue;background-color: White"));
-    QVERIFY(at.view->alternatingRowColors());
-    QVERIFY(at.view->showGrid());
-}
+    void hasItsColumnWidthsAndStretchesNone_data()
+    {
+        addLists();
+    }
 
-void TestEveryList::hasItsHeaders_data()
-{
-    addLists();
-}
+    void hasItsColumnWidthsAndStretchesNone()
+    {
+        QFETCH(const Widths, widths);
+        QFETCH(const QString, hidden);
+        const Shown at;
+        const QHeaderView& header = *at.view->horizontalHeader();
+        QVERIFY(!header.stretchLastSection());
+        QCOMPARE(header.count(), static_cast<int>(widths.size()));
+        for (int column = 0; column < header.count(); ++column) {
+            QCOMPARE(header.sectionResizeMode(column), QHeaderView::Interactive);
+            QCOMPARE(at.view->isColumnHidden(column), hidden.contains(QString::number(column)));
+            at.view->showColumn(column);
+            QCOMPARE(at.view->columnWidth(column), widths.at(static_cast<std::size_t>(column)));
+        }
+    }
 
-void TestEveryList::hasItsHeaders()
-{
-    const Shown at;
-    const QHeaderView& columns = *at.view->horizontalHeader();
-    QCOMPARE(columns.defaultAlignment() & Qt::AlignHorizontal_Mask, Qt::AlignLeft);
-    QCOMPARE(columns.minimumSectionSize(), 10);
-    QVERIFY(columns.isVisible());
-    const QHeaderView& rows = *at.view->verticalHeader();
-    QCOMPARE(rows.minimumSectionSize(), 10);
-    QCOMPARE(rows.defaultSectionSize(), 10);
-    QCOMPARE(rows.font().pointSize(), 10);
-    QVERIFY(rows.isVisible());
-}
+    void hasItsColours_data()
+    {
+        addLists();
+    }
 
-void TestEveryList::isReadRowByRowAndNeverEdited_data()
-{
-    addLists();
-}
+    void hasItsColours()
+    {
+        const Shown at;
+        QCOMPARE(at.view->styleSheet(),
+            QString("alternate-background-color: LightBlue;background-color: White"));
+        QVERIFY(at.view->alternatingRowColors());
+        QVERIFY(at.view->showGrid());
+    }
 
-void TestEveryList::isReadRowByRowAndNeverEdited()
-{
-    const Shown at;
-    QCOMPARE(at.view->editTriggers(), QAbstractItemView::NoEditTriggers);
-    QCOMPARE(at.view->selectionMode(), QAbstractItemView::ExtendedSelection);
-    QVERIFY(!at.view->wordWrap());
-    QVERIFY(!at.view->tabKeyNavigation());
-    QVERIFY(!at.view->isSortingEnabled());
-    QVERIFY(!at.view->dragEnabled());
-}
+    void hasItsHeaders_data()
+    {
+        addLists();
+    }
+
+    void hasItsHeaders()
+    {
+        const Shown at;
+        const QHeaderView& columns = *at.view->horizontalHeader();
+        QCOMPARE(columns.defaultAlignment() & Qt::AlignHorizontal_Mask, Qt::AlignLeft);
+        QCOMPARE(columns.minimumSectionSize(), 10);
+        QVERIFY(columns.isVisible());
+        const QHeaderView& rows = *at.view->verticalHeader();
+        QCOMPARE(rows.minimumSectionSize(), 10);
+        QCOMPARE(rows.defaultSectionSize(), 10);
+        QCOMPARE(rows.font().pointSize(), 10);
+        QVERIFY(rows.isVisible());
+    }
+
+    void isReadRowByRowAndNeverEdited_data()
+    {
+        addLists();
+    }
+
+    void isReadRowByRowAndNeverEdited()
+    {
+        const Shown at;
+        QCOMPARE(at.view->editTriggers(), QAbstractItemView::NoEditTriggers);
+        QCOMPARE(at.view->selectionMode(), QAbstractItemView::ExtendedSelection);
+        QVERIFY(!at.view->wordWrap());
+        QVERIFY(!at.view->tabKeyNavigation());
+        QVERIFY(!at.view->isSortingEnabled());
+        QVERIFY(!at.view->dragEnabled());
+    }
+};
 
 VENDEL_TEST(TestEveryList)
 #include "tst_EveryList.moc"

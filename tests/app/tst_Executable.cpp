@@ -13,20 +13,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/// The program itself, started in a shop on a screen of 1366 x 768.
-class TestExecutable : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void opensInTheMiddleOfTheScreenBehindItsSplash();
-    void showsTheIconOfItsFolder();
-    void startsWithAnIconThatNobodyWrites();
-    void startsInAnEmptyFolder();
-    void saysThatThePrinterIsOn();
-    void livesOnWhenNobodyReadsItsOutput();
-};
-
 namespace {
 QRect geometry(const QString& id)
 {
@@ -40,84 +26,93 @@ QRect geometry(const QString& id)
 }
 } // namespace
 
-void TestExecutable::opensInTheMiddleOfTheScreenBehindItsSplash()
+/// The program itself, started in a shop on a screen of 1366 x 768.
+class TestExecutable : public QObject
 {
-    const Shop shop;
-    const StartedTill till;
-    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Dialog").isEmpty(), 20000);
-    QElapsedTimer timer;
-    timer.start();
-    QCOMPARE(geometry(windowTitled("Vendel")), QRect(158, 71, 1050, 626));
-    QCOMPARE(geometry(windowTitled("Dialog")), QRect(302, 220, 445, 186));
-    QTRY_VERIFY_WITH_TIMEOUT(windowTitled("Dialog").isEmpty(), 20000);
-    QVERIFY2(timer.elapsed() > 3500, qPrintable(QString::number(timer.elapsed())));
-    QVERIFY(!windowTitled("Vendel").isEmpty());
-}
+    Q_OBJECT
 
-void TestExecutable::showsTheIconOfItsFolder()
-{
-    const Shop shop;
-    QImage icon(4, 4, QImage::Format_ARGB32);
-    icon.fill(QColor(1, 2, 3));
-    QVERIFY(icon.save(QString("Vendel.png")));
-    const StartedTill till;
-    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
-    const QByteArray property = outputOf(QString("xprop"),
-        {QString("-id"), windowTitled("Vendel"), QString("-f"), QString("_NET_WM_ICON"),
-            QString("32c"), QString("_NET_WM_ICON")});
-    QVERIFY2(property.contains("4, 4, 4278256131"), property.constData());
-}
+private slots:
+    void opensInTheMiddleOfTheScreenBehindItsSplash()
+    {
+        const Shop shop;
+        const StartedTill till;
+        QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Dialog").isEmpty(), 20000);
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(geometry(windowTitled("Vendel")), QRect(158, 71, 1050, 626));
+        QCOMPARE(geometry(windowTitled("Dialog")), QRect(302, 220, 445, 186));
+        QTRY_VERIFY_WITH_TIMEOUT(windowTitled("Dialog").isEmpty(), 20000);
+        QVERIFY2(timer.elapsed() > 3500, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY(!windowTitled("Vendel").isEmpty());
+    }
 
-void TestExecutable::startsWithAnIconThatNobodyWrites()
-{
-    const Shop shop;
-    QVERIFY(mkfifo("Vendel.png", 0600) == 0);
-    StartedTill till;
-    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
-    QVERIFY(till.process.readAllStandardError().contains(
-        "Vendel.png is not read: it is not a regular file\n"));
-}
+    void showsTheIconOfItsFolder()
+    {
+        const Shop shop;
+        QImage icon(4, 4, QImage::Format_ARGB32);
+        icon.fill(QColor(1, 2, 3));
+        QVERIFY(icon.save(QString("Vendel.png")));
+        const StartedTill till;
+        QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
+        const QByteArray property = outputOf(QString("xprop"),
+            {QString("-id"), windowTitled("Vendel"), QString("-f"), QString("_NET_WM_ICON"),
+                QString("32c"), QString("_NET_WM_ICON")});
+        QVERIFY2(property.contains("4, 4, 4278256131"), property.constData());
+    }
 
-void TestExecutable::startsInAnEmptyFolder()
-{
-    const Shop shop(Shop::Database::None);
-    StartedTill till;
-    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
-    QCOMPARE(shop.sql("select param, valeur from Config"),
-        (DbRows{{"TVA", "0"}, {"Epson TM-T20II", "0"}}));
-    QCOMPARE(till.process.readAllStandardOutput(), QByteArray());
-    QVERIFY(!till.process.readAllStandardError().contains("Errors"));
-}
+    void startsWithAnIconThatNobodyWrites()
+    {
+        const Shop shop;
+        QVERIFY(mkfifo("Vendel.png", 0600) == 0);
+        StartedTill till;
+        QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
+        QVERIFY(till.process.readAllStandardError().contains(
+            "Vendel.png is not read: it is not a regular file\n"));
+    }
 
-void TestExecutable::saysThatThePrinterIsOn()
-{
-    const Shop shop;
-    shop.sql("update Config set valeur = 1 where param = 'Epson TM-T20II'");
-    StartedTill till;
-    QByteArray log;
-    QTRY_VERIFY_WITH_TIMEOUT(
-        (log += till.process.readAllStandardError()).contains("Warning Epson to 1 (ON)\n"), 20000);
-}
+    void startsInAnEmptyFolder()
+    {
+        const Shop shop(Shop::Database::None);
+        StartedTill till;
+        QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Vendel").isEmpty(), 20000);
+        QCOMPARE(shop.sql("select param, valeur from Config"),
+            (DbRows{{"TVA", "0"}, {"Epson TM-T20II", "0"}}));
+        QCOMPARE(till.process.readAllStandardOutput(), QByteArray());
+        QVERIFY(!till.process.readAllStandardError().contains("Errors"));
+    }
 
-void TestExecutable::livesOnWhenNobodyReadsItsOutput()
-{
-    const Shop shop;
-    shop.sql("drop table Config");
-    shop.sql("drop table Ticket");
-    QVERIFY(mkfifo("output", 0600) == 0);
-    const int reader = open("output", O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    QVERIFY(reader >= 0);
-    StartedTill till(0, QString("output"));
-    QVERIFY(till.process.waitForStarted());
-    close(reader);
-    // The start reads the settings, "Payer" the ticket: two reports that nobody takes.
-    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Dialog").isEmpty(), 20000);
-    QTRY_VERIFY_WITH_TIMEOUT(windowTitled("Dialog").isEmpty(), 20000);
-    outputOf(QString("xdotool"),
-        {QString("mousemove"), QString("1068"), QString("662"), QString("click"), QString("1")});
-    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Payer").isEmpty(), 20000);
-    QCOMPARE(till.process.state(), QProcess::Running);
-}
+    void saysThatThePrinterIsOn()
+    {
+        const Shop shop;
+        shop.sql("update Config set valeur = 1 where param = 'Epson TM-T20II'");
+        StartedTill till;
+        QByteArray log;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (log += till.process.readAllStandardError()).contains("Warning Epson to 1 (ON)\n"),
+            20000);
+    }
+
+    void livesOnWhenNobodyReadsItsOutput()
+    {
+        const Shop shop;
+        shop.sql("drop table Config");
+        shop.sql("drop table Ticket");
+        QVERIFY(mkfifo("output", 0600) == 0);
+        const int reader = open("output", O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        QVERIFY(reader >= 0);
+        StartedTill till(0, QString("output"));
+        QVERIFY(till.process.waitForStarted());
+        close(reader);
+        // The start reads the settings, "Payer" the ticket: two reports that nobody takes.
+        QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Dialog").isEmpty(), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(windowTitled("Dialog").isEmpty(), 20000);
+        outputOf(QString("xdotool"),
+            {QString("mousemove"), QString("1068"), QString("662"), QString("click"),
+                QString("1")});
+        QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("Payer").isEmpty(), 20000);
+        QCOMPARE(till.process.state(), QProcess::Running);
+    }
+};
 
 VENDEL_BARE_TEST(TestExecutable)
 #include "tst_Executable.moc"

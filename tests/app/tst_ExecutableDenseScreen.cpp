@@ -10,18 +10,6 @@
 #include <QScreen>
 #include <QTest>
 
-/// The program itself on a screen of 1366 x 768 with 144 dots per inch, a small laptop's.
-class TestExecutableDenseScreen : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void theScreenHas144DotsPerInch();
-    void textIsAsLargeAsAt96DotsPerInch();
-    void theClockIsShownWhole();
-    void theLanguageOfTheFolderIsSpoken();
-};
-
 namespace {
 /// The sales screen in the middle of the screen.
 constexpr QRect windowArea(158, 71, 1050, 626);
@@ -86,46 +74,53 @@ bool isOpen()
 }
 } // namespace
 
-void TestExecutableDenseScreen::theScreenHas144DotsPerInch()
+/// The program itself on a screen of 1366 x 768 with 144 dots per inch, a small laptop's.
+class TestExecutableDenseScreen : public QObject
 {
-    QVERIFY(outputOf("xdpyinfo", {}).contains("144x144 dots per inch"));
-}
+    Q_OBJECT
 
-void TestExecutableDenseScreen::textIsAsLargeAsAt96DotsPerInch()
-{
-    const Shop shop;
-    QImage expected;
+private slots:
+    void theScreenHas144DotsPerInch()
     {
-        const StartedTill till(96);
-        QTRY_VERIFY_WITH_TIMEOUT(isOpen(), 20000);
-        expected = settledPicture();
-        QVERIFY(!ink(expected).isNull());
+        QVERIFY(outputOf("xdpyinfo", {}).contains("144x144 dots per inch"));
     }
-    QTRY_VERIFY_WITH_TIMEOUT(!isOpen(), 5000);
-    const StartedTill till;
-    QTRY_VERIFY_WITH_TIMEOUT(isOpen(), 20000);
-    QTRY_VERIFY_WITH_TIMEOUT(shownWithoutTheClock() == expected, 5000);
-}
 
-void TestExecutableDenseScreen::theClockIsShownWhole()
-{
-    const Shop shop;
-    const StartedTill till;
-    QTRY_VERIFY_WITH_TIMEOUT(isOpen(), 20000);
-    // Nineteen characters take most of the label and leave its right end free.
-    QTRY_VERIFY_WITH_TIMEOUT(ink(shown(clockArea)).width() > 120, 5000);
-    const QRect letters = ink(shown(clockArea));
-    QVERIFY2(letters.right() < 205, qPrintable(QString::number(letters.right())));
-    QVERIFY2(letters.height() <= 19, qPrintable(QString::number(letters.height())));
-}
+    void textIsAsLargeAsAt96DotsPerInch()
+    {
+        const Shop shop;
+        QImage expected;
+        {
+            const StartedTill till(96);
+            QTRY_VERIFY_WITH_TIMEOUT(isOpen(), 20000);
+            expected = settledPicture();
+            QVERIFY(!ink(expected).isNull());
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(!isOpen(), 5000);
+        const StartedTill till;
+        QTRY_VERIFY_WITH_TIMEOUT(isOpen(), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(shownWithoutTheClock() == expected, 5000);
+    }
 
-void TestExecutableDenseScreen::theLanguageOfTheFolderIsSpoken()
-{
-    const Shop shop;
-    QVERIFY(QFile::copy(QString(TRANSLATION_FILE), QString("FormVendelTr_Us")));
-    const StartedTill till;
-    QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("The till").isEmpty(), 20000);
-}
+    void theClockIsShownWhole()
+    {
+        const Shop shop;
+        const StartedTill till;
+        QTRY_VERIFY_WITH_TIMEOUT(isOpen(), 20000);
+        // Nineteen characters take most of the label and leave its right end free.
+        QTRY_VERIFY_WITH_TIMEOUT(ink(shown(clockArea)).width() > 120, 5000);
+        const QRect letters = ink(shown(clockArea));
+        QVERIFY2(letters.right() < 205, qPrintable(QString::number(letters.right())));
+        QVERIFY2(letters.height() <= 19, qPrintable(QString::number(letters.height())));
+    }
+
+    void theLanguageOfTheFolderIsSpoken()
+    {
+        const Shop shop;
+        QVERIFY(QFile::copy(QString(TRANSLATION_FILE), QString("FormVendelTr_Us")));
+        const StartedTill till;
+        QTRY_VERIFY_WITH_TIMEOUT(!windowTitled("The till").isEmpty(), 20000);
+    }
+};
 
 VENDEL_BARE_TEST(TestExecutableDenseScreen)
 #include "tst_ExecutableDenseScreen.moc"

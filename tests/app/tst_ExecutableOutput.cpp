@@ -7,16 +7,6 @@
 #include <QDir>
 #include <QTest>
 
-/// What the program writes when its output is read through a pipe.
-class TestExecutableOutput : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void aFailedStatementIsReportedAtOnce();
-    void aDatabaseThatCannotBeOpenedIsReportedAtOnce();
-};
-
 namespace {
 /// Whether \a till writes exactly \a report while it runs.
 bool reports(StartedTill& till, const QByteArray& report)
@@ -32,26 +22,33 @@ bool reports(StartedTill& till, const QByteArray& report)
 }
 } // namespace
 
-void TestExecutableOutput::aFailedStatementIsReportedAtOnce()
+/// What the program writes when its output is read through a pipe.
+class TestExecutableOutput : public QObject
 {
-    const Shop shop;
-    shop.sql("drop table Config");
-    StartedTill till;
-    QVERIFY(reports(till,
-        "Errors Db::DbLoad sqlite3_errmsg : select valeur from Config where param like 'Epson "
-        "TM-T20II' no such table: Config\n"));
-}
+    Q_OBJECT
 
-void TestExecutableOutput::aDatabaseThatCannotBeOpenedIsReportedAtOnce()
-{
-    const Shop shop(Shop::Database::None);
-    QVERIFY(QDir().mkdir(QString("Vendel.db")));
-    StartedTill till;
-    QVERIFY(reports(till,
-        "Not open database successfully\n"
-        "Errors Db::DbLoad sqlite3_errmsg : select valeur from Config where param like 'Epson "
-        "TM-T20II' unable to open database file\n"));
-}
+private slots:
+    void aFailedStatementIsReportedAtOnce()
+    {
+        const Shop shop;
+        shop.sql("drop table Config");
+        StartedTill till;
+        QVERIFY(reports(till,
+            "Errors Db::DbLoad sqlite3_errmsg : select valeur from Config where param like 'Epson "
+            "TM-T20II' no such table: Config\n"));
+    }
+
+    void aDatabaseThatCannotBeOpenedIsReportedAtOnce()
+    {
+        const Shop shop(Shop::Database::None);
+        QVERIFY(QDir().mkdir(QString("Vendel.db")));
+        StartedTill till;
+        QVERIFY(reports(till,
+            "Not open database successfully\n"
+            "Errors Db::DbLoad sqlite3_errmsg : select valeur from Config where param like 'Epson "
+            "TM-T20II' unable to open database file\n"));
+    }
+};
 
 VENDEL_BARE_TEST(TestExecutableOutput)
 #include "tst_ExecutableOutput.moc"

@@ -12,23 +12,6 @@
 #include <QLocale>
 #include <QRegularExpression>
 
-/// The till on a system that writes numbers with other digits than 0 to 9: ctest runs these tests
-/// once with each such locale.
-class TestForeignDigits : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void theSystemWritesOtherDigits();
-    void theClockKeepsItsDigits();
-    void theReceiptOnPaperKeepsItsDigits();
-    void theReceiptOnTheScreenKeepsItsDigits();
-    void theHistoryIsBrowsedAndPurgedByDate();
-    void theHistoryIsBrowsedByTimeOfDay();
-    void aDateInTheSystemsDigitsIsNone();
-    void countsKeepTheirDigits();
-};
-
 namespace {
 const QRegularExpression moment(
     QString("^[0-9]{2}/[0-9]{2}/[0-9]{4} [0-9]{2}[: ][0-9]{2}[: ][0-9]{2}$"));
@@ -57,110 +40,118 @@ void sellOnTwoDays(Till& till)
 }
 } // namespace
 
-void TestForeignDigits::theSystemWritesOtherDigits()
+/// The till on a system that writes numbers with other digits than 0 to 9: ctest runs these tests
+/// once with each such locale.
+class TestForeignDigits : public QObject
 {
-    QVERIFY(QLocale::system().toString(7) != QString("7"));
-    QVERIFY(QLocale().toString(7) != QString("7"));
-}
+    Q_OBJECT
 
-void TestForeignDigits::theClockKeepsItsDigits()
-{
-    const QDateTime time({2019, 3, 5}, {14, 7, 31});
-    QCOMPARE(clockText(time, QString("dd/MM/yyyy")), QString("05/03/2019 14:07:31"));
-    Till till;
-    const auto& label = child<QLabel>(till.window, "lbl_DateTime");
-    QTRY_VERIFY2(moment.match(label.text()).hasMatch(), qPrintable(label.text()));
-}
+private slots:
+    void theSystemWritesOtherDigits()
+    {
+        QVERIFY(QLocale::system().toString(7) != QString("7"));
+        QVERIFY(QLocale().toString(7) != QString("7"));
+    }
 
-void TestForeignDigits::theReceiptOnPaperKeepsItsDigits()
-{
-    const Shop shop;
-    putOnTicket(shop, "Eau", "1234.5");
-    const QByteArray receipt = printedReceipt();
-    QVERIFY(receipt.startsWith("\r\n\r\nProduit\t\t\t     05/03/2024 09:07:03\r\n\r\n"));
-    QVERIFY(receipt.contains("\r\n1  Eau            \t$1,234.50   $1,234.50\r\n"));
-    QVERIFY(receipt.contains("\r\n->  Total ticket\t\t    $1,234.50\r\n"));
-}
+    void theClockKeepsItsDigits()
+    {
+        const QDateTime time({2019, 3, 5}, {14, 7, 31});
+        QCOMPARE(clockText(time, QString("dd/MM/yyyy")), QString("05/03/2019 14:07:31"));
+        Till till;
+        const auto& label = child<QLabel>(till.window, "lbl_DateTime");
+        QTRY_VERIFY2(moment.match(label.text()).hasMatch(), qPrintable(label.text()));
+    }
 
-void TestForeignDigits::theReceiptOnTheScreenKeepsItsDigits()
-{
-    Till till;
-    till.setSwitch("0");
-    till.sell("Eau", "2");
-    till.pay();
-    const QString heading = till.takeReceipt().section('\n', 2, 2);
-    const QString time = heading.mid(heading.indexOf(QLatin1String("     ")) + 5);
-    QVERIFY2(moment.match(time).hasMatch(), qPrintable(heading));
-}
+    void theReceiptOnPaperKeepsItsDigits()
+    {
+        const Shop shop;
+        putOnTicket(shop, "Eau", "1234.5");
+        const QByteArray receipt = printedReceipt();
+        QVERIFY(receipt.startsWith("\r\n\r\nProduit\t\t\t     05/03/2024 09:07:03\r\n\r\n"));
+        QVERIFY(receipt.contains("\r\n1  Eau            \t$1,234.50   $1,234.50\r\n"));
+        QVERIFY(receipt.contains("\r\n->  Total ticket\t\t    $1,234.50\r\n"));
+    }
 
-void TestForeignDigits::theHistoryIsBrowsedAndPurgedByDate()
-{
-    Till till;
-    const BoxDiary boxes;
-    sellOnTwoDays(till);
-    FormVendelHistorique& history = openHistory(till);
-    click(history, "btn_Show_Date");
-    QCOMPARE(rowTexts(history, "tableView2", 0), QStringList(QString("05/01/2019")));
-    clickCell(history, "tableView2", 0, 0);
-    QTest::keyClicks(&secondDate(history), QString("05/02/2019"));
-    click(history, "btn_View_Historical");
-    QCOMPARE(boxes.said, QStringList());
-    QCOMPARE(rowCount(history, "tableView1"), 1);
-    QCOMPARE(rowTexts(history, "tableView1", 0),
-        (QStringList{QString("Thé"), QString("2.50$"), QString("05/01/2019 10:20:30.123")}));
-    click(history, "btn_Clear");
-    QCOMPARE(
-        boxes.said.value(0), QString("Purger: Voulez-vous purger de 05/01/2019 au 05/02/2019"));
-    QCOMPARE(till.history(), QStringList(QString("2 Eau 2")));
-}
+    void theReceiptOnTheScreenKeepsItsDigits()
+    {
+        Till till;
+        till.setSwitch("0");
+        till.sell("Eau", "2");
+        till.pay();
+        const QString heading = till.takeReceipt().section('\n', 2, 2);
+        const QString time = heading.mid(heading.indexOf(QLatin1String("     ")) + 5);
+        QVERIFY2(moment.match(time).hasMatch(), qPrintable(heading));
+    }
 
-void TestForeignDigits::theHistoryIsBrowsedByTimeOfDay()
-{
-    Till till;
-    const AnswerBox box;
-    sellOnTwoDays(till);
-    FormVendelHistorique& history = openHistory(till);
-    QTest::keyClicks(&firstDate(history), QString("05/01/2019 10:20:30.123"));
-    QTest::keyClicks(&secondDate(history), QString("05/02/2019 11:00:00.000"));
-    click(history, "btn_Total");
-    QCOMPARE(box.text(), QString());
-    QCOMPARE(rowTexts(history, "tableView1", 2),
-        (QStringList{QString("Total historique"), QString("4.50$"), QString("<-")}));
-}
+    void theHistoryIsBrowsedAndPurgedByDate()
+    {
+        Till till;
+        const BoxDiary boxes;
+        sellOnTwoDays(till);
+        FormVendelHistorique& history = openHistory(till);
+        click(history, "btn_Show_Date");
+        QCOMPARE(rowTexts(history, "tableView2", 0), QStringList(QString("05/01/2019")));
+        clickCell(history, "tableView2", 0, 0);
+        QTest::keyClicks(&secondDate(history), QString("05/02/2019"));
+        click(history, "btn_View_Historical");
+        QCOMPARE(boxes.said, QStringList());
+        QCOMPARE(rowCount(history, "tableView1"), 1);
+        QCOMPARE(rowTexts(history, "tableView1", 0),
+            (QStringList{QString("Thé"), QString("2.50$"), QString("05/01/2019 10:20:30.123")}));
+        click(history, "btn_Clear");
+        QCOMPARE(
+            boxes.said.value(0), QString("Purger: Voulez-vous purger de 05/01/2019 au 05/02/2019"));
+        QCOMPARE(till.history(), QStringList(QString("2 Eau 2")));
+    }
 
-void TestForeignDigits::aDateInTheSystemsDigitsIsNone()
-{
-    Till till;
-    sellOnTwoDays(till);
-    FormVendelHistorique& history = openHistory(till);
-    const auto zero = QLocale::system().toString(0).at(0).unicode();
-    QString typed = QString("05/01/2019");
-    for (QChar& character : typed) {
-        if (character.isDigit()) {
-            character = QChar(static_cast<char16_t>(zero + character.digitValue()));
+    void theHistoryIsBrowsedByTimeOfDay()
+    {
+        Till till;
+        const AnswerBox box;
+        sellOnTwoDays(till);
+        FormVendelHistorique& history = openHistory(till);
+        QTest::keyClicks(&firstDate(history), QString("05/01/2019 10:20:30.123"));
+        QTest::keyClicks(&secondDate(history), QString("05/02/2019 11:00:00.000"));
+        click(history, "btn_Total");
+        QCOMPARE(box.text(), QString());
+        QCOMPARE(rowTexts(history, "tableView1", 2),
+            (QStringList{QString("Total historique"), QString("4.50$"), QString("<-")}));
+    }
+
+    void aDateInTheSystemsDigitsIsNone()
+    {
+        Till till;
+        sellOnTwoDays(till);
+        FormVendelHistorique& history = openHistory(till);
+        const auto zero = QLocale::system().toString(0).at(0).unicode();
+        QString typed = QString("05/01/2019");
+        for (QChar& character : typed) {
+            if (character.isDigit()) {
+                character = QChar(static_cast<char16_t>(zero + character.digitValue()));
+            }
         }
+        firstDate(history).setText(typed);
+        secondDate(history).setText(QString("05/02/2019"));
+        const AnswerBox box;
+        click(history, "btn_View_Historical");
+        QCOMPARE(box.text(), QString("Saisir une date valide"));
+        QCOMPARE(rowCount(history, "tableView1"), 0);
     }
-    firstDate(history).setText(typed);
-    secondDate(history).setText(QString("05/02/2019"));
-    const AnswerBox box;
-    click(history, "btn_View_Historical");
-    QCOMPARE(box.text(), QString("Saisir une date valide"));
-    QCOMPARE(rowCount(history, "tableView1"), 0);
-}
 
-void TestForeignDigits::countsKeepTheirDigits()
-{
-    Till till;
-    for (int i = 0; i < 3; ++i) {
-        till.run("insert into Article (article, prix) values ('Thé', 2.5)");
+    void countsKeepTheirDigits()
+    {
+        Till till;
+        for (int i = 0; i < 3; ++i) {
+            till.run("insert into Article (article, prix) values ('Thé', 2.5)");
+        }
+        const AnswerBox box;
+        click(till.window, "btn_Afficher");
+        QCOMPARE(box.text(),
+            QString("Supprimer le(s) 2 doublon(s) note(s) X...\n"
+                    "Allez dans le menu Vendel Saisie Article"));
+        QCOMPARE(rowTexts(till.window, "tableView1", 0).constLast(), QString("2.50$"));
     }
-    const AnswerBox box;
-    click(till.window, "btn_Afficher");
-    QCOMPARE(box.text(),
-        QString("Supprimer le(s) 2 doublon(s) note(s) X...\n"
-                "Allez dans le menu Vendel Saisie Article"));
-    QCOMPARE(rowTexts(till.window, "tableView1", 0).constLast(), QString("2.50$"));
-}
+};
 
 VENDEL_TEST(TestForeignDigits)
 #include "tst_ForeignDigits.moc"

@@ -12,21 +12,6 @@
 #include <QStyleOptionViewItem>
 #include <QTableView>
 
-class TestFormVendelFonts : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void textsFitTheirColumns_data();
-    void textsFitTheirColumns();
-    void columnsFitTheList();
-    void labelsFit();
-    void theClockFits();
-    void buttonsFit();
-    void theSplashsTitleFits();
-    void headersFit();
-};
-
 namespace {
 /// Pixels that a cell of \a view needs for \a text, margins and grid line included.
 int cellWidth(const QTableView& view, const QString& text)
@@ -43,95 +28,101 @@ int cellWidth(const QTableView& view, const QString& text)
 }
 } // namespace
 
-void TestFormVendelFonts::textsFitTheirColumns_data()
+class TestFormVendelFonts : public QObject
 {
-    QTest::addColumn<int>("column");
-    QTest::newRow("999.50$") << 3;
-    QTest::newRow("1,234.50$") << 3;
-    QTest::newRow("Croque-monsieur") << 2;
-    QTest::newRow("Bière à la mûre") << 2;
-    QTest::newRow("TVA 20.00%") << 2;
-    QTest::newRow("Total ticket") << 2;
-    QTest::newRow("X") << 1;
-}
+    Q_OBJECT
 
-void TestFormVendelFonts::textsFitTheirColumns()
-{
-    QFETCH(int, column);
-    Till counter;
-    const auto& view = child<QTableView>(counter.window, "tableView1");
-    const int needed = cellWidth(view, QString::fromUtf8(QTest::currentDataTag()));
-    QVERIFY2(needed > 10, qPrintable(QString::number(needed)));
-    QVERIFY2(needed <= view.columnWidth(column), qPrintable(QString::number(needed)));
-}
-
-void TestFormVendelFonts::columnsFitTheList()
-{
-    Till counter("with recursive n(i) as (select 1 union all select i + 1 from n where i < 999)"
-                 "insert into Article (article, prix) select 'Article ' || i, i from n");
-    click(counter.window, "btn_Afficher");
-    const auto& view = child<QTableView>(counter.window, "tableView1");
-    QTRY_VERIFY2(view.viewport()->width() >= 25 + 210 + 110,
-        qPrintable(QString::number(view.viewport()->width())));
-}
-
-void TestFormVendelFonts::labelsFit()
-{
-    Till counter;
-    for (const auto* name : {"lbl_Menu", "lbl_Ticket", "lbl_Montant", "lbl_ToolTip"}) {
-        const auto& label = child<QLabel>(counter.window, name);
-        QVERIFY2(label.sizeHint().width() <= label.width(), name);
-        // The line's own leading may be cut, its letters may not.
-        const QRect letters = label.fontMetrics().tightBoundingRect(label.text());
-        QVERIFY2(letters.height() <= label.height(), name);
+private slots:
+    void textsFitTheirColumns_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::newRow("999.50$") << 3;
+        QTest::newRow("1,234.50$") << 3;
+        QTest::newRow("Croque-monsieur") << 2;
+        QTest::newRow("Bière à la mûre") << 2;
+        QTest::newRow("TVA 20.00%") << 2;
+        QTest::newRow("Total ticket") << 2;
+        QTest::newRow("X") << 1;
     }
-}
 
-void TestFormVendelFonts::theClockFits()
-{
-    Till counter;
-    auto& label = child<QLabel>(counter.window, "lbl_DateTime");
-    for (const auto* text : {"28/08/2028 20:48:58", "28/08/2028 20 48 58"}) {
-        label.setText(QString::fromLatin1(text));
-        QVERIFY2(label.sizeHint().width() <= label.width(), text);
-        QVERIFY(label.fontMetrics().tightBoundingRect(label.text()).height() <= label.height());
+    void textsFitTheirColumns()
+    {
+        QFETCH(int, column);
+        Till counter;
+        const auto& view = child<QTableView>(counter.window, "tableView1");
+        const int needed = cellWidth(view, QString::fromUtf8(QTest::currentDataTag()));
+        QVERIFY2(needed > 10, qPrintable(QString::number(needed)));
+        QVERIFY2(needed <= view.columnWidth(column), qPrintable(QString::number(needed)));
     }
-}
 
-void TestFormVendelFonts::buttonsFit()
-{
-    Till counter;
-    const auto buttons = counter.window.findChildren<QPushButton*>();
-    QVERIFY(buttons.size() >= 19);
-    for (const QPushButton* button : buttons) {
-        const QSize text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
-        QVERIFY2(text.width() <= button->width() - 8, qPrintable(button->text()));
-        QVERIFY2(text.height() <= button->height() - 4, qPrintable(button->text()));
+    void columnsFitTheList()
+    {
+        Till counter("with recursive n(i) as (select 1 union all select i + 1 from n where i < 999)"
+                     "insert into Article (article, prix) select 'Article ' || i, i from n");
+        click(counter.window, "btn_Afficher");
+        const auto& view = child<QTableView>(counter.window, "tableView1");
+        QTRY_VERIFY2(view.viewport()->width() >= 25 + 210 + 110,
+            qPrintable(QString::number(view.viewport()->width())));
     }
-}
 
-void TestFormVendelFonts::theSplashsTitleFits()
-{
-    Till counter;
-    const auto& title = child<QLabel>(counter.window, "lbl_Titre");
-    const QRect ink = title.fontMetrics().tightBoundingRect(title.text());
-    QVERIFY(ink.width() <= title.width());
-    QVERIFY(ink.height() <= title.height());
-}
+    void labelsFit()
+    {
+        Till counter;
+        for (const auto* name : {"lbl_Menu", "lbl_Ticket", "lbl_Montant", "lbl_ToolTip"}) {
+            const auto& label = child<QLabel>(counter.window, name);
+            QVERIFY2(label.sizeHint().width() <= label.width(), name);
+            // The line's own leading may be cut, its letters may not.
+            const QRect letters = label.fontMetrics().tightBoundingRect(label.text());
+            QVERIFY2(letters.height() <= label.height(), name);
+        }
+    }
 
-void TestFormVendelFonts::headersFit()
-{
-    Till counter;
-    for (const auto* name : {"tableView1", "tableView2"}) {
-        const auto& view = child<QTableView>(counter.window, name);
-        for (int column = 1; column < 4; ++column) {
-            if (!view.isColumnHidden(column)) {
-                QVERIFY(
-                    view.horizontalHeader()->sectionSizeHint(column) <= view.columnWidth(column));
+    void theClockFits()
+    {
+        Till counter;
+        auto& label = child<QLabel>(counter.window, "lbl_DateTime");
+        for (const auto* text : {"28/08/2028 20:48:58", "28/08/2028 20 48 58"}) {
+            label.setText(QString::fromLatin1(text));
+            QVERIFY2(label.sizeHint().width() <= label.width(), text);
+            QVERIFY(label.fontMetrics().tightBoundingRect(label.text()).height() <= label.height());
+        }
+    }
+
+    void buttonsFit()
+    {
+        Till counter;
+        const auto buttons = counter.window.findChildren<QPushButton*>();
+        QVERIFY(buttons.size() >= 19);
+        for (const QPushButton* button : buttons) {
+            const QSize text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+            QVERIFY2(text.width() <= button->width() - 8, qPrintable(button->text()));
+            QVERIFY2(text.height() <= button->height() - 4, qPrintable(button->text()));
+        }
+    }
+
+    void theSplashsTitleFits()
+    {
+        Till counter;
+        const auto& title = child<QLabel>(counter.window, "lbl_Titre");
+        const QRect ink = title.fontMetrics().tightBoundingRect(title.text());
+        QVERIFY(ink.width() <= title.width());
+        QVERIFY(ink.height() <= title.height());
+    }
+
+    void headersFit()
+    {
+        Till counter;
+        for (const auto* name : {"tableView1", "tableView2"}) {
+            const auto& view = child<QTableView>(counter.window, name);
+            for (int column = 1; column < 4; ++column) {
+                if (!view.isColumnHidden(column)) {
+                    QVERIFY(view.horizontalHeader()->sectionSizeHint(column)
+                        <= view.columnWidth(column));
+                }
             }
         }
     }
-}
+};
 
 VENDEL_TEST(TestFormVendelFonts)
 #include "tst_FormVendelFonts.moc"

@@ -9,18 +9,6 @@
 #include <QPushButton>
 #include <QTableView>
 
-/// The sales screen without a mouse: Tab and Space work as everywhere, and no key sells.
-class TestFormVendelKeyboard : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void tabFollowsTheEye();
-    void returnSellsNothing();
-    void spacePressesTheButton();
-    void thereAreNoShortcuts();
-};
-
 namespace {
 /// A till with an article and a line of its ticket on the screen.
 struct Keyboard : Till
@@ -40,63 +28,70 @@ struct Keyboard : Till
 };
 } // namespace
 
-void TestFormVendelKeyboard::tabFollowsTheEye()
+/// The sales screen without a mouse: Tab and Space work as everywhere, and no key sells.
+class TestFormVendelKeyboard : public QObject
 {
-    Keyboard till;
-    QVERIFY(QTest::qWaitForWindowActive(&till.window));
-    child<QTableView>(till.window, "tableView1").setFocus();
-    QCOMPARE(tabOrder(till.window).join(' '),
-        QString("tableView1 tableView2 txt_montant btn_Effacer_Saisie btn_Afficher "
-                "btn_Ticket btn_Effacer_Ticket btn_Total_Ticket btn_1 btn_2 btn_3 btn_4 "
-                "btn_5 btn_6 btn_7 btn_8 btn_9 btn_10 btn_11 btn_13 btn_12 btn_Payer "
-                "chkbx_ToolTip"));
-}
+    Q_OBJECT
 
-void TestFormVendelKeyboard::returnSellsNothing()
-{
-    Keyboard till;
-    const AnswerBox box;
-    auto& field = child<QLineEdit>(till.window, "txt_montant");
-    field.setText(QString("5"));
-    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
-        QTest::keyClick(&field, key);
-        for (const auto* name : {"tableView1", "tableView2"}) {
-            auto& view = child<QTableView>(till.window, name);
-            view.setCurrentIndex(view.model()->index(0, 2));
-            QTest::keyClick(&view, key);
+private slots:
+    void tabFollowsTheEye()
+    {
+        Keyboard till;
+        QVERIFY(QTest::qWaitForWindowActive(&till.window));
+        child<QTableView>(till.window, "tableView1").setFocus();
+        QCOMPARE(tabOrder(till.window).join(' '),
+            QString("tableView1 tableView2 txt_montant btn_Effacer_Saisie btn_Afficher "
+                    "btn_Ticket btn_Effacer_Ticket btn_Total_Ticket btn_1 btn_2 btn_3 btn_4 "
+                    "btn_5 btn_6 btn_7 btn_8 btn_9 btn_10 btn_11 btn_13 btn_12 btn_Payer "
+                    "chkbx_ToolTip"));
+    }
+
+    void returnSellsNothing()
+    {
+        Keyboard till;
+        const AnswerBox box;
+        auto& field = child<QLineEdit>(till.window, "txt_montant");
+        field.setText(QString("5"));
+        for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+            QTest::keyClick(&field, key);
+            for (const auto* name : {"tableView1", "tableView2"}) {
+                auto& view = child<QTableView>(till.window, name);
+                view.setCurrentIndex(view.model()->index(0, 2));
+                QTest::keyClick(&view, key);
+            }
+            QTest::keyClick(&child<QPushButton>(till.window, "btn_Payer"), key);
         }
-        QTest::keyClick(&child<QPushButton>(till.window, "btn_Payer"), key);
+        QCOMPARE(till.stored(), QString("Thé 1|Vin 3"));
+        QCOMPARE(field.text(), QString("5"));
+        QVERIFY(!box.wasShown());
     }
-    QCOMPARE(till.stored(), QString("Thé 1|Vin 3"));
-    QCOMPARE(field.text(), QString("5"));
-    QVERIFY(!box.wasShown());
-}
 
-void TestFormVendelKeyboard::spacePressesTheButton()
-{
-    Keyboard till;
-    QTest::keyClick(&child<QPushButton>(till.window, "btn_7"), Qt::Key_Space);
-    QTest::keyClick(&child<QPushButton>(till.window, "btn_12"), Qt::Key_Space);
-    QCOMPARE(till.stored(), QString("Thé 1|Vin 3|---- 7"));
-}
+    void spacePressesTheButton()
+    {
+        Keyboard till;
+        QTest::keyClick(&child<QPushButton>(till.window, "btn_7"), Qt::Key_Space);
+        QTest::keyClick(&child<QPushButton>(till.window, "btn_12"), Qt::Key_Space);
+        QCOMPARE(till.stored(), QString("Thé 1|Vin 3|---- 7"));
+    }
 
-void TestFormVendelKeyboard::thereAreNoShortcuts()
-{
-    Keyboard till;
-    const auto actions = till.window.findChildren<QAction*>();
-    QVERIFY(actions.size() >= 6);
-    for (const QAction* action : actions) {
-        QVERIFY(action->shortcut().isEmpty());
-        QVERIFY(!action->text().contains('&'));
+    void thereAreNoShortcuts()
+    {
+        Keyboard till;
+        const auto actions = till.window.findChildren<QAction*>();
+        QVERIFY(actions.size() >= 6);
+        for (const QAction* action : actions) {
+            QVERIFY(action->shortcut().isEmpty());
+            QVERIFY(!action->text().contains('&'));
+        }
+        const auto buttons = till.window.findChildren<QAbstractButton*>();
+        for (const QAbstractButton* button : buttons) {
+            QVERIFY(button->shortcut().isEmpty());
+        }
+        QTest::keyClicks(&child<QPushButton>(till.window, "btn_Payer"), QString("12+"));
+        QCOMPARE(child<QLineEdit>(till.window, "txt_montant").text(), QString());
+        QCOMPARE(till.stored(), QString("Thé 1|Vin 3"));
     }
-    const auto buttons = till.window.findChildren<QAbstractButton*>();
-    for (const QAbstractButton* button : buttons) {
-        QVERIFY(button->shortcut().isEmpty());
-    }
-    QTest::keyClicks(&child<QPushButton>(till.window, "btn_Payer"), QString("12+"));
-    QCOMPARE(child<QLineEdit>(till.window, "txt_montant").text(), QString());
-    QCOMPARE(till.stored(), QString("Thé 1|Vin 3"));
-}
+};
 
 VENDEL_TEST(TestFormVendelKeyboard)
 #include "tst_FormVendelKeyboard.moc"

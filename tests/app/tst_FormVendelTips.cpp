@@ -12,36 +12,6 @@
 #include <QTextDocument>
 #include <QToolTip>
 
-class TestFormVendelTips : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void cleanup();
-
-    void theMenusTipNamesTheArticle();
-    void theTicketsTipNamesTheLine();
-    void everyColumnTellsTheName();
-    void theTipStandsRightBelowItsPoint();
-    void aTotalHasATipToo();
-    void anEmptyAreaHidesTheTip();
-    void anEmptyListHasNoTip();
-    void aNamelessArticleHasNoTip();
-    void theCheckBoxSwitchesTipsOff();
-    void theCheckBoxTakesAStandingTipAway();
-    void theCheckBoxSwitchesTipsOnAgain();
-    void otherEventsTouchNoTip_data();
-    void otherEventsTouchNoTip();
-    void theListsProcessTheirEventsAsUsual();
-    void qtsOwnTipRequestKeepsTheTip();
-    void theSplashsTimerTakesNoTipAway();
-    void theClockTakesNoTipAway();
-    void aNameLikeATagIsPlainText();
-    void aTranslationWithoutALineBreakIsPlainTextToo();
-    void tipsAreTranslated();
-    void aNameOfTenThousandCharactersIsCut();
-};
-
 namespace {
 constexpr auto oneOnTheTicket
     = "insert into Article (article, prix) values ('Thé', 2.5), ('Eau', 1);"
@@ -84,246 +54,252 @@ QPoint tipPosition()
 }
 } // namespace
 
-void TestFormVendelTips::cleanup()
+class TestFormVendelTips : public QObject
 {
-    QToolTip::hideText();
-    QTRY_VERIFY(!QToolTip::isVisible());
-}
+    Q_OBJECT
 
-void TestFormVendelTips::theMenusTipNamesTheArticle()
-{
-    OpenCounter counter;
-    counter.hover("tableView1", 0, 2);
-    QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), eauOnMenu);
-    counter.hover("tableView1", 1, 2);
-    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : Thé\nPour l'ajouter au ticket"));
-}
-
-void TestFormVendelTips::theTicketsTipNamesTheLine()
-{
-    OpenCounter counter;
-    counter.hover("tableView2", 0, 2);
-    QVERIFY(QToolTip::isVisible());
-    QCOMPARE(
-        QToolTip::text(), QString("Ticket\nClick sur : Eau\nPour supprimer l'article du ticket"));
-}
-
-void TestFormVendelTips::everyColumnTellsTheName()
-{
-    OpenCounter counter;
-    for (const int column : {1, 2, 3}) {
+private slots:
+    void cleanup()
+    {
         QToolTip::hideText();
-        counter.hover("tableView1", 0, column);
-        QCOMPARE(QToolTip::text(), eauOnMenu);
-    }
-}
-
-void TestFormVendelTips::theTipStandsRightBelowItsPoint()
-{
-    OpenCounter counter;
-    QMouseEvent move(QEvent::MouseMove, QPointF(100.6, 5.4), QPointF(100.6, 5.4), Qt::NoButton,
-        Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(&counter.viewport("tableView1"), &move);
-    // Qt puts a tip below a pointer of 16 pixels, 2 pixels to the right.
-    QCOMPARE(tipPosition(), QPoint(101 + 150 + 2, 5 + 130 + 16));
-}
-
-void TestFormVendelTips::aTotalHasATipToo()
-{
-    OpenCounter counter;
-    click(counter.window, "btn_Total_Ticket");
-    counter.hover("tableView2", 1, 2);
-    QCOMPARE(QToolTip::text(),
-        QString("Ticket\nClick sur : Total ticket\nPour supprimer l'article du ticket"));
-}
-
-void TestFormVendelTips::anEmptyAreaHidesTheTip()
-{
-    OpenCounter counter;
-    for (const auto* list : {"tableView1", "tableView2"}) {
-        counter.hover(list, 0, 2);
-        QVERIFY(QToolTip::isVisible());
-        QMouseEvent move(QEvent::MouseMove, QPointF(200, 500), QPointF(200, 500), Qt::NoButton,
-            Qt::NoButton, Qt::NoModifier);
-        QApplication::sendEvent(&counter.viewport(list), &move);
         QTRY_VERIFY(!QToolTip::isVisible());
     }
-}
 
-void TestFormVendelTips::anEmptyListHasNoTip()
-{
-    OpenCounter counter("insert into Article (article, prix) values ('Thé', 1)");
-    QMouseEvent move(QEvent::MouseMove, QPointF(20, 10), QPointF(20, 10), Qt::NoButton,
-        Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(&counter.viewport("tableView2"), &move);
-    QVERIFY(!QToolTip::isVisible());
-}
-
-void TestFormVendelTips::aNamelessArticleHasNoTip()
-{
-    OpenCounter counter("insert into Article (article, prix) values ('', 1), ('Thé', 1)");
-    counter.hover("tableView1", 1, 2);
-    QVERIFY(QToolTip::isVisible());
-    counter.hover("tableView1", 0, 2);
-    QTRY_VERIFY(!QToolTip::isVisible());
-}
-
-void TestFormVendelTips::theCheckBoxSwitchesTipsOff()
-{
-    OpenCounter counter;
-    counter.hover("tableView1", 0, 2);
-    QVERIFY(QToolTip::isVisible());
-    click(counter.window, "chkbx_ToolTip");
-    QVERIFY(!child<QCheckBox>(counter.window, "chkbx_ToolTip").isChecked());
-    QTRY_VERIFY(!QToolTip::isVisible());
-    counter.hover("tableView1", 0, 2);
-    counter.hover("tableView2", 0, 2);
-    QVERIFY(!QToolTip::isVisible());
-}
-
-void TestFormVendelTips::theCheckBoxTakesAStandingTipAway()
-{
-    OpenCounter counter;
-    auto& box = child<QCheckBox>(counter.window, "chkbx_ToolTip");
-    box.setFocus();
-    counter.hover("tableView1", 0, 2);
-    QVERIFY(QToolTip::isVisible());
-    QTest::keyClick(&box, Qt::Key_Space);
-    QVERIFY(!box.isChecked());
-    QTRY_VERIFY(!QToolTip::isVisible());
-}
-
-void TestFormVendelTips::theCheckBoxSwitchesTipsOnAgain()
-{
-    OpenCounter counter;
-    click(counter.window, "chkbx_ToolTip");
-    click(counter.window, "chkbx_ToolTip");
-    counter.hover("tableView1", 0, 2);
-    QCOMPARE(QToolTip::text(), eauOnMenu);
-}
-
-void TestFormVendelTips::otherEventsTouchNoTip_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::newRow("enter") << static_cast<int>(QEvent::Enter);
-    QTest::newRow("hover") << static_cast<int>(QEvent::HoverLeave);
-    QTest::newRow("status tip") << static_cast<int>(QEvent::StatusTip);
-    QTest::newRow("update request") << static_cast<int>(QEvent::UpdateRequest);
-    QTest::newRow("layout request") << static_cast<int>(QEvent::LayoutRequest);
-    QTest::newRow("palette") << static_cast<int>(QEvent::PaletteChange);
-}
-
-void TestFormVendelTips::otherEventsTouchNoTip()
-{
-    QFETCH(int, type);
-    OpenCounter counter;
-    counter.hover("tableView1", 0, 2);
-    QEvent event(static_cast<QEvent::Type>(type));
-    QObject& filter = counter.window;
-    for (const auto* list : {"tableView1", "tableView2"}) {
-        QVERIFY(!filter.eventFilter(&counter.viewport(list), &event));
+    void theMenusTipNamesTheArticle()
+    {
+        OpenCounter counter;
+        counter.hover("tableView1", 0, 2);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), eauOnMenu);
+        counter.hover("tableView1", 1, 2);
+        QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : Thé\nPour l'ajouter au ticket"));
     }
-    QTest::qWait(400);
-    QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), eauOnMenu);
-}
 
-void TestFormVendelTips::theListsProcessTheirEventsAsUsual()
-{
-    OpenCounter counter;
-    QObject& filter = counter.window;
-    for (const auto type : {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-             QEvent::MouseButtonDblClick}) {
-        QMouseEvent event(
-            type, QPointF(50, 5), QPointF(50, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QVERIFY(!filter.eventFilter(&counter.viewport("tableView1"), &event));
-        QVERIFY(!filter.eventFilter(&counter.viewport("tableView2"), &event));
-        QVERIFY(!filter.eventFilter(&counter.window, &event));
+    void theTicketsTipNamesTheLine()
+    {
+        OpenCounter counter;
+        counter.hover("tableView2", 0, 2);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(),
+            QString("Ticket\nClick sur : Eau\nPour supprimer l'article du ticket"));
     }
-}
 
-void TestFormVendelTips::qtsOwnTipRequestKeepsTheTip()
-{
-    OpenCounter counter;
-    counter.hover("tableView1", 0, 2);
-    QWidget& viewport = counter.viewport("tableView1");
-    QHelpEvent request(QEvent::ToolTip, QPoint(50, 5), viewport.mapToGlobal(QPoint(50, 5)));
-    QApplication::sendEvent(&viewport, &request);
-    QTest::qWait(400);
-    QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), eauOnMenu);
-}
-
-void TestFormVendelTips::theSplashsTimerTakesNoTipAway()
-{
-    OpenCounter counter;
-    counter.hover("tableView1", 0, 2);
-    auto& splash = child<FormVendelStart>(counter.window, "FormVendelStart");
-    for (int tick = 1; tick <= 6; ++tick) {
-        QVERIFY(QMetaObject::invokeMethod(&splash, "on_timeout"));
+    void everyColumnTellsTheName()
+    {
+        OpenCounter counter;
+        for (const int column : {1, 2, 3}) {
+            QToolTip::hideText();
+            counter.hover("tableView1", 0, column);
+            QCOMPARE(QToolTip::text(), eauOnMenu);
+        }
     }
-    QTest::qWait(400);
-    QVERIFY(QToolTip::isVisible());
-}
 
-void TestFormVendelTips::theClockTakesNoTipAway()
-{
-    OpenCounter counter;
-    counter.hover("tableView1", 0, 2);
-    QTest::qWait(1200);
-    QVERIFY(QToolTip::isVisible());
-}
+    void theTipStandsRightBelowItsPoint()
+    {
+        OpenCounter counter;
+        QMouseEvent move(QEvent::MouseMove, QPointF(100.6, 5.4), QPointF(100.6, 5.4), Qt::NoButton,
+            Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&counter.viewport("tableView1"), &move);
+        // Qt puts a tip below a pointer of 16 pixels, 2 pixels to the right.
+        QCOMPARE(tipPosition(), QPoint(101 + 150 + 2, 5 + 130 + 16));
+    }
 
-void TestFormVendelTips::aNameLikeATagIsPlainText()
-{
-    OpenCounter counter("insert into Article (article, prix) values ('<b>x</b>', 1);"
-                        "insert into Ticket (id, article, prix) values (1, '&lt;', 1)");
-    counter.hover("tableView1", 0, 2);
-    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : <b>x</b>\nPour l'ajouter au ticket"));
-    QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
-    counter.hover("tableView2", 0, 2);
-    QCOMPARE(
-        QToolTip::text(), QString("Ticket\nClick sur : &lt;\nPour supprimer l'article du ticket"));
-    QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
-}
+    void aTotalHasATipToo()
+    {
+        OpenCounter counter;
+        click(counter.window, "btn_Total_Ticket");
+        counter.hover("tableView2", 1, 2);
+        QCOMPARE(QToolTip::text(),
+            QString("Ticket\nClick sur : Total ticket\nPour supprimer l'article du ticket"));
+    }
 
-void TestFormVendelTips::aTranslationWithoutALineBreakIsPlainTextToo()
-{
-    Translation translation;
-    translation.add(
-        QString("FormVendelMessages"), QString("Menu\nClick sur : "), QString("Click: "));
-    OpenCounter counter("insert into Article (article, prix) values ('<b>x</b>', 1)");
-    counter.hover("tableView1", 0, 2);
-    QCOMPARE(QToolTip::text(),
-        QString("<p>Click: &lt;b&gt;x&lt;/b&gt;<br>\nPour l'ajouter au ticket</p>"));
-}
+    void anEmptyAreaHidesTheTip()
+    {
+        OpenCounter counter;
+        for (const auto* list : {"tableView1", "tableView2"}) {
+            counter.hover(list, 0, 2);
+            QVERIFY(QToolTip::isVisible());
+            QMouseEvent move(QEvent::MouseMove, QPointF(200, 500), QPointF(200, 500), Qt::NoButton,
+                Qt::NoButton, Qt::NoModifier);
+            QApplication::sendEvent(&counter.viewport(list), &move);
+            QTRY_VERIFY(!QToolTip::isVisible());
+        }
+    }
 
-void TestFormVendelTips::tipsAreTranslated()
-{
-    Translation translation;
-    const QString context = QString("FormVendelMessages");
-    translation.add(context, QString("Menu\nClick sur : "), QString("Menu\nClick: "));
-    translation.add(context, QString("\nPour l'ajouter au ticket"), QString("\nto add it"));
-    translation.add(context, QString("Ticket\nClick sur : "), QString("Ticket\nClick: "));
-    translation.add(
-        context, QString("\nPour supprimer l'article du ticket"), QString("\nto take it off"));
-    OpenCounter counter;
-    counter.hover("tableView1", 0, 2);
-    QCOMPARE(QToolTip::text(), QString("Menu\nClick: Eau\nto add it"));
-    counter.hover("tableView2", 0, 2);
-    QCOMPARE(QToolTip::text(), QString("Ticket\nClick: Eau\nto take it off"));
-}
+    void anEmptyListHasNoTip()
+    {
+        OpenCounter counter("insert into Article (article, prix) values ('Thé', 1)");
+        QMouseEvent move(QEvent::MouseMove, QPointF(20, 10), QPointF(20, 10), Qt::NoButton,
+            Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&counter.viewport("tableView2"), &move);
+        QVERIFY(!QToolTip::isVisible());
+    }
 
-void TestFormVendelTips::aNameOfTenThousandCharactersIsCut()
-{
-    OpenCounter counter("insert into Article (article, prix) values "
-                        "(replace(hex(zeroblob(5000)), '0', 'é'), 1)");
-    counter.hover("tableView1", 0, 2);
-    QCOMPARE(QToolTip::text(),
-        QLatin1String("Menu\nClick sur : ") + QString(200, QChar(0xE9)) + QChar(0x2026)
-            + QLatin1String("\nPour l'ajouter au ticket"));
-}
+    void aNamelessArticleHasNoTip()
+    {
+        OpenCounter counter("insert into Article (article, prix) values ('', 1), ('Thé', 1)");
+        counter.hover("tableView1", 1, 2);
+        QVERIFY(QToolTip::isVisible());
+        counter.hover("tableView1", 0, 2);
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
+    void theCheckBoxSwitchesTipsOff()
+    {
+        OpenCounter counter;
+        counter.hover("tableView1", 0, 2);
+        QVERIFY(QToolTip::isVisible());
+        click(counter.window, "chkbx_ToolTip");
+        QVERIFY(!child<QCheckBox>(counter.window, "chkbx_ToolTip").isChecked());
+        QTRY_VERIFY(!QToolTip::isVisible());
+        counter.hover("tableView1", 0, 2);
+        counter.hover("tableView2", 0, 2);
+        QVERIFY(!QToolTip::isVisible());
+    }
+
+    void theCheckBoxTakesAStandingTipAway()
+    {
+        OpenCounter counter;
+        auto& box = child<QCheckBox>(counter.window, "chkbx_ToolTip");
+        box.setFocus();
+        counter.hover("tableView1", 0, 2);
+        QVERIFY(QToolTip::isVisible());
+        QTest::keyClick(&box, Qt::Key_Space);
+        QVERIFY(!box.isChecked());
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
+    void theCheckBoxSwitchesTipsOnAgain()
+    {
+        OpenCounter counter;
+        click(counter.window, "chkbx_ToolTip");
+        click(counter.window, "chkbx_ToolTip");
+        counter.hover("tableView1", 0, 2);
+        QCOMPARE(QToolTip::text(), eauOnMenu);
+    }
+
+    void otherEventsTouchNoTip_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::newRow("enter") << static_cast<int>(QEvent::Enter);
+        QTest::newRow("hover") << static_cast<int>(QEvent::HoverLeave);
+        QTest::newRow("status tip") << static_cast<int>(QEvent::StatusTip);
+        QTest::newRow("update request") << static_cast<int>(QEvent::UpdateRequest);
+        QTest::newRow("layout request") << static_cast<int>(QEvent::LayoutRequest);
+        QTest::newRow("palette") << static_cast<int>(QEvent::PaletteChange);
+    }
+
+    void otherEventsTouchNoTip()
+    {
+        QFETCH(int, type);
+        OpenCounter counter;
+        counter.hover("tableView1", 0, 2);
+        QEvent event(static_cast<QEvent::Type>(type));
+        QObject& filter = counter.window;
+        for (const auto* list : {"tableView1", "tableView2"}) {
+            QVERIFY(!filter.eventFilter(&counter.viewport(list), &event));
+        }
+        QTest::qWait(400);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), eauOnMenu);
+    }
+
+    void theListsProcessTheirEventsAsUsual()
+    {
+        OpenCounter counter;
+        QObject& filter = counter.window;
+        for (const auto type : {QEvent::MouseMove, QEvent::MouseButtonPress,
+                 QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick}) {
+            QMouseEvent event(type, QPointF(50, 5), QPointF(50, 5), Qt::LeftButton, Qt::LeftButton,
+                Qt::NoModifier);
+            QVERIFY(!filter.eventFilter(&counter.viewport("tableView1"), &event));
+            QVERIFY(!filter.eventFilter(&counter.viewport("tableView2"), &event));
+            QVERIFY(!filter.eventFilter(&counter.window, &event));
+        }
+    }
+
+    void qtsOwnTipRequestKeepsTheTip()
+    {
+        OpenCounter counter;
+        counter.hover("tableView1", 0, 2);
+        QWidget& viewport = counter.viewport("tableView1");
+        QHelpEvent request(QEvent::ToolTip, QPoint(50, 5), viewport.mapToGlobal(QPoint(50, 5)));
+        QApplication::sendEvent(&viewport, &request);
+        QTest::qWait(400);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), eauOnMenu);
+    }
+
+    void theSplashsTimerTakesNoTipAway()
+    {
+        OpenCounter counter;
+        counter.hover("tableView1", 0, 2);
+        auto& splash = child<FormVendelStart>(counter.window, "FormVendelStart");
+        for (int tick = 1; tick <= 6; ++tick) {
+            QVERIFY(QMetaObject::invokeMethod(&splash, "on_timeout"));
+        }
+        QTest::qWait(400);
+        QVERIFY(QToolTip::isVisible());
+    }
+
+    void theClockTakesNoTipAway()
+    {
+        OpenCounter counter;
+        counter.hover("tableView1", 0, 2);
+        QTest::qWait(1200);
+        QVERIFY(QToolTip::isVisible());
+    }
+
+    void aNameLikeATagIsPlainText()
+    {
+        OpenCounter counter("insert into Article (article, prix) values ('<b>x</b>', 1);"
+                            "insert into Ticket (id, article, prix) values (1, '&lt;', 1)");
+        counter.hover("tableView1", 0, 2);
+        QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : <b>x</b>\nPour l'ajouter au ticket"));
+        QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
+        counter.hover("tableView2", 0, 2);
+        QCOMPARE(QToolTip::text(),
+            QString("Ticket\nClick sur : &lt;\nPour supprimer l'article du ticket"));
+        QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
+    }
+
+    void aTranslationWithoutALineBreakIsPlainTextToo()
+    {
+        Translation translation;
+        translation.add(
+            QString("FormVendelMessages"), QString("Menu\nClick sur : "), QString("Click: "));
+        OpenCounter counter("insert into Article (article, prix) values ('<b>x</b>', 1)");
+        counter.hover("tableView1", 0, 2);
+        QCOMPARE(QToolTip::text(),
+            QString("<p>Click: &lt;b&gt;x&lt;/b&gt;<br>\nPour l'ajouter au ticket</p>"));
+    }
+
+    void tipsAreTranslated()
+    {
+        Translation translation;
+        const QString context = QString("FormVendelMessages");
+        translation.add(context, QString("Menu\nClick sur : "), QString("Menu\nClick: "));
+        translation.add(context, QString("\nPour l'ajouter au ticket"), QString("\nto add it"));
+        translation.add(context, QString("Ticket\nClick sur : "), QString("Ticket\nClick: "));
+        translation.add(
+            context, QString("\nPour supprimer l'article du ticket"), QString("\nto take it off"));
+        OpenCounter counter;
+        counter.hover("tableView1", 0, 2);
+        QCOMPARE(QToolTip::text(), QString("Menu\nClick: Eau\nto add it"));
+        counter.hover("tableView2", 0, 2);
+        QCOMPARE(QToolTip::text(), QString("Ticket\nClick: Eau\nto take it off"));
+    }
+
+    void aNameOfTenThousandCharactersIsCut()
+    {
+        OpenCounter counter("insert into Article (article, prix) values "
+                            "(replace(hex(zeroblob(5000)), '0', 'é'), 1)");
+        counter.hover("tableView1", 0, 2);
+        QCOMPARE(QToolTip::text(),
+            QLatin1String("Menu\nClick sur : ") + QString(200, QChar(0xE9)) + QChar(0x2026)
+                + QLatin1String("\nPour l'ajouter au ticket"));
+    }
+};
 
 VENDEL_TEST(TestFormVendelTips)
 #include "tst_FormVendelTips.moc"

@@ -10,14 +10,6 @@
 
 #include <malloc.h>
 
-class TestLongDay : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void aDayOfManySalesLeavesNothingBehind();
-};
-
 namespace {
 /// What a till holds between two sales.
 struct Held
@@ -63,46 +55,52 @@ void sellTwoArticles(Till& till)
 }
 } // namespace
 
-void TestLongDay::aDayOfManySalesLeavesNothingBehind()
+class TestLongDay : public QObject
 {
-    bool isLong = false;
-    const int asked = qEnvironmentVariableIntValue("VENDEL_SALES", &isLong);
-    const int sales = isLong ? asked : 60;
-    const int warmUp = sales / 3;
-    // The style keeps pictures of buttons, ten megabytes at the most, which are no sale's.
-    QPixmapCache::setCacheLimit(0);
-    Till till;
-    till.run("insert into Article (article, prix) values ('Café', 1.5), ('Thé', 2.25)");
-    click(till.window, "btn_Afficher");
+    Q_OBJECT
 
-    const double begin = workedMs();
-    for (int sale = 0; sale < warmUp; ++sale) {
-        sellTwoArticles(till);
-    }
-    const double firstMs = workedMs() - begin;
-    const Held before = held(till.window);
-    const double middle = workedMs();
-    for (int sale = 0; sale < 2 * warmUp; ++sale) {
-        sellTwoArticles(till);
-    }
-    const double nextMs = workedMs() - middle;
-    const Held after = held(till.window);
+private slots:
+    void aDayOfManySalesLeavesNothingBehind()
+    {
+        bool isLong = false;
+        const int asked = qEnvironmentVariableIntValue("VENDEL_SALES", &isLong);
+        const int sales = isLong ? asked : 60;
+        const int warmUp = sales / 3;
+        // The style keeps pictures of buttons, ten megabytes at the most, which are no sale's.
+        QPixmapCache::setCacheLimit(0);
+        Till till;
+        till.run("insert into Article (article, prix) values ('Café', 1.5), ('Thé', 2.25)");
+        click(till.window, "btn_Afficher");
 
-    QCOMPARE(till.history().size(), 3 * warmUp * 2);
-    QCOMPARE(till.ticket(), QStringList());
-    QCOMPARE(after.descriptors, before.descriptors);
-    QCOMPARE(after.windows, before.windows);
-    QCOMPARE(after.objects, before.objects);
-    qInfo("%d sales; first third %.2f ms of the processor a sale, the rest %.2f ms", 3 * warmUp,
-        firstMs / warmUp, nextMs / (2 * warmUp));
-    qInfo("held after a third: %.1f MB, %d descriptors, %d windows", double(before.bytes) / 1e6,
-        before.descriptors, before.windows);
-    qInfo("held at the end: %.1f MB, %d descriptors, %d windows", double(after.bytes) / 1e6,
-        after.descriptors, after.windows);
-    // The heap's own rounding; a receipt kept for each sale would be ten times that.
-    const qint64 grown = after.bytes - before.bytes;
-    QVERIFY2(grown < 200000, qPrintable(QString::number(grown)));
-}
+        const double begin = workedMs();
+        for (int sale = 0; sale < warmUp; ++sale) {
+            sellTwoArticles(till);
+        }
+        const double firstMs = workedMs() - begin;
+        const Held before = held(till.window);
+        const double middle = workedMs();
+        for (int sale = 0; sale < 2 * warmUp; ++sale) {
+            sellTwoArticles(till);
+        }
+        const double nextMs = workedMs() - middle;
+        const Held after = held(till.window);
+
+        QCOMPARE(till.history().size(), 3 * warmUp * 2);
+        QCOMPARE(till.ticket(), QStringList());
+        QCOMPARE(after.descriptors, before.descriptors);
+        QCOMPARE(after.windows, before.windows);
+        QCOMPARE(after.objects, before.objects);
+        qInfo("%d sales; first third %.2f ms of the processor a sale, the rest %.2f ms", 3 * warmUp,
+            firstMs / warmUp, nextMs / (2 * warmUp));
+        qInfo("held after a third: %.1f MB, %d descriptors, %d windows", double(before.bytes) / 1e6,
+            before.descriptors, before.windows);
+        qInfo("held at the end: %.1f MB, %d descriptors, %d windows", double(after.bytes) / 1e6,
+            after.descriptors, after.windows);
+        // The heap's own rounding; a receipt kept for each sale would be ten times that.
+        const qint64 grown = after.bytes - before.bytes;
+        QVERIFY2(grown < 200000, qPrintable(QString::number(grown)));
+    }
+};
 
 VENDEL_TEST(TestLongDay)
 #include "tst_LongDay.moc"

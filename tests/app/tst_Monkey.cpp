@@ -23,14 +23,6 @@
 
 #include <unistd.h>
 
-class TestMonkey : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void anyMouseAndKeysLeaveTheTillStanding();
-};
-
 namespace {
 constexpr unsigned hangSeconds = 60;
 constexpr int mostSteps = 400000;
@@ -265,44 +257,50 @@ QStringList ofTheTill(QStringList warnings)
 }
 } // namespace
 
-void TestMonkey::anyMouseAndKeysLeaveTheTillStanding()
+class TestMonkey : public QObject
 {
-    bool isLong = false;
-    const int seconds = qEnvironmentVariableIntValue("VENDEL_MONKEY_SECONDS", &isLong);
-    const auto seed = static_cast<quint32>(qEnvironmentVariableIntValue("VENDEL_MONKEY_SEED"));
-    const Shop shop;
-    stock(shop);
-    QApplication::setQuitOnLastWindowClosed(false);
-    QStringList warnings;
-    QStringList criticals;
-    QSet<QString> windows;
+    Q_OBJECT
+
+private slots:
+    void anyMouseAndKeysLeaveTheTillStanding()
     {
-        const CapturedOutput output;
-        const CapturedLog log;
-        FormVendel till;
-        till.show();
-        Monkey monkey(seed, till);
-        int steps = 0;
-        QElapsedTimer timer;
-        timer.start();
-        monkey.play([&] {
-            ++steps;
-            return isLong
-                ? timer.elapsed() > seconds * 1000
-                : steps == mostSteps || (steps > 4000 && isEveryWindowIn(monkey.windowsSeen()));
-        });
-        ::alarm(0);
-        windows = monkey.windowsSeen();
-        warnings = ofTheTill(log.warnings());
-        criticals = log.criticals();
+        bool isLong = false;
+        const int seconds = qEnvironmentVariableIntValue("VENDEL_MONKEY_SECONDS", &isLong);
+        const auto seed = static_cast<quint32>(qEnvironmentVariableIntValue("VENDEL_MONKEY_SEED"));
+        const Shop shop;
+        stock(shop);
+        QApplication::setQuitOnLastWindowClosed(false);
+        QStringList warnings;
+        QStringList criticals;
+        QSet<QString> windows;
+        {
+            const CapturedOutput output;
+            const CapturedLog log;
+            FormVendel till;
+            till.show();
+            Monkey monkey(seed, till);
+            int steps = 0;
+            QElapsedTimer timer;
+            timer.start();
+            monkey.play([&] {
+                ++steps;
+                return isLong
+                    ? timer.elapsed() > seconds * 1000
+                    : steps == mostSteps || (steps > 4000 && isEveryWindowIn(monkey.windowsSeen()));
+            });
+            ::alarm(0);
+            windows = monkey.windowsSeen();
+            warnings = ofTheTill(log.warnings());
+            criticals = log.criticals();
+        }
+        for (const QString& name : everyWindow()) {
+            QVERIFY2(windows.contains(name), qPrintable(name));
+        }
+        QCOMPARE(warnings, QStringList());
+        QCOMPARE(criticals, QStringList());
+        QCOMPARE(shop.cell("pragma integrity_check"), QString("ok"));
     }
-    for (const QString& name : everyWindow()) {
-        QVERIFY2(windows.contains(name), qPrintable(name));
-    }
-    QCOMPARE(warnings, QStringList());
-    QCOMPARE(criticals, QStringList());
-    QCOMPARE(shop.cell("pragma integrity_check"), QString("ok"));
-}
+};
 
 VENDEL_TEST(TestMonkey)
 #include "tst_Monkey.moc"

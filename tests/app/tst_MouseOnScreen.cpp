@@ -9,21 +9,6 @@
 #include <QTableView>
 #include <QToolTip>
 
-class TestMouseOnScreen : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void theScreenIsTheCountersScreen();
-    void aTipUnderThePointerLetsAClickThrough();
-    void aTipStandsWhileTheMouseRests();
-    void movingBelowTheTipKeepsIt();
-    void leavingTheListTakesTheTipAway();
-    void fivePressesAtATenthOfASecondAreFiveLines();
-    void threeImmediatePressesAreThreeLines();
-    void aDoubleClickOnTheTicketRemovesOneLine();
-};
-
 namespace {
 constexpr auto articles = "with recursive n(i) as (select 1 union all select i + 1 from n where "
                           "i < 30) insert into Article (article, prix) select 'Bière ' || "
@@ -102,86 +87,92 @@ struct ShownCounter : Till
 };
 } // namespace
 
-void TestMouseOnScreen::theScreenIsTheCountersScreen()
+class TestMouseOnScreen : public QObject
 {
-    const ShownCounter counter;
-    QCOMPARE(QGuiApplication::primaryScreen()->geometry(), QRect(0, 0, 1366, 768));
-    QCOMPARE(counter.window.pos(), QPoint(158, 71));
-}
+    Q_OBJECT
 
-void TestMouseOnScreen::aTipUnderThePointerLetsAClickThrough()
-{
-    ShownCounter counter;
-    rest(counter.cell("tableView1", 3));
-    QTRY_VERIFY(QToolTip::isVisible());
-    QVERIFY(shownTip()->geometry().contains(QCursor::pos()));
-    mouse({QString("click"), QString("1")});
-    QTRY_COMPARE(counter.names("tableView2"), QString("Bière 04"));
-}
+private slots:
+    void theScreenIsTheCountersScreen()
+    {
+        const ShownCounter counter;
+        QCOMPARE(QGuiApplication::primaryScreen()->geometry(), QRect(0, 0, 1366, 768));
+        QCOMPARE(counter.window.pos(), QPoint(158, 71));
+    }
 
-void TestMouseOnScreen::aTipStandsWhileTheMouseRests()
-{
-    ShownCounter counter;
-    rest(counter.cell("tableView1", 3));
-    QTRY_VERIFY(QToolTip::isVisible());
-    // Qt asks for a tip of its own after 0.7 s.
-    QTest::qWait(2000);
-    QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : Bière 04\nPour l'ajouter au ticket"));
-}
+    void aTipUnderThePointerLetsAClickThrough()
+    {
+        ShownCounter counter;
+        rest(counter.cell("tableView1", 3));
+        QTRY_VERIFY(QToolTip::isVisible());
+        QVERIFY(shownTip()->geometry().contains(QCursor::pos()));
+        mouse({QString("click"), QString("1")});
+        QTRY_COMPARE(counter.names("tableView2"), QString("Bière 04"));
+    }
 
-void TestMouseOnScreen::movingBelowTheTipKeepsIt()
-{
-    ShownCounter counter;
-    const QPoint point = counter.cell("tableView1", 3);
-    rest(point);
-    QTRY_VERIFY(QToolTip::isVisible());
-    for (int step = 1; step <= 5; ++step) {
-        mouse(moveTo(point + QPoint(step, 0)));
-        QTest::qWait(100);
+    void aTipStandsWhileTheMouseRests()
+    {
+        ShownCounter counter;
+        rest(counter.cell("tableView1", 3));
+        QTRY_VERIFY(QToolTip::isVisible());
+        // Qt asks for a tip of its own after 0.7 s.
+        QTest::qWait(2000);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : Bière 04\nPour l'ajouter au ticket"));
+    }
+
+    void movingBelowTheTipKeepsIt()
+    {
+        ShownCounter counter;
+        const QPoint point = counter.cell("tableView1", 3);
+        rest(point);
+        QTRY_VERIFY(QToolTip::isVisible());
+        for (int step = 1; step <= 5; ++step) {
+            mouse(moveTo(point + QPoint(step, 0)));
+            QTest::qWait(100);
+            QVERIFY(QToolTip::isVisible());
+        }
+        QTest::qWait(500);
         QVERIFY(QToolTip::isVisible());
     }
-    QTest::qWait(500);
-    QVERIFY(QToolTip::isVisible());
-}
 
-void TestMouseOnScreen::leavingTheListTakesTheTipAway()
-{
-    ShownCounter counter;
-    rest(counter.cell("tableView1", 3));
-    QTRY_VERIFY(QToolTip::isVisible());
-    mouse(moveTo(outside));
-    QTRY_VERIFY(!QToolTip::isVisible());
-}
+    void leavingTheListTakesTheTipAway()
+    {
+        ShownCounter counter;
+        rest(counter.cell("tableView1", 3));
+        QTRY_VERIFY(QToolTip::isVisible());
+        mouse(moveTo(outside));
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
 
-void TestMouseOnScreen::fivePressesAtATenthOfASecondAreFiveLines()
-{
-    ShownCounter counter;
-    rest(counter.cell("tableView1", 2));
-    mouse(clicks(5, 100));
-    QTRY_COMPARE(
-        counter.names("tableView2"), QString("Bière 03|Bière 03|Bière 03|Bière 03|Bière 03"));
-}
+    void fivePressesAtATenthOfASecondAreFiveLines()
+    {
+        ShownCounter counter;
+        rest(counter.cell("tableView1", 2));
+        mouse(clicks(5, 100));
+        QTRY_COMPARE(
+            counter.names("tableView2"), QString("Bière 03|Bière 03|Bière 03|Bière 03|Bière 03"));
+    }
 
-void TestMouseOnScreen::threeImmediatePressesAreThreeLines()
-{
-    ShownCounter counter;
-    rest(counter.cell("tableView1", 2));
-    mouse(clicks(3, 15));
-    QTRY_COMPARE(counter.names("tableView2"), QString("Bière 03|Bière 03|Bière 03"));
-}
+    void threeImmediatePressesAreThreeLines()
+    {
+        ShownCounter counter;
+        rest(counter.cell("tableView1", 2));
+        mouse(clicks(3, 15));
+        QTRY_COMPARE(counter.names("tableView2"), QString("Bière 03|Bière 03|Bière 03"));
+    }
 
-void TestMouseOnScreen::aDoubleClickOnTheTicketRemovesOneLine()
-{
-    ShownCounter counter;
-    rest(counter.cell("tableView1", 2));
-    mouse(clicks(3, 300));
-    QTRY_COMPARE(rowCount(counter.window, "tableView2"), 3);
-    rest(counter.cell("tableView2", 0));
-    mouse(clicks(2, 60));
-    QTest::qWait(300);
-    QCOMPARE(counter.names("tableView2"), QString("Bière 03|Bière 03"));
-}
+    void aDoubleClickOnTheTicketRemovesOneLine()
+    {
+        ShownCounter counter;
+        rest(counter.cell("tableView1", 2));
+        mouse(clicks(3, 300));
+        QTRY_COMPARE(rowCount(counter.window, "tableView2"), 3);
+        rest(counter.cell("tableView2", 0));
+        mouse(clicks(2, 60));
+        QTest::qWait(300);
+        QCOMPARE(counter.names("tableView2"), QString("Bière 03|Bière 03"));
+    }
+};
 
 VENDEL_TEST(TestMouseOnScreen)
 #include "tst_MouseOnScreen.moc"

@@ -6,16 +6,6 @@
 #include <QTextEdit>
 #include <QTextLayout>
 
-/// A receipt in a window where the face is too wide for the paper's columns.
-class TestReceiptDocument : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void aWideFaceIsDrawnNarrower();
-    void aTotalIsTwiceAsWideAsTheNarrowFace();
-};
-
 namespace {
 constexpr int narrow = 300;
 
@@ -35,25 +25,32 @@ void showNarrow(QTextEdit& edit, const Receipt& receipt)
 }
 } // namespace
 
-void TestReceiptDocument::aWideFaceIsDrawnNarrower()
+/// A receipt in a window where the face is too wide for the paper's columns.
+class TestReceiptDocument : public QObject
 {
-    QTextEdit edit;
-    showNarrow(edit, {{ReceiptLine::Style::Plain, QString(48, '0')}});
-    QCOMPARE(firstLine(edit, 0).textLength(), 48);
-    QVERIFY(firstLine(edit, 0).naturalTextWidth() <= narrow);
-}
+    Q_OBJECT
 
-void TestReceiptDocument::aTotalIsTwiceAsWideAsTheNarrowFace()
-{
-    QTextEdit edit;
-    const QString digits(24, '0');
-    showNarrow(
-        edit, {{ReceiptLine::Style::Plain, digits}, {ReceiptLine::Style::GrandTotal, digits}});
-    const double plain = firstLine(edit, 0).naturalTextWidth();
-    const double wide = firstLine(edit, 1).naturalTextWidth();
-    QVERIFY(wide > 1.7 * plain);
-    QVERIFY(wide < 2.3 * plain);
-}
+private slots:
+    void aWideFaceIsDrawnNarrower()
+    {
+        QTextEdit edit;
+        showNarrow(edit, {{ReceiptLine::Style::Plain, QString(48, '0')}});
+        QCOMPARE(firstLine(edit, 0).textLength(), 48);
+        QVERIFY(firstLine(edit, 0).naturalTextWidth() <= narrow);
+    }
+
+    void aTotalIsTwiceAsWideAsTheNarrowFace()
+    {
+        QTextEdit edit;
+        const QString digits(24, '0');
+        showNarrow(
+            edit, {{ReceiptLine::Style::Plain, digits}, {ReceiptLine::Style::GrandTotal, digits}});
+        const double plain = firstLine(edit, 0).naturalTextWidth();
+        const double wide = firstLine(edit, 1).naturalTextWidth();
+        QVERIFY(wide > 1.7 * plain);
+        QVERIFY(wide < 2.3 * plain);
+    }
+};
 
 VENDEL_TEST(TestReceiptDocument)
 #include "tst_ReceiptDocument.moc"

@@ -50,195 +50,185 @@ class TestReceiptFrame : public QObject
     Q_OBJECT
 
 private slots:
-    void aHeaderHasTheseBytes_data();
-    void aHeaderHasTheseBytes();
-    void aFooterHasTheseBytes_data();
-    void aFooterHasTheseBytes();
-    void anEmptyFileIsAnEmptyLineAndAMissingOneIsNothing();
-    void aFolderInAFilesPlaceIsNothing();
-    void aHeaderOfAMegabyteIsPrintedWhole();
-    void aLineOfAMegabyteDisappears();
-    void aTextThatIsNoUtf8IsNotPrinted();
-    void aCharacterThatThePrinterLacksIsNotPrinted_data();
-    void aCharacterThatThePrinterLacksIsNotPrinted();
-    void bothFilesAreReadAtEachSale();
+    void aHeaderHasTheseBytes_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("bytes");
+        const auto row = [](const char* name, const QByteArray& file, const QByteArray& bytes) {
+            QTest::newRow(name) << file << bytes;
+        };
+        const QByteArray line46(46, 'x');
+        const QByteArray line47(47, 'x');
+        const QByteArray line48(48, 'x');
+        const QByteArray line49(49, 'x');
+        row("a title", "titre:Chez Paul", titleLine("Chez Paul"));
+        row("a plain line", "12 rue X", boldLine("                   12 rue X                   "));
+        row("a plain line of odd length", "75011 Paris",
+            boldLine("                  75011 Paris                  "));
+        row("an empty line between two", "a\n\nb",
+            boldLine("                       a                       ") + boldLine(blank46)
+                + boldLine("                       b                       "));
+        row("a line end at the end of the file", "12 rue X\n",
+            boldLine("                   12 rue X                   ") + boldLine(blank46));
+        row("nothing but line ends", "\n\n",
+            boldLine(blank46) + boldLine(blank46) + boldLine(blank46));
+        row("46 bytes", line46, boldLine(line46));
+        row("47 bytes", line47, boldLine(line47));
+        row("48 bytes", line48, boldLine(line48));
+        row("49 bytes", line49, boldLine(""));
+        row("44 letters and 4 accented ones",
+            QByteArray(40, 'x') + "\xc3\xa9\xc3\xa9\xc3\xa9\xc3\xa9",
+            boldLine(QByteArray(40, 'x') + "\x82\x82\x82\x82"));
+        row("24 accented letters and one more byte", QByteArray("\xc3\xa9").repeated(24) + "x",
+            boldLine(""));
+        row("a title with a second colon", "titre:Ouvert : 8 h", titleLine("Ouvert "));
+        row("an empty title", "titre:", titleLine(""));
+        row("a title with blanks", "titre: Chez Paul ", titleLine(" Chez Paul "));
+        row("a title longer than the paper", "titre:" + QByteArray(60, 'x'),
+            titleLine(QByteArray(60, 'x')));
+        row("a title mark in the middle of a line", "Notre titre:Chez Paul",
+            titleLine("Chez Paul"));
+        row("a colon before the title mark", "a:titre:Chez Paul", titleLine("titre"));
+        row("a capital in the title mark", "Titre:Chez Paul",
+            boldLine("                Titre:Chez Paul                "));
+        row("a blank in the title mark", "titre :Chez Paul",
+            boldLine("               titre :Chez Paul               "));
+        row("Windows line ends", "ab\r\ntitre:Chez Paul\r\n",
+            boldLine("                      ab\r                      ") + titleLine("Chez Paul\r")
+                + boldLine(blank46));
+        row("a line end of 48 bytes with its carriage return", line47 + "\r\n" + line48 + "\r",
+            boldLine(line47 + '\r') + boldLine(""));
+        row("a NUL in a line", QByteArray("ab\0cd\nef", 8),
+            boldLine("                      ab                      "));
+        row("a NUL at the start of a line", QByteArray("ab\n\0cd", 6),
+            boldLine("                      ab                      ") + boldLine(blank46));
+        row("a NUL at the start", QByteArray("\0ab", 3), boldLine(blank46));
+        row("a euro sign", "3 \xe2\x82\xac",
+            boldLine("                     3 \xd5                     "));
+        row("a euro sign in a title", "titre:3 \xe2\x82\xac", titleLine("3 \xd5"));
+        row("accents", "\xc3\x80 bient\xc3\xb4t",
+            boldLine("                  \xb7 bient\x93t                  "));
+        row("a tab", "a\tb", boldLine("                      a\tb                      "));
+        row("a command that changes the printer's settings", "a\x1d(E\x03z",
+            boldLine("                    a (E z                    "));
+        row("the first and the last control characters", "a\x01\x1f\x7fz",
+            boldLine("                     a   z                     "));
+        row("those around the tab, the line feed and the carriage return", "a\x08\x0b\x0c\x0ez",
+            boldLine("                    a    z                    "));
+        row("a command in a title", "titre:Chez\x1bp0 Paul\x10\x14", titleLine("Chez p0 Paul  "));
+        row("a command in the title mark", "titre\x1b:Chez Paul",
+            boldLine("               titre :Chez Paul               "));
+        row("semicolons and angle brackets", "<b>;a;</b>",
+            boldLine("                  <b>;a;</b>                  "));
+    }
+
+    void aHeaderHasTheseBytes()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, bytes);
+        COMPARE_BYTES(printedHeader(file), bytes);
+    }
+
+    void aFooterHasTheseBytes_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("a plain line") << QByteArray(
+            "Merci !") << QByteArray("                    Merci !                    \r\n");
+        QTest::newRow("a title is big as in a header")
+            << QByteArray("titre:Merci") << titleLine("Merci");
+        QTest::newRow("an empty line and the file's last line end") << QByteArray("\na\n")
+                                                                    << blank46
+                + "\r\n                       a                       \r\n" + blank46 + "\r\n";
+        QTest::newRow("48 bytes") << QByteArray(48, 'x') << QByteArray(48, 'x') + "\r\n";
+        QTest::newRow("49 bytes") << QByteArray(49, 'x') << QByteArray("\r\n");
+        QTest::newRow("a carriage return") << QByteArray(
+            "ab\r\n") << "                      ab\r                      \r\n" + blank46 + "\r\n";
+        QTest::newRow("a command") << QByteArray(
+            "a\x1bp0z") << QByteArray("                     a p0z                     \r\n");
+        QTest::newRow("a NUL") << QByteArray("ab\0cd", 5)
+                               << QByteArray("                      ab                      \r\n");
+    }
+
+    void aFooterHasTheseBytes()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, bytes);
+        COMPARE_BYTES(printedFooter(file), bytes);
+    }
+
+    void anEmptyFileIsAnEmptyLineAndAMissingOneIsNothing()
+    {
+        COMPARE_BYTES(printedHeader(""), boldLine(blank46));
+        COMPARE_BYTES(printedFooter(""), blank46 + "\r\n");
+        const Shop shop;
+        QVERIFY(!ReceiptFiles::read(ReceiptFiles::header));
+        QVERIFY(printedReceipt().startsWith("\r\n\r\nProduit"));
+        QVERIFY(printedReceipt().endsWith("\x1b\x45\x02\x1b\x21\x02\r\n"));
+    }
+
+    void aFolderInAFilesPlaceIsNothing()
+    {
+        const Shop shop;
+        QVERIFY(QDir().mkdir(QString("EnteteFormulaire.dat")));
+        QVERIFY(printedReceipt().startsWith("\r\n\r\nProduit"));
+    }
+
+    void aHeaderOfAMegabyteIsPrintedWhole()
+    {
+        constexpr int lines = 100'000;
+        const QByteArray header = printedHeader(QByteArray("123456789\n").repeated(lines));
+        const QByteArray line = boldLine("                   123456789                   ");
+        QVERIFY(header == line.repeated(lines) + boldLine(blank46));
+    }
+
+    void aLineOfAMegabyteDisappears()
+    {
+        COMPARE_BYTES(printedHeader(QByteArray(1'000'000, 'x') + "\na"),
+            boldLine("") + boldLine("                       a                       "));
+    }
+
+    void aTextThatIsNoUtf8IsNotPrinted()
+    {
+        QVERIFY_EXCEPTION_THROWN(printedHeader("Caf\xe9"), std::runtime_error);
+        QVERIFY_EXCEPTION_THROWN(printedFooter("\xc3"), std::runtime_error);
+        // What disappears from the receipt does no harm.
+        COMPARE_BYTES(printedHeader("\xff" + QByteArray(49, 'x')), boldLine(""));
+    }
+
+    void aCharacterThatThePrinterLacksIsNotPrinted_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("a ligature") << QByteArray("c\xc5\x93ur");
+        QTest::newRow("an emoji") << QByteArray("\xf0\x9f\x8d\xba");
+        QTest::newRow("Arabic") << QByteArray("\xd9\x82\xd9\x87\xd9\x88\xd8\xa9");
+        QTest::newRow("a right-to-left mark") << QByteArray("a\xe2\x80\x8f");
+        QTest::newRow("a curly quote") << QByteArray("l\xe2\x80\x99"
+                                                     "eau");
+    }
+
+    void aCharacterThatThePrinterLacksIsNotPrinted()
+    {
+        QFETCH(QByteArray, text);
+        QVERIFY_EXCEPTION_THROWN(printedHeader(text), std::runtime_error);
+        QVERIFY_EXCEPTION_THROWN(printedHeader("titre:" + text), std::runtime_error);
+        QVERIFY_EXCEPTION_THROWN(printedFooter(text), std::runtime_error);
+        const Shop shop;
+        putOnTicket(shop, text.constData(), "1");
+        QVERIFY_EXCEPTION_THROWN(printedReceipt(), std::runtime_error);
+    }
+
+    void bothFilesAreReadAtEachSale()
+    {
+        const Shop shop;
+        writeHeader(shop, "titre:Lundi");
+        QVERIFY(printedReceipt().startsWith(titleLine("Lundi")));
+        writeHeader(shop, "titre:Mardi");
+        QVERIFY(printedReceipt().startsWith(titleLine("Mardi")));
+        writeFooter(shop, "titre:Soir");
+        QVERIFY(printedReceipt().endsWith(titleLine("Soir")));
+    }
 };
-
-void TestReceiptFrame::aHeaderHasTheseBytes_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QByteArray>("bytes");
-    const auto row = [](const char* name, const QByteArray& file, const QByteArray& bytes) {
-        QTest::newRow(name) << file << bytes;
-    };
-    const QByteArray line46(46, 'x');
-    const QByteArray line47(47, 'x');
-    const QByteArray line48(48, 'x');
-    const QByteArray line49(49, 'x');
-    row("a title", "titre:Chez Paul", titleLine("Chez Paul"));
-    row("a plain line", "12 rue X", boldLine("                   12 rue X                   "));
-    row("a plain line of odd length", "75011 Paris",
-        boldLine("                  75011 Paris                  "));
-    row("an empty line between two", "a\n\nb",
-        boldLine("                       a                       ") + boldLine(blank46)
-            + boldLine("                       b                       "));
-    row("a line end at the end of the file", "12 rue X\n",
-        boldLine("                   12 rue X                   ") + boldLine(blank46));
-    row("nothing but line ends", "\n\n", boldLine(blank46) + boldLine(blank46) + boldLine(blank46));
-    row("46 bytes", line46, boldLine(line46));
-    row("47 bytes", line47, boldLine(line47));
-    row("48 bytes", line48, boldLine(line48));
-    row("49 bytes", line49, boldLine(""));
-    row("44 letters and 4 accented ones", QByteArray(40, 'x') + "\xc3\xa9\xc3\xa9\xc3\xa9\xc3\xa9",
-        boldLine(QByteArray(40, 'x') + "\x82\x82\x82\x82"));
-    row("24 accented letters and one more byte", QByteArray("\xc3\xa9").repeated(24) + "x",
-        boldLine(""));
-    row("a title with a second colon", "titre:Ouvert : 8 h", titleLine("Ouvert "));
-    row("an empty title", "titre:", titleLine(""));
-    row("a title with blanks", "titre: Chez Paul ", titleLine(" Chez Paul "));
-    row("a title longer than the paper", "titre:" + QByteArray(60, 'x'),
-        titleLine(QByteArray(60, 'x')));
-    row("a title mark in the middle of a line", "Notre titre:Chez Paul", titleLine("Chez Paul"));
-    row("a colon before the title mark", "a:titre:Chez Paul", titleLine("titre"));
-    row("a capital in the title mark", "Titre:Chez Paul",
-        boldLine("                Titre:Chez Paul                "));
-    row("a blank in the title mark", "titre :Chez Paul",
-        boldLine("               titre :Chez Paul               "));
-    row("Windows line ends", "ab\r\ntitre:Chez Paul\r\n",
-        boldLine("                      ab\r                      ") + titleLine("Chez Paul\r")
-            + boldLine(blank46));
-    row("a line end of 48 bytes with its carriage return", line47 + "\r\n" + line48 + "\r",
-        boldLine(line47 + '\r') + boldLine(""));
-    row("a NUL in a line", QByteArray("ab\0cd\nef", 8),
-        boldLine("                      ab                      "));
-    row("a NUL at the start of a line", QByteArray("ab\n\0cd", 6),
-        boldLine("                      ab                      ") + boldLine(blank46));
-    row("a NUL at the start", QByteArray("\0ab", 3), boldLine(blank46));
-    row("a euro sign", "3 \xe2\x82\xac",
-        boldLine("                     3 \xd5                     "));
-    row("a euro sign in a title", "titre:3 \xe2\x82\xac", titleLine("3 \xd5"));
-    row("accents", "\xc3\x80 bient\xc3\xb4t",
-        boldLine("                  \xb7 bient\x93t                  "));
-    row("a tab", "a\tb", boldLine("                      a\tb                      "));
-    row("a command that changes the printer's settings", "a\x1d(E\x03z",
-        boldLine("                    a (E z                    "));
-    row("the first and the last control characters", "a\x01\x1f\x7fz",
-        boldLine("                     a   z                     "));
-    row("those around the tab, the line feed and the carriage return", "a\x08\x0b\x0c\x0ez",
-        boldLine("                    a    z                    "));
-    row("a command in a title", "titre:Chez\x1bp0 Paul\x10\x14", titleLine("Chez p0 Paul  "));
-    row("a command in the title mark", "titre\x1b:Chez Paul",
-        boldLine("               titre :Chez Paul               "));
-    row("semicolons and angle brackets", "<b>;a;</b>",
-        boldLine("                  <b>;a;</b>                  "));
-}
-
-void TestReceiptFrame::aHeaderHasTheseBytes()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QByteArray, bytes);
-    COMPARE_BYTES(printedHeader(file), bytes);
-}
-
-void TestReceiptFrame::aFooterHasTheseBytes_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("a plain line") << QByteArray(
-        "Merci !") << QByteArray("                    Merci !                    \r\n");
-    QTest::newRow("a title is big as in a header")
-        << QByteArray("titre:Merci") << titleLine("Merci");
-    QTest::newRow("an empty line and the file's last line end")
-        << QByteArray("\na\n")
-        << blank46 + "\r\n                       a                       \r\n" + blank46 + "\r\n";
-    QTest::newRow("48 bytes") << QByteArray(48, 'x') << QByteArray(48, 'x') + "\r\n";
-    QTest::newRow("49 bytes") << QByteArray(49, 'x') << QByteArray("\r\n");
-    QTest::newRow("a carriage return") << QByteArray(
-        "ab\r\n") << "                      ab\r                      \r\n" + blank46 + "\r\n";
-    QTest::newRow("a command") << QByteArray("a\x1bp0z")
-                               << QByteArray("                     a p0z                     \r\n");
-    QTest::newRow("a NUL") << QByteArray("ab\0cd", 5)
-                           << QByteArray("                      ab                      \r\n");
-}
-
-void TestReceiptFrame::aFooterHasTheseBytes()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QByteArray, bytes);
-    COMPARE_BYTES(printedFooter(file), bytes);
-}
-
-void TestReceiptFrame::anEmptyFileIsAnEmptyLineAndAMissingOneIsNothing()
-{
-    COMPARE_BYTES(printedHeader(""), boldLine(blank46));
-    COMPARE_BYTES(printedFooter(""), blank46 + "\r\n");
-    const Shop shop;
-    QVERIFY(!ReceiptFiles::read(ReceiptFiles::header));
-    QVERIFY(printedReceipt().startsWith("\r\n\r\nProduit"));
-    QVERIFY(printedReceipt().endsWith("\x1b\x45\x02\x1b\x21\x02\r\n"));
-}
-
-void TestReceiptFrame::aFolderInAFilesPlaceIsNothing()
-{
-    const Shop shop;
-    QVERIFY(QDir().mkdir(QString("EnteteFormulaire.dat")));
-    QVERIFY(printedReceipt().startsWith("\r\n\r\nProduit"));
-}
-
-void TestReceiptFrame::aHeaderOfAMegabyteIsPrintedWhole()
-{
-    constexpr int lines = 100'000;
-    const QByteArray header = printedHeader(QByteArray("123456789\n").repeated(lines));
-    const QByteArray line = boldLine("                   123456789                   ");
-    QVERIFY(header == line.repeated(lines) + boldLine(blank46));
-}
-
-void TestReceiptFrame::aLineOfAMegabyteDisappears()
-{
-    COMPARE_BYTES(printedHeader(QByteArray(1'000'000, 'x') + "\na"),
-        boldLine("") + boldLine("                       a                       "));
-}
-
-void TestReceiptFrame::aTextThatIsNoUtf8IsNotPrinted()
-{
-    QVERIFY_EXCEPTION_THROWN(printedHeader("Caf\xe9"), std::runtime_error);
-    QVERIFY_EXCEPTION_THROWN(printedFooter("\xc3"), std::runtime_error);
-    // What disappears from the receipt does no harm.
-    COMPARE_BYTES(printedHeader("\xff" + QByteArray(49, 'x')), boldLine(""));
-}
-
-void TestReceiptFrame::aCharacterThatThePrinterLacksIsNotPrinted_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("a ligature") << QByteArray("c\xc5\x93ur");
-    QTest::newRow("an emoji") << QByteArray("\xf0\x9f\x8d\xba");
-    QTest::newRow("Arabic") << QByteArray("\xd9\x82\xd9\x87\xd9\x88\xd8\xa9");
-    QTest::newRow("a right-to-left mark") << QByteArray("a\xe2\x80\x8f");
-    QTest::newRow("a curly quote") << QByteArray("l\xe2\x80\x99"
-                                                 "eau");
-}
-
-void TestReceiptFrame::aCharacterThatThePrinterLacksIsNotPrinted()
-{
-    QFETCH(QByteArray, text);
-    QVERIFY_EXCEPTION_THROWN(printedHeader(text), std::runtime_error);
-    QVERIFY_EXCEPTION_THROWN(printedHeader("titre:" + text), std::runtime_error);
-    QVERIFY_EXCEPTION_THROWN(printedFooter(text), std::runtime_error);
-    const Shop shop;
-    putOnTicket(shop, text.constData(), "1");
-    QVERIFY_EXCEPTION_THROWN(printedReceipt(), std::runtime_error);
-}
-
-void TestReceiptFrame::bothFilesAreReadAtEachSale()
-{
-    const Shop shop;
-    writeHeader(shop, "titre:Lundi");
-    QVERIFY(printedReceipt().startsWith(titleLine("Lundi")));
-    writeHeader(shop, "titre:Mardi");
-    QVERIFY(printedReceipt().startsWith(titleLine("Mardi")));
-    writeFooter(shop, "titre:Soir");
-    QVERIFY(printedReceipt().endsWith(titleLine("Soir")));
-}
 
 VENDEL_TEST(TestReceiptFrame)
 #include "tst_ReceiptFrame.moc"

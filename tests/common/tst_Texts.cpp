@@ -3,24 +3,6 @@
 #include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 
-class TestTexts : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void withoutATranslationTheTextStandsAsItIs();
-    void theOwnContextComesFirst();
-    void theCatalogueServesWhereTheOwnContextHasNothing();
-    void anotherContextIsNotAsked();
-    void theNumberIsFilledInWithoutATranslation();
-    void theNumberIsFilledInFromTheOwnContext();
-    void theNumberIsFilledInFromTheCatalogue();
-    void thePluralIsChosenByTheCount();
-    void theCountZeroIsFilledIn();
-    void withoutACountTheMarkStays();
-    void aCaptionIsLookedUpInTheWindowsTwoContextsAndTheCatalogue();
-};
-
 namespace {
 constexpr auto own = "FormVendelSaisieArticle";
 constexpr Texts texts{own};
@@ -29,88 +11,94 @@ const QString catalogue = QString("FormVendelMessages");
 const QString duplicates = QString("Supprimer le(s) %n doublon(s)");
 } // namespace
 
-void TestTexts::withoutATranslationTheTextStandsAsItIs()
+class TestTexts : public QObject
 {
-    QCOMPARE(texts("Première Date"), QString("Première Date"));
-    QCOMPARE(texts(""), QString());
-}
+    Q_OBJECT
 
-void TestTexts::theOwnContextComesFirst()
-{
-    Translation translation;
-    translation.add(ownContext, QString("Entête"), QString("Own heading"));
-    translation.add(catalogue, QString("Entête"), QString("Heading"));
-    QCOMPARE(texts("Entête"), QString("Own heading"));
-}
+private slots:
+    void withoutATranslationTheTextStandsAsItIs()
+    {
+        QCOMPARE(texts("Première Date"), QString("Première Date"));
+        QCOMPARE(texts(""), QString());
+    }
 
-void TestTexts::theCatalogueServesWhereTheOwnContextHasNothing()
-{
-    Translation translation;
-    translation.add(catalogue, QString("Entête"), QString("Heading"));
-    QCOMPARE(texts("Entête"), QString("Heading"));
-}
+    void theOwnContextComesFirst()
+    {
+        Translation translation;
+        translation.add(ownContext, QString("Entête"), QString("Own heading"));
+        translation.add(catalogue, QString("Entête"), QString("Heading"));
+        QCOMPARE(texts("Entête"), QString("Own heading"));
+    }
 
-void TestTexts::anotherContextIsNotAsked()
-{
-    Translation translation;
-    translation.add(QString("FormVendel"), QString("Entête"), QString("Heading"));
-    QCOMPARE(texts("Entête"), QString("Entête"));
-}
+    void theCatalogueServesWhereTheOwnContextHasNothing()
+    {
+        Translation translation;
+        translation.add(catalogue, QString("Entête"), QString("Heading"));
+        QCOMPARE(texts("Entête"), QString("Heading"));
+    }
 
-void TestTexts::theNumberIsFilledInWithoutATranslation()
-{
-    QCOMPARE(texts(duplicates.toStdString(), 3), QString("Supprimer le(s) 3 doublon(s)"));
-}
+    void anotherContextIsNotAsked()
+    {
+        Translation translation;
+        translation.add(QString("FormVendel"), QString("Entête"), QString("Heading"));
+        QCOMPARE(texts("Entête"), QString("Entête"));
+    }
 
-void TestTexts::theNumberIsFilledInFromTheOwnContext()
-{
-    Translation translation;
-    translation.add(ownContext, duplicates, QString("Delete %n own"));
-    translation.add(catalogue, duplicates, QString("Delete %n"));
-    QCOMPARE(texts(duplicates.toStdString(), 3), QString("Delete 3 own"));
-}
+    void theNumberIsFilledInWithoutATranslation()
+    {
+        QCOMPARE(texts(duplicates.toStdString(), 3), QString("Supprimer le(s) 3 doublon(s)"));
+    }
 
-void TestTexts::theNumberIsFilledInFromTheCatalogue()
-{
-    Translation translation;
-    translation.add(catalogue, duplicates, QString("Delete %n"));
-    QCOMPARE(texts(duplicates.toStdString(), 3), QString("Delete 3"));
-}
+    void theNumberIsFilledInFromTheOwnContext()
+    {
+        Translation translation;
+        translation.add(ownContext, duplicates, QString("Delete %n own"));
+        translation.add(catalogue, duplicates, QString("Delete %n"));
+        QCOMPARE(texts(duplicates.toStdString(), 3), QString("Delete 3 own"));
+    }
 
-void TestTexts::thePluralIsChosenByTheCount()
-{
-    Translation translation;
-    translation.add(catalogue, duplicates, QString("Delete %n double"));
-    translation.addPlural(catalogue, duplicates, QString("Delete %n doubles"));
-    QCOMPARE(texts(duplicates.toStdString(), 1), QString("Delete 1 double"));
-    QCOMPARE(texts(duplicates.toStdString(), 2), QString("Delete 2 doubles"));
-}
+    void theNumberIsFilledInFromTheCatalogue()
+    {
+        Translation translation;
+        translation.add(catalogue, duplicates, QString("Delete %n"));
+        QCOMPARE(texts(duplicates.toStdString(), 3), QString("Delete 3"));
+    }
 
-void TestTexts::theCountZeroIsFilledIn()
-{
-    QCOMPARE(texts(duplicates.toStdString(), 0), QString("Supprimer le(s) 0 doublon(s)"));
-}
+    void thePluralIsChosenByTheCount()
+    {
+        Translation translation;
+        translation.add(catalogue, duplicates, QString("Delete %n double"));
+        translation.addPlural(catalogue, duplicates, QString("Delete %n doubles"));
+        QCOMPARE(texts(duplicates.toStdString(), 1), QString("Delete 1 double"));
+        QCOMPARE(texts(duplicates.toStdString(), 2), QString("Delete 2 doubles"));
+    }
 
-void TestTexts::withoutACountTheMarkStays()
-{
-    QCOMPARE(texts(duplicates.toStdString()), duplicates);
-}
+    void theCountZeroIsFilledIn()
+    {
+        QCOMPARE(texts(duplicates.toStdString(), 0), QString("Supprimer le(s) 0 doublon(s)"));
+    }
 
-void TestTexts::aCaptionIsLookedUpInTheWindowsTwoContextsAndTheCatalogue()
-{
-    const QString heading = QString("Entête");
-    const auto caption = [&] { return Texts::caption(own, heading); };
-    QCOMPARE(caption(), heading);
-    Translation translation;
-    translation.add(QString("FormVendel"), heading, QString("elsewhere"));
-    QCOMPARE(caption(), heading);
-    translation.add(catalogue, heading, QString("catalogue"));
-    QCOMPARE(caption(), QString("catalogue"));
-    translation.add(QString("FormVendelSaisieArticleMessages"), heading, QString("messages"));
-    QCOMPARE(caption(), QString("messages"));
-    translation.add(ownContext, heading, QString("own"));
-    QCOMPARE(caption(), QString("own"));
-}
+    void withoutACountTheMarkStays()
+    {
+        QCOMPARE(texts(duplicates.toStdString()), duplicates);
+    }
+
+    void aCaptionIsLookedUpInTheWindowsTwoContextsAndTheCatalogue()
+    {
+        const QString heading = QString("Entête");
+        const auto caption = [&] { return Texts::caption(own, heading); };
+        QCOMPARE(caption(), heading);
+        Translation translation;
+        translation.add(QString("FormVendel"), heading, QString("elsewhere"));
+        QCOMPARE(caption(), heading);
+        translation.add(catalogue, heading, QString("catalogue"));
+        QCOMPARE(caption(), QString("catalogue"));
+        translation.add(QString("FormVendelSaisieArticleMessages"), heading, QString("messages"));
+        QCOMPARE(caption(), QString("messages"));
+        translation.add(ownContext, heading, QString("own"));
+        QCOMPARE(caption(), QString("own"));
+    }
+};
 
 VENDEL_TEST(TestTexts)
 #include "tst_Texts.moc"

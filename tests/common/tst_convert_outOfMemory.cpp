@@ -16,35 +16,31 @@ class TestConvertOutOfMemory : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void withoutABufferItIsNull();
-    void withoutALargerBufferItIsNull();
-};
-
-void TestConvertOutOfMemory::initTestCase()
-{
-    if (!Allocations::areSeen) {
-        QSKIP("memory does not run out under a sanitizer");
+    void initTestCase()
+    {
+        if (!Allocations::areSeen) {
+            QSKIP("memory does not run out under a sanitizer");
+        }
     }
-}
 
-void TestConvertOutOfMemory::withoutABufferItIsNull()
-{
-    const QByteArray text(1'000'000, 'x');
-    Allocations::refuseFrom(1'000'004);
-    const Buffer refused(convert("UTF-8", "CP858", text.constData()));
-    QVERIFY(refused == nullptr);
-    const Buffer again(convert("UTF-8", "CP858", text.constData()));
-    QCOMPARE(QByteArray(again.get()), text);
-}
+    void withoutABufferItIsNull()
+    {
+        const QByteArray text(1'000'000, 'x');
+        Allocations::refuseFrom(1'000'004);
+        const Buffer refused(convert("UTF-8", "CP858", text.constData()));
+        QVERIFY(refused == nullptr);
+        const Buffer again(convert("UTF-8", "CP858", text.constData()));
+        QCOMPARE(QByteArray(again.get()), text);
+    }
 
-void TestConvertOutOfMemory::withoutALargerBufferItIsNull()
-{
-    const QByteArray text(1'000'000, 'x');
-    Allocations::refuseFrom(1'000'005);
-    const Buffer refused(convert("UTF-8", "UTF-16LE", text.constData()));
-    QVERIFY(refused == nullptr);
-}
+    void withoutALargerBufferItIsNull()
+    {
+        const QByteArray text(1'000'000, 'x');
+        Allocations::refuseFrom(1'000'005);
+        const Buffer refused(convert("UTF-8", "UTF-16LE", text.constData()));
+        QVERIFY(refused == nullptr);
+    }
+};
 
 VENDEL_TEST(TestConvertOutOfMemory)
 #include "tst_convert_outOfMemory.moc"

@@ -11,24 +11,6 @@
 
 #include <array>
 
-/// A button means the row that the user has marked, never one that only has the keyboard's frame.
-class TestChosenRow : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void removingAnArticleNeedsAMarkedRow_data();
-    void removingAnArticleNeedsAMarkedRow();
-    void renamingAnArticleNeedsAMarkedRow_data();
-    void renamingAnArticleNeedsAMarkedRow();
-    void removingAStockArticleNeedsAMarkedRow_data();
-    void removingAStockArticleNeedsAMarkedRow();
-    void movingALineNeedsAMarkedRow_data();
-    void movingALineNeedsAMarkedRow();
-    void theDeleteKeyNeedsAMarkedLine_data();
-    void theDeleteKeyNeedsAMarkedLine();
-};
-
 namespace {
 void clickFirst(QTableView& list, Qt::KeyboardModifiers modifiers)
 {
@@ -94,98 +76,105 @@ bool leadsToAFrameWithoutAMark(QTableView& list)
 }
 } // namespace
 
-void TestChosenRow::removingAnArticleNeedsAMarkedRow_data()
+/// A button means the row that the user has marked, never one that only has the keyboard's frame.
+class TestChosenRow : public QObject
 {
-    waysToUnmark();
-}
+    Q_OBJECT
 
-void TestChosenRow::removingAnArticleNeedsAMarkedRow()
-{
-    OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
-    click(editor.window, "btn_Afficher");
-    QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(editor.window, "tableView")));
-    const AnswerBox box(QMessageBox::Yes);
-    click(editor.window, "btn_Supprimer");
-    QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
-    QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
-}
+private slots:
+    void removingAnArticleNeedsAMarkedRow_data()
+    {
+        waysToUnmark();
+    }
 
-void TestChosenRow::renamingAnArticleNeedsAMarkedRow_data()
-{
-    waysToUnmark();
-}
+    void removingAnArticleNeedsAMarkedRow()
+    {
+        OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
+        click(editor.window, "btn_Afficher");
+        QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(editor.window, "tableView")));
+        const AnswerBox box(QMessageBox::Yes);
+        click(editor.window, "btn_Supprimer");
+        QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
+        QCOMPARE(box.strays(), 0);
+        QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
+    }
 
-void TestChosenRow::renamingAnArticleNeedsAMarkedRow()
-{
-    OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
-    click(editor.window, "btn_Afficher");
-    editor.type("txt_Article", "Eau");
-    editor.type("txt_Montant", "4");
-    QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(editor.window, "tableView")));
-    const AnswerBox box(QMessageBox::Yes);
-    click(editor.window, "btn_Renommer");
-    QCOMPARE(box.text(), QString("Selectionner 1 article dans le menu à renommer"));
-    QCOMPARE(box.strays(), 0);
-    QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
-}
+    void renamingAnArticleNeedsAMarkedRow_data()
+    {
+        waysToUnmark();
+    }
 
-void TestChosenRow::removingAStockArticleNeedsAMarkedRow_data()
-{
-    waysToUnmark();
-}
+    void renamingAnArticleNeedsAMarkedRow()
+    {
+        OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
+        click(editor.window, "btn_Afficher");
+        editor.type("txt_Article", "Eau");
+        editor.type("txt_Montant", "4");
+        QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(editor.window, "tableView")));
+        const AnswerBox box(QMessageBox::Yes);
+        click(editor.window, "btn_Renommer");
+        QCOMPARE(box.text(), QString("Selectionner 1 article dans le menu à renommer"));
+        QCOMPARE(box.strays(), 0);
+        QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
+    }
 
-void TestChosenRow::removingAStockArticleNeedsAMarkedRow()
-{
-    const StockSample shop;
-    FormVendelSaisieStock stock;
-    QVERIFY(showActive(stock));
-    stock.Display(true);
-    child<QWidget>(stock, "btn_Display").setFocus();
-    QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(stock, "tableView1")));
-    const AnswerBox box(QMessageBox::Yes);
-    click(stock, "btn_Remove");
-    QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
-    QCOMPARE(box.strays(), 0);
-    QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QString("1,2,3"));
-}
+    void removingAStockArticleNeedsAMarkedRow_data()
+    {
+        waysToUnmark();
+    }
 
-void TestChosenRow::movingALineNeedsAMarkedRow_data()
-{
-    waysToUnmark();
-}
+    void removingAStockArticleNeedsAMarkedRow()
+    {
+        const StockSample shop;
+        FormVendelSaisieStock stock;
+        QVERIFY(showActive(stock));
+        stock.Display(true);
+        child<QWidget>(stock, "btn_Display").setFocus();
+        QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(stock, "tableView1")));
+        const AnswerBox box(QMessageBox::Yes);
+        click(stock, "btn_Remove");
+        QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
+        QCOMPARE(box.strays(), 0);
+        QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QString("1,2,3"));
+    }
 
-void TestChosenRow::movingALineNeedsAMarkedRow()
-{
-    const StockSample shop;
-    FormVendelSaisieStockCutPaste window;
-    QVERIFY(showActive(window));
-    clickCell(window, "tableView1", 0, 1);
-    QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(window, "tableView2")));
-    const AnswerBox box(QMessageBox::Yes);
-    click(window, "btn_Modify");
-    QCOMPARE(box.text(), QString("Selectionner un/des composition(s) / dose(s) dans la list"));
-    QCOMPARE(box.strays(), 0);
-    QCOMPARE(shop.cell("select id from DoseStock where idlig = 12"), QString("3"));
-}
+    void movingALineNeedsAMarkedRow_data()
+    {
+        waysToUnmark();
+    }
 
-void TestChosenRow::theDeleteKeyNeedsAMarkedLine_data()
-{
-    waysToUnmark();
-}
+    void movingALineNeedsAMarkedRow()
+    {
+        const StockSample shop;
+        FormVendelSaisieStockCutPaste window;
+        QVERIFY(showActive(window));
+        clickCell(window, "tableView1", 0, 1);
+        QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(window, "tableView2")));
+        const AnswerBox box(QMessageBox::Yes);
+        click(window, "btn_Modify");
+        QCOMPARE(box.text(), QString("Selectionner un/des composition(s) / dose(s) dans la list"));
+        QCOMPARE(box.strays(), 0);
+        QCOMPARE(shop.cell("select id from DoseStock where idlig = 12"), QString("3"));
+    }
 
-void TestChosenRow::theDeleteKeyNeedsAMarkedLine()
-{
-    const StockSample shop;
-    FormVendelSaisieStock stock;
-    QVERIFY(showActive(stock));
-    stock.Display(true);
-    clickCell(stock, "tableView1", 0, 1);
-    auto& recipe = child<QTableView>(stock, "tableView2");
-    QVERIFY(leadsToAFrameWithoutAMark(recipe));
-    QTest::keyClick(&recipe, Qt::Key_Delete);
-    QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QString("10,11,12"));
-}
+    void theDeleteKeyNeedsAMarkedLine_data()
+    {
+        waysToUnmark();
+    }
+
+    void theDeleteKeyNeedsAMarkedLine()
+    {
+        const StockSample shop;
+        FormVendelSaisieStock stock;
+        QVERIFY(showActive(stock));
+        stock.Display(true);
+        clickCell(stock, "tableView1", 0, 1);
+        auto& recipe = child<QTableView>(stock, "tableView2");
+        QVERIFY(leadsToAFrameWithoutAMark(recipe));
+        QTest::keyClick(&recipe, Qt::Key_Delete);
+        QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QString("10,11,12"));
+    }
+};
 
 VENDEL_TEST(TestChosenRow)
 #include "tst_ChosenRow.moc"

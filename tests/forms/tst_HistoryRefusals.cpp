@@ -6,17 +6,6 @@
 #include <QAction>
 #include <QTableView>
 
-/// What is shown stays shown when the history refuses what is asked of it.
-class TestHistoryRefusals : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void aRefusedPeriodKeepsWhatIsShown_data();
-    void aRefusedPeriodKeepsWhatIsShown();
-    void aRefusedPurgeKeepsWhatIsShown();
-};
-
 namespace {
 /// A history that shows two sales with their total, two groups and two days.
 struct ShownHistory : OpenHistory
@@ -52,65 +41,73 @@ struct ShownHistory : OpenHistory
 };
 } // namespace
 
-void TestHistoryRefusals::aRefusedPeriodKeepsWhatIsShown_data()
+/// What is shown stays shown when the history refuses what is asked of it.
+class TestHistoryRefusals : public QObject
 {
-    struct Case
+    Q_OBJECT
+
+private slots:
+    void aRefusedPeriodKeepsWhatIsShown_data()
     {
-        const char* name;
-        const char* first;
-        const char* second;
-    };
-    QTest::addColumn<QString>("trigger");
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second");
-    for (const char* trigger :
-        {"btn_View_Historical", "btn_Total", "btn_Clear", "actionCalcul_Stock"}) {
-        for (const Case& one : {Case{"no dates", "", ""}, Case{"no second date", "05/01/2019", ""},
-                 Case{"a date too short", "5/1/2019", "05/02/2019"},
-                 Case{"no day of the calendar", "02/31/2019", "05/02/2019"},
-                 Case{"backwards", "05/02/2019", "05/01/2019"},
-                 Case{"backwards in time", "05/01/2019 10:00:00.001", "05/01/2019 10:00:00.000"},
-                 Case{"the same day", "05/01/2019", "05/01/2019"},
-                 Case{"no sale", "06/01/2019", "06/02/2019"}}) {
-            QTest::addRow("%s: %s", trigger, one.name)
-                << QString::fromLatin1(trigger) << QString::fromLatin1(one.first)
-                << QString::fromLatin1(one.second);
+        struct Case
+        {
+            const char* name;
+            const char* first;
+            const char* second;
+        };
+        QTest::addColumn<QString>("trigger");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        for (const char* trigger :
+            {"btn_View_Historical", "btn_Total", "btn_Clear", "actionCalcul_Stock"}) {
+            for (const Case& one :
+                {Case{"no dates", "", ""}, Case{"no second date", "05/01/2019", ""},
+                    Case{"a date too short", "5/1/2019", "05/02/2019"},
+                    Case{"no day of the calendar", "02/31/2019", "05/02/2019"},
+                    Case{"backwards", "05/02/2019", "05/01/2019"},
+                    Case{"backwards in time", "05/01/2019 10:00:00.001", "05/01/2019 10:00:00.000"},
+                    Case{"the same day", "05/01/2019", "05/01/2019"},
+                    Case{"no sale", "06/01/2019", "06/02/2019"}}) {
+                QTest::addRow("%s: %s", trigger, one.name)
+                    << QString::fromLatin1(trigger) << QString::fromLatin1(one.first)
+                    << QString::fromLatin1(one.second);
+            }
         }
     }
-}
 
-void TestHistoryRefusals::aRefusedPeriodKeepsWhatIsShown()
-{
-    QFETCH(const QString, trigger);
-    QFETCH(const QString, first);
-    QFETCH(const QString, second);
-    ShownHistory history;
-    QVERIFY(history.isAsBefore());
-    history.type(qPrintable(first), qPrintable(second));
-    const AnswerBox box(QMessageBox::Ok);
-    if (auto* action = history.window.findChild<QAction*>(trigger)) {
-        action->trigger();
-    } else {
-        click(history.window, qPrintable(trigger));
+    void aRefusedPeriodKeepsWhatIsShown()
+    {
+        QFETCH(const QString, trigger);
+        QFETCH(const QString, first);
+        QFETCH(const QString, second);
+        ShownHistory history;
+        QVERIFY(history.isAsBefore());
+        history.type(qPrintable(first), qPrintable(second));
+        const AnswerBox box(QMessageBox::Ok);
+        if (auto* action = history.window.findChild<QAction*>(trigger)) {
+            action->trigger();
+        } else {
+            click(history.window, qPrintable(trigger));
+        }
+        QCOMPARE(box.buttons(), QMessageBox::Ok);
+        QCOMPARE(box.strays(), 0);
+        QVERIFY(history.isAsBefore());
+        QCOMPARE(history.sold(), QString("3"));
+        QCOMPARE(history.first(), first);
+        QCOMPARE(history.second(), second);
     }
-    QCOMPARE(box.buttons(), QMessageBox::Ok);
-    QCOMPARE(box.strays(), 0);
-    QVERIFY(history.isAsBefore());
-    QCOMPARE(history.sold(), QString("3"));
-    QCOMPARE(history.first(), first);
-    QCOMPARE(history.second(), second);
-}
 
-void TestHistoryRefusals::aRefusedPurgeKeepsWhatIsShown()
-{
-    ShownHistory history;
-    const AnswerBox box(QMessageBox::No);
-    click(history.window, "btn_Clear");
-    QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
-    QCOMPARE(box.strays(), 0);
-    QVERIFY(history.isAsBefore());
-    QCOMPARE(history.sold(), QString("3"));
-}
+    void aRefusedPurgeKeepsWhatIsShown()
+    {
+        ShownHistory history;
+        const AnswerBox box(QMessageBox::No);
+        click(history.window, "btn_Clear");
+        QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(box.strays(), 0);
+        QVERIFY(history.isAsBefore());
+        QCOMPARE(history.sold(), QString("3"));
+    }
+};
 
 VENDEL_TEST(TestHistoryRefusals)
 #include "tst_HistoryRefusals.moc"

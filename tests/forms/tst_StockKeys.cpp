@@ -13,23 +13,6 @@
 #include <QLineEdit>
 #include <QTableView>
 
-/// A key of a list means something in that list only.
-class TestStockKeys : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void deleteRemovesALineInTheRecipeOnly_data();
-    void deleteRemovesALineInTheRecipeOnly();
-    void returnComposesInTheArticlesOnly_data();
-    void returnComposesInTheArticlesOnly();
-    void theTransfersListsHaveNoKeys_data();
-    void theTransfersListsHaveNoKeys();
-    void theUpdatesListHasNoKeys();
-    void theConsumptionsListsHaveNoKeys_data();
-    void theConsumptionsListsHaveNoKeys();
-};
-
 namespace {
 /// The keys that lists know elsewhere: open, edit, choose, remove.
 constexpr Qt::Key listKeys[]
@@ -87,86 +70,93 @@ bool areKeysWithoutEffect(QWidget& window, const char* name, const Shop& shop)
 }
 } // namespace
 
-void TestStockKeys::deleteRemovesALineInTheRecipeOnly_data()
+/// A key of a list means something in that list only.
+class TestStockKeys : public QObject
 {
-    QTest::addColumn<QString>("left");
-    for (const char* name :
-        {"tableView1", "btn_Display", "btn_Update", "btn_Remove", "btn_Cut_Paste"}) {
-        QTest::newRow(name) << QString("10,11,12");
+    Q_OBJECT
+
+private slots:
+    void deleteRemovesALineInTheRecipeOnly_data()
+    {
+        QTest::addColumn<QString>("left");
+        for (const char* name :
+            {"tableView1", "btn_Display", "btn_Update", "btn_Remove", "btn_Cut_Paste"}) {
+            QTest::newRow(name) << QString("10,11,12");
+        }
+        // By name Grains (11) comes first, Lait (10) second.
+        QTest::newRow("tableView2") << QString("11,12");
     }
-    // By name Grains (11) comes first, Lait (10) second.
-    QTest::newRow("tableView2") << QString("11,12");
-}
 
-void TestStockKeys::deleteRemovesALineInTheRecipeOnly()
-{
-    Composing at;
-    at.press(QTest::currentDataTag(), Qt::Key_Delete);
-    QTEST(at.lines(), "left");
-}
-
-void TestStockKeys::returnComposesInTheArticlesOnly_data()
-{
-    QTest::addColumn<int>("windows");
-    for (const char* name :
-        {"tableView2", "btn_Display", "btn_Update", "btn_Remove", "btn_Cut_Paste"}) {
-        QTest::newRow(name) << 0;
-    }
-    QTest::newRow("tableView1") << 1;
-}
-
-void TestStockKeys::returnComposesInTheArticlesOnly()
-{
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    void deleteRemovesALineInTheRecipeOnly()
+    {
         Composing at;
-        at.press(QTest::currentDataTag(), key);
-        const auto windows = at.stock.findChildren<FormVendelSaisieStockComposition*>();
-        QTEST(static_cast<int>(windows.size()), "windows");
-        QCOMPARE(at.stock.findChildren<QDialog*>().size(), windows.size());
-        QCOMPARE(at.lines(), QString("10,11,12"));
+        at.press(QTest::currentDataTag(), Qt::Key_Delete);
+        QTEST(at.lines(), "left");
     }
-}
 
-void TestStockKeys::theTransfersListsHaveNoKeys_data()
-{
-    QTest::addColumn<bool>("isRecipe");
-    QTest::newRow("tableView1") << false;
-    QTest::newRow("tableView2") << true;
-}
+    void returnComposesInTheArticlesOnly_data()
+    {
+        QTest::addColumn<int>("windows");
+        for (const char* name :
+            {"tableView2", "btn_Display", "btn_Update", "btn_Remove", "btn_Cut_Paste"}) {
+            QTest::newRow(name) << 0;
+        }
+        QTest::newRow("tableView1") << 1;
+    }
 
-void TestStockKeys::theTransfersListsHaveNoKeys()
-{
-    const StockSample shop;
-    FormVendelSaisieStockCutPaste window;
-    QVERIFY(showActive(window));
-    clickCell(window, "tableView1", 0, 1);
-    QVERIFY(areKeysWithoutEffect(window, QTest::currentDataTag(), shop));
-}
+    void returnComposesInTheArticlesOnly()
+    {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+            Composing at;
+            at.press(QTest::currentDataTag(), key);
+            const auto windows = at.stock.findChildren<FormVendelSaisieStockComposition*>();
+            QTEST(static_cast<int>(windows.size()), "windows");
+            QCOMPARE(at.stock.findChildren<QDialog*>().size(), windows.size());
+            QCOMPARE(at.lines(), QString("10,11,12"));
+        }
+    }
 
-void TestStockKeys::theUpdatesListHasNoKeys()
-{
-    const StockSample shop;
-    shop.sql("insert into Article (article, prix) values ('Vin', 3)");
-    FormVendelSaisieStockMaj window;
-    QVERIFY(showActive(window));
-    QVERIFY(areKeysWithoutEffect(window, "tableView", shop));
-}
+    void theTransfersListsHaveNoKeys_data()
+    {
+        QTest::addColumn<bool>("isRecipe");
+        QTest::newRow("tableView1") << false;
+        QTest::newRow("tableView2") << true;
+    }
 
-void TestStockKeys::theConsumptionsListsHaveNoKeys_data()
-{
-    QTest::addColumn<bool>("isTotal");
-    QTest::newRow("tableView1") << false;
-    QTest::newRow("tableView2") << true;
-}
+    void theTransfersListsHaveNoKeys()
+    {
+        const StockSample shop;
+        FormVendelSaisieStockCutPaste window;
+        QVERIFY(showActive(window));
+        clickCell(window, "tableView1", 0, 1);
+        QVERIFY(areKeysWithoutEffect(window, QTest::currentDataTag(), shop));
+    }
 
-void TestStockKeys::theConsumptionsListsHaveNoKeys()
-{
-    const Bar bar;
-    bar.sell("Café", 3);
-    Consumed at;
-    QVERIFY(showActive(at.window));
-    QVERIFY(areKeysWithoutEffect(at.window, QTest::currentDataTag(), bar));
-}
+    void theUpdatesListHasNoKeys()
+    {
+        const StockSample shop;
+        shop.sql("insert into Article (article, prix) values ('Vin', 3)");
+        FormVendelSaisieStockMaj window;
+        QVERIFY(showActive(window));
+        QVERIFY(areKeysWithoutEffect(window, "tableView", shop));
+    }
+
+    void theConsumptionsListsHaveNoKeys_data()
+    {
+        QTest::addColumn<bool>("isTotal");
+        QTest::newRow("tableView1") << false;
+        QTest::newRow("tableView2") << true;
+    }
+
+    void theConsumptionsListsHaveNoKeys()
+    {
+        const Bar bar;
+        bar.sell("Café", 3);
+        Consumed at;
+        QVERIFY(showActive(at.window));
+        QVERIFY(areKeysWithoutEffect(at.window, QTest::currentDataTag(), bar));
+    }
+};
 
 VENDEL_TEST(TestStockKeys)
 #include "tst_StockKeys.moc"

@@ -16,19 +16,6 @@
 
 #include <memory>
 
-/// Whether the windows of the stock show all that stands on them.
-class TestStockLayout : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void captionsAreShownWhole_data();
-    void captionsAreShownWhole();
-    void listsNeedNoScrollingSideways();
-    void tabGoesAsTheEyeDoes_data();
-    void tabGoesAsTheEyeDoes();
-};
-
 namespace {
 std::unique_ptr<QWidget> makeWindow(const QString& name)
 {
@@ -101,87 +88,95 @@ QStringList crampedLists(const QWidget& window)
 }
 } // namespace
 
-void TestStockLayout::captionsAreShownWhole_data()
+/// Whether the windows of the stock show all that stands on them.
+class TestStockLayout : public QObject
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isEnglish");
-    for (const char* name : {"editor", "composition", "update", "transfer", "consumption"}) {
-        QTest::newRow((QByteArray(name) + " in French").constData())
-            << QString::fromLatin1(name) << false;
-        QTest::newRow((QByteArray(name) + " in English").constData())
-            << QString::fromLatin1(name) << true;
+    Q_OBJECT
+
+private slots:
+    void captionsAreShownWhole_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isEnglish");
+        for (const char* name : {"editor", "composition", "update", "transfer", "consumption"}) {
+            QTest::newRow((QByteArray(name) + " in French").constData())
+                << QString::fromLatin1(name) << false;
+            QTest::newRow((QByteArray(name) + " in English").constData())
+                << QString::fromLatin1(name) << true;
+        }
     }
-}
 
-void TestStockLayout::captionsAreShownWhole()
-{
-    QFETCH(const QString, name);
-    QFETCH(const bool, isEnglish);
-    const StockSample shop;
-    Translation translation;
-    if (isEnglish) {
-        speakEnglish(translation);
+    void captionsAreShownWhole()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const bool, isEnglish);
+        const StockSample shop;
+        Translation translation;
+        if (isEnglish) {
+            speakEnglish(translation);
+        }
+        const auto window = makeWindow(name);
+        window->show();
+        QCOMPARE(clippedCaptions(*window), QStringList());
     }
-    const auto window = makeWindow(name);
-    window->show();
-    QCOMPARE(clippedCaptions(*window), QStringList());
-}
 
-void TestStockLayout::listsNeedNoScrollingSideways()
-{
-    const Bar bar;
-    const QString many = QString("with recursive row(n) as (select 100 union all select n "
-                                 "+ 1 from row where n < 220) select ");
-    for (const QString& insert : {QString("insert into Article (id, article, prix) ") + many
-                 + QString("n + 1000, 'Nouveau ' || n, 1 from row"),
-             QString("insert into ArticleStock ") + many + QString("n, 'Ancien ' || n from row"),
-             QString("insert into DoseStock (id, composition, dose, unite) ") + many
-                 + QString("100, 'Composition ' || n, 1234.5, 'fl. oz' from row")}) {
-        bar.sql(insert.toUtf8().constData());
+    void listsNeedNoScrollingSideways()
+    {
+        const Bar bar;
+        const QString many = QString("with recursive row(n) as (select 100 union all select n "
+                                     "+ 1 from row where n < 220) select ");
+        for (const QString& insert :
+            {QString("insert into Article (id, article, prix) ") + many
+                    + QString("n + 1000, 'Nouveau ' || n, 1 from row"),
+                QString("insert into ArticleStock ") + many + QString("n, 'Ancien ' || n from row"),
+                QString("insert into DoseStock (id, composition, dose, unite) ") + many
+                    + QString("100, 'Composition ' || n, 1234.5, 'fl. oz' from row")}) {
+            bar.sql(insert.toUtf8().constData());
+        }
+        bar.sell("Ancien 100", 100);
+
+        FormVendelSaisieStock editor;
+        editor.show();
+        editor.Display(true);
+        child<QTableView>(editor, "tableView1").selectRow(0);
+        FormVendelSaisieStockCutPaste transfer;
+        transfer.show();
+        child<QTableView>(transfer, "tableView1").selectRow(0);
+        FormVendelSaisieStockMaj update;
+        update.show();
+        Consumed at;
+        QTRY_COMPARE(crampedLists(editor), QStringList());
+        QTRY_COMPARE(crampedLists(transfer), QStringList());
+        QTRY_COMPARE(crampedLists(update), QStringList());
+        QTRY_COMPARE(crampedLists(at.window), QStringList());
     }
-    bar.sell("Ancien 100", 100);
 
-    FormVendelSaisieStock editor;
-    editor.show();
-    editor.Display(true);
-    child<QTableView>(editor, "tableView1").selectRow(0);
-    FormVendelSaisieStockCutPaste transfer;
-    transfer.show();
-    child<QTableView>(transfer, "tableView1").selectRow(0);
-    FormVendelSaisieStockMaj update;
-    update.show();
-    Consumed at;
-    QTRY_COMPARE(crampedLists(editor), QStringList());
-    QTRY_COMPARE(crampedLists(transfer), QStringList());
-    QTRY_COMPARE(crampedLists(update), QStringList());
-    QTRY_COMPARE(crampedLists(at.window), QStringList());
-}
-
-void TestStockLayout::tabGoesAsTheEyeDoes_data()
-{
-    QTest::addColumn<QString>("order");
-    const auto row = [](const char* window, const char* order) {
-        QTest::newRow(window) << QString::fromLatin1(order);
-    };
-    row("editor", "tableView1 tableView2 btn_Display btn_Update btn_Remove btn_Cut_Paste");
-    row("update", "tableView btn_Update");
-    row("transfer", "cbx_Article btn_Modify tableView1 tableView2");
-    row("consumption", "btn_Display tableView1 tableView2");
-}
-
-void TestStockLayout::tabGoesAsTheEyeDoes()
-{
-    QFETCH(const QString, order);
-    const StockSample shop;
-    const auto window = makeWindow(QLatin1String(QTest::currentDataTag()));
-    QVERIFY(showActive(*window));
-    const QStringList names = order.split(' ');
-    for (const QString& name : names) {
-        QCOMPARE(window->focusWidget()->objectName(), name);
-        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    void tabGoesAsTheEyeDoes_data()
+    {
+        QTest::addColumn<QString>("order");
+        const auto row = [](const char* window, const char* order) {
+            QTest::newRow(window) << QString::fromLatin1(order);
+        };
+        row("editor", "tableView1 tableView2 btn_Display btn_Update btn_Remove btn_Cut_Paste");
+        row("update", "tableView btn_Update");
+        row("transfer", "cbx_Article btn_Modify tableView1 tableView2");
+        row("consumption", "btn_Display tableView1 tableView2");
     }
-    QCOMPARE(window->focusWidget()->objectName(), names.constFirst());
-}
+
+    void tabGoesAsTheEyeDoes()
+    {
+        QFETCH(const QString, order);
+        const StockSample shop;
+        const auto window = makeWindow(QLatin1String(QTest::currentDataTag()));
+        QVERIFY(showActive(*window));
+        const QStringList names = order.split(' ');
+        for (const QString& name : names) {
+            QCOMPARE(window->focusWidget()->objectName(), name);
+            QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(window->focusWidget()->objectName(), names.constFirst());
+    }
+};
 
 VENDEL_TEST(TestStockLayout)
 #include "tst_StockLayout.moc"

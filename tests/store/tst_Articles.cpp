@@ -7,25 +7,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-class TestArticles : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void differentNamesAreNoDuplicates();
-    void anEmptyMenuHasNone();
-    void theNewestOfANameIsNoDuplicate();
-    void asciiCaseDoesNotCount();
-    void accentedLettersAreNotFolded();
-    void everyOlderRowOfANameIsOne();
-    void twoNamesAreCountedTogether();
-    void thePriceDoesNotMatter();
-    void blanksMatter();
-    void aNameWithAQuoteIsANameLikeAnyOther();
-    void withoutADatabaseTheyThrow();
-    void amongTenThousandTheyAreFoundInABlink();
-};
-
 namespace {
 using Ids = std::vector<int>;
 
@@ -36,102 +17,109 @@ Ids sorted(Ids ids)
 }
 } // namespace
 
-void TestArticles::differentNamesAreNoDuplicates()
+class TestArticles : public QObject
 {
-    const Shop shop;
-    shop.sql("insert into Article (article, prix) values ('Thé', 1), ('Eau', 1)");
-    QVERIFY(!Articles::countDuplicates().has_value());
-    QCOMPARE(Articles::duplicateIds(), Ids());
-}
+    Q_OBJECT
 
-void TestArticles::anEmptyMenuHasNone()
-{
-    const Shop shop;
-    CapturedOutput output;
-    QVERIFY(!Articles::countDuplicates().has_value());
-    QCOMPARE(Articles::duplicateIds(), Ids());
-    QCOMPARE(output.text(), QByteArray());
-}
+private slots:
+    void differentNamesAreNoDuplicates()
+    {
+        const Shop shop;
+        shop.sql("insert into Article (article, prix) values ('Thé', 1), ('Eau', 1)");
+        QVERIFY(!Articles::countDuplicates().has_value());
+        QCOMPARE(Articles::duplicateIds(), Ids());
+    }
 
-void TestArticles::theNewestOfANameIsNoDuplicate()
-{
-    const Shop shop;
-    shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Thé', 1), ('Eau', 1)");
-    QCOMPARE(Articles::countDuplicates(), std::optional<int>(1));
-    QCOMPARE(Articles::duplicateIds(), Ids{1});
-}
+    void anEmptyMenuHasNone()
+    {
+        const Shop shop;
+        CapturedOutput output;
+        QVERIFY(!Articles::countDuplicates().has_value());
+        QCOMPARE(Articles::duplicateIds(), Ids());
+        QCOMPARE(output.text(), QByteArray());
+    }
 
-void TestArticles::asciiCaseDoesNotCount()
-{
-    const Shop shop;
-    shop.sql("insert into Article (article, prix) values ('Cafe', 1), ('cafe', 1)");
-    QCOMPARE(Articles::countDuplicates(), std::optional<int>(1));
-    QCOMPARE(Articles::duplicateIds(), Ids{1});
-}
+    void theNewestOfANameIsNoDuplicate()
+    {
+        const Shop shop;
+        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Thé', 1), ('Eau', 1)");
+        QCOMPARE(Articles::countDuplicates(), std::optional<int>(1));
+        QCOMPARE(Articles::duplicateIds(), Ids{1});
+    }
 
-void TestArticles::accentedLettersAreNotFolded()
-{
-    const Shop shop;
-    shop.sql("insert into Article (article, prix) values ('Café', 1), ('CAFÉ', 1), ('cafÉ', 1)");
-    QCOMPARE(Articles::countDuplicates(), std::optional<int>(1));
-    QCOMPARE(Articles::duplicateIds(), Ids{2});
-}
+    void asciiCaseDoesNotCount()
+    {
+        const Shop shop;
+        shop.sql("insert into Article (article, prix) values ('Cafe', 1), ('cafe', 1)");
+        QCOMPARE(Articles::countDuplicates(), std::optional<int>(1));
+        QCOMPARE(Articles::duplicateIds(), Ids{1});
+    }
 
-void TestArticles::everyOlderRowOfANameIsOne()
-{
-    const Shop shop;
-    shop.sql("insert into Article (article, prix) values ('Eau', 1), ('eau', 1), ('EAU', 1)");
-    QCOMPARE(Articles::countDuplicates(), std::optional<int>(2));
-    QCOMPARE(sorted(Articles::duplicateIds()), (Ids{1, 2}));
-}
+    void accentedLettersAreNotFolded()
+    {
+        const Shop shop;
+        shop.sql(
+            "insert into Article (article, prix) values ('Café', 1), ('CAFÉ', 1), ('cafÉ', 1)");
+        QCOMPARE(Articles::countDuplicates(), std::optional<int>(1));
+        QCOMPARE(Articles::duplicateIds(), Ids{2});
+    }
 
-void TestArticles::twoNamesAreCountedTogether()
-{
-    const Shop shop;
-    shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Vin', 1), ('Thé', 1), "
-             "('eau', 1), ('vin', 1)");
-    QCOMPARE(Articles::countDuplicates(), std::optional<int>(2));
-    QCOMPARE(sorted(Articles::duplicateIds()), (Ids{1, 2}));
-}
+    void everyOlderRowOfANameIsOne()
+    {
+        const Shop shop;
+        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('eau', 1), ('EAU', 1)");
+        QCOMPARE(Articles::countDuplicates(), std::optional<int>(2));
+        QCOMPARE(sorted(Articles::duplicateIds()), (Ids{1, 2}));
+    }
 
-void TestArticles::thePriceDoesNotMatter()
-{
-    const Shop shop;
-    shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Eau', 2)");
-    QCOMPARE(Articles::duplicateIds(), Ids{1});
-}
+    void twoNamesAreCountedTogether()
+    {
+        const Shop shop;
+        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Vin', 1), ('Thé', 1), "
+                 "('eau', 1), ('vin', 1)");
+        QCOMPARE(Articles::countDuplicates(), std::optional<int>(2));
+        QCOMPARE(sorted(Articles::duplicateIds()), (Ids{1, 2}));
+    }
 
-void TestArticles::blanksMatter()
-{
-    const Shop shop;
-    shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Eau ', 1)");
-    QVERIFY(!Articles::countDuplicates().has_value());
-}
+    void thePriceDoesNotMatter()
+    {
+        const Shop shop;
+        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Eau', 2)");
+        QCOMPARE(Articles::duplicateIds(), Ids{1});
+    }
 
-void TestArticles::aNameWithAQuoteIsANameLikeAnyOther()
-{
-    const Shop shop;
-    shop.sql("insert into Article (article, prix) values ('l''eau', 1), ('L''EAU', 1)");
-    QCOMPARE(Articles::duplicateIds(), Ids{1});
-}
+    void blanksMatter()
+    {
+        const Shop shop;
+        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Eau ', 1)");
+        QVERIFY(!Articles::countDuplicates().has_value());
+    }
 
-void TestArticles::withoutADatabaseTheyThrow()
-{
-    const Shop shop(Shop::Database::None);
-    CapturedOutput output;
-    QVERIFY_EXCEPTION_THROWN(Articles::countDuplicates(), std::out_of_range);
-    QVERIFY(Articles::duplicateIds().empty());
-    QCOMPARE(output.text().count(" no such table: Article\n"), 2);
-}
+    void aNameWithAQuoteIsANameLikeAnyOther()
+    {
+        const Shop shop;
+        shop.sql("insert into Article (article, prix) values ('l''eau', 1), ('L''EAU', 1)");
+        QCOMPARE(Articles::duplicateIds(), Ids{1});
+    }
 
-void TestArticles::amongTenThousandTheyAreFoundInABlink()
-{
-    const Shop shop;
-    shop.sql("with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000) "
-             "insert into Article (article, prix) select 'Article ' || (i % 9800), 1 from n");
-    QCOMPARE(Articles::countDuplicates(), std::optional<int>(200));
-    QCOMPARE(Articles::duplicateIds().size(), std::size_t{200});
-}
+    void withoutADatabaseTheyThrow()
+    {
+        const Shop shop(Shop::Database::None);
+        CapturedOutput output;
+        QVERIFY_EXCEPTION_THROWN(Articles::countDuplicates(), std::out_of_range);
+        QVERIFY(Articles::duplicateIds().empty());
+        QCOMPARE(output.text().count(" no such table: Article\n"), 2);
+    }
+
+    void amongTenThousandTheyAreFoundInABlink()
+    {
+        const Shop shop;
+        shop.sql("with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000) "
+                 "insert into Article (article, prix) select 'Article ' || (i % 9800), 1 from n");
+        QCOMPARE(Articles::countDuplicates(), std::optional<int>(200));
+        QCOMPARE(Articles::duplicateIds().size(), std::size_t{200});
+    }
+};
 
 VENDEL_TEST(TestArticles)
 #include "tst_Articles.moc"

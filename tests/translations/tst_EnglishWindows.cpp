@@ -36,24 +36,6 @@
 #include <memory>
 #include <vector>
 
-class TestEnglishWindows : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void noWindowStillShowsFrench_data();
-    void noWindowStillShowsFrench();
-    void aWidgetThatIsTooSmallLacksPixels();
-    void noTextIsClipped_data();
-    void noTextIsClipped();
-    void noFrenchTextIsClipped_data();
-    void noFrenchTextIsClipped();
-    void everyFieldHasAName_data();
-    void everyFieldHasAName();
-    void boxesHaveEnglishButtons();
-    void editMenusAreEnglish();
-};
-
 namespace {
 using Window = std::unique_ptr<QWidget>;
 
@@ -226,133 +208,143 @@ QStringList frenchWordsOf(const Opening& opening)
 }
 } // namespace
 
-void TestEnglishWindows::noWindowStillShowsFrench_data()
+class TestEnglishWindows : public QObject
 {
-    eachWindow();
-}
+    Q_OBJECT
 
-void TestEnglishWindows::noWindowStillShowsFrench()
-{
-    QFETCH(int, number);
-    const QStringList french = frenchWordsOf(windows()[number]);
-    QVERIFY(!french.isEmpty());
-    QStringList left;
-    const auto texts = textsOf(windows()[number]);
-    for (const ShownText& text : texts) {
-        const auto words = wordsOf(text.text);
-        for (const QString& word : words) {
-            if (french.contains(word) && !equalWords().contains(word)) {
-                left << text.place + QLatin1String(": ") + word;
+private slots:
+    void noWindowStillShowsFrench_data()
+    {
+        eachWindow();
+    }
+
+    void noWindowStillShowsFrench()
+    {
+        QFETCH(int, number);
+        const QStringList french = frenchWordsOf(windows()[number]);
+        QVERIFY(!french.isEmpty());
+        QStringList left;
+        const auto texts = textsOf(windows()[number]);
+        for (const ShownText& text : texts) {
+            const auto words = wordsOf(text.text);
+            for (const QString& word : words) {
+                if (french.contains(word) && !equalWords().contains(word)) {
+                    left << text.place + QLatin1String(": ") + word;
+                }
             }
         }
+        QVERIFY2(left.isEmpty(), qPrintable(left.join('\n')));
     }
-    QVERIFY2(left.isEmpty(), qPrintable(left.join('\n')));
-}
 
-void TestEnglishWindows::aWidgetThatIsTooSmallLacksPixels()
-{
-    const QString text = QString("The ticket is empty");
-    QLabel label(text);
-    QPushButton button(text);
-    QCheckBox check(text);
-    QGroupBox group(text);
-    QComboBox box;
-    box.addItem(text);
-    for (QWidget* widget : std::initializer_list<QWidget*>{&label, &button, &check, &group, &box}) {
-        widget->resize(400, 40);
-        QVERIFY2(shownTexts(*widget).constFirst().missing <= 0, widget->metaObject()->className());
-        widget->resize(40, 40);
-        QVERIFY2(shownTexts(*widget).constFirst().missing > 0, widget->metaObject()->className());
-    }
-    label.resize(400, 5);
-    QVERIFY(shownTexts(label).constFirst().missing > 0);
-}
-
-void TestEnglishWindows::noTextIsClipped_data()
-{
-    eachWindow();
-}
-
-void TestEnglishWindows::noTextIsClipped()
-{
-    QFETCH(int, number);
-    const QStringList clipped = clippedIn(windows()[number]);
-    QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
-}
-
-void TestEnglishWindows::noFrenchTextIsClipped_data()
-{
-    eachWindow();
-}
-
-void TestEnglishWindows::noFrenchTextIsClipped()
-{
-    QFETCH(int, number);
-    const InFrench french;
-    const QStringList clipped = clippedIn(windows()[number]);
-    QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
-}
-
-void TestEnglishWindows::everyFieldHasAName_data()
-{
-    eachWindow();
-}
-
-void TestEnglishWindows::everyFieldHasAName()
-{
-    QFETCH(int, number);
-    const NumberedShop shop;
-    QWidget opener;
-    const auto window = windows()[number].open(&opener);
-    QStringList nameless;
-    const auto widgets = window->findChildren<QWidget*>();
-    for (QWidget* widget : widgets) {
-        const bool isField = qobject_cast<QLineEdit*>(widget) != nullptr
-            || qobject_cast<QComboBox*>(widget) != nullptr;
-        const auto* interface = QAccessible::queryAccessibleInterface(widget);
-        if (isField && interface->text(QAccessible::Name).isEmpty()) {
-            nameless << widget->objectName();
+    void aWidgetThatIsTooSmallLacksPixels()
+    {
+        const QString text = QString("The ticket is empty");
+        QLabel label(text);
+        QPushButton button(text);
+        QCheckBox check(text);
+        QGroupBox group(text);
+        QComboBox box;
+        box.addItem(text);
+        for (QWidget* widget :
+            std::initializer_list<QWidget*>{&label, &button, &check, &group, &box}) {
+            widget->resize(400, 40);
+            QVERIFY2(
+                shownTexts(*widget).constFirst().missing <= 0, widget->metaObject()->className());
+            widget->resize(40, 40);
+            QVERIFY2(
+                shownTexts(*widget).constFirst().missing > 0, widget->metaObject()->className());
         }
+        label.resize(400, 5);
+        QVERIFY(shownTexts(label).constFirst().missing > 0);
     }
-    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join('\n')));
-}
 
-void TestEnglishWindows::boxesHaveEnglishButtons()
-{
-    QMessageBox box(QMessageBox::Information, QString(), QString(),
-        QMessageBox::Yes | QMessageBox::No | QMessageBox::Ok | QMessageBox::Cancel
-            | QMessageBox::Close | QMessageBox::Save);
-    QCOMPARE(box.button(QMessageBox::Yes)->text(), QString("&Yes"));
-    QCOMPARE(box.button(QMessageBox::No)->text(), QString("&No"));
-    QCOMPARE(box.button(QMessageBox::Ok)->text(), QString("OK"));
-    QCOMPARE(box.button(QMessageBox::Cancel)->text(), QString("Cancel"));
-    QCOMPARE(box.button(QMessageBox::Close)->text(), QString("Close"));
-    QCOMPARE(box.button(QMessageBox::Save)->text(), QString("Save"));
+    void noTextIsClipped_data()
+    {
+        eachWindow();
+    }
 
-    const InFrench french;
-    const QMessageBox frenchBox(QMessageBox::Information, QString(), QString(), QMessageBox::Yes);
-    QCOMPARE(frenchBox.button(QMessageBox::Yes)->text(), QString("&Oui"));
-}
+    void noTextIsClipped()
+    {
+        QFETCH(int, number);
+        const QStringList clipped = clippedIn(windows()[number]);
+        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
+    }
 
-void TestEnglishWindows::editMenusAreEnglish()
-{
-    const auto labelsOf = [](const QMenu& menu) {
-        QStringList labels;
-        const auto actions = menu.actions();
-        for (const QAction* action : actions) {
-            if (!action->isSeparator()) {
-                labels << action->text().section('\t', 0, 0).remove('&');
+    void noFrenchTextIsClipped_data()
+    {
+        eachWindow();
+    }
+
+    void noFrenchTextIsClipped()
+    {
+        QFETCH(int, number);
+        const InFrench french;
+        const QStringList clipped = clippedIn(windows()[number]);
+        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
+    }
+
+    void everyFieldHasAName_data()
+    {
+        eachWindow();
+    }
+
+    void everyFieldHasAName()
+    {
+        QFETCH(int, number);
+        const NumberedShop shop;
+        QWidget opener;
+        const auto window = windows()[number].open(&opener);
+        QStringList nameless;
+        const auto widgets = window->findChildren<QWidget*>();
+        for (QWidget* widget : widgets) {
+            const bool isField = qobject_cast<QLineEdit*>(widget) != nullptr
+                || qobject_cast<QComboBox*>(widget) != nullptr;
+            const auto* interface = QAccessible::queryAccessibleInterface(widget);
+            if (isField && interface->text(QAccessible::Name).isEmpty()) {
+                nameless << widget->objectName();
             }
         }
-        return labels;
-    };
-    const QStringList english{QString("Undo"), QString("Redo"), QString("Cut"), QString("Copy"),
-        QString("Paste"), QString("Delete"), QString("Select All")};
-    QLineEdit line;
-    QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(line.createStandardContextMenu())), english);
-    QTextEdit text;
-    QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(text.createStandardContextMenu())), english);
-}
+        QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join('\n')));
+    }
+
+    void boxesHaveEnglishButtons()
+    {
+        QMessageBox box(QMessageBox::Information, QString(), QString(),
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Ok | QMessageBox::Cancel
+                | QMessageBox::Close | QMessageBox::Save);
+        QCOMPARE(box.button(QMessageBox::Yes)->text(), QString("&Yes"));
+        QCOMPARE(box.button(QMessageBox::No)->text(), QString("&No"));
+        QCOMPARE(box.button(QMessageBox::Ok)->text(), QString("OK"));
+        QCOMPARE(box.button(QMessageBox::Cancel)->text(), QString("Cancel"));
+        QCOMPARE(box.button(QMessageBox::Close)->text(), QString("Close"));
+        QCOMPARE(box.button(QMessageBox::Save)->text(), QString("Save"));
+
+        const InFrench french;
+        const QMessageBox frenchBox(
+            QMessageBox::Information, QString(), QString(), QMessageBox::Yes);
+        QCOMPARE(frenchBox.button(QMessageBox::Yes)->text(), QString("&Oui"));
+    }
+
+    void editMenusAreEnglish()
+    {
+        const auto labelsOf = [](const QMenu& menu) {
+            QStringList labels;
+            const auto actions = menu.actions();
+            for (const QAction* action : actions) {
+                if (!action->isSeparator()) {
+                    labels << action->text().section('\t', 0, 0).remove('&');
+                }
+            }
+            return labels;
+        };
+        const QStringList english{QString("Undo"), QString("Redo"), QString("Cut"), QString("Copy"),
+            QString("Paste"), QString("Delete"), QString("Select All")};
+        QLineEdit line;
+        QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(line.createStandardContextMenu())), english);
+        QTextEdit text;
+        QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(text.createStandardContextMenu())), english);
+    }
+};
 
 VENDEL_TEST(TestEnglishWindows)
 #include "tst_EnglishWindows.moc"

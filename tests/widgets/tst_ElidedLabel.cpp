@@ -4,17 +4,6 @@
 
 #include <QPixmap>
 
-class TestElidedLabel : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void takesNoRoomOfItsOwn();
-    void paintsAShortTextWhole();
-    void endsALongTextInDots();
-    void showsTagsAsText();
-};
-
 namespace {
 QImage painted(QLabel& label, const QString& text)
 {
@@ -25,40 +14,46 @@ QImage painted(QLabel& label, const QString& text)
 }
 } // namespace
 
-void TestElidedLabel::takesNoRoomOfItsOwn()
+class TestElidedLabel : public QObject
 {
-    ElidedLabel label;
-    label.setText(QString(300, 'W'));
-    QCOMPARE(label.minimumSizeHint().width(), 0);
-    QVERIFY(label.minimumSizeHint().height() > 0);
-    QCOMPARE(label.text().size(), 300);
-}
+    Q_OBJECT
 
-void TestElidedLabel::paintsAShortTextWhole()
-{
-    ElidedLabel label;
-    QLabel plain;
-    QCOMPARE(painted(label, QString("Café & Thé")), painted(plain, QString("Café & Thé")));
-}
-
-void TestElidedLabel::endsALongTextInDots()
-{
-    ElidedLabel label;
-    const QImage image = painted(label, QString(100, 'W'));
-    bool found = false;
-    for (int letters = 1; letters < 20 && !found; ++letters) {
-        QLabel plain;
-        found = image == painted(plain, QString(letters, 'W') + QChar(0x2026));
+private slots:
+    void takesNoRoomOfItsOwn()
+    {
+        ElidedLabel label;
+        label.setText(QString(300, 'W'));
+        QCOMPARE(label.minimumSizeHint().width(), 0);
+        QVERIFY(label.minimumSizeHint().height() > 0);
+        QCOMPARE(label.text().size(), 300);
     }
-    QVERIFY(found);
-}
 
-void TestElidedLabel::showsTagsAsText()
-{
-    ElidedLabel label;
-    QLabel plain;
-    QCOMPARE(painted(label, QString("<b>T</b>")), painted(plain, QString("<b>T</b>")));
-}
+    void paintsAShortTextWhole()
+    {
+        ElidedLabel label;
+        QLabel plain;
+        QCOMPARE(painted(label, QString("Café & Thé")), painted(plain, QString("Café & Thé")));
+    }
+
+    void endsALongTextInDots()
+    {
+        ElidedLabel label;
+        const QImage image = painted(label, QString(100, 'W'));
+        bool found = false;
+        for (int letters = 1; letters < 20 && !found; ++letters) {
+            QLabel plain;
+            found = image == painted(plain, QString(letters, 'W') + QChar(0x2026));
+        }
+        QVERIFY(found);
+    }
+
+    void showsTagsAsText()
+    {
+        ElidedLabel label;
+        QLabel plain;
+        QCOMPARE(painted(label, QString("<b>T</b>")), painted(plain, QString("<b>T</b>")));
+    }
+};
 
 VENDEL_TEST(TestElidedLabel)
 #include "tst_ElidedLabel.moc"

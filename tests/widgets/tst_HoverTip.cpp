@@ -13,31 +13,6 @@
 #include <QTextDocument>
 #include <QToolTip>
 
-class TestHoverTip : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void cleanup();
-
-    void watchingSwitchesMouseTrackingOn();
-    void aMoveOverTheViewportHasAPosition();
-    void fractionsOfAPixelAreRounded();
-    void otherEventsHaveNoPosition_data();
-    void otherEventsHaveNoPosition();
-    void movesOverOtherWidgetsHaveNoPosition();
-    void theTextUnderThePointerIsOfItsColumn();
-    void noTextStandsUnderAnEmptyArea();
-    void aTextThatNoScreenHoldsIsCut();
-    void aCutSplitsNoCharacter();
-    void aTipShowsAndHides();
-    void aNameLikeATagIsPlainText();
-    void aTipLetsTheMouseThrough();
-    void aTipSurvivesQtsOwnRequest();
-    void aMoveWhileATipIsMadeLeavesItAlone();
-    void aLongTipGoesAfterTenSeconds();
-};
-
 namespace {
 /// A list of two articles, the second with a long name.
 struct List : QTableView
@@ -78,187 +53,194 @@ QWidget* shownTip()
 }
 } // namespace
 
-void TestHoverTip::cleanup()
+class TestHoverTip : public QObject
 {
-    QToolTip::hideText();
-    QTRY_VERIFY(!QToolTip::isVisible());
-}
+    Q_OBJECT
 
-void TestHoverTip::watchingSwitchesMouseTrackingOn()
-{
-    class Watcher : public QObject
+private slots:
+    void cleanup()
     {
-    public:
-        int moves = 0;
-
-        bool eventFilter(QObject* /*watched*/, QEvent* event) override
-        {
-            moves += event->type() == QEvent::MouseMove ? 1 : 0;
-            return false;
-        }
-    };
-    List list;
-    QVERIFY(!list.viewport()->testAttribute(Qt::WA_MouseTracking));
-    Watcher watcher;
-    watchMouse(list, watcher);
-    QVERIFY(list.viewport()->testAttribute(Qt::WA_MouseTracking));
-    QMouseEvent move = moveTo({12, 34});
-    QApplication::sendEvent(list.viewport(), &move);
-    QCOMPARE(watcher.moves, 1);
-}
-
-void TestHoverTip::aMoveOverTheViewportHasAPosition()
-{
-    const List list;
-    const QMouseEvent move = moveTo({12, 34});
-    QCOMPARE(mouseMoveOver(list, list.viewport(), &move), std::optional(QPoint(12, 34)));
-}
-
-void TestHoverTip::fractionsOfAPixelAreRounded()
-{
-    const List list;
-    const QMouseEvent move = moveTo({12.6, 34.4});
-    QCOMPARE(mouseMoveOver(list, list.viewport(), &move), std::optional(QPoint(13, 34)));
-}
-
-void TestHoverTip::otherEventsHaveNoPosition_data()
-{
-    QTest::addColumn<int>("type");
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-             QEvent::MouseButtonDblClick, QEvent::Enter, QEvent::Leave, QEvent::Wheel,
-             QEvent::Paint, QEvent::ToolTip, QEvent::Timer, QEvent::KeyPress}) {
-        QTest::addRow("%d", type) << static_cast<int>(type);
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
     }
-}
 
-void TestHoverTip::otherEventsHaveNoPosition()
-{
-    QFETCH(int, type);
-    const List list;
-    const QEvent event(static_cast<QEvent::Type>(type));
-    QVERIFY(!mouseMoveOver(list, list.viewport(), &event).has_value());
-}
-
-void TestHoverTip::movesOverOtherWidgetsHaveNoPosition()
-{
-    const List list;
-    const List other;
-    const QMouseEvent move = moveTo({12, 34});
-    QVERIFY(!mouseMoveOver(list, other.viewport(), &move).has_value());
-    QVERIFY(!mouseMoveOver(list, &list, &move).has_value());
-}
-
-void TestHoverTip::theTextUnderThePointerIsOfItsColumn()
-{
-    List list;
-    QCOMPARE(textUnder(list, list.centreOf(0, 3), 2), QString("Thé"));
-    QCOMPARE(textUnder(list, list.centreOf(0, 1), 0), QString("1"));
-}
-
-void TestHoverTip::noTextStandsUnderAnEmptyArea()
-{
-    const List list;
-    QCOMPARE(textUnder(list, QPoint(200, 500), 2), QString());
-    QCOMPARE(textUnder(list, QPoint(-5, -5), 2), QString());
-}
-
-void TestHoverTip::aTextThatNoScreenHoldsIsCut()
-{
-    List list;
-    QCOMPARE(textUnder(list, list.centreOf(1, 2), 2), QString(200, 'x') + QChar(0x2026));
-    list.model.item(1, 2)->setText(QString(200, 'y'));
-    QCOMPARE(textUnder(list, list.centreOf(1, 2), 2), QString(200, 'y'));
-}
-
-void TestHoverTip::aCutSplitsNoCharacter()
-{
-    List list;
-    list.model.item(1, 2)->setText('x' + QString("😀").repeated(150));
-    QCOMPARE(
-        textUnder(list, list.centreOf(1, 2), 2), 'x' + QString("😀").repeated(99) + QChar(0x2026));
-}
-
-void TestHoverTip::aTipShowsAndHides()
-{
-    QWidget window;
-    showTip(window, QPoint(150, 130), QString("Menu\nClick sur : Thé"));
-    QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : Thé"));
-    hideTip();
-    QTRY_VERIFY(!QToolTip::isVisible());
-}
-
-void TestHoverTip::aNameLikeATagIsPlainText()
-{
-    QWidget window;
-    showTip(window, QPoint(150, 130), QString("<b>x</b>"));
-    const auto* tip = qobject_cast<QLabel*>(shownTip());
-    QVERIFY(tip != nullptr);
-    QCOMPARE(QToolTip::text(), QString("<p>&lt;b&gt;x&lt;/b&gt;</p>"));
-    showTip(window, QPoint(150, 130), QString("Menu\nClick sur : <b>x</b>"));
-    QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : <b>x</b>"));
-    QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
-}
-
-void TestHoverTip::aTipLetsTheMouseThrough()
-{
-    QWidget window;
-    showTip(window, QPoint(150, 130), QString("Menu"));
-    const QWidget* tip = shownTip();
-    QVERIFY(tip != nullptr);
-    QVERIFY(tip->windowFlags().testFlag(Qt::WindowTransparentForInput));
-}
-
-void TestHoverTip::aTipSurvivesQtsOwnRequest()
-{
-    List list;
-    QVERIFY(QTest::qWaitForWindowActive(&list));
-    showTip(list, QPoint(150, 130), QString("Menu"));
-    const QPoint point = list.centreOf(0, 2);
-    QHelpEvent request(QEvent::ToolTip, point, list.viewport()->mapToGlobal(point));
-    QApplication::sendEvent(list.viewport(), &request);
-    QTest::qWait(400);
-    QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), QString("Menu"));
-}
-
-void TestHoverTip::aMoveWhileATipIsMadeLeavesItAlone()
-{
-    /// Asks for a second tip in the middle of the making of the first one.
-    class Mover : public QObject
+    void watchingSwitchesMouseTrackingOn()
     {
-    public:
-        int moves = 0;
-        QWidget window;
-
-        bool eventFilter(QObject* watched, QEvent* event) override
+        class Watcher : public QObject
         {
-            if (event->type() == QEvent::Polish && watched->inherits("QTipLabel") && moves == 0) {
-                ++moves;
-                showTip(window, QPoint(150, 130), QString("Ticket"));
-            }
-            return false;
-        }
-    };
-    Mover mover;
-    qApp->installEventFilter(&mover);
-    showTip(mover.window, QPoint(150, 130), QString("Menu"));
-    QCOMPARE(mover.moves, 1);
-    QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), QString("Menu"));
-    showTip(mover.window, QPoint(150, 130), QString("Ticket"));
-    QCOMPARE(QToolTip::text(), QString("Ticket"));
-}
+        public:
+            int moves = 0;
 
-void TestHoverTip::aLongTipGoesAfterTenSeconds()
-{
-    QWidget window;
-    QElapsedTimer timer;
-    timer.start();
-    showTip(window, QPoint(150, 130), QString(300, 'x'));
-    QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), 15000);
-    QVERIFY2(timer.elapsed() >= 9500, qPrintable(QString::number(timer.elapsed())));
-}
+            bool eventFilter(QObject* /*watched*/, QEvent* event) override
+            {
+                moves += event->type() == QEvent::MouseMove ? 1 : 0;
+                return false;
+            }
+        };
+        List list;
+        QVERIFY(!list.viewport()->testAttribute(Qt::WA_MouseTracking));
+        Watcher watcher;
+        watchMouse(list, watcher);
+        QVERIFY(list.viewport()->testAttribute(Qt::WA_MouseTracking));
+        QMouseEvent move = moveTo({12, 34});
+        QApplication::sendEvent(list.viewport(), &move);
+        QCOMPARE(watcher.moves, 1);
+    }
+
+    void aMoveOverTheViewportHasAPosition()
+    {
+        const List list;
+        const QMouseEvent move = moveTo({12, 34});
+        QCOMPARE(mouseMoveOver(list, list.viewport(), &move), std::optional(QPoint(12, 34)));
+    }
+
+    void fractionsOfAPixelAreRounded()
+    {
+        const List list;
+        const QMouseEvent move = moveTo({12.6, 34.4});
+        QCOMPARE(mouseMoveOver(list, list.viewport(), &move), std::optional(QPoint(13, 34)));
+    }
+
+    void otherEventsHaveNoPosition_data()
+    {
+        QTest::addColumn<int>("type");
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                 QEvent::MouseButtonDblClick, QEvent::Enter, QEvent::Leave, QEvent::Wheel,
+                 QEvent::Paint, QEvent::ToolTip, QEvent::Timer, QEvent::KeyPress}) {
+            QTest::addRow("%d", type) << static_cast<int>(type);
+        }
+    }
+
+    void otherEventsHaveNoPosition()
+    {
+        QFETCH(int, type);
+        const List list;
+        const QEvent event(static_cast<QEvent::Type>(type));
+        QVERIFY(!mouseMoveOver(list, list.viewport(), &event).has_value());
+    }
+
+    void movesOverOtherWidgetsHaveNoPosition()
+    {
+        const List list;
+        const List other;
+        const QMouseEvent move = moveTo({12, 34});
+        QVERIFY(!mouseMoveOver(list, other.viewport(), &move).has_value());
+        QVERIFY(!mouseMoveOver(list, &list, &move).has_value());
+    }
+
+    void theTextUnderThePointerIsOfItsColumn()
+    {
+        List list;
+        QCOMPARE(textUnder(list, list.centreOf(0, 3), 2), QString("Thé"));
+        QCOMPARE(textUnder(list, list.centreOf(0, 1), 0), QString("1"));
+    }
+
+    void noTextStandsUnderAnEmptyArea()
+    {
+        const List list;
+        QCOMPARE(textUnder(list, QPoint(200, 500), 2), QString());
+        QCOMPARE(textUnder(list, QPoint(-5, -5), 2), QString());
+    }
+
+    void aTextThatNoScreenHoldsIsCut()
+    {
+        List list;
+        QCOMPARE(textUnder(list, list.centreOf(1, 2), 2), QString(200, 'x') + QChar(0x2026));
+        list.model.item(1, 2)->setText(QString(200, 'y'));
+        QCOMPARE(textUnder(list, list.centreOf(1, 2), 2), QString(200, 'y'));
+    }
+
+    void aCutSplitsNoCharacter()
+    {
+        List list;
+        list.model.item(1, 2)->setText('x' + QString("😀").repeated(150));
+        QCOMPARE(textUnder(list, list.centreOf(1, 2), 2),
+            'x' + QString("😀").repeated(99) + QChar(0x2026));
+    }
+
+    void aTipShowsAndHides()
+    {
+        QWidget window;
+        showTip(window, QPoint(150, 130), QString("Menu\nClick sur : Thé"));
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : Thé"));
+        hideTip();
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
+    void aNameLikeATagIsPlainText()
+    {
+        QWidget window;
+        showTip(window, QPoint(150, 130), QString("<b>x</b>"));
+        const auto* tip = qobject_cast<QLabel*>(shownTip());
+        QVERIFY(tip != nullptr);
+        QCOMPARE(QToolTip::text(), QString("<p>&lt;b&gt;x&lt;/b&gt;</p>"));
+        showTip(window, QPoint(150, 130), QString("Menu\nClick sur : <b>x</b>"));
+        QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : <b>x</b>"));
+        QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
+    }
+
+    void aTipLetsTheMouseThrough()
+    {
+        QWidget window;
+        showTip(window, QPoint(150, 130), QString("Menu"));
+        const QWidget* tip = shownTip();
+        QVERIFY(tip != nullptr);
+        QVERIFY(tip->windowFlags().testFlag(Qt::WindowTransparentForInput));
+    }
+
+    void aTipSurvivesQtsOwnRequest()
+    {
+        List list;
+        QVERIFY(QTest::qWaitForWindowActive(&list));
+        showTip(list, QPoint(150, 130), QString("Menu"));
+        const QPoint point = list.centreOf(0, 2);
+        QHelpEvent request(QEvent::ToolTip, point, list.viewport()->mapToGlobal(point));
+        QApplication::sendEvent(list.viewport(), &request);
+        QTest::qWait(400);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), QString("Menu"));
+    }
+
+    void aMoveWhileATipIsMadeLeavesItAlone()
+    {
+        /// Asks for a second tip in the middle of the making of the first one.
+        class Mover : public QObject
+        {
+        public:
+            int moves = 0;
+            QWidget window;
+
+            bool eventFilter(QObject* watched, QEvent* event) override
+            {
+                if (event->type() == QEvent::Polish && watched->inherits("QTipLabel")
+                    && moves == 0) {
+                    ++moves;
+                    showTip(window, QPoint(150, 130), QString("Ticket"));
+                }
+                return false;
+            }
+        };
+        Mover mover;
+        qApp->installEventFilter(&mover);
+        showTip(mover.window, QPoint(150, 130), QString("Menu"));
+        QCOMPARE(mover.moves, 1);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), QString("Menu"));
+        showTip(mover.window, QPoint(150, 130), QString("Ticket"));
+        QCOMPARE(QToolTip::text(), QString("Ticket"));
+    }
+
+    void aLongTipGoesAfterTenSeconds()
+    {
+        QWidget window;
+        QElapsedTimer timer;
+        timer.start();
+        showTip(window, QPoint(150, 130), QString(300, 'x'));
+        QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), 15000);
+        QVERIFY2(timer.elapsed() >= 9500, qPrintable(QString::number(timer.elapsed())));
+    }
+};
 
 VENDEL_TEST(TestHoverTip)
 #include "tst_HoverTip.moc"

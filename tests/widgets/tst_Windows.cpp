@@ -5,17 +5,6 @@
 #include <QDialog>
 #include <QPointer>
 
-class TestWindows : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void anOpenedWindowIsShownOnTopOfItsOpener();
-    void argumentsReachTheWindow();
-    void aClosedWindowIsDeleted();
-    void aWindowGoesWithItsOpener();
-};
-
 namespace {
 class Dialog : public QDialog
 {
@@ -31,40 +20,46 @@ public:
 };
 } // namespace
 
-void TestWindows::anOpenedWindowIsShownOnTopOfItsOpener()
+class TestWindows : public QObject
 {
-    QWidget opener;
-    openWindow<Dialog>(&opener);
-    const auto* dialog = opener.findChild<QDialog*>();
-    QVERIFY(dialog != nullptr);
-    QVERIFY(dialog->isVisible());
-    QCOMPARE(dialog->parentWidget(), &opener);
-}
+    Q_OBJECT
 
-void TestWindows::argumentsReachTheWindow()
-{
-    QWidget opener;
-    openWindow<Dialog>(&opener, QString("05/01/2019"), QString("05/02/2019"));
-    QCOMPARE(opener.findChild<QDialog*>()->windowTitle(), QString("05/01/201905/02/2019"));
-}
+private slots:
+    void anOpenedWindowIsShownOnTopOfItsOpener()
+    {
+        QWidget opener;
+        openWindow<Dialog>(&opener);
+        const auto* dialog = opener.findChild<QDialog*>();
+        QVERIFY(dialog != nullptr);
+        QVERIFY(dialog->isVisible());
+        QCOMPARE(dialog->parentWidget(), &opener);
+    }
 
-void TestWindows::aClosedWindowIsDeleted()
-{
-    QWidget opener;
-    openWindow<Dialog>(&opener);
-    const QPointer<QDialog> dialog = opener.findChild<QDialog*>();
-    dialog->close();
-    QTRY_VERIFY(dialog.isNull());
-}
+    void argumentsReachTheWindow()
+    {
+        QWidget opener;
+        openWindow<Dialog>(&opener, QString("05/01/2019"), QString("05/02/2019"));
+        QCOMPARE(opener.findChild<QDialog*>()->windowTitle(), QString("05/01/201905/02/2019"));
+    }
 
-void TestWindows::aWindowGoesWithItsOpener()
-{
-    auto opener = std::make_unique<QWidget>();
-    openWindow<Dialog>(opener.get());
-    const QPointer<QDialog> dialog = opener->findChild<QDialog*>();
-    opener.reset();
-    QVERIFY(dialog.isNull());
-}
+    void aClosedWindowIsDeleted()
+    {
+        QWidget opener;
+        openWindow<Dialog>(&opener);
+        const QPointer<QDialog> dialog = opener.findChild<QDialog*>();
+        dialog->close();
+        QTRY_VERIFY(dialog.isNull());
+    }
+
+    void aWindowGoesWithItsOpener()
+    {
+        auto opener = std::make_unique<QWidget>();
+        openWindow<Dialog>(opener.get());
+        const QPointer<QDialog> dialog = opener->findChild<QDialog*>();
+        opener.reset();
+        QVERIFY(dialog.isNull());
+    }
+};
 
 VENDEL_TEST(TestWindows)
 #include "tst_Windows.moc"
