@@ -12,10 +12,9 @@
 #include "forms/FormVendelSaisieStockCutPaste.h"
 #include "forms/FormVendelSaisieStockMaj.h"
 #include "forms/FormVendelStockCalculation.h"
-#include "tests/support/MarkedContext.h"
+#include "tests/support/Translation.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
 #include <QAbstractButton>

@@ -4,7 +4,7 @@
 #include "forms/FormVendelHistorique.h"
 #include "tests/app/PrintedReceipt.h"
 #include "tests/app/Till.h"
-#include "tests/support/BoxDiary.h"
+#include "tests/support/AnswerBox.h"
 #include "tests/support/TestProgram.h"
 
 #include <QLabel>
@@ -86,7 +86,7 @@ private slots:
     void theHistoryIsBrowsedAndPurgedByDate()
     {
         Till till;
-        const BoxDiary boxes;
+        const AnswerBox boxes = AnswerBox::agreeing();
         sellOnTwoDays(till);
         FormVendelHistorique& history = openHistory(till);
         click(history, "btn_Show_Date");
@@ -94,13 +94,13 @@ private slots:
         clickCell(history, "tableView2", 0, 0);
         QTest::keyClicks(&secondDate(history), QString("05/02/2019"));
         click(history, "btn_View_Historical");
-        QCOMPARE(boxes.said, QStringList());
+        QCOMPARE(boxes.said(), QStringList());
         QCOMPARE(rowCount(history, "tableView1"), 1);
         QCOMPARE(rowTexts(history, "tableView1", 0),
             (QStringList{QString("Thé"), QString("2.50$"), QString("05/01/2019 10:20:30.123")}));
         click(history, "btn_Clear");
         QCOMPARE(
-            boxes.said.value(0), QString("Purger: Voulez-vous purger de 05/01/2019 au 05/02/2019"));
+            boxes.said().value(0), QString("Purger: Voulez-vous purger de 05/01/2019 au 05/02/2019"));
         QCOMPARE(till.history(), QStringList(QString("2 Eau 2")));
     }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/BadDays.h"
+#include "tests/support/Failures.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"

@@ -2,8 +2,7 @@
 #include "app/Receipt.h"
 #include "tests/forms/OpenReceiptTexts.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/BadDays.h"
-#include "tests/support/BoxDiary.h"
+#include "tests/support/Failures.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
 
@@ -330,9 +329,9 @@ private slots:
         chooseMenu(editor.window, "menuAfficher", "actionPied_Page");
         QCOMPARE(editor.text(), QString());
         editor.typeAtEnd("Merci");
-        const BoxDiary boxes;
+        const AnswerBox boxes = AnswerBox::agreeing();
         click(editor.window, "btn_Pied_Page");
-        QCOMPARE(boxes.said,
+        QCOMPARE(boxes.said(),
             (QStringList{QString("Sauvegarde: Sauvegarde"),
                 QString("Sauvegarde: Le texte n'a pas pu être enregistré")}));
         struct stat status

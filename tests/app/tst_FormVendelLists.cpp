@@ -2,9 +2,8 @@
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/MarkedContext.h"
-#include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
+#include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 
 #include <QScrollBar>

@@ -3,10 +3,10 @@
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/FailingText.h"
+#include "tests/support/Translation.h"
 #include "tests/support/LeakCheck.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Trouble.h"
+#include "tests/support/WindowFailures.h"
 #include "tests/support/Widgets.h"
 
 #include <QAction>
@@ -200,7 +200,7 @@ private slots:
     {
         QFETCH(QString, action);
         Till till;
-        const TroubleAt trouble(QEvent::Show, QTest::currentDataTag());
+        const FailingEvent trouble(QEvent::Show, QTest::currentDataTag());
         const CapturedLog log;
         till.window.findChild<QAction*>(action)->trigger();
         QTEST(log.criticals(), "criticals");
@@ -225,7 +225,7 @@ private slots:
         QWidget opener;
         FormVendelStart splash(&opener);
         splash.show();
-        const TroubleAt trouble(QEvent::Close, "FormVendelStart");
+        const FailingEvent trouble(QEvent::Close, "FormVendelStart");
         const CapturedLog log;
         for (int tick = 1; tick <= 5; ++tick) {
             QCOMPARE(log.criticals(), QStringList());

@@ -2,10 +2,9 @@
 #include "tests/app/Till.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/FailingText.h"
-#include "tests/support/MarkedContext.h"
+#include "tests/support/Translation.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Trouble.h"
+#include "tests/support/WindowFailures.h"
 
 #include <QDateTime>
 #include <QPointer>
@@ -56,7 +55,7 @@ private slots:
     {
         Till till;
         till.sell("Thé", "2.5");
-        const TroubleAt trouble(QEvent::WindowTitleChange, "FormVendelTicket");
+        const FailingEvent trouble(QEvent::WindowTitleChange, "FormVendelTicket");
         const CapturedLog log;
         till.pay();
         QCOMPARE(

@@ -5,7 +5,7 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/EmulatedPrinter.h"
-#include "tests/support/MarkedContext.h"
+#include "tests/support/Translation.h"
 #include "tests/support/TestProgram.h"
 
 #include <QRegularExpression>

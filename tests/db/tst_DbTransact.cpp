@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "db/Db.h"
-#include "tests/support/BadDays.h"
+#include "tests/support/Failures.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"

@@ -3,8 +3,7 @@
 #include "tests/forms/OpenReceiptTexts.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/ContextEcho.h"
-#include "tests/support/FailingText.h"
+#include "tests/support/Translation.h"
 #include "tests/support/TestProgram.h"
 
 #include <QAction>

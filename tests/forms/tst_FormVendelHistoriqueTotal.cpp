@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenHistory.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/BoxDiary.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
 
@@ -13,16 +12,16 @@ namespace {
 struct HistoryDiary
 {
     explicit HistoryDiary(FormVendelHistorique& window)
-        : diary([this, &window] {
+        : diary(AnswerBox::agreeing([this, &window](QMessageBox&) {
             listed << QString("%1 %2 %3")
                           .arg(rowCount(window, "tableView1"))
                           .arg(rowCount(window, "tableView2"))
                           .arg(rowCount(window, "tableView3"));
-        })
+        }))
     { }
 
     QStringList listed;
-    BoxDiary diary;
+    AnswerBox diary;
 };
 } // namespace
 
@@ -203,7 +202,7 @@ private slots:
         click(history.window, "btn_Total");
         const HistoryDiary boxes(history.window);
         click(history.window, "btn_Clear");
-        QCOMPARE(boxes.diary.said,
+        QCOMPARE(boxes.diary.said(),
             texts(
                 {"Purger: Voulez-vous purger de 05/01/2019 10:00:00.000 au 05/01/2019 10:00:00.001",
                     "Historique: Historique est vide pour la pèriode du 05/01/2019 10:00:00.000 au "
@@ -225,7 +224,7 @@ private slots:
         history.type("01/01/0001", "12/31/9999");
         const HistoryDiary boxes(history.window);
         click(history.window, "btn_Clear");
-        QCOMPARE(boxes.diary.said,
+        QCOMPARE(boxes.diary.said(),
             texts({"Purger: Voulez-vous purger de 01/01/0001 au 12/31/9999",
                 "Historique: Historique est vide pour la pèriode du 01/01/0001 au 12/31/9999",
                 "Historique: Historique est vide\nAjouter des articles et faite PAYER"}));
@@ -243,7 +242,7 @@ private slots:
         CapturedOutput output;
         const HistoryDiary boxes(history.window);
         click(history.window, "btn_Clear");
-        QCOMPARE(boxes.diary.said.size(), 1);
+        QCOMPARE(boxes.diary.said().size(), 1);
         QCOMPARE(rowCount(history.window, "tableView1"), 1);
         QCOMPARE(rowCount(history.window, "tableView2"), 1);
         QVERIFY(output.text().contains(

@@ -2,7 +2,7 @@
 #include "tests/forms/OpenArticleEditor.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/FailingText.h"
+#include "tests/support/Translation.h"
 #include "tests/support/LeakCheck.h"
 #include "tests/support/TestProgram.h"
 

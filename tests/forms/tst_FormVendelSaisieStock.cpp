@@ -7,9 +7,9 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
-#include "tests/support/MarkedContext.h"
+#include "tests/support/Translation.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Trouble.h"
+#include "tests/support/WindowFailures.h"
 #include "tests/support/Widgets.h"
 
 #include <QLabel>
@@ -301,20 +301,20 @@ private slots:
         const StockSample shop;
         const CapturedLog log;
         {
-            const TroubleAt trouble(QEvent::WindowTitleChange, "FormVendelSaisieStock");
+            const FailingEvent trouble(QEvent::WindowTitleChange, "FormVendelSaisieStock");
             FormVendelSaisieStock broken;
         }
         FormVendelSaisieStock stock;
         stock.Display(true);
         {
-            const TroubleAt trouble(QEvent::Show, "FormVendelSaisieStockMaj");
+            const FailingEvent trouble(QEvent::Show, "FormVendelSaisieStockMaj");
             click(stock, "btn_Update");
         }
         {
-            const TroubleAt trouble(QEvent::Show, "FormVendelSaisieStockCutPaste");
+            const FailingEvent trouble(QEvent::Show, "FormVendelSaisieStockCutPaste");
             click(stock, "btn_Cut_Paste");
         }
-        TroubleModel unreadable;
+        FailingModel unreadable;
         auto& articles = child<QTableView>(stock, "tableView1");
         articles.setModel(&unreadable);
         const QModelIndex index = unreadable.index(0, 0);

@@ -5,9 +5,9 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
-#include "tests/support/MarkedContext.h"
+#include "tests/support/Translation.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Trouble.h"
+#include "tests/support/WindowFailures.h"
 #include "tests/support/Widgets.h"
 
 #include <QComboBox>
@@ -262,10 +262,10 @@ private slots:
         const CapturedLog log;
         Composing at;
         {
-            const TroubleAt trouble(QEvent::WindowTitleChange, "FormVendelSaisieStockComposition");
+            const FailingEvent trouble(QEvent::WindowTitleChange, "FormVendelSaisieStockComposition");
             FormVendelSaisieStockComposition broken(QString(), QString(), nullptr);
         }
-        const TroubleAt trouble(QEvent::Show, "QMessageBox");
+        const FailingEvent trouble(QEvent::Show, "QMessageBox");
         click(at.window, "btn_Add");
         QCOMPARE(log.criticals(),
             cells({"Errors FormSaisieStockComposition Constructor : trouble",

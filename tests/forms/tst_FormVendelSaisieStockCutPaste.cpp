@@ -4,9 +4,9 @@
 #include "tests/forms/StockSample.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/ListLook.h"
-#include "tests/support/MarkedContext.h"
+#include "tests/support/Translation.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Trouble.h"
+#include "tests/support/WindowFailures.h"
 #include "tests/support/Widgets.h"
 
 #include <QComboBox>
@@ -311,10 +311,10 @@ private slots:
         at.chooseLine();
         const CapturedLog log;
         {
-            const TroubleAt trouble(QEvent::WindowTitleChange, "FormVendelSaisieStockCutPaste");
+            const FailingEvent trouble(QEvent::WindowTitleChange, "FormVendelSaisieStockCutPaste");
             FormVendelSaisieStockCutPaste broken;
         }
-        TroubleModel unreadable;
+        FailingModel unreadable;
         const QModelIndex index = unreadable.index(0, 0);
         for (const char* name : {"tableView1", "tableView2"}) {
             auto& view = child<QTableView>(at.window, name);

@@ -5,9 +5,9 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
-#include "tests/support/MarkedContext.h"
+#include "tests/support/Translation.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Trouble.h"
+#include "tests/support/WindowFailures.h"
 #include "tests/support/Widgets.h"
 
 #include <QPushButton>
@@ -221,12 +221,12 @@ private slots:
         const StockSample shop;
         const CapturedLog log;
         {
-            const TroubleAt trouble(QEvent::WindowTitleChange, "FormVendelSaisieStockMaj");
+            const FailingEvent trouble(QEvent::WindowTitleChange, "FormVendelSaisieStockMaj");
             FormVendelSaisieStockMaj broken;
         }
         FormVendelSaisieStockMaj window;
         window.show();
-        const TroubleAt trouble(QEvent::Show, "QMessageBox");
+        const FailingEvent trouble(QEvent::Show, "QMessageBox");
         click(window, "btn_Update");
         QCOMPARE(log.criticals(),
             cells({"Errors FormVendelSaisieStockMaj Constructor : trouble",

@@ -4,9 +4,9 @@
 #include "tests/forms/StockSample.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/ListLook.h"
-#include "tests/support/MarkedContext.h"
+#include "tests/support/Translation.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Trouble.h"
+#include "tests/support/WindowFailures.h"
 #include "tests/support/Widgets.h"
 
 #include <QLabel>
@@ -170,10 +170,10 @@ private slots:
         const Bar bar;
         const CapturedLog log;
         {
-            const TroubleAt trouble(QEvent::WindowTitleChange, "FormVendelStockCalculation");
+            const FailingEvent trouble(QEvent::WindowTitleChange, "FormVendelStockCalculation");
             FormVendelStockCalculation broken(mayFirst, juneFirst, nullptr);
         }
-        const TroubleAt trouble(QEvent::Show, "QMessageBox");
+        const FailingEvent trouble(QEvent::Show, "QMessageBox");
         Consumed at;
         QCOMPARE(log.criticals(),
             cells({"Errors FormVendelStockCalculation Constructor : trouble",

@@ -5,7 +5,7 @@
 #include "forms/FormVendelSaisieStockMaj.h"
 #include "tests/forms/ConsumptionSample.h"
 #include "tests/forms/StockSample.h"
-#include "tests/support/BoxDiary.h"
+#include "tests/support/AnswerBox.h"
 #include "tests/support/ListLook.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
@@ -58,13 +58,13 @@ bool areKeysWithoutEffect(QWidget& window, const char* name, const Shop& shop)
     };
     const QString before = stored();
     const int rows = rowCount(window, name);
-    const BoxDiary boxes;
+    const AnswerBox boxes = AnswerBox::agreeing();
     auto& list = child<QTableView>(window, name);
     clickCell(window, name, 0, 2);
     for (const Qt::Key key : listKeys) {
         QTest::keyClick(&list, key);
     }
-    return rows > 0 && boxes.said.isEmpty() && stored() == before && rowCount(window, name) == rows
+    return rows > 0 && boxes.said().isEmpty() && stored() == before && rowCount(window, name) == rows
         && window.isVisible() && window.findChildren<QDialog*>().isEmpty()
         && list.findChildren<QLineEdit*>().isEmpty();
 }

@@ -2,7 +2,6 @@
 #include "forms/FormVendelSaisieStock.h"
 #include "tests/forms/StockSample.h"
 #include "tests/support/AnswerBox.h"
-#include "tests/support/BoxDiary.h"
 #include "tests/support/Captured.h"
 #include "tests/support/ListLook.h"
 #include "tests/support/TestProgram.h"
@@ -133,9 +132,9 @@ private slots:
         FormVendelSaisieStock stock;
         open(stock);
         clickCell(stock, "tableView1", 0, 1);
-        const BoxDiary diary;
+        const AnswerBox diary = AnswerBox::agreeing();
         click(stock, "btn_Remove");
-        QCOMPARE(diary.said,
+        QCOMPARE(diary.said(),
             (QStringList{QString("Supprimer: Voulez-vous supprimer : Sirop, Périmé ..."),
                 QString("Afficher: Aucun Article\nFaite Mise à jour")}));
         QCOMPARE(rowCount(stock, "tableView1"), 0);

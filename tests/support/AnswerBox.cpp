@@ -6,16 +6,22 @@
 
 #include <utility>
 
-AnswerBox::AnswerBox(QMessageBox::StandardButton button)
-    : AnswerBox(button, [](QMessageBox&) {})
+AnswerBox::AnswerBox(QMessageBox::StandardButton button, Look look)
+    : AnswerBox(button, std::move(look), false)
 { }
 
-AnswerBox::AnswerBox(QMessageBox::StandardButton button, std::function<void(QMessageBox&)> look)
+AnswerBox::AnswerBox(QMessageBox::StandardButton button, Look look, bool agrees)
     : button_(button)
     , look_(std::move(look))
+    , agrees_(agrees)
 {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { watch(); });
     timer_.start(1);
+}
+
+AnswerBox AnswerBox::agreeing(Look look)
+{
+    return {QMessageBox::Yes, std::move(look), true};
 }
 
 void AnswerBox::watch()
@@ -26,7 +32,8 @@ void AnswerBox::watch()
     }
     titles_ << box->windowTitle();
     texts_ << box->text();
-    if (shown_++ > 0) {
+    said_ << box->windowTitle() + ": " + box->text();
+    if (shown_++ > 0 && !agrees_) {
         box->done(QMessageBox::NoButton);
         return;
     }
@@ -37,7 +44,11 @@ void AnswerBox::watch()
     buttons_ = box->standardButtons();
     parent_ = box->parent();
     look_(*box);
-    if (QAbstractButton* button = box->button(button_)) {
+    QAbstractButton* button = box->button(button_);
+    if (agrees_ && button == nullptr) {
+        button = box->button(QMessageBox::Ok);
+    }
+    if (button != nullptr) {
         button->click();
     } else {
         box->done(QMessageBox::NoButton);

@@ -7,15 +7,18 @@
 
 #include <functional>
 
-/// Stays on watch for message boxes: presses a given button on the first, remembers what it said,
-/// sends any other away and counts it.
+/// Stays on watch for message boxes and remembers what each said.
 class AnswerBox
 {
 public:
-    explicit AnswerBox(QMessageBox::StandardButton button = QMessageBox::Ok);
+    using Look = std::function<void(QMessageBox&)>;
 
-    /// Runs \a look on the first box before it is answered.
-    AnswerBox(QMessageBox::StandardButton button, std::function<void(QMessageBox&)> look);
+    /// Presses \a button on the first box, after \a look has seen it; sends any other away.
+    explicit AnswerBox(
+        QMessageBox::StandardButton button = QMessageBox::Ok, Look look = [](QMessageBox&) {});
+
+    /// Presses Yes or OK on every box, after \a look has seen it.
+    static AnswerBox agreeing(Look look = [](QMessageBox&) {});
 
     /// Whether a box was answered.
     bool wasShown() const
@@ -56,6 +59,11 @@ public:
     {
         return texts_;
     }
+    /// What all boxes said in order, "title: text" each.
+    QStringList said() const
+    {
+        return said_;
+    }
     /// Number of boxes after the first.
     int strays() const
     {
@@ -63,16 +71,19 @@ public:
     }
 
 private:
+    AnswerBox(QMessageBox::StandardButton button, Look look, bool agrees);
     void watch();
 
     QMessageBox::StandardButton button_;
-    std::function<void(QMessageBox&)> look_;
+    Look look_;
+    bool agrees_ = false;
     QTimer timer_;
     int shown_ = 0;
     QString title_;
     QString text_;
     QStringList titles_;
     QStringList texts_;
+    QStringList said_;
     Qt::TextFormat format_ = Qt::AutoText;
     QMessageBox::Icon icon_ = QMessageBox::NoIcon;
     QMessageBox::StandardButtons buttons_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/BadDays.h"
+#include "tests/support/Failures.h"
 
 #include <QtGlobal>
 

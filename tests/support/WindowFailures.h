@@ -9,10 +9,10 @@
 
 /// While it lives, the first event of a type that reaches an object of a class fails with the
 /// exception "trouble".
-class TroubleAt : public QObject
+class FailingEvent : public QObject
 {
 public:
-    TroubleAt(QEvent::Type type, const char* className)
+    FailingEvent(QEvent::Type type, const char* className)
         : type_(type)
         , className_(className)
     {
@@ -35,10 +35,10 @@ private:
 };
 
 /// A list of two rows and five columns whose cells cannot be read: "trouble".
-class TroubleModel : public QStandardItemModel
+class FailingModel : public QStandardItemModel
 {
 public:
-    TroubleModel()
+    FailingModel()
         : QStandardItemModel(2, 5)
     { }
 
