@@ -3,12 +3,13 @@
 
 #include "app/Clock.h"
 #include "app/FormVendelStart.h"
-#include "app/FormVendelTexts.h"
 #include "app/FormVendelTicket.h"
 #include "app/Payment.h"
 #include "app/SalesLists.h"
+#include "common/Messages.h"
 #include "common/Money.h"
 #include "common/SlotGuard.h"
+#include "common/Texts.h"
 #include "common/Tools.h"
 #include "forms/FormVendelAbout.h"
 #include "forms/FormVendelConfig.h"
@@ -30,13 +31,25 @@
 #include <algorithm>
 
 namespace {
+constexpr Texts texts{"FormVendelMessages"};
+const auto& datePattern = Messages::Messages98;
+const auto& decimalSeparator = Messages::Messages101;
+const auto& addTip = Messages::Messages65;
+const auto& removeTip = Messages::Messages66;
+const auto& menuIsEmpty = Messages::Messages25;
+const auto& menuHasDuplicates = Messages::Messages26;
+const auto& nothingToShow = Messages::Messages1;
+const auto& nothingToClear = Messages::Messages0;
+const auto& nothingToTotal = Messages::Messages5;
+const auto& noAmount = Messages::Messages12;
+const auto& noValidAmount = Messages::Messages13;
+const auto& nothingToPay = Messages::Messages6;
+const auto& noPrinter = Messages::Messages63;
+const auto& saleNotRecorded = Messages::Messages172;
 constexpr int clockMs = 100;
 constexpr QPoint tipOffset(150, 130);
 constexpr auto paymentPrefix = "Errors FormVendel on_btn_Payer_clicked : ";
-
 } // namespace
-
-using namespace FormVendelTexts;
 
 FormVendel::FormVendel(QWidget* parent)
     : QMainWindow(parent)
@@ -187,10 +200,9 @@ void FormVendel::addToTicket(const QModelIndex& index)
 void FormVendel::on_tableView2_clicked(const QModelIndex& index)
 {
     guarded("Errors FormVendel on_tableView2_clicked : ", [&] {
-        if (isSecondPress_) {
-            return;
+        if (!isSecondPress_) {
+            removeFromTicket(index);
         }
-        removeFromTicket(index);
     });
 }
 
@@ -325,8 +337,7 @@ void FormVendel::on_btn_13_clicked()
 
 void FormVendel::on_btn_Effacer_Saisie_clicked()
 {
-    guarded("Errors on_btn_Effacer_Saisie_clicked : ",
-        [this] { ui_->txt_montant->setText(QString()); });
+    guarded("Errors on_btn_Effacer_Saisie_clicked : ", [this] { ui_->txt_montant->clear(); });
 }
 
 void FormVendel::type(const QString& text)
@@ -374,38 +385,13 @@ void FormVendel::pay()
         return;
     }
     clearList(*modelTicket_);
-    bool isRecorded = false;
-    guarded(paymentPrefix, [&] {
-        Payment::record();
-        isRecorded = true;
-    });
-    if (!isRecorded) {
+    if (!guarded(paymentPrefix, Payment::record)) {
         refreshTicket();
         ui_->tableView2->scrollToBottom();
         notice(this, texts, saleNotRecorded);
         return;
     }
-    switch (Payment::output()) {
-    case Payment::Output::Screen:
-        showReceipt();
-        break;
-    case Payment::Output::Paper:
-        if (Payment::printReceipt()) {
-            Ticket::clear();
-        }
-        break;
-    case Payment::Output::None:
-        break;
-    }
-}
-
-/// Opens the receipt's window, empty when there is no receipt: the ticket is then kept.
-void FormVendel::showReceipt()
-{
-    std::optional<Receipt> receipt;
-    guarded("Errors FormVendelTicket Constructor : ", [&] { receipt = Payment::receipt(); });
-    const auto* window = openWindow<FormVendelTicket>(this, receipt.value_or(Receipt()));
-    if (receipt && window->isFilled()) {
-        Ticket::clear();
-    }
+    Payment::giveReceipt([this](const Receipt& receipt) {
+        return openWindow<FormVendelTicket>(this, receipt)->isFilled();
+    });
 }

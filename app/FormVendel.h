@@ -74,7 +74,6 @@ private:
     void putOnTicket(const QString& amount);
     void type(const QString& text);
     void pay();
-    void showReceipt();
 
     std::unique_ptr<Ui_FormVendel> ui_;
     QTimer clock_;

@@ -2,10 +2,12 @@
 #include "app/Payment.h"
 
 #include "app/ReceiptBytes.h"
+#include "common/SlotGuard.h"
 #include "Print/escpospp/Printer.h"
 #include "store/History.h"
 #include "store/Settings.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -13,6 +15,55 @@ namespace {
 constexpr std::pair<int, int> receiptPrinter{0x04B8, 0x0E15};
 /// What the printer throws when it cannot be claimed; any other int is nothing to the cashier.
 constexpr int notConnected = -1;
+
+enum class Output
+{
+    Screen,
+    Paper,
+    /// Any other setting: the sale is recorded, without a receipt.
+    None
+};
+
+Output output()
+{
+    QString value;
+    for (const QString& stored : Settings::printerSwitches()) {
+        value = stored;
+    }
+    switch (std::stoi(value.toStdString())) {
+    case 0:
+        return Output::Screen;
+    case 1:
+        return Output::Paper;
+    default:
+        return Output::None;
+    }
+}
+
+/// Claims the printer and prints; returns whether the job was sent.
+bool printReceipt()
+{
+    try {
+        Printer::initializePrinter(receiptPrinter);
+        Printer* printer = Printer::getPrinter();
+        printer->raw(receiptBytes(Payment::receipt()));
+        printer->cut();
+        return true;
+    } catch (int code) {
+        if (code == notConnected) {
+            throw PrinterNotConnected();
+        }
+        return false;
+    }
+}
+
+/// Shows the receipt, or nothing where it should stand; returns whether the customer can read it.
+bool showReceipt(const std::function<bool(const Receipt&)>& show)
+{
+    std::optional<Receipt> receipt;
+    guarded("Errors FormVendelTicket Constructor : ", [&] { receipt = Payment::receipt(); });
+    return show(receipt.value_or(Receipt())) && receipt;
+}
 } // namespace
 
 PrinterNotConnected::PrinterNotConnected()
@@ -30,39 +81,17 @@ void Payment::record()
     }
 }
 
-Payment::Output Payment::output()
+void Payment::giveReceipt(const std::function<bool(const Receipt&)>& show)
 {
-    QString value;
-    for (const QString& stored : Settings::printerSwitches()) {
-        value = stored;
-    }
-    switch (std::stoi(value.toStdString())) {
-    case 0:
-        return Output::Screen;
-    case 1:
-        return Output::Paper;
-    default:
-        return Output::None;
+    const Output where = output();
+    const bool isGiven = (where == Output::Screen && showReceipt(show))
+        || (where == Output::Paper && printReceipt());
+    if (isGiven) {
+        Ticket::clear();
     }
 }
 
 Receipt Payment::receipt()
 {
     return composeReceipt(readSale(QDateTime::currentDateTime()));
-}
-
-bool Payment::printReceipt()
-{
-    try {
-        Printer::initializePrinter(receiptPrinter);
-        Printer* printer = Printer::getPrinter();
-        printer->raw(receiptBytes(receipt()));
-        printer->cut();
-        return true;
-    } catch (int code) {
-        if (code == notConnected) {
-            throw PrinterNotConnected();
-        }
-        return false;
-    }
 }

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "app/SalesLists.h"
 
-#include "app/FormVendelTexts.h"
+#include "common/Messages.h"
 #include "common/Money.h"
+#include "common/Texts.h"
 #include "widgets/Lists.h"
 
-using namespace FormVendelTexts;
-
 namespace {
+constexpr Texts texts{"FormVendelMessages"};
+const auto& menuLabels = Messages::Messages97;
+const auto& ticketLabels = Messages::Messages99;
+const auto& sumLabel = Messages::Messages2;
+const auto& taxLabel = Messages::Messages3;
+const auto& grandTotalLabel = Messages::Messages4;
+
 /// A total's row, marked by "->" in the id column.
 QStringList totalCells(const QString& label, const QString& amount)
 {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/Handle.h"
 #include "bench/Support.h"
 #include "db/Db.h"
 #include "forms/FormVendelHistorique.h"
@@ -34,19 +35,22 @@ class Journal
 public:
     Journal()
     {
-        check(sqlite3_open("Vendel.db", &database_) == SQLITE_OK, "open");
+        sqlite3* database = nullptr;
+        check(sqlite3_open("Vendel.db", &database) == SQLITE_OK, "open");
+        database_.reset(database);
         run("pragma synchronous = off");
         run("begin");
+        sqlite3_stmt* insert = nullptr;
         check(sqlite3_prepare_v2(
-                  database_, "insert into Historique values (?, ?, ?, ?)", -1, &insert_, nullptr)
+                  database, "insert into Historique values (?, ?, ?, ?)", -1, &insert, nullptr)
                 == SQLITE_OK,
             "prepare");
+        insert_.reset(insert);
     }
     ~Journal()
     {
-        sqlite3_finalize(insert_);
-        sqlite3_exec(database_, "commit", nullptr, nullptr, nullptr);
-        sqlite3_close(database_);
+        insert_.reset();
+        sqlite3_exec(database_.get(), "commit", nullptr, nullptr, nullptr);
     }
     Journal(const Journal&) = delete;
     Journal& operator=(const Journal&) = delete;
@@ -65,12 +69,13 @@ public:
             const QByteArray moment
                 = (day.toString(Qt::ISODate) + time.toString(QStringLiteral(" HH:mm:ss.zzz")))
                       .toUtf8();
-            sqlite3_bind_int(insert_, 1, article);
-            sqlite3_bind_text(insert_, 2, name.constData(), -1, SQLITE_TRANSIENT);
-            sqlite3_bind_double(insert_, 3, 1.5 + article / 4.0);
-            sqlite3_bind_text(insert_, 4, moment.constData(), -1, SQLITE_TRANSIENT);
-            check(sqlite3_step(insert_) == SQLITE_DONE, "insert");
-            sqlite3_reset(insert_);
+            sqlite3_stmt* const insert = insert_.get();
+            sqlite3_bind_int(insert, 1, article);
+            sqlite3_bind_text(insert, 2, name.constData(), -1, SQLITE_TRANSIENT);
+            sqlite3_bind_double(insert, 3, 1.5 + article / 4.0);
+            sqlite3_bind_text(insert, 4, moment.constData(), -1, SQLITE_TRANSIENT);
+            check(sqlite3_step(insert) == SQLITE_DONE, "insert");
+            sqlite3_reset(insert);
         }
     }
 
@@ -84,12 +89,12 @@ public:
 
     void run(const char* sql)
     {
-        check(sqlite3_exec(database_, sql, nullptr, nullptr, nullptr) == SQLITE_OK, sql);
+        check(sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr) == SQLITE_OK, sql);
     }
 
 private:
-    sqlite3* database_ = nullptr;
-    sqlite3_stmt* insert_ = nullptr;
+    Handle<sqlite3, sqlite3_close> database_;
+    Handle<sqlite3_stmt, sqlite3_finalize> insert_;
     int article_ = 0;
 };
 

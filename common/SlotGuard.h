@@ -7,12 +7,14 @@
 #include <utility>
 
 /// Runs a slot's body; what it throws becomes one critical log line, \a prefix first, because an
-/// exception that leaves a slot would end the till.
-template <class Body> void guarded(const char* prefix, Body&& body)
+/// exception that leaves a slot would end the till. Returns whether it ran to its end.
+template <class Body> bool guarded(const char* prefix, Body&& body)
 {
     try {
         std::forward<Body>(body)();
+        return true;
     } catch (const std::exception& error) {
         qCritical("%s%s", prefix, error.what());
+        return false;
     }
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "demo/SampleShop.h"
 
-#include "db/Db.h"
 #include "demo/SampleMenu.h"
 #include "demo/SampleSales.h"
+#include "store/BulkInsert.h"
+#include "store/Database.h"
+#include "store/Settings.h"
 
 #include <fstream>
 #include <sstream>
@@ -23,20 +25,9 @@ constexpr const char* footer = "\n"
                                "Merci de votre visite, à bientôt !\n"
                                "titre:Bonne journée";
 
-void run(const std::string& sql)
-{
-    if (!Db::DbTransact({sql})) {
-        throw std::runtime_error("the database cannot be filled");
-    }
-}
-
 std::string quoted(const std::string& text)
 {
-    std::string result = "'";
-    for (const char c : text) {
-        result += c == '\'' ? "''" : std::string(1, c);
-    }
-    return result + "'";
+    return BulkInsert::quoted(text);
 }
 
 std::string amount(int cents)
@@ -46,40 +37,10 @@ std::string amount(int cents)
     return text.str();
 }
 
-/// Collects the rows of one insert: a statement is a transaction, and a row each would take long.
-class Insert
-{
-public:
-    explicit Insert(const std::string& head)
-        : head_(head)
-    { }
-
-    template <class First, class... Others> void add(const First& first, const Others&... others)
-    {
-        rows_ << (isEmpty_ ? " values (" : ", (") << first;
-        ((rows_ << ", " << others), ...);
-        rows_ << ')';
-        isEmpty_ = false;
-    }
-
-    /// Does nothing without rows.
-    void run() const
-    {
-        if (!isEmpty_) {
-            ::run(head_ + rows_.str());
-        }
-    }
-
-private:
-    std::string head_;
-    std::ostringstream rows_;
-    bool isEmpty_ = true;
-};
-
 void fillMenu()
 {
-    Insert articles("insert into Article (id, article, prix)");
-    Insert stock("insert into ArticleStock (id, article)");
+    BulkInsert articles("insert into Article (id, article, prix)");
+    BulkInsert stock("insert into ArticleStock (id, article)");
     int id = 0;
     for (const auto& article : sampleMenu()) {
         ++id;
@@ -108,7 +69,7 @@ int keyOf(const std::string& name)
 
 void fillRecipes()
 {
-    Insert doses("insert into DoseStock (id, composition, dose, unite)");
+    BulkInsert doses("insert into DoseStock (id, composition, dose, unite)");
     for (const auto& dose : sampleRecipes()) {
         doses.add(keyOf(dose.article), quoted(dose.composition), dose.dose, quoted(dose.unit));
     }
@@ -117,7 +78,7 @@ void fillRecipes()
 
 void fillHistory(std::chrono::sys_days until)
 {
-    Insert sales("insert into Historique (id, article, prix, date_heure)");
+    BulkInsert sales("insert into Historique (id, article, prix, date_heure)");
     for (auto day = until - salesFor; day < until; day += std::chrono::days(1)) {
         for (const auto& sale : sampleSales(day, day < until - withdrawnFor)) {
             sales.add(sale.id, quoted(sale.article), amount(sale.cents), quoted(sale.when));
@@ -137,8 +98,8 @@ void writeFile(const char* name, const char* text)
 
 void makeSampleShop(std::chrono::sys_days until)
 {
-    Db::DbCreate();
-    run("update Config set valeur = 20 where param = 'TVA'");
+    Database::createIfMissing();
+    Settings::setTaxRate(QStringLiteral("20"));
     fillMenu();
     fillRecipes();
     fillHistory(until);

@@ -2,21 +2,20 @@
 #include "forms/FormVendelSaisieStock.h"
 
 #include "common/Messages.h"
+#include "common/Money.h"
 #include "common/SlotGuard.h"
 #include "forms/FormVendelSaisieStockComposition.h"
 #include "forms/FormVendelSaisieStockCutPaste.h"
 #include "forms/FormVendelSaisieStockMaj.h"
-#include "forms/StockLists.h"
 #include "store/Recipes.h"
 #include "store/StockArticles.h"
 #include "ui_FormVendelSaisieStock.h"
 #include "widgets/Captions.h"
 #include "widgets/HoverTip.h"
 #include "widgets/Lists.h"
+#include "widgets/Marks.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/Windows.h"
-
-using namespace StockLists;
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockMessages"};
@@ -49,7 +48,7 @@ FormVendelSaisieStock::~FormVendelSaisieStock() = default;
 void FormVendelSaisieStock::setUpLists()
 {
     setUpArticles(*ui_->tableView1, *modelArticles_, texts, articleLabels);
-    setUpCompositions(*ui_->tableView2, *modelCompositions_, texts, recipeLabels);
+    setUpRecipe(*ui_->tableView2, *modelCompositions_, texts, recipeLabels);
     watchMouse(*ui_->tableView1, *this);
     watchMouse(*ui_->tableView2, *this);
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -85,7 +84,7 @@ void FormVendelSaisieStock::showArticles()
 void FormVendelSaisieStock::Display_DoseStock(const QString& id)
 {
     guarded("Errors FormVendelSaisieStock Display_DoseStock : ",
-        [&] { showCompositions(*ui_->tableView2, *modelCompositions_, id); });
+        [&] { showRecipe(*ui_->tableView2, *modelCompositions_, id); });
 }
 
 void FormVendelSaisieStock::Clear_List()
@@ -97,8 +96,8 @@ bool FormVendelSaisieStock::eventFilter(QObject* watched, QEvent* event)
 {
     guarded("Errors FormVendelSaisieStock eventFilter : ", [&] {
         showTipOver(*this, texts, {*ui_->tableView1, ArticleName, articleTip, {}}, watched, event);
-        showTipOver(
-            *this, texts, {*ui_->tableView2, CompositionName, compositionTip, {}}, watched, event);
+        showTipOver(*this, texts, {*ui_->tableView2, RecipeComposition, compositionTip, {}},
+            watched, event);
     });
     return false;
 }
@@ -197,7 +196,37 @@ void FormVendelSaisieStock::removeLine(const QModelIndex& index)
     if (!line) {
         return;
     }
-    const QString article = textAt(index, CompositionArticle);
+    const QString article = textAt(index, RecipeArticle);
     Recipes::remove(*line);
     Display_DoseStock(article);
+}
+
+void FormVendelSaisieStock::setUpArticles(QTableView& view, QStandardItemModel& model,
+    const Texts& texts, std::span<const std::string> labels)
+{
+    setUpList(view, model, texts, labels, {50, 210, 110});
+}
+
+void FormVendelSaisieStock::setUpRecipe(QTableView& view, QStandardItemModel& model,
+    const Texts& texts, std::span<const std::string> labels)
+{
+    setUpList(view, model, texts, labels, {50, 50, 180, 90, 50}, {RecipeArticle});
+}
+
+void FormVendelSaisieStock::addArticles(QTableView& view, QStandardItemModel& model,
+    const std::vector<StockArticle>& articles, const QString& validity)
+{
+    appendRows(view, model, articles, [&validity](const StockArticle& article) {
+        return QStringList{article.id, article.name, validity};
+    });
+}
+
+void FormVendelSaisieStock::showRecipe(
+    QTableView& view, QStandardItemModel& model, const QString& article)
+{
+    clearList(model);
+    appendRows(view, model, Recipes::of(article), [](const RecipeLine& line) {
+        return QStringList{
+            line.key, line.article, line.composition, formatQuantity(line.dose), line.unit};
+    });
 }

@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "common/Texts.h"
+#include "store/StockArticles.h"
+
 #include <QDialog>
 #include <QModelIndex>
 #include <QStandardItemModel>
 
 #include <memory>
+#include <span>
+#include <string>
+#include <vector>
 
+class QTableView;
 class Ui_FormVendelSaisieStock;
 
 /// The stock editor: the stock articles and the recipe of the selected one.
@@ -16,6 +23,19 @@ class FormVendelSaisieStock : public QDialog
     Q_DISABLE_COPY_MOVE(FormVendelSaisieStock)
 
 public:
+    enum ArticleColumn
+    {
+        ArticleId,
+        ArticleName,
+        ArticleValidity
+    };
+    enum RecipeColumn
+    {
+        RecipeLineKey,
+        RecipeArticle,
+        RecipeComposition
+    };
+
     explicit FormVendelSaisieStock(QWidget* parent = nullptr);
     ~FormVendelSaisieStock() override;
 
@@ -29,6 +49,19 @@ public:
     void Clear_List();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /// The two lists, here and in the transfer window: columns, widths and looks.
+    static void setUpArticles(QTableView& view, QStandardItemModel& model, const Texts& texts,
+        std::span<const std::string> labels);
+    static void setUpRecipe(QTableView& view, QStandardItemModel& model, const Texts& texts,
+        std::span<const std::string> labels);
+
+    /// Appends \a articles, all of the given \a validity.
+    static void addArticles(QTableView& view, QStandardItemModel& model,
+        const std::vector<StockArticle>& articles, const QString& validity);
+
+    /// Shows the recipe that is stored for \a article in place of what \a view shows.
+    static void showRecipe(QTableView& view, QStandardItemModel& model, const QString& article);
 
 private slots:
     void on_btn_Display_clicked();

@@ -4,18 +4,18 @@
 #include "common/Messages.h"
 #include "common/SlotGuard.h"
 #include "forms/FormVendelSaisieStock.h"
-#include "forms/StockLists.h"
 #include "store/Recipes.h"
 #include "store/StockArticles.h"
 #include "ui_FormVendelSaisieStockCutPaste.h"
 #include "widgets/Captions.h"
 #include "widgets/HoverTip.h"
 #include "widgets/Lists.h"
+#include "widgets/Marks.h"
 #include "widgets/MessageBoxes.h"
 
-using namespace StockLists;
-
 namespace {
+using Stock = FormVendelSaisieStock;
+
 constexpr Texts texts{"FormVendelSaisieStockCutPasteMessages"};
 const auto& articleLabels = Messages::Messages156;
 const auto& recipeLabels = Messages::Messages157;
@@ -47,8 +47,8 @@ FormVendelSaisieStockCutPaste::~FormVendelSaisieStockCutPaste() = default;
 
 void FormVendelSaisieStockCutPaste::setUpLists()
 {
-    setUpArticles(*ui_->tableView1, *modelArticles_, texts, articleLabels);
-    setUpCompositions(*ui_->tableView2, *modelCompositions_, texts, recipeLabels);
+    Stock::setUpArticles(*ui_->tableView1, *modelArticles_, texts, articleLabels);
+    Stock::setUpRecipe(*ui_->tableView2, *modelCompositions_, texts, recipeLabels);
     watchMouse(*ui_->tableView2, *this);
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &FormVendelSaisieStockCutPaste::on_tableViewSelection);
@@ -70,7 +70,7 @@ void FormVendelSaisieStockCutPaste::Display()
 {
     guarded("Errors FormVendelSaisieStockCutPaste Display : ", [this] {
         clearList(*modelArticles_);
-        addArticles(
+        Stock::addArticles(
             *ui_->tableView1, *modelArticles_, StockArticles::withdrawn(), texts(expired[0]));
     });
 }
@@ -78,14 +78,14 @@ void FormVendelSaisieStockCutPaste::Display()
 void FormVendelSaisieStockCutPaste::Display_DoseStock(const QString& id)
 {
     guarded("Errors FormVendelSaisieStockCutPaste Display_DoseStock : ",
-        [&] { showCompositions(*ui_->tableView2, *modelCompositions_, id); });
+        [&] { Stock::showRecipe(*ui_->tableView2, *modelCompositions_, id); });
 }
 
 bool FormVendelSaisieStockCutPaste::eventFilter(QObject* watched, QEvent* event)
 {
     guarded("Errors FormVendelSaisieStockCutPaste eventFilter : ", [&] {
-        showTipOver(
-            *this, texts, {*ui_->tableView2, CompositionName, compositionTip, {}}, watched, event);
+        showTipOver(*this, texts, {*ui_->tableView2, Stock::RecipeComposition, compositionTip, {}},
+            watched, event);
     });
     return false;
 }
@@ -130,17 +130,17 @@ void FormVendelSaisieStockCutPaste::moveLine()
         notice(this, texts, noLineChosen);
         return;
     }
-    const QString line = textAt(*row, CompositionLine);
-    const QString source = textAt(*row, CompositionArticle);
+    const QString line = textAt(*row, Stock::RecipeLineKey);
+    const QString source = textAt(*row, Stock::RecipeArticle);
     const QStringList target = ui_->cbx_Article->currentText().split(QLatin1Char(','));
-    const QString question = texts(moveQuestion[0]) + textAt(*row, CompositionName)
+    const QString question = texts(moveQuestion[0]) + textAt(*row, Stock::RecipeComposition)
         + texts(moveQuestion[1]) + target.value(1) + separator + target.value(2);
     if (!confirm(this, question, texts(moveQuestion[2]))) {
         return;
     }
     Recipes::move(line, target.value(0));
     Display_DoseStock(source);
-    if (auto* stock = qobject_cast<FormVendelSaisieStock*>(parent())) {
+    if (auto* stock = qobject_cast<Stock*>(parent())) {
         stock->Clear_List();
     }
 }

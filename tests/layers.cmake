@@ -10,7 +10,7 @@ set(may_store "store|db|common")
 set(may_widgets "widgets|common")
 set(may_forms "forms|widgets|store|common|ui_")
 set(may_app "app|forms|widgets|store|common|Print|base|ui_")
-set(may_demo "demo|store|common|db")
+set(may_demo "demo|store")
 set(may_bench "bench|base|app|forms|widgets|store|common|db|Print|sqlite3")
 
 # Tests may include what their folder may, and what tests share.

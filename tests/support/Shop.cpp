@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/Shop.h"
 
+#include "base/Handle.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTest>
@@ -42,12 +44,12 @@ DbRows Shop::sql(const char* sql) const
 
 void Shop::fill(const char* sql) const
 {
-    sqlite3* connection = nullptr;
-    sqlite3_open("Vendel.db", &connection);
-    if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
-        qFatal("%s", sqlite3_errmsg(connection));
+    sqlite3* opened = nullptr;
+    sqlite3_open("Vendel.db", &opened);
+    const Handle<sqlite3, sqlite3_close> connection(opened);
+    if (sqlite3_exec(connection.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
+        qFatal("%s", sqlite3_errmsg(connection.get()));
     }
-    sqlite3_close(connection);
 }
 
 QString Shop::cell(const char* sql) const
