@@ -48,7 +48,7 @@ const auto& noPrinter = Messages::Messages63;
 const auto& saleNotRecorded = Messages::Messages172;
 constexpr int clockMs = 100;
 constexpr QPoint tipOffset(150, 130);
-constexpr auto paymentPrefix = "Errors FormVendel on_btn_Payer_clicked : ";
+constexpr auto payerSlot = "FormVendel on_btn_Payer_clicked";
 } // namespace
 
 FormVendel::FormVendel(QWidget* parent)
@@ -58,7 +58,7 @@ FormVendel::FormVendel(QWidget* parent)
     , modelMenu_(new QStandardItemModel(0, 4, this))
     , modelTicket_(new QStandardItemModel(0, 4, this))
 {
-    guarded("Errors FormVendel Constructor : ", [this] {
+    guarded("FormVendel Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         connect(&clock_, &QTimer::timeout, this, &FormVendel::on_timeout);
@@ -81,7 +81,7 @@ void FormVendel::showEvent(QShowEvent* event)
     if (event->type() != QEvent::Show || event->spontaneous()) {
         return;
     }
-    guarded("Errors FormVendel showEvent : ", [this] {
+    guarded("FormVendel showEvent", [this] {
         showSplash();
         for (const QString& value : Settings::printerSwitches()) {
             if (std::stoi(value.toStdString()) == 1) {
@@ -100,7 +100,7 @@ void FormVendel::showSplash()
 
 bool FormVendel::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("Errors FormVendel eventFilter : ", [&] {
+    guarded("FormVendel eventFilter", [&] {
         notePress(*event);
         const auto isWanted
             = [this](QPoint, const QString&) { return ui_->chkbx_ToolTip->isChecked(); };
@@ -124,38 +124,37 @@ void FormVendel::notePress(const QEvent& event)
 
 void FormVendel::on_timeout()
 {
-    guarded("Errors FormVendel on_timeout : ", [this] {
+    guarded("FormVendel on_timeout", [this] {
         ui_->lbl_DateTime->setText(clockText(QDateTime::currentDateTime(), texts(datePattern[0])));
     });
 }
 
 void FormVendel::on_actionConfig_triggered()
 {
-    guarded("Errors FormVendel on_actionConfig_triggered : ",
-        [this] { openWindow<FormVendelConfig>(this); });
+    guarded("FormVendel on_actionConfig_triggered", [this] { openWindow<FormVendelConfig>(this); });
 }
 
 void FormVendel::on_actionSaisie_Article_triggered()
 {
-    guarded("Errors FormVendel on_actionSaisie_Article_triggereds : ",
+    guarded("FormVendel on_actionSaisie_Article_triggereds",
         [this] { openWindow<FormVendelSaisieArticle>(this); });
 }
 
 void FormVendel::on_actionHistorique_triggered()
 {
-    guarded("Errors FormVendel on_actionHistorique_triggered : ",
+    guarded("FormVendel on_actionHistorique_triggered",
         [this] { openWindow<FormVendelHistorique>(this); });
 }
 
 void FormVendel::on_actionA_propos_de_triggered()
 {
-    guarded("Errors FormVendel on_actionA_propos_de_triggered : ",
-        [this] { openWindow<FormVendelAbout>(this); });
+    guarded(
+        "FormVendel on_actionA_propos_de_triggered", [this] { openWindow<FormVendelAbout>(this); });
 }
 
 void FormVendel::on_btn_Afficher_clicked()
 {
-    guarded("Errors FormVendel on_btn_Afficher_clicked : ", [this] { showMenu(); });
+    guarded("FormVendel on_btn_Afficher_clicked", [this] { showMenu(); });
 }
 
 void FormVendel::showMenu()
@@ -177,13 +176,13 @@ void FormVendel::showMenu()
 
 void FormVendel::on_tableView1_clicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendel on_tableView1_clicked : ", [&] { addToTicket(index); });
+    guarded("FormVendel on_tableView1_clicked", [&] { addToTicket(index); });
 }
 
 // Qt turns the second press of two quick ones into a double click; to the cashier it is one more.
 void FormVendel::on_tableView1_doubleClicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendel on_tableView1_doubleClicked : ", [&] {
+    guarded("FormVendel on_tableView1_doubleClicked", [&] {
         if (isLeftPress_) {
             addToTicket(index);
         }
@@ -199,7 +198,7 @@ void FormVendel::addToTicket(const QModelIndex& index)
 
 void FormVendel::on_tableView2_clicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendel on_tableView2_clicked : ", [&] {
+    guarded("FormVendel on_tableView2_clicked", [&] {
         if (!isSecondPress_) {
             removeFromTicket(index);
         }
@@ -230,7 +229,7 @@ bool FormVendel::refreshTicket()
 
 void FormVendel::on_btn_Ticket_clicked()
 {
-    guarded("Errors FormVendel on_btn_Ticket_clicked : ", [this] {
+    guarded("FormVendel on_btn_Ticket_clicked", [this] {
         if (!refreshTicket()) {
             notice(this, texts, nothingToShow);
         }
@@ -239,7 +238,7 @@ void FormVendel::on_btn_Ticket_clicked()
 
 void FormVendel::on_btn_Effacer_Ticket_clicked()
 {
-    guarded("Errors FormVendel on_btn_Effacer_Ticket_clicked : ", [this] {
+    guarded("FormVendel on_btn_Effacer_Ticket_clicked", [this] {
         clearList(*modelTicket_);
         if (Ticket::lines().empty()) {
             notice(this, texts, nothingToClear);
@@ -251,7 +250,7 @@ void FormVendel::on_btn_Effacer_Ticket_clicked()
 
 void FormVendel::on_btn_Total_Ticket_clicked()
 {
-    guarded("Errors on_btn_Total_Ticket_clicked : ", [this] { showTotal(); });
+    guarded("on_btn_Total_Ticket_clicked", [this] { showTotal(); });
 }
 
 void FormVendel::showTotal()
@@ -268,68 +267,67 @@ void FormVendel::showTotal()
 
 void FormVendel::on_btn_1_clicked()
 {
-    guarded("Errors on_btn_1_clicked : ", [this] { type(QStringLiteral("1")); });
+    guarded("on_btn_1_clicked", [this] { type(QStringLiteral("1")); });
 }
 
 void FormVendel::on_btn_2_clicked()
 {
-    guarded("Errors on_btn_2_clicked : ", [this] { type(QStringLiteral("2")); });
+    guarded("on_btn_2_clicked", [this] { type(QStringLiteral("2")); });
 }
 
 void FormVendel::on_btn_3_clicked()
 {
-    guarded("Errors on_btn_3_clicked : ", [this] { type(QStringLiteral("3")); });
+    guarded("on_btn_3_clicked", [this] { type(QStringLiteral("3")); });
 }
 
 void FormVendel::on_btn_4_clicked()
 {
-    guarded("Errors on_btn_4_clicked : ", [this] { type(QStringLiteral("4")); });
+    guarded("on_btn_4_clicked", [this] { type(QStringLiteral("4")); });
 }
 
 void FormVendel::on_btn_5_clicked()
 {
-    guarded("Errors on_btn_5_clicked : ", [this] { type(QStringLiteral("5")); });
+    guarded("on_btn_5_clicked", [this] { type(QStringLiteral("5")); });
 }
 
 void FormVendel::on_btn_6_clicked()
 {
-    guarded("Errors on_btn_6_clicked : ", [this] { type(QStringLiteral("6")); });
+    guarded("on_btn_6_clicked", [this] { type(QStringLiteral("6")); });
 }
 
 void FormVendel::on_btn_7_clicked()
 {
-    guarded("Errors on_btn_7_clicked : ", [this] { type(QStringLiteral("7")); });
+    guarded("on_btn_7_clicked", [this] { type(QStringLiteral("7")); });
 }
 
 void FormVendel::on_btn_8_clicked()
 {
-    guarded("Errors on_btn_8_clicked : ", [this] { type(QStringLiteral("8")); });
+    guarded("on_btn_8_clicked", [this] { type(QStringLiteral("8")); });
 }
 
 void FormVendel::on_btn_9_clicked()
 {
-    guarded("Errors on_btn_9_clicked : ", [this] { type(QStringLiteral("9")); });
+    guarded("on_btn_9_clicked", [this] { type(QStringLiteral("9")); });
 }
 
 void FormVendel::on_btn_10_clicked()
 {
-    guarded("Errors on_btn_10_clicked : ", [this] { type(QStringLiteral("0")); });
+    guarded("on_btn_10_clicked", [this] { type(QStringLiteral("0")); });
 }
 
 void FormVendel::on_btn_11_clicked()
 {
-    guarded("Errors on_btn_11_clicked : ", [this] { type(texts(decimalSeparator[0])); });
+    guarded("on_btn_11_clicked", [this] { type(texts(decimalSeparator[0])); });
 }
 
 void FormVendel::on_btn_12_clicked()
 {
-    guarded(
-        "Errors on_btn_12_clicked : ", [this] { operator_more_or_less(ui_->txt_montant->text()); });
+    guarded("on_btn_12_clicked", [this] { operator_more_or_less(ui_->txt_montant->text()); });
 }
 
 void FormVendel::on_btn_13_clicked()
 {
-    guarded("Errors on_btn_13_clicked : ", [this] {
+    guarded("on_btn_13_clicked", [this] {
         operator_more_or_less(QLatin1Char('-') + ui_->txt_montant->text());
         ui_->txt_montant->setText(ui_->txt_montant->text().mid(1));
     });
@@ -337,7 +335,7 @@ void FormVendel::on_btn_13_clicked()
 
 void FormVendel::on_btn_Effacer_Saisie_clicked()
 {
-    guarded("Errors on_btn_Effacer_Saisie_clicked : ", [this] { ui_->txt_montant->clear(); });
+    guarded("on_btn_Effacer_Saisie_clicked", [this] { ui_->txt_montant->clear(); });
 }
 
 void FormVendel::type(const QString& text)
@@ -347,7 +345,7 @@ void FormVendel::type(const QString& text)
 
 void FormVendel::operator_more_or_less(QString amount)
 {
-    guarded("Errors operator_more_or_less : ", [&] { putOnTicket(amount.trimmed()); });
+    guarded("operator_more_or_less", [&] { putOnTicket(amount.trimmed()); });
 }
 
 void FormVendel::putOnTicket(const QString& amount)
@@ -369,7 +367,7 @@ void FormVendel::putOnTicket(const QString& amount)
 
 void FormVendel::on_btn_Payer_clicked()
 {
-    guarded(paymentPrefix, [this] {
+    guarded(payerSlot, [this] {
         try {
             pay();
         } catch (const PrinterNotConnected&) {
@@ -385,7 +383,7 @@ void FormVendel::pay()
         return;
     }
     clearList(*modelTicket_);
-    if (!guarded(paymentPrefix, Payment::record)) {
+    if (!guarded(payerSlot, Payment::record)) {
         refreshTicket();
         ui_->tableView2->scrollToBottom();
         notice(this, texts, saleNotRecorded);

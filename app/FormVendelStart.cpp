@@ -15,7 +15,7 @@ FormVendelStart::FormVendelStart(QWidget* parent)
     , ui_(std::make_unique<Ui_FormVendelStart>())
     , timer_(this)
 {
-    guarded("Errors FormVendelStart Constructor : ", [this] {
+    guarded("FormVendelStart Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         connect(&timer_, &QTimer::timeout, this, &FormVendelStart::on_timeout);
@@ -27,7 +27,7 @@ FormVendelStart::~FormVendelStart() = default;
 
 void FormVendelStart::on_timeout()
 {
-    guarded("Errors FormVendelStart on_timeout : ", [this] {
+    guarded("FormVendelStart on_timeout", [this] {
         if (++ticks_ <= lastTick) {
             return;
         }

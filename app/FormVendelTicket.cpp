@@ -12,7 +12,7 @@ FormVendelTicket::FormVendelTicket(const Receipt& receipt, QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelTicket>())
 {
-    guarded("Errors FormVendelTicket Constructor : ", [&] {
+    guarded("FormVendelTicket Constructor", [&] {
         ui_->setupUi(this);
         translateCaptions(*this);
         // The sheet is fitted to the window before the first show.

@@ -61,7 +61,7 @@ bool printReceipt()
 bool showReceipt(const std::function<bool(const Receipt&)>& show)
 {
     std::optional<Receipt> receipt;
-    guarded("Errors FormVendelTicket Constructor : ", [&] { receipt = Payment::receipt(); });
+    guarded("FormVendelTicket Constructor", [&] { receipt = Payment::receipt(); });
     return show(receipt.value_or(Receipt())) && receipt;
 }
 } // namespace

@@ -6,15 +6,15 @@
 #include <exception>
 #include <utility>
 
-/// Runs a slot's body; what it throws becomes one critical log line, \a prefix first, because an
-/// exception that leaves a slot would end the till. Returns whether it ran to its end.
-template <class Body> bool guarded(const char* prefix, Body&& body)
+/// Runs a slot's body; what it throws becomes one critical log line, "Errors", then \a where,
+/// because an exception that leaves a slot would end the till. Returns whether it ran to its end.
+template <class Body> bool guarded(const char* where, Body&& body)
 {
     try {
         std::forward<Body>(body)();
         return true;
     } catch (const std::exception& error) {
-        qCritical("%s%s", prefix, error.what());
+        qCritical("Errors %s : %s", where, error.what());
         return false;
     }
 }

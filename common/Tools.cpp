@@ -36,14 +36,14 @@ std::size_t positive(std::ptrdiff_t count)
 bool Tools::isNum(QString text)
 {
     bool isNumber = false;
-    guarded("Errors Tools::isNum : ", [&] { text.toDouble(&isNumber); });
+    guarded("Tools::isNum", [&] { text.toDouble(&isNumber); });
     return isNumber;
 }
 
 QString Tools::StringDblRating(std::string text)
 {
     QString result;
-    guarded("Errors Tools::StringDblRating : ", [&] {
+    guarded("Tools::StringDblRating", [&] {
         result = QString::fromStdString(text);
         result.replace(QLatin1Char('\''), QLatin1String("''"));
     });
@@ -53,7 +53,7 @@ QString Tools::StringDblRating(std::string text)
 std::string Tools::Padding(std::string text, int width, char fill)
 {
     std::string result;
-    guarded("Errors Padding : ", [&] {
+    guarded("Padding", [&] {
         const auto missing = positive(width - static_cast<std::ptrdiff_t>(text.size()));
         result = text.append(missing, fill);
     });
@@ -63,7 +63,7 @@ std::string Tools::Padding(std::string text, int width, char fill)
 std::string Tools::PaddingCenter(std::string text, int width, char fill)
 {
     std::string result;
-    guarded("Errors PaddingCenter : ", [&] {
+    guarded("PaddingCenter", [&] {
         const auto half = (width - static_cast<std::ptrdiff_t>(text.size())) / 2;
         if (half >= 0) {
             const std::string side(positive(half), fill);
@@ -76,7 +76,7 @@ std::string Tools::PaddingCenter(std::string text, int width, char fill)
 QString Tools::ConvDate::ToUs(QString text)
 {
     QString result;
-    guarded("Errors ToUs : ", [&] {
+    guarded("ToUs", [&] {
         const QStringView date(text);
         result = reordered(date, date.mid(6, 4), date.mid(0, 2), date.mid(3, 2), QLatin1Char('-'));
     });
@@ -86,7 +86,7 @@ QString Tools::ConvDate::ToUs(QString text)
 QString Tools::ConvDate::ToUs_mdy(QString text)
 {
     QString result;
-    guarded("Errors ToFr : ", [&] {
+    guarded("ToFr", [&] {
         const QStringView date(text);
         result = reordered(date, date.mid(5, 2), date.mid(8, 2), date.mid(0, 4), QLatin1Char('/'));
     });

@@ -14,7 +14,7 @@ FormVendelAbout::FormVendelAbout(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelAbout>())
 {
-    guarded("Errors FormVendelAbout Constructor : ", [this] {
+    guarded("FormVendelAbout Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         ui_->lbl_QPixmap->setPixmap(Pictures::read(QStringLiteral("AproposdeImage.png")));
@@ -34,5 +34,5 @@ FormVendelAbout::~FormVendelAbout() = default;
 
 void FormVendelAbout::on_btn_buttonBox_clicked(QAbstractButton*)
 {
-    guarded("Errors FormVendel on_btn_buttonBox_clicked : ", [this] { close(); });
+    guarded("FormVendel on_btn_buttonBox_clicked", [this] { close(); });
 }

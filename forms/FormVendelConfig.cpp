@@ -27,7 +27,7 @@ FormVendelConfig::FormVendelConfig(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelConfig>())
 {
-    guarded("Errors FormVendelConfig Constructor : ", [this] {
+    guarded("FormVendelConfig Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         ui_->cbx_Epson->addItems({QStringLiteral("OFF"), QStringLiteral("ON")});
@@ -47,7 +47,7 @@ void FormVendelConfig::showSettings()
 
 void FormVendelConfig::on_btn_Maj_TVA_clicked()
 {
-    guarded("Errors on_btn_Maj_TVA_clicked : ", [this] { storeRate(); });
+    guarded("on_btn_Maj_TVA_clicked", [this] { storeRate(); });
 }
 
 void FormVendelConfig::storeRate()
@@ -65,7 +65,7 @@ void FormVendelConfig::storeRate()
 
 void FormVendelConfig::on_btn_Maj_Epson_clicked()
 {
-    guarded("Errors on_btn_Maj_Epson_clicked : ", [this] {
+    guarded("on_btn_Maj_Epson_clicked", [this] {
         Settings::setPrinterSwitch(QString::number(ui_->cbx_Epson->currentIndex()));
         close();
     });
@@ -73,6 +73,6 @@ void FormVendelConfig::on_btn_Maj_Epson_clicked()
 
 void FormVendelConfig::on_btn_Maj_Formulaire_clicked()
 {
-    guarded("Errors FormVendelConfig on_btn_Maj_Formulaire_clicked : ",
+    guarded("FormVendelConfig on_btn_Maj_Formulaire_clicked",
         [this] { openWindow<FormVendelFormulaireTicket>(this); });
 }

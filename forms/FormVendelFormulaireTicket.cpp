@@ -20,7 +20,7 @@ FormVendelFormulaireTicket::FormVendelFormulaireTicket(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelFormulaireTicket>())
 {
-    guarded("Errors FormVendelFormulaireTicket Constructor : ", [this] {
+    guarded("FormVendelFormulaireTicket Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         on_actionEntete_Page_triggered();
@@ -31,13 +31,13 @@ FormVendelFormulaireTicket::~FormVendelFormulaireTicket() = default;
 
 void FormVendelFormulaireTicket::on_actionEntete_Page_triggered()
 {
-    guarded("Errors FormVendelFormulaireTicket on_actionEntete_Page_triggered : ",
+    guarded("FormVendelFormulaireTicket on_actionEntete_Page_triggered",
         [this] { showFile(ReceiptFiles::header, headerLabel[0]); });
 }
 
 void FormVendelFormulaireTicket::on_actionPied_Page_triggered()
 {
-    guarded("Errors FormVendelFormulaireTicket on_actionPied_Page_triggered : ",
+    guarded("FormVendelFormulaireTicket on_actionPied_Page_triggered",
         [this] { showFile(ReceiptFiles::footer, footerLabel[0]); });
 }
 
@@ -52,12 +52,12 @@ void FormVendelFormulaireTicket::showFile(const QString& file, const std::string
 
 void FormVendelFormulaireTicket::on_btn_Entete_Page_clicked()
 {
-    guarded("Errors on_btn_Entete_Page_clicked : ", [this] { save(ReceiptFiles::header); });
+    guarded("on_btn_Entete_Page_clicked", [this] { save(ReceiptFiles::header); });
 }
 
 void FormVendelFormulaireTicket::on_btn_Pied_Page_clicked()
 {
-    guarded("Errors on_btn_Pied_Page_clicked : ", [this] { save(ReceiptFiles::footer); });
+    guarded("on_btn_Pied_Page_clicked", [this] { save(ReceiptFiles::footer); });
 }
 
 void FormVendelFormulaireTicket::save(const QString& file)

@@ -95,7 +95,7 @@ FormVendelHistorique::FormVendelHistorique(QWidget* parent)
     , modelDays_(new QStandardItemModel(this))
     , modelGroups_(new QStandardItemModel(this))
 {
-    guarded("Errors FormVendelHistorique Contructor : ", [this] {
+    guarded("FormVendelHistorique Contructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         setUpLists();
@@ -116,7 +116,7 @@ void FormVendelHistorique::setUpLists()
 
 bool FormVendelHistorique::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("Errors FormVendelHistorique eventFilter : ", [&] {
+    guarded("FormVendelHistorique eventFilter", [&] {
         const auto isWanted = [](QPoint position, const QString& date) {
             return (position.x() > 0 || position.y() > 0) && date != totalMark();
         };
@@ -136,7 +136,7 @@ Period FormVendelHistorique::typedPeriod() const
 bool FormVendelHistorique::ValidDate()
 {
     bool isValid = false;
-    guarded("Errors FormVendelHistorique ValidDate : ", [&] {
+    guarded("FormVendelHistorique ValidDate", [&] {
         const Period period = typedPeriod();
         ui_->txt_First_Date->setText(period.first());
         ui_->txt_Second_Date->setText(period.second());
@@ -173,12 +173,12 @@ std::optional<FormVendelHistorique::Sales> FormVendelHistorique::salesOfPeriod()
 
 void FormVendelHistorique::on_btn_Show_Date_clicked()
 {
-    guarded("Errors FormVendelHistorique on_btn_Show_Date_clicked : ", [this] { Display_Date(); });
+    guarded("FormVendelHistorique on_btn_Show_Date_clicked", [this] { Display_Date(); });
 }
 
 void FormVendelHistorique::Display_Date()
 {
-    guarded("Errors FormVendelHistorique Display_Date : ", [this] { showDays(); });
+    guarded("FormVendelHistorique Display_Date", [this] { showDays(); });
 }
 
 void FormVendelHistorique::showDays()
@@ -195,13 +195,12 @@ void FormVendelHistorique::showDays()
 
 void FormVendelHistorique::on_btn_View_Historical_clicked()
 {
-    guarded("Errors FormVendelHistorique on_btn_View_Historical_clicked : ",
-        [this] { Display_History(); });
+    guarded("FormVendelHistorique on_btn_View_Historical_clicked", [this] { Display_History(); });
 }
 
 void FormVendelHistorique::Display_History()
 {
-    guarded("Errors FormVendelHistorique Display_History : ", [this] {
+    guarded("FormVendelHistorique Display_History", [this] {
         if (const auto sales = salesOfPeriod()) {
             showSales(*sales);
         }
@@ -231,12 +230,12 @@ void FormVendelHistorique::showGroups(const Period& period)
 
 void FormVendelHistorique::on_tableView2_clicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendelHistorique on_tableView2_clicked : ", [&] { pickDate(index); });
+    guarded("FormVendelHistorique on_tableView2_clicked", [&] { pickDate(index); });
 }
 
 void FormVendelHistorique::on_tableView1_clicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendelHistorique on_tableView1_clicked : ",
+    guarded("FormVendelHistorique on_tableView1_clicked",
         [&] { pickDate(index.sibling(index.row(), SaleMoment)); });
 }
 
@@ -251,7 +250,7 @@ void FormVendelHistorique::pickDate(const QModelIndex& cell)
 
 void FormVendelHistorique::on_btn_Del_Seizure_clicked()
 {
-    guarded("Errors FormVendelHistorique on_btn_Del_Seizure_clicked : ", [this] {
+    guarded("FormVendelHistorique on_btn_Del_Seizure_clicked", [this] {
         ui_->txt_First_Date->setText(QString());
         ui_->txt_Second_Date->setText(QString());
     });
@@ -259,7 +258,7 @@ void FormVendelHistorique::on_btn_Del_Seizure_clicked()
 
 void FormVendelHistorique::on_btn_Total_clicked()
 {
-    guarded("Errors FormVendelHistorique on_btn_Total_clicked : ", [this] { showTotal(); });
+    guarded("FormVendelHistorique on_btn_Total_clicked", [this] { showTotal(); });
 }
 
 void FormVendelHistorique::showTotal()
@@ -280,7 +279,7 @@ void FormVendelHistorique::showTotal()
 
 void FormVendelHistorique::on_btn_Clear_clicked()
 {
-    guarded("Errors FormVendelHistorique on_btn_Clear_clicked : ", [this] { purge(); });
+    guarded("FormVendelHistorique on_btn_Clear_clicked", [this] { purge(); });
 }
 
 void FormVendelHistorique::purge()
@@ -303,13 +302,13 @@ void FormVendelHistorique::purge()
 
 void FormVendelHistorique::on_actionSaisie_Stock_triggered()
 {
-    guarded("Errors FormVendelHistorique on_actionSaisie_Stock_triggered : ",
+    guarded("FormVendelHistorique on_actionSaisie_Stock_triggered",
         [this] { openWindow<FormVendelSaisieStock>(this); });
 }
 
 void FormVendelHistorique::on_actionCalcul_Stock_triggered()
 {
-    guarded("Errors FormVendelHistorique on_actionCalcul_Stock_triggered : ", [this] {
+    guarded("FormVendelHistorique on_actionCalcul_Stock_triggered", [this] {
         if (salesOfPeriod()) {
             openWindow<FormVendelStockCalculation>(
                 this, ui_->txt_First_Date->text(), ui_->txt_Second_Date->text());

@@ -47,7 +47,7 @@ FormVendelSaisieArticle::FormVendelSaisieArticle(QWidget* parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieArticle>())
     , model_(new QStandardItemModel(0, 4, this))
 {
-    guarded("Errors FormVendelSaisieArticle Constructor : ", [this] {
+    guarded("FormVendelSaisieArticle Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         setUpList(
@@ -61,7 +61,7 @@ FormVendelSaisieArticle::~FormVendelSaisieArticle() = default;
 
 bool FormVendelSaisieArticle::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("Errors FormVendelSaisieArticle eventFilter : ", [&] {
+    guarded("FormVendelSaisieArticle eventFilter", [&] {
         showTipOver(*this, texts, {*ui_->tableView, Name, articleTip, hoverTipOffset}, watched,
             event,
             [](QPoint position, const QString&) { return position.x() > 0 || position.y() > 0; });
@@ -71,7 +71,7 @@ bool FormVendelSaisieArticle::eventFilter(QObject* watched, QEvent* event)
 
 void FormVendelSaisieArticle::on_tableView_doubleClicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendelSaisieArticle on_tableView_doubleClicked : ", [&] {
+    guarded("FormVendelSaisieArticle on_tableView_doubleClicked", [&] {
         if (!ui_->tableView->selectionModel()->isSelected(index)) {
             return;
         }
@@ -82,8 +82,7 @@ void FormVendelSaisieArticle::on_tableView_doubleClicked(const QModelIndex& inde
 
 void FormVendelSaisieArticle::on_txt_Article_textChanged(const QString&)
 {
-    guarded(
-        "Errors FormVendelSaisieArticle on_txt_Article_textChanged : ", [this] { checkLength(); });
+    guarded("FormVendelSaisieArticle on_txt_Article_textChanged", [this] { checkLength(); });
 }
 
 /// Takes one surplus letter back; the text then changes again, until none is left.
@@ -102,7 +101,7 @@ void FormVendelSaisieArticle::checkLength()
 
 void FormVendelSaisieArticle::on_btn_Effacer_Saisie_clicked()
 {
-    guarded("Errors FormVendelSaisieArticle on_btn_Effacer_Saisie_clicked : ", [this] {
+    guarded("FormVendelSaisieArticle on_btn_Effacer_Saisie_clicked", [this] {
         ui_->txt_Article->setText(QString());
         ui_->txt_Montant->setText(QString());
     });
@@ -110,7 +109,7 @@ void FormVendelSaisieArticle::on_btn_Effacer_Saisie_clicked()
 
 void FormVendelSaisieArticle::Display()
 {
-    guarded("Errors FormVendelSaisieArticle Display : ", [this] { showMenu(); });
+    guarded("FormVendelSaisieArticle Display", [this] { showMenu(); });
 }
 
 void FormVendelSaisieArticle::showMenu()
@@ -146,7 +145,7 @@ void FormVendelSaisieArticle::reportDuplicates(
 
 void FormVendelSaisieArticle::on_btn_Afficher_clicked()
 {
-    guarded("Errors FormVendelSaisieArticle on_btn_Afficher_clicked : ", [this] {
+    guarded("FormVendelSaisieArticle on_btn_Afficher_clicked", [this] {
         clearList(*model_);
         Display();
     });
@@ -154,7 +153,7 @@ void FormVendelSaisieArticle::on_btn_Afficher_clicked()
 
 void FormVendelSaisieArticle::on_btn_Rechercher_clicked()
 {
-    guarded("Errors FormVendelSaisieArticle on_btn_Rechercher_clicked : ", [this] { search(); });
+    guarded("FormVendelSaisieArticle on_btn_Rechercher_clicked", [this] { search(); });
 }
 
 void FormVendelSaisieArticle::search()
@@ -172,7 +171,7 @@ void FormVendelSaisieArticle::search()
 
 void FormVendelSaisieArticle::on_btn_Ajouter_clicked()
 {
-    guarded("Errors FormVendelSaisieArticle on_btn_Ajouter_clicked : ", [this] { add(); });
+    guarded("FormVendelSaisieArticle on_btn_Ajouter_clicked", [this] { add(); });
 }
 
 void FormVendelSaisieArticle::add()
@@ -195,8 +194,7 @@ void FormVendelSaisieArticle::add()
 
 void FormVendelSaisieArticle::on_btn_Supprimer_clicked()
 {
-    guarded(
-        "Errors FormVendelSaisieArticle on_btn_Supprimer_clicked : ", [this] { removeCurrent(); });
+    guarded("FormVendelSaisieArticle on_btn_Supprimer_clicked", [this] { removeCurrent(); });
 }
 
 void FormVendelSaisieArticle::removeCurrent()
@@ -215,8 +213,7 @@ void FormVendelSaisieArticle::removeCurrent()
 
 void FormVendelSaisieArticle::on_btn_Renommer_clicked()
 {
-    guarded(
-        "Errors FormVendelSaisieArticle on_btn_Renommer_clicked : ", [this] { renameCurrent(); });
+    guarded("FormVendelSaisieArticle on_btn_Renommer_clicked", [this] { renameCurrent(); });
 }
 
 void FormVendelSaisieArticle::renameCurrent()

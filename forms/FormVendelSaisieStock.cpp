@@ -36,7 +36,7 @@ FormVendelSaisieStock::FormVendelSaisieStock(QWidget* parent)
     , modelArticles_(new QStandardItemModel(0, 3, this))
     , modelCompositions_(new QStandardItemModel(0, 5, this))
 {
-    guarded("Errors FormVendelSaisieStock Contructor : ", [this] {
+    guarded("FormVendelSaisieStock Contructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         setUpLists();
@@ -66,7 +66,7 @@ void FormVendelSaisieStock::setUpLists()
 
 void FormVendelSaisieStock::Display(bool)
 {
-    guarded("Errors FormVendelSaisieStock Display : ", [this] { showArticles(); });
+    guarded("FormVendelSaisieStock Display", [this] { showArticles(); });
 }
 
 void FormVendelSaisieStock::showArticles()
@@ -83,7 +83,7 @@ void FormVendelSaisieStock::showArticles()
 
 void FormVendelSaisieStock::Display_DoseStock(const QString& id)
 {
-    guarded("Errors FormVendelSaisieStock Display_DoseStock : ",
+    guarded("FormVendelSaisieStock Display_DoseStock",
         [&] { showRecipe(*ui_->tableView2, *modelCompositions_, id); });
 }
 
@@ -94,7 +94,7 @@ void FormVendelSaisieStock::Clear_List()
 
 bool FormVendelSaisieStock::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("Errors FormVendelSaisieStock eventFilter : ", [&] {
+    guarded("FormVendelSaisieStock eventFilter", [&] {
         showTipOver(*this, texts, {*ui_->tableView1, ArticleName, articleTip, {}}, watched, event);
         showTipOver(*this, texts, {*ui_->tableView2, RecipeComposition, compositionTip, {}},
             watched, event);
@@ -104,24 +104,24 @@ bool FormVendelSaisieStock::eventFilter(QObject* watched, QEvent* event)
 
 void FormVendelSaisieStock::on_btn_Display_clicked()
 {
-    guarded("Errors FormVendelSaisieStock on_btn_Display_clicked : ", [this] { Display(true); });
+    guarded("FormVendelSaisieStock on_btn_Display_clicked", [this] { Display(true); });
 }
 
 void FormVendelSaisieStock::on_btn_Update_clicked()
 {
-    guarded("Errors FormVendelSaisieStock on_btn_Update_clicked : ",
+    guarded("FormVendelSaisieStock on_btn_Update_clicked",
         [this] { openWindow<FormVendelSaisieStockMaj>(this); });
 }
 
 void FormVendelSaisieStock::on_btn_Cut_Paste_clicked()
 {
-    guarded("Errors FormVendelSaisieStock on_btn_Cut_Paste_clicked : ",
+    guarded("FormVendelSaisieStock on_btn_Cut_Paste_clicked",
         [this] { openWindow<FormVendelSaisieStockCutPaste>(this); });
 }
 
 void FormVendelSaisieStock::on_btn_Remove_clicked()
 {
-    guarded("Errors FormVendelSaisieStock on_btn_Remove_clicked : ", [this] { removeArticle(); });
+    guarded("FormVendelSaisieStock on_btn_Remove_clicked", [this] { removeArticle(); });
 }
 
 void FormVendelSaisieStock::removeArticle()
@@ -146,15 +146,13 @@ void FormVendelSaisieStock::removeArticle()
 
 void FormVendelSaisieStock::on_tableView1_clicked(const QModelIndex& /*index*/)
 {
-    guarded(
-        "Errors FormVendelSaisieStock on_tableView1_clicked : ", [this] { showMarkedRecipe(); });
+    guarded("FormVendelSaisieStock on_tableView1_clicked", [this] { showMarkedRecipe(); });
 }
 
 void FormVendelSaisieStock::on_tableViewSelection(
     const QModelIndex& /*current*/, const QModelIndex& /*previous*/)
 {
-    guarded(
-        "Errors FormVendelSaisieStock on_tableViewSelection : ", [this] { showMarkedRecipe(); });
+    guarded("FormVendelSaisieStock on_tableViewSelection", [this] { showMarkedRecipe(); });
 }
 
 /// Never the recipe of an article that is not marked: a double click would remove a line of it.
@@ -169,8 +167,7 @@ void FormVendelSaisieStock::showMarkedRecipe()
 
 void FormVendelSaisieStock::on_tableView1_doubleClicked(const QModelIndex& index)
 {
-    guarded("Errors FormVendelSaisieStock on_tableView1_doubleClicked : ",
-        [&] { composeRecipeOf(index); });
+    guarded("FormVendelSaisieStock on_tableView1_doubleClicked", [&] { composeRecipeOf(index); });
 }
 
 void FormVendelSaisieStock::composeRecipeOf(const QModelIndex& index)
@@ -186,8 +183,7 @@ void FormVendelSaisieStock::composeRecipeOf(const QModelIndex& index)
 
 void FormVendelSaisieStock::on_tableView2_doubleClicked(const QModelIndex& index)
 {
-    guarded(
-        "Errors FormVendelSaisieStock on_tableView2_doubleClicked : ", [&] { removeLine(index); });
+    guarded("FormVendelSaisieStock on_tableView2_doubleClicked", [&] { removeLine(index); });
 }
 
 void FormVendelSaisieStock::removeLine(const QModelIndex& index)

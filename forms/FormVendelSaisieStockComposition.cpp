@@ -34,7 +34,7 @@ FormVendelSaisieStockComposition::FormVendelSaisieStockComposition(
     , article_(article)
     , id_(id)
 {
-    guarded("Errors FormSaisieStockComposition Constructor : ", [this] {
+    guarded("FormSaisieStockComposition Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         ui_->lbl_Article->setText(article_);
@@ -46,8 +46,7 @@ FormVendelSaisieStockComposition::~FormVendelSaisieStockComposition() = default;
 
 void FormVendelSaisieStockComposition::on_btn_Add_clicked()
 {
-    guarded(
-        "Errors FormSaisieStockComposition on_btn_Add_clicked : ", [this] { addComposition(); });
+    guarded("FormSaisieStockComposition on_btn_Add_clicked", [this] { addComposition(); });
 }
 
 void FormVendelSaisieStockComposition::addComposition()

@@ -34,7 +34,7 @@ FormVendelSaisieStockCutPaste::FormVendelSaisieStockCutPaste(QWidget* parent)
     , modelArticles_(new QStandardItemModel(0, 3, this))
     , modelCompositions_(new QStandardItemModel(0, 5, this))
 {
-    guarded("Errors FormVendelSaisieStockCutPaste Constructor : ", [this] {
+    guarded("FormVendelSaisieStockCutPaste Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         setUpLists();
@@ -68,7 +68,7 @@ void FormVendelSaisieStockCutPaste::fillTargets()
 
 void FormVendelSaisieStockCutPaste::Display()
 {
-    guarded("Errors FormVendelSaisieStockCutPaste Display : ", [this] {
+    guarded("FormVendelSaisieStockCutPaste Display", [this] {
         clearList(*modelArticles_);
         Stock::addArticles(
             *ui_->tableView1, *modelArticles_, StockArticles::withdrawn(), texts(expired[0]));
@@ -77,13 +77,13 @@ void FormVendelSaisieStockCutPaste::Display()
 
 void FormVendelSaisieStockCutPaste::Display_DoseStock(const QString& id)
 {
-    guarded("Errors FormVendelSaisieStockCutPaste Display_DoseStock : ",
+    guarded("FormVendelSaisieStockCutPaste Display_DoseStock",
         [&] { Stock::showRecipe(*ui_->tableView2, *modelCompositions_, id); });
 }
 
 bool FormVendelSaisieStockCutPaste::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("Errors FormVendelSaisieStockCutPaste eventFilter : ", [&] {
+    guarded("FormVendelSaisieStockCutPaste eventFilter", [&] {
         showTipOver(*this, texts, {*ui_->tableView2, Stock::RecipeComposition, compositionTip, {}},
             watched, event);
     });
@@ -93,14 +93,12 @@ bool FormVendelSaisieStockCutPaste::eventFilter(QObject* watched, QEvent* event)
 void FormVendelSaisieStockCutPaste::on_tableViewSelection(
     const QModelIndex& /*current*/, const QModelIndex& /*previous*/)
 {
-    guarded(
-        "Errors FormVendelSaisieStock on_tableViewSelection : ", [this] { showMarkedRecipe(); });
+    guarded("FormVendelSaisieStock on_tableViewSelection", [this] { showMarkedRecipe(); });
 }
 
 void FormVendelSaisieStockCutPaste::on_tableView1_clicked(const QModelIndex& /*index*/)
 {
-    guarded(
-        "Errors FormVendelSaisieStock on_tableView1_clicked : ", [this] { showMarkedRecipe(); });
+    guarded("FormVendelSaisieStock on_tableView1_clicked", [this] { showMarkedRecipe(); });
 }
 
 /// Never the recipe of an article that is not marked: a double click would remove a line of it.
@@ -115,8 +113,7 @@ void FormVendelSaisieStockCutPaste::showMarkedRecipe()
 
 void FormVendelSaisieStockCutPaste::on_btn_Modify_clicked()
 {
-    guarded(
-        "Errors FormVendelSaisieStockCutPaste on_btn_Modify_clicked : ", [this] { moveLine(); });
+    guarded("FormVendelSaisieStockCutPaste on_btn_Modify_clicked", [this] { moveLine(); });
 }
 
 void FormVendelSaisieStockCutPaste::moveLine()

@@ -23,7 +23,7 @@ FormVendelSaisieStockMaj::FormVendelSaisieStockMaj(QWidget* parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieStockMaj>())
     , model_(new QStandardItemModel(0, 3, this))
 {
-    guarded("Errors FormVendelSaisieStockMaj Constructor : ", [this] {
+    guarded("FormVendelSaisieStockMaj Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         setUpPreview();
@@ -46,7 +46,7 @@ void FormVendelSaisieStockMaj::setUpPreview()
 
 void FormVendelSaisieStockMaj::on_btn_Update_clicked()
 {
-    guarded("Errors FormVendelSaisieStock on_btn_Update_clicked : ", [this] { synchronise(); });
+    guarded("FormVendelSaisieStock on_btn_Update_clicked", [this] { synchronise(); });
 }
 
 void FormVendelSaisieStockMaj::synchronise()

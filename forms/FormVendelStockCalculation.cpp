@@ -68,7 +68,7 @@ FormVendelStockCalculation::FormVendelStockCalculation(
     , modelDetails_(new QStandardItemModel(0, 5, this))
     , modelTotals_(new QStandardItemModel(0, 5, this))
 {
-    guarded("Errors FormVendelStockCalculation Constructor : ", [this] {
+    guarded("FormVendelStockCalculation Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         ui_->lbl_Period_Date1->setText(date1_);
@@ -87,8 +87,7 @@ void FormVendelStockCalculation::setUpLists()
 
 void FormVendelStockCalculation::on_btn_Display_clicked()
 {
-    guarded("Errors FormVendelStockCalculation on_btn_Display_clicked : ",
-        [this] { showConsumption(); });
+    guarded("FormVendelStockCalculation on_btn_Display_clicked", [this] { showConsumption(); });
 }
 
 void FormVendelStockCalculation::showConsumption()

@@ -14,7 +14,7 @@ private slots:
     {
         const CapturedLog log;
         int runs = 0;
-        guarded("Errors Shop open : ", [&] { ++runs; });
+        guarded("Shop open", [&] { ++runs; });
         QCOMPARE(runs, 1);
         QVERIFY(log.criticals().isEmpty());
     }
@@ -22,21 +22,21 @@ private slots:
     void anExceptionIsOneCriticalLine()
     {
         const CapturedLog log;
-        guarded("Errors Shop open : ", [] { throw std::runtime_error("no key"); });
+        guarded("Shop open", [] { throw std::runtime_error("no key"); });
         QCOMPARE(log.criticals(), QStringList(QString("Errors Shop open : no key")));
     }
 
     void theTextOfAnExceptionIsUtf8()
     {
         const CapturedLog log;
-        guarded("Errors Shop open : ", [] { throw std::runtime_error("fermé"); });
+        guarded("Shop open", [] { throw std::runtime_error("fermé"); });
         QCOMPARE(log.criticals(), QStringList(QString("Errors Shop open : fermé")));
     }
 
     void percentSignsStand()
     {
         const CapturedLog log;
-        guarded("Errors Shop open : ", [] { throw std::runtime_error("100 %s %n"); });
+        guarded("Shop open", [] { throw std::runtime_error("100 %s %n"); });
         QCOMPARE(log.criticals(), QStringList(QString("Errors Shop open : 100 %s %n")));
     }
 
@@ -45,7 +45,7 @@ private slots:
         const CapturedLog log;
         int caught = 0;
         try {
-            guarded("Errors Shop open : ", [] { throw -1; });
+            guarded("Shop open", [] { throw -1; });
         } catch (int code) {
             caught = code;
         }
