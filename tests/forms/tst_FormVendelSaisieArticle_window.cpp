@@ -37,13 +37,19 @@ class TestFormVendelSaisieArticleWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void looksLikeTheArticleEditor()
+    void everySlotHasItsSignal()
     {
+        const Shop shop;
         const CapturedLog log;
-        OpenArticleEditor editor;
-        auto& window = editor.window;
+        const FormVendelSaisieArticle window;
         QCOMPARE(log.warnings(), QStringList());
         QCOMPARE(log.criticals(), QStringList());
+    }
+
+    void looksLikeTheArticleEditor()
+    {
+        OpenArticleEditor editor;
+        auto& window = editor.window;
         QCOMPARE(window.objectName(), QString("FormVendelSaisieArticle"));
         QCOMPARE(window.windowTitle(), QString("Saisie Article"));
         QCOMPARE(window.size(), QSize(641, 626));
