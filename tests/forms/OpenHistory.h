@@ -7,37 +7,17 @@
 #include <QLineEdit>
 
 #include <string>
-#include <vector>
 
-/// A line of the journal; the price as SQL writes it.
-struct Sale
-{
-    std::string article;
-    std::string price;
-    std::string moment;
-};
-
-/// A shop with the given sales and its history window open, the given dates in the fields.
+/// A shop with the given sales, "('Thé', 2, '2019-05-01 10:00:00.000'), ...", and its history
+/// window open, the given dates in the fields.
 struct OpenHistory : OpenDialog<FormVendelHistorique>
 {
-    explicit OpenHistory(const std::vector<Sale>& sales = {}, const QString& firstDate = "",
+    explicit OpenHistory(const std::string& sales = std::string(), const QString& firstDate = "",
         const QString& secondDate = "")
-        : OpenDialog("")
+        : OpenDialog(
+            sales.empty() ? "" : "insert into Historique select 1, * from (values " + sales + ")")
     {
-        sell(sales);
         type(firstDate, secondDate);
-    }
-
-    /// Writes \a sales into the journal, all in one transaction.
-    void sell(const std::vector<Sale>& sales) const
-    {
-        std::string sql = "begin;";
-        for (const Sale& sale : sales) {
-            const QString article = QString::fromStdString(sale.article).replace("'", "''");
-            sql += "insert into Historique values (1, '" + article.toStdString() + "', "
-                + sale.price + ", '" + sale.moment + "');";
-        }
-        shop.fill((sql + "commit").c_str());
     }
 
     /// Puts the two dates into their fields.
@@ -85,9 +65,8 @@ struct OpenHistory : OpenDialog<FormVendelHistorique>
 struct ListedHistory : OpenHistory
 {
     ListedHistory()
-        : OpenHistory(
-            {{"Thé", "2", "2019-05-01 10:00:00.000"}, {"Café", "1.5", "2019-05-01 11:00:00.000"},
-                {"Vin", "3", "2019-05-09 10:00:00.000"}},
+        : OpenHistory("('Thé', 2, '2019-05-01 10:00:00.000'), ('Café', 1.5, '2019-05-01 "
+                      "11:00:00.000'), ('Vin', 3, '2019-05-09 10:00:00.000')",
             "05/01/2019", "05/02/2019")
     {
         push("btn_Show_Date");

@@ -32,7 +32,7 @@ private slots:
     {
         QFETCH(QString, text);
         QFETCH(QString, slot);
-        OpenHistory history({}, "05/01/2019", "05/02/2019");
+        OpenHistory history("", "05/01/2019", "05/02/2019");
         const CapturedLog log;
         const FailingText failure(text.toUtf8().constData());
         QCOMPARE(history.push(QTest::currentDataTag()), QStringList());
@@ -43,7 +43,7 @@ private slots:
 
     void anUnreadableSaleIsLogged()
     {
-        OpenHistory history({}, "05/01/2019", "05/02/2019");
+        OpenHistory history("", "05/01/2019", "05/02/2019");
         history.shop.fill("drop table Historique;"
                           "create table Historique (article text, date_heure text);"
                           "insert into Historique values ('Thé', '2019-05-01 10:00:00.000')");
@@ -57,8 +57,8 @@ private slots:
 
     void anUnreadableSumIsLogged()
     {
-        OpenHistory history({{"Thé", "9223372036854775807", "2019-05-01 10:00:00.000"},
-                                {"Thé", "9223372036854775807", "2019-05-01 11:00:00.000"}},
+        OpenHistory history("('Thé', 9223372036854775807, '2019-05-01 10:00:00.000'), ('Thé', "
+                            "9223372036854775807, '2019-05-01 11:00:00.000')",
             "05/01/2019", "05/02/2019");
         CapturedOutput output;
         const CapturedLog log;
@@ -76,7 +76,7 @@ private slots:
     void refusedStatementsAreReported()
     {
         OpenHistory history(
-            {{"Thé", "2", "2019-05-01 10:00:00.000"}}, "05/01/2019", "05/01/2019 10:00:00.250");
+            "('Thé', 2, '2019-05-01 10:00:00.000')", "05/01/2019", "05/01/2019 10:00:00.250");
         history.shop.sql("alter table Historique rename column prix to tarif");
         CapturedOutput output;
         history.push("btn_View_Historical");
@@ -102,7 +102,7 @@ private slots:
 
     void aPurgeThatFailsListsTheSalesAgain()
     {
-        OpenHistory history({{"Thé", "2", "2019-05-01 10:00:00.000"}}, "05/01/2019", "05/02/2019");
+        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000')", "05/01/2019", "05/02/2019");
         history.shop.sql("create trigger keep before delete on Historique begin select "
                          "raise(abort, 'gardé'); end");
         CapturedOutput output;

@@ -5,8 +5,6 @@
 
 #include <QDialog>
 
-#include <array>
-
 /// The two dates: how they get into their fields, and which of them make a period.
 class TestFormVendelHistoriquePeriod : public QObject
 {
@@ -15,41 +13,39 @@ class TestFormVendelHistoriquePeriod : public QObject
 private slots:
     void aRefusedPeriodKeepsWhatIsShown_data()
     {
-        struct Case
-        {
-            const char* first;
-            const char* second;
-            const char* box;
-        };
-        const char* noDates = "Valide date: Saisir une date valide dans première date et seconde "
-                              "date\nClick sur Afficher Date";
-        const char* noDay = "Valide date: Saisir une date valide";
-        const char* backwards = "Valide date: Première date doit-être < seconde date";
-        const std::array cases{Case{"", "", noDates}, Case{"05/01/2019", "", noDates},
-            Case{"5/1/2019", "05/02/2019", noDates}, Case{"5/01/2019", "05/02/2019", noDates},
-            Case{"05/01/2019", "05/02/20190", noDates}, Case{"31/02/2019", "05/02/2019", noDay},
-            Case{"02/31/2019", "05/02/2019", noDay}, Case{"05/02/2019", "05/01/2019", backwards},
-            Case{"05/02/2019", "05/01/2019 10:00:00.000", backwards},
-            Case{"05/01/2019 10:00:00.001", "05/01/2019 10:00:00.000",
-                "Valide date: Première date doit-être <= seconde date"},
-            Case{"05/01/2019", "05/01/2019",
-                "Valide date: Première date doit-être < seconde date\nAjouter 1 jour à la seconde "
-                "date"},
-            Case{"05/02/2019", "05/03/2019",
-                "Historique: Historique est vide pour la pèriode du 05/02/2019 au 05/03/2019"},
-            Case{" 05-02-2019", "05/02/2019 23:59:59.999",
-                "Historique: Historique est vide pour la pèriode du 05-02-2019 au 05/02/2019 "
-                "23:59:59.999"}};
         QTest::addColumn<QString>("trigger");
         QTest::addColumn<QString>("first");
         QTest::addColumn<QString>("second");
         QTest::addColumn<QString>("box");
+        const char* noDates = "Valide date: Saisir une date valide dans première date et seconde "
+                              "date\nClick sur Afficher Date";
+        const char* noDay = "Valide date: Saisir une date valide";
+        const char* backwards = "Valide date: Première date doit-être < seconde date";
         for (const char* trigger :
             {"btn_View_Historical", "btn_Total", "btn_Clear", "actionCalcul_Stock"}) {
-            for (const Case& one : cases) {
-                QTest::addRow("%s '%s' '%s'", trigger, one.first, one.second)
-                    << trigger << one.first << one.second << one.box;
-            }
+            const auto row = [&](const char* first, const char* second, const char* box) {
+                QTest::addRow("%s '%s' '%s'", trigger, first, second)
+                    << trigger << first << second << box;
+            };
+            row("", "", noDates);
+            row("05/01/2019", "", noDates);
+            row("5/1/2019", "05/02/2019", noDates);
+            row("5/01/2019", "05/02/2019", noDates);
+            row("05/01/2019", "05/02/20190", noDates);
+            row("31/02/2019", "05/02/2019", noDay);
+            row("02/31/2019", "05/02/2019", noDay);
+            row("05/02/2019", "05/01/2019", backwards);
+            row("05/02/2019", "05/01/2019 10:00:00.000", backwards);
+            row("05/01/2019 10:00:00.001", "05/01/2019 10:00:00.000",
+                "Valide date: Première date doit-être <= seconde date");
+            row("05/01/2019", "05/01/2019",
+                "Valide date: Première date doit-être < seconde date\nAjouter 1 jour à la seconde "
+                "date");
+            row("05/02/2019", "05/03/2019",
+                "Historique: Historique est vide pour la pèriode du 05/02/2019 au 05/03/2019");
+            row(" 05-02-2019", "05/02/2019 23:59:59.999",
+                "Historique: Historique est vide pour la pèriode du 05-02-2019 au 05/02/2019 "
+                "23:59:59.999");
         }
     }
 
@@ -87,7 +83,7 @@ private slots:
     void aDayGoesIntoTheChosenField()
     {
         OpenHistory history(
-            {{"Thé", "2", "2019-05-01 10:00:00.000"}, {"Thé", "2", "2019-05-02 10:00:00.000"}});
+            "('Thé', 2, '2019-05-01 10:00:00.000'), ('Thé', 2, '2019-05-02 10:00:00.000')");
         history.push("btn_Show_Date");
         clickCell(history.window, "tableView2", 0, 0);
         QCOMPARE(history.first(), QString("05/01/2019"));
@@ -100,7 +96,7 @@ private slots:
 
     void aMalformedDayEmptiesTheChosenField()
     {
-        OpenHistory history({{"Thé", "2", ""}}, "05/01/2019", "05/02/2019");
+        OpenHistory history("('Thé', 2, '')", "05/01/2019", "05/02/2019");
         history.push("btn_Show_Date");
         clickCell(history.window, "tableView2", 0, 0);
         QCOMPARE(history.first(), QString());
@@ -109,7 +105,7 @@ private slots:
     void aSaleGoesIntoTheChosenField()
     {
         OpenHistory history(
-            {{"Thé", "2", "2019-05-01 10:00:00.250"}, {"Thé", "2", "2019-05-01 11:00:00.500"}},
+            "('Thé', 2, '2019-05-01 10:00:00.250'), ('Thé', 2, '2019-05-01 11:00:00.500')",
             "05/01/2019", "05/02/2019");
         history.push("btn_View_Historical");
         clickCell(history.window, "tableView1", 0, 0);
@@ -132,7 +128,7 @@ private slots:
 
     void aClickOnNoRowLeavesTheFields()
     {
-        OpenHistory history({}, "05/01/2019", "05/02/2019");
+        OpenHistory history("", "05/01/2019", "05/02/2019");
         for (const char* slot : {"on_tableView1_clicked", "on_tableView2_clicked"}) {
             QVERIFY(QMetaObject::invokeMethod(
                 &history.window, slot, Qt::DirectConnection, Q_ARG(QModelIndex, QModelIndex())));
@@ -143,7 +139,7 @@ private slots:
 
     void effacerSaisieEmptiesBothFields()
     {
-        OpenHistory history({}, "05/01/2019", "05/02/2019 10:00:00.000");
+        OpenHistory history("", "05/01/2019", "05/02/2019 10:00:00.000");
         history.push("btn_Del_Seizure");
         QCOMPARE(history.first(), QString());
         QCOMPARE(history.second(), QString());

@@ -36,9 +36,8 @@ private slots:
 
     void yesEmptiesTheListsBeforeItReports()
     {
-        OpenHistory history(
-            {{"Thé", "2", "2019-05-01 10:00:00.000"}, {"Café", "2", "2019-05-01 10:00:00.001"},
-                {"Bière", "2", "2019-05-01 10:00:00.002"}},
+        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000'), ('Café', 2, '2019-05-01 "
+                            "10:00:00.001'), ('Bière', 2, '2019-05-01 10:00:00.002')",
             "05/01/2019 10:00:00.000", "05/01/2019 10:00:00.001");
         history.push("btn_Total");
         QCOMPARE(purge(history),
@@ -54,7 +53,7 @@ private slots:
     void aPurgeOfEverythingLeavesNoDay()
     {
         OpenHistory history(
-            {{"Thé", "2", "2019-05-01 10:00:00.000"}, {"Café", "2", "2020-02-29 10:00:00.000"}},
+            "('Thé', 2, '2019-05-01 10:00:00.000'), ('Café', 2, '2020-02-29 10:00:00.000')",
             "01/01/0001", "12/31/9999");
         history.push("btn_Show_Date");
         QCOMPARE(history.days().size(), 2);

@@ -20,8 +20,8 @@ private slots:
 
     void daysAreListedMonthFirst()
     {
-        OpenHistory history({{"Thé", "2", "2019-05-01 10:00:00.000"},
-            {"Thé", "2", "2019-05-01 23:59:59.999"}, {"Thé", "2", "2019-12-31 00:00:00.000"}});
+        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000'), ('Thé', 2, '2019-05-01 "
+                            "23:59:59.999'), ('Thé', 2, '2019-12-31 00:00:00.000')");
         for (int time = 1; time <= 2; ++time) {
             history.push("btn_Show_Date");
             QCOMPARE(history.days(), QStringList({"05/01/2019", "12/31/2019"}));
@@ -30,8 +30,7 @@ private slots:
 
     void malformedDatesAreEmptyDays()
     {
-        OpenHistory history(
-            {{"Thé", "2", ""}, {"Thé", "2", "2019-5-1"}, {"Thé", "2", "2019-05-01 10"}});
+        OpenHistory history("('Thé', 2, ''), ('Thé', 2, '2019-5-1'), ('Thé', 2, '2019-05-01 10')");
         history.push("btn_Show_Date");
         QStringList days = history.days();
         days.sort();
@@ -71,14 +70,13 @@ private slots:
         QFETCH(QString, first);
         QFETCH(QString, second);
         OpenHistory history(
-            {{"La veille", "1", "2019-04-30 23:59:59.999"},
-                {"Soir", "12.5", "2019-05-01 23:59:59.999"},
-                {"Matin", "1234.5", "2019-05-01 00:00:00.000"},
-                {"Le lendemain", "1", "2019-05-02 00:00:00.000"},
-                {"A", "1", "2019-05-03 10:00:00.000"}, {"B", "1", "2019-05-03 10:00:00.001"},
-                {"C", "1", "2019-05-03 10:00:00.002"}, {"D", "1", "2019-05-03 10:00:00.003"},
-                {"E", "1", "2020-02-29 09:59:59.999"}, {"F", "1", "2020-02-29 10:00:00.000"},
-                {"G", "1", "2020-03-01 00:00:00.000"}, {"Nuit", "1", "2019-03-31 02:30:00.000"}},
+            "('La veille', 1, '2019-04-30 23:59:59.999'), ('Soir', 12.5, '2019-05-01 "
+            "23:59:59.999'), ('Matin', 1234.5, '2019-05-01 00:00:00.000'), ('Le lendemain', 1, "
+            "'2019-05-02 00:00:00.000'), ('A', 1, '2019-05-03 10:00:00.000'), ('B', 1, '2019-05-03 "
+            "10:00:00.001'), ('C', 1, '2019-05-03 10:00:00.002'), ('D', 1, '2019-05-03 "
+            "10:00:00.003'), ('E', 1, '2020-02-29 09:59:59.999'), ('F', 1, '2020-02-29 "
+            "10:00:00.000'), ('G', 1, '2020-03-01 00:00:00.000'), ('Nuit', 1, '2019-03-31 "
+            "02:30:00.000')",
             first, second);
         QCOMPARE(history.push("btn_View_Historical"), QStringList());
         QTEST(history.sales(), "sales");
@@ -86,10 +84,9 @@ private slots:
 
     void listsNamesAsTheyStand()
     {
-        OpenHistory history({{"l'eau", "2", "2019-05-01 10:00:00.000"},
-                                {"<b>\"Pastis\"</b>", "'gratuit'", "2019-05-01 10:00:01.000"},
-                                {"33", "-0.5", "2019-05-01 10:00:02.000"},
-                                {"----", "0", "2019-05-01 10:00:03.000"}},
+        OpenHistory history("('l''eau', 2, '2019-05-01 10:00:00.000'), ('<b>\"Pastis\"</b>', "
+                            "'gratuit', '2019-05-01 10:00:01.000'), ('33', -0.5, '2019-05-01 "
+                            "10:00:02.000'), ('----', 0, '2019-05-01 10:00:03.000')",
             "05/01/2019", "05/02/2019");
         history.push("btn_View_Historical");
         QCOMPARE(history.sales(),
@@ -100,9 +97,8 @@ private slots:
 
     void listsMalformedDatesEmpty()
     {
-        OpenHistory history({{"Sans date", "1", ""}, {"Jour seul", "1", "2019-05-01"},
-                                {"Heure seule", "1", "2019-05-01 10"},
-                                {"Autre signe", "1", "2019-05-01T10:20:30.123"}},
+        OpenHistory history("('Sans date', 1, ''), ('Jour seul', 1, '2019-05-01'), ('Heure seule', "
+                            "1, '2019-05-01 10'), ('Autre signe', 1, '2019-05-01T10:20:30.123')",
             "05/01/2019", "05/02/2019");
         history.push("btn_View_Historical");
         QCOMPARE(history.sales(),
@@ -110,29 +106,23 @@ private slots:
                 "Autre signe|1.00$|05/01/2019 10:20:30.123"}));
     }
 
-    void groupsByArticleAndPrice_data()
-    {
-        QTest::addColumn<QStringList>("sold");
-        QTest::addColumn<QStringList>("groups");
-        QTest::newRow("names in any case")
-            << QStringList({"Thé 2", "thé 2", "Thé 2", "Café 1.5"})
-            << QStringList({"1|Café|1.50$|1.50$", "3|Thé|2.00$|6.00$"});
-        QTest::newRow("two prices with equal counts")
-            << QStringList({"Thé 2", "Thé 2.5", "Thé 2", "Thé 2.5"})
-            << QStringList({"2|Thé|2.00$|4.00$", "2|Thé|2.50$|5.00$"});
-    }
-
     void groupsByArticleAndPrice()
     {
-        QFETCH(QStringList, sold);
-        OpenHistory history(
-            {{"Café", "1.5", "2019-05-02 00:00:00.000"}}, "05/01/2019", "05/02/2019");
-        for (const QString& sale : sold) {
-            history.sell({{sale.section(' ', 0, 0).toStdString(),
-                sale.section(' ', 1).toStdString(), "2019-05-01 10:00:00.000"}});
-        }
+        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000'), ('thé', 2, '2019-05-01 "
+                            "11:00:00.000'), ('Thé', 2, '2019-05-01 12:00:00.000'), ('Café', 1.5, "
+                            "'2019-05-01 13:00:00.000'), ('Café', 1.5, '2019-05-02 00:00:00.000')",
+            "05/01/2019", "05/02/2019");
         history.push("btn_View_Historical");
-        QTEST(history.groups(), "groups");
+        QCOMPARE(history.groups(), QStringList({"1|Café|1.50$|1.50$", "3|Thé|2.00$|6.00$"}));
+    }
+
+    void twoPricesWithEqualCountsAreTwoLines()
+    {
+        OpenHistory history("('Thé', 2, '2019-05-01'), ('Thé', 2.5, '2019-05-01'), ('Thé', 2, "
+                            "'2019-05-01'), ('Thé', 2.5, '2019-05-01')",
+            "05/01/2019", "05/02/2019");
+        history.push("btn_View_Historical");
+        QCOMPARE(history.groups(), QStringList({"2|Thé|2.00$|4.00$", "2|Thé|2.50$|5.00$"}));
     }
 
     void aSecondListReplacesTheFirst()

@@ -25,7 +25,7 @@ private slots:
 
     void aSaleHasItsTipAndTheTotalNone()
     {
-        OpenHistory history({{"Thé", "2", "2019-05-01 10:00:00.250"}}, "05/01/2019", "05/02/2019");
+        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.250')", "05/01/2019", "05/02/2019");
         history.push("btn_Total");
         for (int column = 0; column < 3; ++column) {
             hoverCell(history.window, "tableView1", 0, column);
@@ -41,7 +41,7 @@ private slots:
 
     void aDayHasItsTip()
     {
-        OpenHistory history({{"Thé", "2", "2019-05-01 10:00:00.250"}});
+        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.250')");
         history.push("btn_Show_Date");
         hoverCell(history.window, "tableView2", 0, 0);
         QCOMPARE(tipText(), "Date\nClick sur : 05/01/2019" + afterTheDate);
@@ -50,9 +50,8 @@ private slots:
 
     void emptyPlacesHaveNoTip()
     {
-        OpenHistory history(
-            {{"Thé", "2", "2019-05-01 10"}, {"Café", "2", "2019-05-01 10:00:00.000"}}, "05/01/2019",
-            "05/02/2019");
+        OpenHistory history("('Thé', 2, '2019-05-01 10'), ('Café', 2, '2019-05-01 10:00:00.000')",
+            "05/01/2019", "05/02/2019");
         history.push("btn_View_Historical");
         history.push("btn_Show_Date");
         const QPoint malformedDate = history.centreOf("tableView1", 0, 0);

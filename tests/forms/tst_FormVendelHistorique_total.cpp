@@ -13,8 +13,10 @@ class TestFormVendelHistoriqueTotal : public QObject
 private slots:
     void totalAddsAYellowRow()
     {
-        OpenHistory history(std::vector(60, Sale{"Thé", "20.5", "2019-05-01 10:00:00.000"}),
-            "05/01/2019", "05/02/2019");
+        OpenHistory history("", "05/01/2019", "05/02/2019");
+        history.shop.fill(
+            "insert into Historique with recursive n(i) as (select 1 union all select i + 1 from n "
+            "where i < 60) select 1, 'Thé', 20.5, '2019-05-01 10:00:00.000' from n");
         QCOMPARE(history.push("btn_Total"), QStringList());
         QCOMPARE(history.sales().size(), 61);
         QCOMPARE(history.sales().at(60), QString("Total historique|1,230.00$|<-"));
@@ -32,8 +34,8 @@ private slots:
 
     void totalOfAYearKeepsItsCents()
     {
-        OpenHistory history({{"Mariage", "1234567.89", "2019-05-01 10:00:00.000"},
-                                {"Bonbon", "0.02", "2019-06-01 10:00:00.000"}},
+        OpenHistory history("('Mariage', 1234567.89, '2019-05-01 10:00:00.000'), ('Bonbon', 0.02, "
+                            "'2019-06-01 10:00:00.000')",
             "01/01/2019", "01/01/2020");
         history.push("btn_Total");
         QCOMPARE(history.sales(),
@@ -45,9 +47,8 @@ private slots:
 
     void aTotalBeyondAllNumbersIsInfinite()
     {
-        OpenHistory history({{"Thé", "1e308", "2019-05-01 10:00:00.000"},
-                                {"Thé", "1e308", "2019-05-01 11:00:00.000"},
-                                {"Eau", "2", "2019-05-02 10:00:00.000"}},
+        OpenHistory history("('Thé', 1e308, '2019-05-01 10:00:00.000'), ('Thé', 1e308, '2019-05-01 "
+                            "11:00:00.000'), ('Eau', 2, '2019-05-02 10:00:00.000')",
             "05/01/2019", "05/03/2019");
         history.push("btn_Total");
         QCOMPARE(history.sales().at(3), QString("Total historique|inf$|<-"));
@@ -61,11 +62,11 @@ private slots:
 
     void salesWithoutAnyPriceHaveNoTotal()
     {
-        OpenHistory history({}, "05/01/2019", "05/02/2019");
+        OpenHistory history("", "05/01/2019", "05/02/2019");
         history.shop.fill(
             "drop table Historique;"
-            "create table Historique (id integer, article text, prix numeric, date_heure text)");
-        history.sell({{"Thé", "null", "2019-05-01 10:00:00.000"}});
+            "create table Historique (id integer, article text, prix numeric, date_heure text);"
+            "insert into Historique values (1, 'Thé', null, '2019-05-01 10:00:00.000')");
         const CapturedLog log;
         QCOMPARE(history.push("btn_Total"), QStringList());
         QCOMPARE(log.criticals(), QStringList());

@@ -8,7 +8,6 @@
 #include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 
-#include <QAbstractButton>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -19,6 +18,9 @@
 #include <QStandardItemModel>
 #include <QStyle>
 #include <QTableView>
+
+#include <map>
+#include <vector>
 
 /// How the history looks, what its keys do, and the windows that it opens.
 class TestFormVendelHistoriqueWindow : public QObject
@@ -42,17 +44,14 @@ private slots:
         QCOMPARE(window.objectName(), QString("FormVendelHistorique"));
         QCOMPARE(window.windowTitle(), QString("Vendel Historique"));
         QCOMPARE(window.windowModality(), Qt::WindowModal);
-        const auto caption
-            = [&](const char* button) { return child<QAbstractButton>(window, button).text(); };
-        QCOMPARE(caption("btn_View_Historical"), QString("Afficher Historique"));
-        QCOMPARE(caption("btn_Show_Date"), QString("Afficher Date"));
-        QCOMPARE(caption("btn_Total"), QString("Total"));
-        QCOMPARE(caption("btn_Clear"), QString("Purge"));
-        QCOMPARE(caption("btn_Del_Seizure"), QString("Effacer Saisie"));
-        QCOMPARE(caption("rb_First_Date"), QString("Pre Date"));
-        QCOMPARE(caption("rb_Second_Date"), QString("Sec Date"));
-        QCOMPARE(child<QLabel>(window, "lbl_First_Date").text(), QString("Première Date"));
-        QCOMPARE(child<QLabel>(window, "lbl_Second_Date").text(), QString("Seconde Date"));
+        const std::map<const char*, const char*> captions{
+            {"btn_View_Historical", "Afficher Historique"}, {"btn_Show_Date", "Afficher Date"},
+            {"btn_Total", "Total"}, {"btn_Clear", "Purge"}, {"btn_Del_Seizure", "Effacer Saisie"},
+            {"rb_First_Date", "Pre Date"}, {"rb_Second_Date", "Sec Date"},
+            {"lbl_First_Date", "Première Date"}, {"lbl_Second_Date", "Seconde Date"}};
+        for (const auto& [name, caption] : captions) {
+            QCOMPARE(child<QWidget>(window, name).property("text").toString(), QString(caption));
+        }
         QCOMPARE(child<QGroupBox>(window, "groupBox").title(), QString("Options"));
         QVERIFY(child<QRadioButton>(window, "rb_First_Date").isChecked());
         const auto& menu = child<QMenu>(window, "menuStock");
@@ -160,7 +159,7 @@ private slots:
     void calculStockOpensWithTheDatesAsTyped()
     {
         OpenHistory history(
-            {{"Thé", "2", "2019-05-01 10:00:00.250"}}, " 05/01/2019 ", "05/01/2019 10:00:00.250  ");
+            "('Thé', 2, '2019-05-01 10:00:00.250')", " 05/01/2019 ", "05/01/2019 10:00:00.250  ");
         QCOMPARE(history.push("actionCalcul_Stock"), QStringList());
         const QPointer<FormVendelStockCalculation> calculation
             = history.window.findChild<FormVendelStockCalculation*>();
