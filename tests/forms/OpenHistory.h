@@ -9,11 +9,11 @@
 #include <string>
 
 /// A shop with the given sales, "('Thé', 2, '2019-05-01 10:00:00.000'), ...", and its history
-/// window open, the given dates in the fields.
+/// window open, the given dates in the fields: 1 May 2019 unless another period is asked for.
 struct OpenHistory : OpenDialog<FormVendelHistorique>
 {
-    explicit OpenHistory(const std::string& sales = std::string(), const QString& firstDate = "",
-        const QString& secondDate = "")
+    explicit OpenHistory(const std::string& sales = std::string(),
+        const QString& firstDate = "05/01/2019", const QString& secondDate = "05/02/2019")
         : OpenDialog(
             sales.empty() ? "" : "insert into Historique select 1, * from (values " + sales + ")")
     {
@@ -66,8 +66,7 @@ struct ListedHistory : OpenHistory
 {
     ListedHistory()
         : OpenHistory("('Thé', 2, '2019-05-01 10:00:00.000'), ('Café', 1.5, '2019-05-01 "
-                      "11:00:00.000'), ('Vin', 3, '2019-05-09 10:00:00.000')",
-            "05/01/2019", "05/02/2019")
+                      "11:00:00.000'), ('Vin', 3, '2019-05-09 10:00:00.000')")
     {
         push("btn_Show_Date");
         push("btn_Total");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenHistory.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
@@ -14,25 +15,21 @@ class TestFormVendelHistoriqueFailures : public QObject
 private slots:
     void aFailingSlotIsLogged_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("slot");
-        const auto row = [](const char* trigger, const char* text, const char* slot) {
-            QTest::newRow(trigger) << text << slot;
-        };
+        textColumns({"text", "slot"});
         const char* noSale = "Historique est vide pour la pèriode du ";
-        row("btn_Show_Date", "Historique est vide\nAjouter des articles et faite PAYER",
+        tableRow("btn_Show_Date", "Historique est vide\nAjouter des articles et faite PAYER",
             "Display_Date");
-        row("btn_View_Historical", noSale, "Display_History");
-        row("btn_Total", noSale, "on_btn_Total_clicked");
-        row("btn_Clear", noSale, "on_btn_Clear_clicked");
-        row("actionCalcul_Stock", noSale, "on_actionCalcul_Stock_triggered");
+        tableRow("btn_View_Historical", noSale, "Display_History");
+        tableRow("btn_Total", noSale, "on_btn_Total_clicked");
+        tableRow("btn_Clear", noSale, "on_btn_Clear_clicked");
+        tableRow("actionCalcul_Stock", noSale, "on_actionCalcul_Stock_triggered");
     }
 
     void aFailingSlotIsLogged()
     {
         QFETCH(QString, text);
         QFETCH(QString, slot);
-        OpenHistory history("", "05/01/2019", "05/02/2019");
+        OpenHistory history;
         const CapturedLog log;
         const FailingText failure(text.toUtf8().constData());
         QCOMPARE(history.push(QTest::currentDataTag()), QStringList());
@@ -43,7 +40,7 @@ private slots:
 
     void anUnreadableSaleIsLogged()
     {
-        OpenHistory history("", "05/01/2019", "05/02/2019");
+        OpenHistory history;
         history.shop.fill("drop table Historique;"
                           "create table Historique (article text, date_heure text);"
                           "insert into Historique values ('Thé', '2019-05-01 10:00:00.000')");
@@ -58,8 +55,7 @@ private slots:
     void anUnreadableSumIsLogged()
     {
         OpenHistory history("('Thé', 9223372036854775807, '2019-05-01 10:00:00.000'), ('Thé', "
-                            "9223372036854775807, '2019-05-01 11:00:00.000')",
-            "05/01/2019", "05/02/2019");
+                            "9223372036854775807, '2019-05-01 11:00:00.000')");
         CapturedOutput output;
         const CapturedLog log;
         QCOMPARE(history.push("btn_Total"), QStringList());
@@ -102,7 +98,7 @@ private slots:
 
     void aPurgeThatFailsListsTheSalesAgain()
     {
-        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000')", "05/01/2019", "05/02/2019");
+        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000')");
         history.shop.sql("create trigger keep before delete on Historique begin select "
                          "raise(abort, 'gardé'); end");
         CapturedOutput output;

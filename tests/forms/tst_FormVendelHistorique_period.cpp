@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenHistory.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/TestProgram.h"
 
@@ -13,10 +14,7 @@ class TestFormVendelHistoriquePeriod : public QObject
 private slots:
     void aRefusedPeriodKeepsWhatIsShown_data()
     {
-        QTest::addColumn<QString>("trigger");
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
-        QTest::addColumn<QString>("box");
+        textColumns({"trigger", "first", "second", "box"});
         const char* noDates = "Valide date: Saisir une date valide dans première date et seconde "
                               "date\nClick sur Afficher Date";
         const char* noDay = "Valide date: Saisir une date valide";
@@ -82,8 +80,7 @@ private slots:
 
     void aDayGoesIntoTheChosenField()
     {
-        OpenHistory history(
-            "('Thé', 2, '2019-05-01 10:00:00.000'), ('Thé', 2, '2019-05-02 10:00:00.000')");
+        OpenHistory history("('Thé', 2, '2019-05-01'), ('Thé', 2, '2019-05-02')", "", "");
         history.push("btn_Show_Date");
         clickCell(history.window, "tableView2", 0, 0);
         QCOMPARE(history.first(), QString("05/01/2019"));
@@ -96,7 +93,7 @@ private slots:
 
     void aMalformedDayEmptiesTheChosenField()
     {
-        OpenHistory history("('Thé', 2, '')", "05/01/2019", "05/02/2019");
+        OpenHistory history("('Thé', 2, '')");
         history.push("btn_Show_Date");
         clickCell(history.window, "tableView2", 0, 0);
         QCOMPARE(history.first(), QString());
@@ -128,7 +125,7 @@ private slots:
 
     void aClickOnNoRowLeavesTheFields()
     {
-        OpenHistory history("", "05/01/2019", "05/02/2019");
+        OpenHistory history;
         for (const char* slot : {"on_tableView1_clicked", "on_tableView2_clicked"}) {
             QVERIFY(QMetaObject::invokeMethod(
                 &history.window, slot, Qt::DirectConnection, Q_ARG(QModelIndex, QModelIndex())));

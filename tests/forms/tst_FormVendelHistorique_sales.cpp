@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenHistory.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/TestProgram.h"
 
 #include <QTableView>
@@ -39,30 +40,21 @@ private slots:
 
     void listsWhatWasSoldInThePeriod_data()
     {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
+        textColumns({"first", "second"});
         QTest::addColumn<QStringList>("sales");
-        QTest::newRow("one day, up to the start of the next")
-            << "05/01/2019"
-            << "05/02/2019"
-            << QStringList({"Matin|1,234.50$|05/01/2019 00:00:00.000",
-                   "Soir|12.50$|05/01/2019 23:59:59.999"});
-        QTest::newRow("between two moments")
-            << "05/03/2019 10:00:00.001"
-            << "05/03/2019 10:00:00.002"
-            << QStringList({"B|1.00$|05/03/2019 10:00:00.001", "C|1.00$|05/03/2019 10:00:00.002"});
-        QTest::newRow("one moment")
-            << "05/03/2019 10:00:00.003"
-            << "05/03/2019 10:00:00.003" << QStringList("D|1.00$|05/03/2019 10:00:00.003");
-        QTest::newRow("from a moment to a day")
-            << "02/29/2020 10:00:00.000"
-            << "03/01/2020" << QStringList("F|1.00$|02/29/2020 10:00:00.000");
-        QTest::newRow("from a day to a moment")
-            << "02/29/2020"
-            << "02/29/2020 09:59:59.999" << QStringList("E|1.00$|02/29/2020 09:59:59.999");
-        QTest::newRow("the hour that the clock skips")
-            << "03/31/2019 02:15:00.000"
-            << "03/31/2019 02:45:00.000" << QStringList("Nuit|1.00$|03/31/2019 02:30:00.000");
+        tableRow("one day, up to the start of the next", "05/01/2019", "05/02/2019",
+            QStringList({"Matin|1,234.50$|05/01/2019 00:00:00.000",
+                "Soir|12.50$|05/01/2019 23:59:59.999"}));
+        tableRow("between two moments", "05/03/2019 10:00:00.001", "05/03/2019 10:00:00.002",
+            QStringList({"B|1.00$|05/03/2019 10:00:00.001", "C|1.00$|05/03/2019 10:00:00.002"}));
+        tableRow("one moment", "05/03/2019 10:00:00.003", "05/03/2019 10:00:00.003",
+            QStringList("D|1.00$|05/03/2019 10:00:00.003"));
+        tableRow("from a moment to a day", "02/29/2020 10:00:00.000", "03/01/2020",
+            QStringList("F|1.00$|02/29/2020 10:00:00.000"));
+        tableRow("from a day to a moment", "02/29/2020", "02/29/2020 09:59:59.999",
+            QStringList("E|1.00$|02/29/2020 09:59:59.999"));
+        tableRow("the hour that the clock skips", "03/31/2019 02:15:00.000",
+            "03/31/2019 02:45:00.000", QStringList("Nuit|1.00$|03/31/2019 02:30:00.000"));
     }
 
     void listsWhatWasSoldInThePeriod()
@@ -86,8 +78,7 @@ private slots:
     {
         OpenHistory history("('l''eau', 2, '2019-05-01 10:00:00.000'), ('<b>\"Pastis\"</b>', "
                             "'gratuit', '2019-05-01 10:00:01.000'), ('33', -0.5, '2019-05-01 "
-                            "10:00:02.000'), ('----', 0, '2019-05-01 10:00:03.000')",
-            "05/01/2019", "05/02/2019");
+                            "10:00:02.000'), ('----', 0, '2019-05-01 10:00:03.000')");
         history.push("btn_View_Historical");
         QCOMPARE(history.sales(),
             QStringList({"l'eau|2.00$|05/01/2019 10:00:00.000",
@@ -98,8 +89,7 @@ private slots:
     void listsMalformedDatesEmpty()
     {
         OpenHistory history("('Sans date', 1, ''), ('Jour seul', 1, '2019-05-01'), ('Heure seule', "
-                            "1, '2019-05-01 10'), ('Autre signe', 1, '2019-05-01T10:20:30.123')",
-            "05/01/2019", "05/02/2019");
+                            "1, '2019-05-01 10'), ('Autre signe', 1, '2019-05-01T10:20:30.123')");
         history.push("btn_View_Historical");
         QCOMPARE(history.sales(),
             QStringList({"Jour seul|1.00$|05/01/2019", "Heure seule|1.00$|",
@@ -110,8 +100,7 @@ private slots:
     {
         OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000'), ('thé', 2, '2019-05-01 "
                             "11:00:00.000'), ('Thé', 2, '2019-05-01 12:00:00.000'), ('Café', 1.5, "
-                            "'2019-05-01 13:00:00.000'), ('Café', 1.5, '2019-05-02 00:00:00.000')",
-            "05/01/2019", "05/02/2019");
+                            "'2019-05-01 13:00:00.000'), ('Café', 1.5, '2019-05-02 00:00:00.000')");
         history.push("btn_View_Historical");
         QCOMPARE(history.groups(), QStringList({"1|Café|1.50$|1.50$", "3|Thé|2.00$|6.00$"}));
     }
@@ -119,8 +108,7 @@ private slots:
     void twoPricesWithEqualCountsAreTwoLines()
     {
         OpenHistory history("('Thé', 2, '2019-05-01'), ('Thé', 2.5, '2019-05-01'), ('Thé', 2, "
-                            "'2019-05-01'), ('Thé', 2.5, '2019-05-01')",
-            "05/01/2019", "05/02/2019");
+                            "'2019-05-01'), ('Thé', 2.5, '2019-05-01')");
         history.push("btn_View_Historical");
         QCOMPARE(history.groups(), QStringList({"2|Thé|2.00$|4.00$", "2|Thé|2.50$|5.00$"}));
     }

@@ -2,8 +2,6 @@
 #include "tests/forms/OpenHistory.h"
 #include "tests/support/TestProgram.h"
 
-#include <QToolTip>
-
 #include <utility>
 
 namespace {
@@ -17,15 +15,9 @@ class TestFormVendelHistoriqueTips : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup()
-    {
-        QToolTip::hideText();
-        QTRY_VERIFY(tipText().isEmpty());
-    }
-
     void aSaleHasItsTipAndTheTotalNone()
     {
-        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.250')", "05/01/2019", "05/02/2019");
+        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.250')");
         history.push("btn_Total");
         for (int column = 0; column < 3; ++column) {
             hoverCell(history.window, "tableView1", 0, column);
@@ -50,8 +42,7 @@ private slots:
 
     void emptyPlacesHaveNoTip()
     {
-        OpenHistory history("('Thé', 2, '2019-05-01 10'), ('Café', 2, '2019-05-01 10:00:00.000')",
-            "05/01/2019", "05/02/2019");
+        OpenHistory history("('Thé', 2, '2019-05-01 10'), ('Café', 2, '2019-05-01 10:00:00.000')");
         history.push("btn_View_Historical");
         history.push("btn_Show_Date");
         const QPoint malformedDate = history.centreOf("tableView1", 0, 0);

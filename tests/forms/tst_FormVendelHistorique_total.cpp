@@ -13,7 +13,7 @@ class TestFormVendelHistoriqueTotal : public QObject
 private slots:
     void totalAddsAYellowRow()
     {
-        OpenHistory history("", "05/01/2019", "05/02/2019");
+        OpenHistory history;
         history.shop.fill(
             "insert into Historique with recursive n(i) as (select 1 union all select i + 1 from n "
             "where i < 60) select 1, 'Thé', 20.5, '2019-05-01 10:00:00.000' from n");
@@ -62,7 +62,7 @@ private slots:
 
     void salesWithoutAnyPriceHaveNoTotal()
     {
-        OpenHistory history("", "05/01/2019", "05/02/2019");
+        OpenHistory history;
         history.shop.fill(
             "drop table Historique;"
             "create table Historique (id integer, article text, prix numeric, date_heure text);"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenArticleEditor.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
 
@@ -10,24 +11,16 @@ class TestFormVendelSaisieArticleAdd : public QObject
 private slots:
     void anIncompleteArticleIsRefused_data()
     {
-        QTest::addColumn<QString>("article");
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QString>("box");
+        textColumns({"article", "amount", "box"});
         const char* incomplete = "Ajouter: Saisir un article avec son montant";
-        QTest::newRow("neither") << ""
-                                 << "" << incomplete;
-        QTest::newRow("no article") << ""
-                                    << "1" << incomplete;
-        QTest::newRow("no amount") << "Cafe"
-                                   << "" << incomplete;
-        QTest::newRow("blank article") << "  "
-                                       << "1" << incomplete;
-        QTest::newRow("blank amount") << "Cafe"
-                                      << " " << incomplete;
-        QTest::newRow("no article and no number") << ""
-                                                  << "abc" << incomplete;
+        tableRow("neither", "", "", incomplete);
+        tableRow("no article", "", "1", incomplete);
+        tableRow("no amount", "Cafe", "", incomplete);
+        tableRow("blank article", "  ", "1", incomplete);
+        tableRow("blank amount", "Cafe", " ", incomplete);
+        tableRow("no article and no number", "", "abc", incomplete);
         for (const char* amount : {"3a", "1,2,3", "--1", "0x10", "1 000", "1,234.50", "-", "3$"}) {
-            QTest::newRow(amount) << "Cafe" << amount << "Ajouter: Saisir un montant valide";
+            tableRow(amount, "Cafe", amount, "Ajouter: Saisir un montant valide");
         }
     }
 
@@ -47,38 +40,14 @@ private slots:
 
     void addsWhatIsTyped_data()
     {
-        QTest::addColumn<QString>("article");
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("row");
-        QTest::newRow("comma") << "Cafe"
-                               << "3,5"
-                               << "1 Cafe 3.5"
-                               << "1||Cafe|3.50$";
-        QTest::newRow("point") << "Cafe"
-                               << "3.5"
-                               << "1 Cafe 3.5"
-                               << "1||Cafe|3.50$";
-        QTest::newRow("blanks") << "  Cafe "
-                                << " 2 "
-                                << "1 Cafe 2"
-                                << "1||Cafe|2.00$";
-        QTest::newRow("negative") << "Avoir"
-                                  << "-1,5"
-                                  << "1 Avoir -1.5"
-                                  << "1||Avoir|-1.50$";
-        QTest::newRow("exponent") << "Lot"
-                                  << "1e3"
-                                  << "1 Lot 1000"
-                                  << "1||Lot|1,000.00$";
-        QTest::newRow("apostrophe") << "L'eau"
-                                    << "1"
-                                    << "1 L'eau 1"
-                                    << "1||L'eau|1.00$";
-        QTest::newRow("statement") << "');drop table"
-                                   << "1"
-                                   << "1 ');drop table 1"
-                                   << "1||');drop table|1.00$";
+        textColumns({"article", "amount", "stored", "row"});
+        tableRow("comma", "Cafe", "3,5", "1 Cafe 3.5", "1||Cafe|3.50$");
+        tableRow("point", "Cafe", "3.5", "1 Cafe 3.5", "1||Cafe|3.50$");
+        tableRow("blanks", "  Cafe ", " 2 ", "1 Cafe 2", "1||Cafe|2.00$");
+        tableRow("negative", "Avoir", "-1,5", "1 Avoir -1.5", "1||Avoir|-1.50$");
+        tableRow("exponent", "Lot", "1e3", "1 Lot 1000", "1||Lot|1,000.00$");
+        tableRow("apostrophe", "L'eau", "1", "1 L'eau 1", "1||L'eau|1.00$");
+        tableRow("statement", "');drop table", "1", "1 ');drop table 1", "1||');drop table|1.00$");
     }
 
     void addsWhatIsTyped()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenArticleEditor.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/LeakCheck.h"
@@ -26,17 +27,13 @@ private slots:
 
     void aFailingButtonIsLogged_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("slot");
-        const auto row = [](const char* button, const char* text, const char* slot) {
-            QTest::newRow(button) << text << slot;
-        };
-        row("btn_Ajouter", "Saisir un article avec son montant", "on_btn_Ajouter_clicked");
-        row("btn_Supprimer", "Selectionner un/des article(s) dans le menu",
+        textColumns({"text", "slot"});
+        tableRow("btn_Ajouter", "Saisir un article avec son montant", "on_btn_Ajouter_clicked");
+        tableRow("btn_Supprimer", "Selectionner un/des article(s) dans le menu",
             "on_btn_Supprimer_clicked");
-        row("btn_Renommer", "Saisir un article et son montant", "on_btn_Renommer_clicked");
-        row("btn_Rechercher", "Saisir un article", "on_btn_Rechercher_clicked");
-        row("btn_Afficher", "Le menu est vide\nAjouter des articles", "Display");
+        tableRow("btn_Renommer", "Saisir un article et son montant", "on_btn_Renommer_clicked");
+        tableRow("btn_Rechercher", "Saisir un article", "on_btn_Rechercher_clicked");
+        tableRow("btn_Afficher", "Le menu est vide\nAjouter des articles", "Display");
     }
 
     void aFailingButtonIsLogged()
@@ -113,60 +110,45 @@ private slots:
     }
 
     // What was to be run shows in the database's report.
-    void anArticleIsAddedToAMissingTable()
+    void aMissingTableIsReported_data()
     {
-        OpenArticleEditor editor;
-        editor.shop.sql("drop table Article");
-        editor.typeArticle("L'eau", "3,5");
-        const CapturedLog log;
-        CapturedOutput output;
-        QCOMPARE(editor.push("btn_Ajouter"),
-            QStringList("Afficher: Le menu est vide\nAjouter des articles"));
-        QCOMPARE(output.text(),
-            databaseReport("insert into Article (article, prix) values ('L''eau', 3.5)",
-                "no such table: Article")
-                + databaseReport(
-                    "select * from Article order by Article asc", "no such table: Article"));
+        textColumns({"statements", "boxes", "log"});
+        const char* shows = "\nselect * from Article order by Article asc";
+        const char* empty = "Afficher: Le menu est vide\nAjouter des articles";
+        tableRow("btn_Ajouter",
+            QString("insert into Article (article, prix) values ('L''eau', 4.25)") + shows, empty,
+            "");
+        tableRow("btn_Renommer",
+            QString("update Article set article = 'L''eau', prix = 4.25 where id = 1") + shows,
+            QString("Renommer: Voulez-vous renommer : Cafe ... [Yes, No]|") + empty, "");
+        tableRow("btn_Supprimer", QString("delete from Article where id = 1") + shows,
+            QString("Supprimer: Voulez-vous supprimer : Cafe ... [Yes, No]|") + empty, "");
+        tableRow("btn_Rechercher",
+            "select * from Article where article like '%L''eau%' order by article asc\n"
+            "select sum(z.art) as som from (select count(d.article) as art, d.article from (select "
+            "b.article,b.id from (select article,max(id) from Article group by article having "
+            "count(article) > 1) as t, Article as b where t.article = b.article and b.article like "
+            "'%L''eau%') as d where d.id not in (select max(id) as id from Article group by "
+            "article having count(article) > 1) group by article) as z",
+            "", "Errors FormVendelSaisieArticle on_btn_Rechercher_clicked");
     }
 
-    void anArticleIsRenamedInAMissingTable()
+    void aMissingTableIsReported()
     {
+        QFETCH(QString, statements);
         ListedMenu editor("('Cafe', 1)");
         editor.select(0);
         editor.typeArticle("L'eau", "4,25");
         editor.shop.sql("drop table Article");
         const CapturedLog log;
         CapturedOutput output;
-        editor.push("btn_Renommer");
-        QCOMPARE(output.text(),
-            databaseReport("update Article set article = 'L''eau', prix = 4.25 where id = 1",
-                "no such table: Article")
-                + databaseReport(
-                    "select * from Article order by Article asc", "no such table: Article"));
-    }
-
-    void anArticleIsSearchedInAMissingTable()
-    {
-        OpenArticleEditor editor;
-        editor.shop.sql("drop table Article");
-        editor.type("txt_Article", "L'e");
-        const CapturedLog log;
-        CapturedOutput output;
-        click(editor.window, "btn_Rechercher");
-        QCOMPARE(output.text(),
-            databaseReport("select * from Article where article like '%L''e%' order by article asc",
-                "no such table: Article")
-                + databaseReport(
-                    "select sum(z.art) as som from (select count(d.article) as art, d.article from "
-                    "(select b.article,b.id from (select article,max(id) from Article group by "
-                    "article having count(article) > 1) as t, Article as b where t.article = "
-                    "b.article and b.article like '%L''e%') as d where d.id not in (select max(id) "
-                    "as id from Article group by article having count(article) > 1) group by "
-                    "article) as z",
-                    "no such table: Article"));
-        QCOMPARE(log.criticals().size(), 1);
-        QVERIFY(log.criticals().constFirst().startsWith(
-            "Errors FormVendelSaisieArticle on_btn_Rechercher_clicked : "));
+        QTEST(editor.push(QTest::currentDataTag()).join('|'), "boxes");
+        QByteArray reports;
+        for (const QString& statement : statements.split('\n')) {
+            reports += databaseReport(statement.toUtf8(), "no such table: Article");
+        }
+        QCOMPARE(output.text(), reports);
+        QTEST(log.criticals().join('|').section(" : ", 0, 0), "log");
     }
 
     void aTableWithoutKeysIsListedWithoutItsDuplicates()

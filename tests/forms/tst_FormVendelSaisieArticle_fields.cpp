@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenArticleEditor.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/TestProgram.h"
-
-#include <QToolTip>
 
 namespace {
 const char* const tooLong = "Nbre caractères: Nombre de caractères ne doient pas dépasser : 15";
@@ -15,12 +14,6 @@ class TestFormVendelSaisieArticleFields : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup()
-    {
-        QToolTip::hideText();
-        QTRY_VERIFY(tipText().isEmpty());
-    }
-
     void aTipCountsTheLetters()
     {
         OpenArticleEditor editor;
@@ -101,18 +94,12 @@ private slots:
     {
         QTest::addColumn<int>("row");
         QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("price");
-        QTest::newRow("an amount and a thousand") << 0 << 2 << "33.00$"
-                                                  << "1,234.50";
-        QTest::newRow("on the price") << 1 << 3 << "Cafe"
-                                      << "1.20";
-        QTest::newRow("on the mark") << 2 << 1 << "L'eau"
-                                     << "2.00";
-        QTest::newRow("more than one dollar") << 3 << 2 << "Pain"
-                                              << " 2  ou 3";
-        QTest::newRow("no amount") << 4 << 2 << "The"
-                                   << "offert";
+        textColumns({"name", "price"});
+        tableRow("an amount and a thousand", 0, 2, "33.00$", "1,234.50");
+        tableRow("on the price", 1, 3, "Cafe", "1.20");
+        tableRow("on the mark", 2, 1, "L'eau", "2.00");
+        tableRow("more than one dollar", 3, 2, "Pain", " 2  ou 3");
+        tableRow("no amount", 4, 2, "The", "offert");
     }
 
     void aDoubleClickCopiesNameAndPrice()

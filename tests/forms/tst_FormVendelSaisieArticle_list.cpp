@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenArticleEditor.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/StatementLog.h"
@@ -12,16 +13,15 @@ class TestFormVendelSaisieArticleList : public QObject
 private slots:
     void listsTheMenuByName_data()
     {
-        QTest::addColumn<QString>("articles");
+        textColumns({"articles"});
         QTest::addColumn<QStringList>("rows");
-        QTest::newRow("capitals, thousands and credits")
-            << "('The', 12.5), ('cafe', 1), ('Lot', 1234.5), ('Avoir', -2)"
-            << QStringList(
-                   {"4||Avoir|-2.00$", "2||cafe|1.00$", "3||Lot|1,234.50$", "1||The|12.50$"});
-        QTest::newRow("a name that is a number, a price that is none")
-            << "('33', 3), ('Thé', 'deux')" << QStringList({"1||33.00$|3.00$", "2||Thé|deux"});
-        QTest::newRow("letters outside ASCII are not folded")
-            << "('Été', 1), ('été', 2)" << QStringList({"1||Été|1.00$", "2||été|2.00$"});
+        tableRow("capitals, thousands and credits",
+            "('The', 12.5), ('cafe', 1), ('Lot', 1234.5), ('Avoir', -2)",
+            QStringList({"4||Avoir|-2.00$", "2||cafe|1.00$", "3||Lot|1,234.50$", "1||The|12.50$"}));
+        tableRow("a name that is a number, a price that is none", "('33', 3), ('Thé', 'deux')",
+            QStringList({"1||33.00$|3.00$", "2||Thé|deux"}));
+        tableRow("letters outside ASCII are not folded", "('Été', 1), ('été', 2)",
+            QStringList({"1||Été|1.00$", "2||été|2.00$"}));
     }
 
     void listsTheMenuByName()
@@ -29,8 +29,10 @@ private slots:
         QFETCH(QString, articles);
         OpenArticleEditor editor(articles.toStdString());
         QCOMPARE(editor.rows(), QStringList());
-        QCOMPARE(editor.push("btn_Afficher"), QStringList());
-        QTEST(editor.rows(), "rows");
+        for (int time = 1; time <= 2; ++time) {
+            QCOMPARE(editor.push("btn_Afficher"), QStringList());
+            QTEST(editor.rows(), "rows");
+        }
     }
 
     void anEmptyMenuIsSaid()
@@ -39,13 +41,6 @@ private slots:
         QCOMPARE(editor.push("btn_Afficher"),
             QStringList("Afficher: Le menu est vide\nAjouter des articles"));
         QCOMPARE(editor.rows(), QStringList());
-    }
-
-    void pressingAfficherAgainListsOnce()
-    {
-        ListedMenu editor("('Cafe', 1)");
-        click(editor.window, "btn_Afficher");
-        QCOMPARE(editor.names(), QStringList("Cafe"));
     }
 
     void displayAppendsToWhatTheListHolds()
@@ -58,15 +53,12 @@ private slots:
 
     void allButTheNewestOfEqualNamesAreMarked_data()
     {
-        QTest::addColumn<QString>("articles");
-        QTest::addColumn<QString>("box");
-        QTest::addColumn<QString>("marked");
+        textColumns({"articles", "box", "marked"});
         const char* one = "Doublon: Supprimer le(s) 1 doublon(s) note(s) X...";
         const char* two = "Doublon: Supprimer le(s) 2 doublon(s) note(s) X...";
-        QTest::newRow("in any case") << "('Cafe', 1), ('The', 2), ('cafe', 3)" << one << "1";
-        QTest::newRow("two pairs")
-            << "('Cafe', 1), ('The', 2), ('Cafe', 3), ('The', 4)" << two << "1 2";
-        QTest::newRow("three of one") << "('Cafe', 1), ('Cafe', 2), ('Cafe', 3)" << two << "1 2";
+        tableRow("in any case", "('Cafe', 1), ('The', 2), ('cafe', 3)", one, "1");
+        tableRow("two pairs", "('Cafe', 1), ('The', 2), ('Cafe', 3), ('The', 4)", two, "1 2");
+        tableRow("three of one", "('Cafe', 1), ('Cafe', 2), ('Cafe', 3)", two, "1 2");
     }
 
     void allButTheNewestOfEqualNamesAreMarked()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenArticleEditor.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
@@ -19,14 +20,11 @@ private slots:
 
     void noKeepsTheArticle_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("box");
-        QTest::newRow("a name") << "The"
-                                << "Supprimer: Voulez-vous supprimer : The ... [Yes, No]";
-        QTest::newRow("an amount") << "33"
-                                   << "Supprimer: Voulez-vous supprimer : 33.00$ ... [Yes, No]";
-        QTest::newRow("a tag") << "<b>Cafe</b>"
-                               << "Supprimer: Voulez-vous supprimer : <b>Cafe</b> ... [Yes, No]";
+        textColumns({"name", "box"});
+        tableRow("a name", "The", "Supprimer: Voulez-vous supprimer : The ... [Yes, No]");
+        tableRow("an amount", "33", "Supprimer: Voulez-vous supprimer : 33.00$ ... [Yes, No]");
+        tableRow(
+            "a tag", "<b>Cafe</b>", "Supprimer: Voulez-vous supprimer : <b>Cafe</b> ... [Yes, No]");
     }
 
     void noKeepsTheArticle()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenArticleEditor.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
 
@@ -11,26 +12,16 @@ private slots:
     void renamingNeedsFieldsThenARowThenANumber_data()
     {
         QTest::addColumn<bool>("isSelected");
-        QTest::addColumn<QString>("article");
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QString>("box");
+        textColumns({"article", "amount", "box"});
         const char* incomplete = "Renommer: Saisir un article et son montant";
         const char* noRow = "Renommer: Selectionner 1 article dans le menu à renommer";
-        QTest::newRow("neither") << false << ""
-                                 << "" << incomplete;
-        QTest::newRow("neither, selected") << true << ""
-                                           << "" << incomplete;
-        QTest::newRow("no amount") << false << "  The "
-                                   << "" << incomplete;
-        QTest::newRow("no article and no number") << false << "  "
-                                                  << "abc" << incomplete;
-        QTest::newRow("no row") << false << "The"
-                                << "3" << noRow;
-        QTest::newRow("no row and no number") << false << "The"
-                                              << "abc" << noRow;
-        QTest::newRow("no number") << true << "The"
-                                   << "3a"
-                                   << "Renommer: Saisir un montant valide";
+        tableRow("neither", false, "", "", incomplete);
+        tableRow("neither, selected", true, "", "", incomplete);
+        tableRow("no amount", false, "  The ", "", incomplete);
+        tableRow("no article and no number", false, "  ", "abc", incomplete);
+        tableRow("no row", false, "The", "3", noRow);
+        tableRow("no row and no number", false, "The", "abc", noRow);
+        tableRow("no number", true, "The", "3a", "Renommer: Saisir un montant valide");
     }
 
     void renamingNeedsFieldsThenARowThenANumber()

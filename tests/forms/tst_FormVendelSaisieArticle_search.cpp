@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/forms/OpenArticleEditor.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/Captured.h"
 #include "tests/support/StatementLog.h"
 #include "tests/support/TestProgram.h"
@@ -22,39 +23,21 @@ private slots:
 
     void findsAPartOfTheName_data()
     {
-        QTest::addColumn<QString>("articles");
-        QTest::addColumn<QString>("term");
-        QTest::addColumn<QString>("found");
-        QTest::newRow("in any case") << "('The vert', 1), ('Cafe', 2), ('Grand THE', 3)"
-                                     << "the"
-                                     << "Grand THE|The vert";
-        QTest::newRow("without the blanks around it") << "('Cafe', 1), ('The', 2)"
-                                                      << "  af "
-                                                      << "Cafe";
-        QTest::newRow("with an apostrophe") << "('L''eau', 1), ('Leau', 2)"
-                                            << "L'e"
-                                            << "L'eau";
-        QTest::newRow("nowhere") << "('Cafe', 1)"
-                                 << "xyz"
-                                 << "";
-        QTest::newRow("with duplicates elsewhere") << "('Cafe', 1), ('The', 2), ('Cafe', 3)"
-                                                   << "the"
-                                                   << "The";
+        textColumns({"articles", "term", "found"});
+        tableRow("in any case", "('The vert', 1), ('Cafe', 2), ('Grand THE', 3)", "the",
+            "Grand THE|The vert");
+        tableRow("without the blanks around it", "('Cafe', 1), ('The', 2)", "  af ", "Cafe");
+        tableRow("with an apostrophe", "('L''eau', 1), ('Leau', 2)", "L'e", "L'eau");
+        tableRow("nowhere", "('Cafe', 1)", "xyz", "");
+        tableRow("with duplicates elsewhere", "('Cafe', 1), ('The', 2), ('Cafe', 3)", "the", "The");
         const char* odd = "('Cafe', 1), ('The', 2), ('a_b', 3), ('Remise 10%', 4)";
-        QTest::newRow("per cent") << odd << "%"
-                                  << "a_b|Cafe|Remise 10%|The";
-        QTest::newRow("between") << odd << "c%f"
-                                 << "Cafe";
-        QTest::newRow("one letter") << odd << "c_fe"
-                                    << "Cafe";
-        QTest::newRow("underscore") << odd << "____"
-                                    << "Cafe|Remise 10%";
-        QTest::newRow("double quote") << odd << "\""
-                                      << "";
-        QTest::newRow("semicolon") << odd << "';--"
-                                   << "";
-        QTest::newRow("backslash") << odd << "\\"
-                                   << "";
+        tableRow("per cent", odd, "%", "a_b|Cafe|Remise 10%|The");
+        tableRow("between", odd, "c%f", "Cafe");
+        tableRow("one letter", odd, "c_fe", "Cafe");
+        tableRow("underscore", odd, "____", "Cafe|Remise 10%");
+        tableRow("double quote", odd, "\"", "");
+        tableRow("semicolon", odd, "';--", "");
+        tableRow("backslash", odd, "\\", "");
     }
 
     void findsAPartOfTheName()

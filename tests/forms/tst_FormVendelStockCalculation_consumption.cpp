@@ -2,6 +2,7 @@
 #include "tests/forms/ConsumptionSample.h"
 #include "tests/forms/OpenDialog.h"
 #include "tests/forms/StockSample.h"
+#include "tests/forms/TestTable.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
@@ -29,13 +30,13 @@ class TestFormVendelStockCalculationConsumption : public QObject
 private slots:
     void dosesAreCountedAndAddedUp_data()
     {
-        QTest::addColumn<QString>("change");
+        textColumns({"change"});
         QTest::addColumn<Sales>("sales");
         QTest::addColumn<QStringList>("details");
         QTest::addColumn<QStringList>("totals");
         const auto row = [](const char* name, const char* change, const Sales& sales,
                              const QStringList& details, const QStringList& totals) {
-            QTest::newRow(name) << change << sales << details << totals;
+            tableRow(name, change, sales, details, totals);
         };
         row("three sales of a dose", "", {{"Café", 3}}, {"3|Café|Lait|2.50 cl|7.50 cl"},
             {"Lait|7.50|cl||"});
