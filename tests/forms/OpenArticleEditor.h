@@ -73,9 +73,9 @@ struct OpenArticleEditor : OpenDialog<FormVendelSaisieArticle>
     /// The names in the list from top to bottom.
     QStringList names()
     {
-        QStringList names;
-        for (int row = 0; row < rowCount(window, "tableView"); ++row) {
-            names << rowTexts(window, "tableView", row).at(2);
+        QStringList names = rows();
+        for (QString& row : names) {
+            row = row.section('|', 2, 2);
         }
         return names;
     }
@@ -83,12 +83,9 @@ struct OpenArticleEditor : OpenDialog<FormVendelSaisieArticle>
     /// The keys of the rows marked as duplicates, "1 2".
     QString marked()
     {
-        QStringList ids;
-        for (const QString& row : rows()) {
-            const QStringList cells = row.split('|');
-            if (cells.at(1) == "X") {
-                ids << cells.at(0);
-            }
+        QStringList ids = rows().filter("|X|");
+        for (QString& row : ids) {
+            row = row.section('|', 0, 0);
         }
         ids.sort();
         return ids.join(' ');

@@ -36,7 +36,7 @@ public:
     {
         shop.fill(sql.c_str());
         window.show();
-        // The window's activation takes any tip away, the one of an earlier test also later.
+        // The tip of an earlier test fades out slowly, and the window's activation hides any tip.
         QToolTip::hideText();
         if (!QTest::qWaitForWindowActive(&window)
             || !QTest::qWaitFor([] { return tipText().isEmpty(); })) {

@@ -65,8 +65,9 @@ struct OpenHistory : OpenDialog<FormVendelHistorique>
 struct ListedHistory : OpenHistory
 {
     ListedHistory()
-        : OpenHistory("('Thé', 2, '2019-05-01 10:00:00.000'), ('Café', 1.5, '2019-05-01 "
-                      "11:00:00.000'), ('Vin', 3, '2019-05-09 10:00:00.000')")
+        : OpenHistory(
+            "('Thé', 2, '2019-05-01 10:00:00.000'), ('Café', 1.5, '2019-05-01 11:00:00.000'), "
+            "('Vin', 3, '2019-05-09 10:00:00.000')")
     {
         push("btn_Show_Date");
         push("btn_Total");

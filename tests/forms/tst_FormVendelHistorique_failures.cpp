@@ -54,8 +54,8 @@ private slots:
 
     void anUnreadableSumIsLogged()
     {
-        OpenHistory history("('Thé', 9223372036854775807, '2019-05-01 10:00:00.000'), ('Thé', "
-                            "9223372036854775807, '2019-05-01 11:00:00.000')");
+        OpenHistory history("('Thé', 9223372036854775807, '2019-05-01 10:00:00.000'), "
+                            "('Thé', 9223372036854775807, '2019-05-01 11:00:00.000')");
         CapturedOutput output;
         const CapturedLog log;
         QCOMPARE(history.push("btn_Total"), QStringList());

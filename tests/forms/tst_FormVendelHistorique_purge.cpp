@@ -36,8 +36,9 @@ private slots:
 
     void yesEmptiesTheListsBeforeItReports()
     {
-        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000'), ('Café', 2, '2019-05-01 "
-                            "10:00:00.001'), ('Bière', 2, '2019-05-01 10:00:00.002')",
+        OpenHistory history(
+            "('Thé', 2, '2019-05-01 10:00:00.000'), ('Café', 2, '2019-05-01 10:00:00.001'), "
+            "('Bière', 2, '2019-05-01 10:00:00.002')",
             "05/01/2019 10:00:00.000", "05/01/2019 10:00:00.001");
         history.push("btn_Total");
         QCOMPARE(purge(history),

@@ -21,8 +21,9 @@ private slots:
 
     void daysAreListedMonthFirst()
     {
-        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000'), ('Thé', 2, '2019-05-01 "
-                            "23:59:59.999'), ('Thé', 2, '2019-12-31 00:00:00.000')");
+        OpenHistory history(
+            "('Thé', 2, '2019-05-01 10:00:00.000'), ('Thé', 2, '2019-05-01 23:59:59.999'), "
+            "('Thé', 2, '2019-12-31 00:00:00.000')");
         for (int time = 1; time <= 2; ++time) {
             history.push("btn_Show_Date");
             QCOMPARE(history.days(), QStringList({"05/01/2019", "12/31/2019"}));
@@ -62,13 +63,14 @@ private slots:
         QFETCH(QString, first);
         QFETCH(QString, second);
         OpenHistory history(
-            "('La veille', 1, '2019-04-30 23:59:59.999'), ('Soir', 12.5, '2019-05-01 "
-            "23:59:59.999'), ('Matin', 1234.5, '2019-05-01 00:00:00.000'), ('Le lendemain', 1, "
-            "'2019-05-02 00:00:00.000'), ('A', 1, '2019-05-03 10:00:00.000'), ('B', 1, '2019-05-03 "
-            "10:00:00.001'), ('C', 1, '2019-05-03 10:00:00.002'), ('D', 1, '2019-05-03 "
-            "10:00:00.003'), ('E', 1, '2020-02-29 09:59:59.999'), ('F', 1, '2020-02-29 "
-            "10:00:00.000'), ('G', 1, '2020-03-01 00:00:00.000'), ('Nuit', 1, '2019-03-31 "
-            "02:30:00.000')",
+            "('La veille', 1, '2019-04-30 23:59:59.999'), "
+            "('Soir', 12.5, '2019-05-01 23:59:59.999'), "
+            "('Matin', 1234.5, '2019-05-01 00:00:00.000'), "
+            "('Le lendemain', 1, '2019-05-02 00:00:00.000'), ('A', 1, '2019-05-03 10:00:00.000'), "
+            "('B', 1, '2019-05-03 10:00:00.001'), ('C', 1, '2019-05-03 10:00:00.002'), "
+            "('D', 1, '2019-05-03 10:00:00.003'), ('E', 1, '2020-02-29 09:59:59.999'), "
+            "('F', 1, '2020-02-29 10:00:00.000'), ('G', 1, '2020-03-01 00:00:00.000'), "
+            "('Nuit', 1, '2019-03-31 02:30:00.000')",
             first, second);
         QCOMPARE(history.push("btn_View_Historical"), QStringList());
         QTEST(history.sales(), "sales");
@@ -76,9 +78,10 @@ private slots:
 
     void listsNamesAsTheyStand()
     {
-        OpenHistory history("('l''eau', 2, '2019-05-01 10:00:00.000'), ('<b>\"Pastis\"</b>', "
-                            "'gratuit', '2019-05-01 10:00:01.000'), ('33', -0.5, '2019-05-01 "
-                            "10:00:02.000'), ('----', 0, '2019-05-01 10:00:03.000')");
+        OpenHistory history(
+            "('l''eau', 2, '2019-05-01 10:00:00.000'), "
+            "('<b>\"Pastis\"</b>', 'gratuit', '2019-05-01 10:00:01.000'), "
+            "('33', -0.5, '2019-05-01 10:00:02.000'), ('----', 0, '2019-05-01 10:00:03.000')");
         history.push("btn_View_Historical");
         QCOMPARE(history.sales(),
             QStringList({"l'eau|2.00$|05/01/2019 10:00:00.000",
@@ -88,8 +91,9 @@ private slots:
 
     void listsMalformedDatesEmpty()
     {
-        OpenHistory history("('Sans date', 1, ''), ('Jour seul', 1, '2019-05-01'), ('Heure seule', "
-                            "1, '2019-05-01 10'), ('Autre signe', 1, '2019-05-01T10:20:30.123')");
+        OpenHistory history(
+            "('Sans date', 1, ''), ('Jour seul', 1, '2019-05-01'), "
+            "('Heure seule', 1, '2019-05-01 10'), ('Autre signe', 1, '2019-05-01T10:20:30.123')");
         history.push("btn_View_Historical");
         QCOMPARE(history.sales(),
             QStringList({"Jour seul|1.00$|05/01/2019", "Heure seule|1.00$|",
@@ -98,17 +102,19 @@ private slots:
 
     void groupsByArticleAndPrice()
     {
-        OpenHistory history("('Thé', 2, '2019-05-01 10:00:00.000'), ('thé', 2, '2019-05-01 "
-                            "11:00:00.000'), ('Thé', 2, '2019-05-01 12:00:00.000'), ('Café', 1.5, "
-                            "'2019-05-01 13:00:00.000'), ('Café', 1.5, '2019-05-02 00:00:00.000')");
+        OpenHistory history(
+            "('Thé', 2, '2019-05-01 10:00:00.000'), ('thé', 2, '2019-05-01 11:00:00.000'), "
+            "('Thé', 2, '2019-05-01 12:00:00.000'), ('Café', 1.5, '2019-05-01 13:00:00.000'), "
+            "('Café', 1.5, '2019-05-02 00:00:00.000')");
         history.push("btn_View_Historical");
         QCOMPARE(history.groups(), QStringList({"1|Café|1.50$|1.50$", "3|Thé|2.00$|6.00$"}));
     }
 
     void twoPricesWithEqualCountsAreTwoLines()
     {
-        OpenHistory history("('Thé', 2, '2019-05-01'), ('Thé', 2.5, '2019-05-01'), ('Thé', 2, "
-                            "'2019-05-01'), ('Thé', 2.5, '2019-05-01')");
+        OpenHistory history(
+            "('Thé', 2, '2019-05-01'), ('Thé', 2.5, '2019-05-01'), ('Thé', 2, '2019-05-01'), "
+            "('Thé', 2.5, '2019-05-01')");
         history.push("btn_View_Historical");
         QCOMPARE(history.groups(), QStringList({"2|Thé|2.00$|4.00$", "2|Thé|2.50$|5.00$"}));
     }

@@ -34,8 +34,8 @@ private slots:
 
     void totalOfAYearKeepsItsCents()
     {
-        OpenHistory history("('Mariage', 1234567.89, '2019-05-01 10:00:00.000'), ('Bonbon', 0.02, "
-                            "'2019-06-01 10:00:00.000')",
+        OpenHistory history("('Mariage', 1234567.89, '2019-05-01 10:00:00.000'), "
+                            "('Bonbon', 0.02, '2019-06-01 10:00:00.000')",
             "01/01/2019", "01/01/2020");
         history.push("btn_Total");
         QCOMPARE(history.sales(),
@@ -47,8 +47,9 @@ private slots:
 
     void aTotalBeyondAllNumbersIsInfinite()
     {
-        OpenHistory history("('Thé', 1e308, '2019-05-01 10:00:00.000'), ('Thé', 1e308, '2019-05-01 "
-                            "11:00:00.000'), ('Eau', 2, '2019-05-02 10:00:00.000')",
+        OpenHistory history(
+            "('Thé', 1e308, '2019-05-01 10:00:00.000'), ('Thé', 1e308, '2019-05-01 11:00:00.000'), "
+            "('Eau', 2, '2019-05-02 10:00:00.000')",
             "05/01/2019", "05/03/2019");
         history.push("btn_Total");
         QCOMPARE(history.sales().at(3), QString("Total historique|inf$|<-"));

@@ -20,7 +20,8 @@
 #include <QStyle>
 #include <QTableView>
 
-#include <map>
+#include <utility>
+#include <vector>
 
 /// How the history looks, what its keys do, and the windows that it opens.
 class TestFormVendelHistoriqueWindow : public QObject
@@ -44,7 +45,7 @@ private slots:
         QCOMPARE(window.objectName(), QString("FormVendelHistorique"));
         QCOMPARE(window.windowTitle(), QString("Vendel Historique"));
         QCOMPARE(window.windowModality(), Qt::WindowModal);
-        const std::map<const char*, const char*> captions{
+        const std::vector<std::pair<const char*, const char*>> captions{
             {"btn_View_Historical", "Afficher Historique"}, {"btn_Show_Date", "Afficher Date"},
             {"btn_Total", "Total"}, {"btn_Clear", "Purge"}, {"btn_Del_Seizure", "Effacer Saisie"},
             {"rb_First_Date", "Pre Date"}, {"rb_Second_Date", "Sec Date"},
@@ -64,7 +65,7 @@ private slots:
     void listsAreLaidOutAndEmpty()
     {
         OpenHistory history;
-        const std::map<const char*, QStringList> lists{
+        const std::vector<std::pair<const char*, QStringList>> lists{
             {"tableView1", {"Article", "Prix", "Date Heure"}}, {"tableView2", {"Date"}},
             {"tableView3", {"Qtité", "Article", "Prix", "Qtité * Prix"}}};
         for (const auto& [name, columns] : lists) {

@@ -144,7 +144,8 @@ private slots:
         CapturedOutput output;
         QTEST(editor.push(QTest::currentDataTag()).join('|'), "boxes");
         QByteArray reports;
-        for (const QString& statement : statements.split('\n')) {
+        const auto sent = statements.split('\n');
+        for (const QString& statement : sent) {
             reports += databaseReport(statement.toUtf8(), "no such table: Article");
         }
         QCOMPARE(output.text(), reports);
