@@ -23,12 +23,9 @@ struct Bar : Shop
         const char* when = "2019-05-10 10:00:00.000") const
     {
         const QString lines
-            = QString("insert into Historique with recursive sale(n) as (select 1 union all "
-                      "select n + 1 from sale where n < %4) select 1, '%1', %2, '%3' from "
-                      "sale")
-                  .arg(article, price, when)
-                  .arg(count);
-        sql(lines.toUtf8().constData());
+            = QString("insert into Historique with recursive sale(n) as (select 1 union all select "
+                      "n + 1 from sale where n < %4) select 1, '%1', %2, '%3' from sale");
+        sql(lines.arg(article, price, when).arg(count).toUtf8().constData());
     }
 };
 

@@ -54,10 +54,10 @@ private slots:
         QFETCH(QString, second);
         QFETCH(QString, box);
         ListedHistory history;
-        QVERIFY(history.isUntouched());
+        QCOMPARE(history.now(), history.atFirst);
         history.type(first, second);
         QCOMPARE(history.push(trigger.toUtf8().constData()), QStringList(box));
-        QVERIFY(history.isUntouched());
+        QCOMPARE(history.now(), history.atFirst);
         QCOMPARE(history.first(), first.trimmed());
         QCOMPARE(history.second(), second);
         QCOMPARE(history.window.findChildren<QDialog*>().size(), 0);
@@ -65,8 +65,7 @@ private slots:
 
     void trimsTheFields()
     {
-        OpenHistory history;
-        history.type("  05/01/2019 ", " 05/02/2019  ");
+        OpenHistory history("", "  05/01/2019 ", " 05/02/2019  ");
         QVERIFY(history.window.ValidDate());
         QCOMPARE(history.first(), QString("05/01/2019"));
         QCOMPARE(history.second(), QString("05/02/2019"));

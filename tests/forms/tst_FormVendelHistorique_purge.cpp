@@ -31,7 +31,7 @@ private slots:
         ListedHistory history;
         QCOMPARE(history.push("btn_Clear", QMessageBox::No),
             QStringList("Purger: Voulez-vous purger de 05/01/2019 au 05/02/2019 [Yes, No]"));
-        QVERIFY(history.isUntouched());
+        QCOMPARE(history.now(), history.atFirst);
     }
 
     void yesEmptiesTheListsBeforeItReports()

@@ -138,8 +138,7 @@ private slots:
     {
         OpenHistory history;
         QCOMPARE(history.push("actionSaisie_Stock"), QStringList());
-        const QPointer<FormVendelSaisieStock> stock
-            = history.window.findChild<FormVendelSaisieStock*>();
+        const QPointer stock = history.window.findChild<FormVendelSaisieStock*>();
         QVERIFY(stock != nullptr);
         QVERIFY(stock->isVisible());
         QTest::keyClick(stock, Qt::Key_Escape);
@@ -151,8 +150,7 @@ private slots:
         OpenHistory history(
             "('Thé', 2, '2019-05-01 10:00:00.250')", " 05/01/2019 ", "05/01/2019 10:00:00.250  ");
         QCOMPARE(history.push("actionCalcul_Stock"), QStringList());
-        const QPointer<FormVendelStockCalculation> calculation
-            = history.window.findChild<FormVendelStockCalculation*>();
+        const QPointer calculation = history.window.findChild<FormVendelStockCalculation*>();
         QVERIFY(calculation != nullptr);
         QVERIFY(calculation->isVisible());
         QCOMPARE(child<QLabel>(*calculation, "lbl_Period_Date1").text(), QString("05/01/2019"));

@@ -163,20 +163,20 @@ private slots:
         CapturedOutput output;
         click(editor.window, "btn_Afficher");
         QCOMPARE(editor.rows().size(), 3);
-        const QByteArray question
-            = "select d.id, d.article from (select b.article,b.id from (select article,max(id) "
-              "from Article group by article having count(article) > 1) as t, Article as b where "
-              "t.article = b.article) as d where d.id not in (select max(id) as id from Article "
-              "group by article having count(article) > 1)";
-        const QByteArray count
-            = "select sum(z.art) as som from (select count(d.article) as art, d.article from "
-              "(select b.article,b.id from (select article,max(id) from Article group by article "
-              "having count(article) > 1) as t, Article as b where t.article = b.article) as d "
-              "where d.id not in (select max(id) as id from Article group by article having "
-              "count(article) > 1) group by article) as z";
         QCOMPARE(output.text(),
-            databaseReport(question, "no such column: id")
-                + databaseReport(count, "no such column: id"));
+            databaseReport(
+                "select d.id, d.article from (select b.article,b.id from (select article,max(id) "
+                "from Article group by article having count(article) > 1) as t, Article as b where "
+                "t.article = b.article) as d where d.id not in (select max(id) as id from Article "
+                "group by article having count(article) > 1)",
+                "no such column: id")
+                + databaseReport(
+                    "select sum(z.art) as som from (select count(d.article) as art, d.article from "
+                    "(select b.article,b.id from (select article,max(id) from Article group by "
+                    "article having count(article) > 1) as t, Article as b where t.article = "
+                    "b.article) as d where d.id not in (select max(id) as id from Article group by "
+                    "article having count(article) > 1) group by article) as z",
+                    "no such column: id"));
         QCOMPARE(log.criticals().size(), 1);
         QVERIFY(
             log.criticals().constFirst().startsWith("Errors FormVendelSaisieArticle Display : "));
