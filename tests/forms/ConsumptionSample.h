@@ -5,8 +5,8 @@
 #include "tests/support/Shop.h"
 #include "tests/support/Widgets.h"
 
-inline const QString mayFirst = QString("05/01/2019");
-inline const QString juneFirst = QString("06/01/2019");
+inline const QString mayFirst = "05/01/2019";
+inline const QString juneFirst = "06/01/2019";
 
 /// A shop that sells Café (1) at 2$, one dose of 2.5 cl Lait each.
 struct Bar : Shop
@@ -23,13 +23,9 @@ struct Bar : Shop
         const char* when = "2019-05-10 10:00:00.000") const
     {
         const QString lines
-            = QString("insert into Historique with recursive sale(n) as (select 1 union all "
-                      "select n + 1 from sale where n < %4) select 1, '%1', %2, '%3' from "
-                      "sale")
-                  .arg(QString::fromUtf8(article), QString::fromLatin1(price),
-                      QString::fromLatin1(when))
-                  .arg(count);
-        sql(lines.toUtf8().constData());
+            = QString("insert into Historique with recursive sale(n) as (select 1 union all select "
+                      "n + 1 from sale where n < %4) select 1, '%1', %2, '%3' from sale");
+        sql(lines.arg(article, price, when).arg(count).toUtf8().constData());
     }
 };
 

@@ -2,32 +2,24 @@
 #pragma once
 
 #include "forms/FormVendelSaisieArticle.h"
-#include "tests/support/Shop.h"
-#include "tests/support/Widgets.h"
+#include "tests/forms/OpenDialog.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QTableView>
 
 #include <string>
 
 /// A shop with the given articles, "('Cafe', 1), ('The', 2)", and its article editor on the screen.
-struct OpenArticleEditor
+struct OpenArticleEditor : OpenDialog<FormVendelSaisieArticle>
 {
-    Shop shop;
-    FormVendelSaisieArticle window;
+    QTableView& list = child<QTableView>(window, "tableView");
 
     explicit OpenArticleEditor(const std::string& articles = std::string())
-    {
-        if (!articles.empty()) {
-            shop.sql(("insert into Article (article, prix) values " + articles).c_str());
-        }
-        window.show();
-        // The window's activation takes any tip away.
-        if (!QTest::qWaitForWindowActive(&window)) {
-            qFatal("the article editor does not become active");
-        }
-    }
+        : OpenDialog(
+            articles.empty() ? "" : "insert into Article (article, prix) values " + articles)
+    { }
 
     QString text(const char* field)
     {
@@ -35,13 +27,20 @@ struct OpenArticleEditor
     }
 
     /// Puts ASCII \a text in the place of what the field holds, key by key.
-    void type(const char* field, const char* text)
+    void type(const char* field, const QString& text)
     {
         auto& edit = child<QLineEdit>(window, field);
         edit.setFocus();
         QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(&edit, Qt::Key_Delete);
-        QTest::keyClicks(&edit, QString::fromLatin1(text));
+        QTest::keyClicks(&edit, text);
+    }
+
+    /// Types both fields.
+    void typeArticle(const QString& article, const QString& amount)
+    {
+        type("txt_Article", article);
+        type("txt_Montant", amount);
     }
 
     /// Adds \a text to what the field holds, in one go.
@@ -53,28 +52,43 @@ struct OpenArticleEditor
         QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
     }
 
+    /// Clicks a row's name; with Ctrl held, the other rows stay selected and this one toggles.
+    void select(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::mouseClick(
+            list.viewport(), Qt::LeftButton, modifiers, centreOf("tableView", row, 2));
+    }
+
+    bool hasSelection() const
+    {
+        return list.selectionModel()->hasSelection();
+    }
+
+    /// The list from top to bottom, "key|mark|name|price" each.
+    QStringList rows()
+    {
+        return ::rows(window, "tableView");
+    }
+
     /// The names in the list from top to bottom.
     QStringList names()
     {
-        QStringList names;
-        for (int row = 0; row < rowCount(window, "tableView"); ++row) {
-            names << rowTexts(window, "tableView", row).at(2);
+        QStringList names = rows();
+        for (QString& row : names) {
+            row = row.section('|', 2, 2);
         }
         return names;
     }
 
-    /// The keys of the rows marked as duplicates.
-    QStringList marked()
+    /// The keys of the rows marked as duplicates, "1 2".
+    QString marked()
     {
-        QStringList ids;
-        for (int row = 0; row < rowCount(window, "tableView"); ++row) {
-            const QStringList cells = rowTexts(window, "tableView", row);
-            if (cells.at(1) == QLatin1String("X")) {
-                ids << cells.at(0);
-            }
+        QStringList ids = rows().filter("|X|");
+        for (QString& row : ids) {
+            row = row.section('|', 0, 0);
         }
         ids.sort();
-        return ids;
+        return ids.join(' ');
     }
 
     /// What the table holds: key, name and price of each article in the order of the keys.
@@ -82,5 +96,15 @@ struct OpenArticleEditor
     {
         return shop.cell("select group_concat(id || ' ' || article || ' ' || prix, '; ') from "
                          "(select * from Article order by id)");
+    }
+};
+
+/// The same with the menu listed.
+struct ListedMenu : OpenArticleEditor
+{
+    explicit ListedMenu(const std::string& articles)
+        : OpenArticleEditor(articles)
+    {
+        push("btn_Afficher");
     }
 };
