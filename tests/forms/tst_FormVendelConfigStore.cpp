@@ -3,9 +3,9 @@
 #include "tests/forms/Settings.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/Translation.h"
 #include "tests/support/LeakCheck.h"
 #include "tests/support/TestProgram.h"
+#include "tests/support/Translation.h"
 
 #include <QApplication>
 

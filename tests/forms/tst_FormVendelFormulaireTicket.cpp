@@ -3,8 +3,8 @@
 #include "tests/forms/OpenReceiptTexts.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
-#include "tests/support/Translation.h"
 #include "tests/support/TestProgram.h"
+#include "tests/support/Translation.h"
 
 #include <QAction>
 #include <QMenu>
