@@ -22,10 +22,7 @@ private slots:
         QFETCH(const std::vector<int>, widths);
         QFETCH(const QString, hidden);
         Till till;
-        auto& list = child<QTableView>(till.window, QTest::currentDataTag());
-        compareLook(list, 18);
-        compareUse(list);
-        compareColumns(list, widths, hidden);
+        compareList(child<QTableView>(till.window, QTest::currentDataTag()), 18, widths, hidden);
     }
 };
 

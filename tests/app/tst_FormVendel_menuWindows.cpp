@@ -8,25 +8,25 @@
 #include <QPointer>
 #include <QPushButton>
 
-namespace {
-/// The window that the entry \a action of the menu \a menu opens over the sales screen.
-template <class Window> QPointer<Window> opened(Till& till, const char* menu, const char* action)
-{
-    chooseMenu(till.window, menu, action);
-    auto* window = till.window.findChild<Window*>();
-    return window != nullptr && window->isVisible() && window->parentWidget() == &till.window
-        ? window
-        : nullptr;
-}
-} // namespace
-
 /// The windows that the sales screen's menu opens, and that are gone once a button closes them.
 class TestFormVendelMenuWindows : public QObject
 {
     Q_OBJECT
 
+private:
+    /// The window that the entry \a action of the menu \a menu opens over the sales screen.
+    template <class Window>
+    QPointer<Window> opened(Till& till, const char* menu, const char* action)
+    {
+        chooseMenu(till.window, menu, action);
+        auto* window = till.window.findChild<Window*>();
+        const bool isOver
+            = window != nullptr && window->isVisible() && window->parentWidget() == &till.window;
+        return isOver ? window : nullptr;
+    }
+
 private slots:
-    void theSettingsOpenAndAreDeletedWhenTheyClose()
+    void theSettings()
     {
         Till till;
         const auto settings = opened<FormVendelConfig>(till, "menuVendel", "actionConfig");
@@ -35,7 +35,7 @@ private slots:
         QTRY_VERIFY(settings.isNull());
     }
 
-    void theBoxAboutTheTillOpensAndIsDeletedWhenItCloses()
+    void theBoxAboutTheTill()
     {
         Till till;
         const auto about = opened<FormVendelAbout>(till, "menu", "actionA_propos_de");

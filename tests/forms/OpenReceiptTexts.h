@@ -6,11 +6,18 @@
 #include "tests/support/Shop.h"
 #include "tests/support/Widgets.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QTextEdit>
 
 inline const QString headerFile = "EnteteFormulaire.dat";
 inline const QString footerFile = "PiedFormulaire.dat";
+
+/// The names of the files in the working directory, hidden ones too.
+inline QStringList files()
+{
+    return QDir().entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+}
 
 /// A folder that holds the shop's two files, where they are not null, made before anything reads
 /// them.

@@ -88,15 +88,18 @@ using OpenUpdate = OpenOverStock<FormVendelSaisieStockMaj>;
 /// The transfer window; Sirop alone is listed, at first.
 using OpenTransfer = OpenOverStock<FormVendelSaisieStockCutPaste>;
 
-/// What the database layer said so far, without what else stands in \a output.
+/// The compositions that the recipe on the right of \a window shows, parted by "|".
+inline QString recipe(QWidget& window)
+{
+    QStringList names;
+    for (int row = 0; row < rowCount(window, "tableView2"); ++row) {
+        names << rowTexts(window, "tableView2", row).at(2);
+    }
+    return names.join('|');
+}
+
+/// What the database layer said so far.
 inline QByteArray diagnostics(CapturedOutput& output)
 {
-    QByteArray lines;
-    const auto written = output.text().split('\n');
-    for (const QByteArray& line : written) {
-        if (line.startsWith("Errors Db::DbLoad")) {
-            lines += line + '\n';
-        }
-    }
-    return lines;
+    return output.text();
 }

@@ -22,24 +22,6 @@ void tabInto(QTableView& list)
     }
 }
 
-void ctrlAndClickTwice(QTableView& list)
-{
-    clickFirst(list, Qt::ControlModifier);
-    clickFirst(list, Qt::ControlModifier);
-}
-
-void ctrlAndClickAfterAClick(QTableView& list)
-{
-    clickFirst(list, Qt::NoModifier);
-    clickFirst(list, Qt::ControlModifier);
-}
-
-void ctrlAndSpace(QTableView& list)
-{
-    clickFirst(list, Qt::NoModifier);
-    QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
-}
-
 /// A way to make the first row of a list the current one without marking it.
 using Way = void (*)(QTableView& list);
 
@@ -66,9 +48,18 @@ private slots:
     {
         QTest::addColumn<Way>("way");
         QTest::newRow("Tab into the list") << Way(tabInto);
-        QTest::newRow("twice Ctrl and click") << Way(ctrlAndClickTwice);
-        QTest::newRow("a click, then Ctrl and click") << Way(ctrlAndClickAfterAClick);
-        QTest::newRow("a click, then Ctrl and space") << Way(ctrlAndSpace);
+        QTest::newRow("twice Ctrl and click") << Way([](QTableView& list) {
+            clickFirst(list, Qt::ControlModifier);
+            clickFirst(list, Qt::ControlModifier);
+        });
+        QTest::newRow("a click, then Ctrl and click") << Way([](QTableView& list) {
+            clickFirst(list, Qt::NoModifier);
+            clickFirst(list, Qt::ControlModifier);
+        });
+        QTest::newRow("a click, then Ctrl and space") << Way([](QTableView& list) {
+            clickFirst(list, Qt::NoModifier);
+            QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+        });
     }
 
     void removingOrRenamingAnArticleNeedsAMarkedRow()
@@ -101,8 +92,11 @@ private slots:
         OpenTransfer at;
         clickCell(at.window, "tableView1", 0, 1);
         QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(at.window, "tableView2")));
-        QCOMPARE(saidAtClick(at.window, "btn_Modify", QMessageBox::Yes),
+        const AnswerBox box(QMessageBox::Yes);
+        click(at.window, "btn_Modify");
+        QCOMPARE(box.said(),
             QStringList("Modifier: Selectionner un/des composition(s) / dose(s) dans la list"));
+        QVERIFY(box.isNoticeOf(at.window));
         QCOMPARE(at.cell("select id from DoseStock where idlig = 12"), QString("3"));
     }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelAbout.h"
 #include "tests/support/Captured.h"
-#include "tests/support/LeakCheck.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
@@ -13,14 +12,11 @@
 #include <QPushButton>
 #include <QTextEdit>
 
-#include <stdexcept>
-
-#include <sys/stat.h>
-
 namespace {
-/// The box about the till on the screen, in the working directory of a shop.
+/// The box about the till on the screen, in the folder of a shop.
 struct OpenAbout
 {
+    const Shop shop;
     FormVendelAbout window;
     QLabel& picture = child<QLabel>(window, "lbl_QPixmap");
     QTextEdit& text = child<QTextEdit>(window, "txt_Edit");
@@ -34,14 +30,7 @@ struct OpenAbout
             qFatal("the window does not become active");
         }
     }
-
-    void clickOk() const
-    {
-        QTest::mouseClick(&ok, Qt::LeftButton);
-    }
 };
-
-constexpr auto pictureFile = "AproposdeImage.png";
 } // namespace
 
 class TestFormVendelAbout : public QObject
@@ -51,7 +40,6 @@ class TestFormVendelAbout : public QObject
 private slots:
     void hasNameVersionTextAndOk()
     {
-        const Shop shop;
         OpenAbout about;
         QCOMPARE(child<QLabel>(about.window, "lbl_ProductName").text(), QString("Système Vendel"));
         QCOMPARE(child<QLabel>(about.window, "lbl_Version").text(), QString("Version 1.0.0.0"));
@@ -66,7 +54,6 @@ private slots:
 
     void everyTextIsLookedUpInItsContext()
     {
-        const Shop shop;
         const ContextEcho translation;
         OpenAbout about;
         const QString own = "FormVendelAbout";
@@ -78,12 +65,11 @@ private slots:
 
     void theTextSaysNameVersionLicenceAndFolder()
     {
-        const Shop shop;
         OpenAbout about;
         QCOMPARE(about.text.toPlainText(),
             "Système Vendel\nVersion 1.0.0.0\nCaisse enregistreuse sous licence MIT\nLes données "
             "du magasin se trouvent dans le dossier\n"
-                + shop.path());
+                + about.shop.path());
     }
 
     void aFolderLikeATagIsShownAsItIs()
@@ -91,8 +77,10 @@ private slots:
         const Shop shop;
         QVERIFY(QDir().mkdir("<b>%1 caisse"));
         QVERIFY(QDir::setCurrent("<b>%1 caisse"));
-        OpenAbout about;
-        QVERIFY(about.text.toPlainText().endsWith(shop.path() + "/<b>%1 caisse"));
+        FormVendelAbout window;
+        QVERIFY(child<QTextEdit>(window, "txt_Edit")
+                    .toPlainText()
+                    .endsWith(shop.path() + "/<b>%1 caisse"));
     }
 
     void thePictureIsAtTheLeftEdge()
@@ -100,14 +88,15 @@ private slots:
         const Shop shop;
         QPixmap picture(264, 512);
         picture.fill(Qt::blue);
-        QVERIFY(picture.save(pictureFile));
-        QCOMPARE(child<QLabel>(*std::make_unique<FormVendelAbout>(), "lbl_QPixmap").geometry(),
-            QRect(3, 3, 132, 256));
-        OpenAbout about;
-        QCOMPARE(about.picture.geometry(), QRect(3, 3, 132, 256));
-        QVERIFY(about.picture.hasScaledContents());
-        QCOMPARE(about.picture.pixmap(Qt::ReturnByValue).size(), QSize(264, 512));
-        const QImage shown = about.window.grab().toImage();
+        QVERIFY(picture.save("AproposdeImage.png"));
+        FormVendelAbout window;
+        const auto& label = child<QLabel>(window, "lbl_QPixmap");
+        QCOMPARE(label.geometry(), QRect(3, 3, 132, 256));
+        window.show();
+        QCOMPARE(label.geometry(), QRect(3, 3, 132, 256));
+        QVERIFY(label.hasScaledContents());
+        QCOMPARE(label.pixmap(Qt::ReturnByValue).size(), QSize(264, 512));
+        const QImage shown = window.grab().toImage();
         QCOMPARE(shown.pixelColor(3, 3), QColor(Qt::blue));
         QCOMPARE(shown.pixelColor(134, 258), QColor(Qt::blue));
         QVERIFY(shown.pixelColor(135, 259) != QColor(Qt::blue));
@@ -115,7 +104,6 @@ private slots:
 
     void aMissingPictureLeavesTheLabelEmpty()
     {
-        const Shop shop;
         const CapturedLog log;
         OpenAbout about;
         QVERIFY(about.picture.pixmap(Qt::ReturnByValue).isNull());
@@ -125,9 +113,8 @@ private slots:
 
     void okClosesTheWindow()
     {
-        const Shop shop;
         OpenAbout about;
-        about.clickOk();
+        QTest::mouseClick(&about.ok, Qt::LeftButton);
         QVERIFY(!about.window.isVisible());
         QCOMPARE(about.window.result(), int(QDialog::Accepted));
         about.window.show();
@@ -138,7 +125,6 @@ private slots:
 
     void returnPressesOk()
     {
-        const Shop shop;
         OpenAbout about;
         QVERIFY(about.ok.isDefault());
         QVERIFY(about.ok.hasFocus());
@@ -151,7 +137,6 @@ private slots:
 
     void escapeClosesTheWindow()
     {
-        const Shop shop;
         OpenAbout about;
         QTest::keyClick(&about.window, Qt::Key_Escape);
         QVERIFY(!about.window.isVisible());

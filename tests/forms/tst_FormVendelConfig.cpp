@@ -50,40 +50,26 @@ private slots:
         QCOMPARE(settings.printer.itemText(1), QString("ON"));
     }
 
-    void theStoredRateIsShownWithTwoDecimals_data()
-    {
-        QTest::addColumn<QByteArray>("stored");
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("whole") << QByteArray("20") << "20.00";
-        QTest::newRow("fraction") << QByteArray("5.5") << "5.50";
-        QTest::newRow("negative") << QByteArray("-1") << "-1.00";
-        QTest::newRow("thousand") << QByteArray("1234.5") << "1,234.50";
-        QTest::newRow("no number") << QByteArray("'vingt'") << "0.00";
-    }
-
     void theStoredRateIsShownWithTwoDecimals()
     {
-        QFETCH(const QByteArray, stored);
-        OpenSettings settings("update Config set valeur = " + stored + " where param = 'TVA'");
-        QTEST(settings.rate.text(), "shown");
-    }
-
-    void theStoredSwitchIsShown_data()
-    {
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("1") << "ON";
-        for (const char* stored : {"0", "2", "-1", "1.5", "'oui'", "99999999999"}) {
-            QTest::newRow(stored) << "OFF";
+        for (const auto& [stored, shown] : {std::pair("20", "20.00"), {"5.5", "5.50"},
+                 {"-1", "-1.00"}, {"1234.5", "1,234.50"}, {"'vingt'", "0.00"}}) {
+            OpenSettings settings(
+                QByteArray("update Config set valeur = ") + stored + " where param = 'TVA'");
+            QCOMPARE(settings.rate.text(), QString(shown));
         }
     }
 
     void theStoredSwitchIsShown()
     {
         const CapturedLog log;
-        OpenSettings settings(QByteArray("update Config set valeur = ") + QTest::currentDataTag()
-            + " where param = 'Epson TM-T20II'");
-        QTEST(settings.printer.currentText(), "shown");
-        QCOMPARE(settings.rate.text(), QString("0.00"));
+        for (const char* stored : {"1", "0", "2", "-1", "1.5", "'oui'", "99999999999"}) {
+            OpenSettings settings(QByteArray("update Config set valeur = ") + stored
+                + " where param = 'Epson TM-T20II'");
+            const bool isOn = qstrcmp(stored, "1") == 0;
+            QVERIFY2(settings.printer.currentText() == (isOn ? "ON" : "OFF"), stored);
+            QCOMPARE(settings.rate.text(), QString("0.00"));
+        }
         QCOMPARE(log.criticals(), QStringList());
     }
 
@@ -97,46 +83,32 @@ private slots:
         QCOMPARE(settings.shop.cell("select valeur from Config where param = 'tva'"), QString("7"));
     }
 
-    void aRateIsStoredAndClosesTheWindow_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("5,5") << "5.5";
-        QTest::newRow("5.5") << "5.5";
-        QTest::newRow("  20 ") << "20";
-        QTest::newRow("-3") << "-3";
-        QTest::newRow("1e3") << "1000";
-    }
-
     void aRateIsStoredAndClosesTheWindow()
     {
-        OpenSettings settings;
-        settings.typeRate(QTest::currentDataTag());
-        QCOMPARE(saidAtClick(settings.window, "btn_Maj_TVA"), QStringList());
-        QVERIFY(!settings.window.isVisible());
-        QTEST(settings.storedRate(), "stored");
-    }
-
-    void aBadRateIsRefused_data()
-    {
-        QTest::addColumn<QString>("kept");
-        QTest::newRow("") << "";
-        QTest::newRow("   ") << "";
-        QTest::newRow(" abc ") << "abc";
-        QTest::newRow("20%") << "20%";
-        QTest::newRow("1,234.50") << "1,234.50";
+        for (const auto& [typed, stored] : {std::pair("5,5", "5.5"), {"5.5", "5.5"},
+                 {"  20 ", "20"}, {"-3", "-3"}, {"1e3", "1000"}}) {
+            OpenSettings settings;
+            settings.typeRate(typed);
+            QCOMPARE(saidAtClick(settings.window, "btn_Maj_TVA"), QStringList());
+            QVERIFY2(!settings.window.isVisible(), typed);
+            QCOMPARE(settings.storedRate(), QString(stored));
+        }
     }
 
     void aBadRateIsRefused()
     {
-        OpenSettings settings;
-        settings.typeRate(QTest::currentDataTag());
-        const AnswerBox box;
-        click(settings.window, "btn_Maj_TVA");
-        QCOMPARE(box.said(), QStringList("TVA: Saisir une TVA valide"));
-        QVERIFY(box.isNoticeOf(settings.window));
-        QVERIFY(settings.window.isVisible());
-        QTEST(settings.rate.text(), "kept");
-        QCOMPARE(settings.storedRate(), QString("0"));
+        for (const auto& [typed, kept] : {std::pair("", ""), {"   ", ""}, {" abc ", "abc"},
+                 {"20%", "20%"}, {"1,234.50", "1,234.50"}}) {
+            OpenSettings settings;
+            settings.typeRate(typed);
+            const AnswerBox box;
+            click(settings.window, "btn_Maj_TVA");
+            QVERIFY2(box.said() == QStringList("TVA: Saisir une TVA valide"), typed);
+            QVERIFY(box.isNoticeOf(settings.window));
+            QVERIFY(settings.window.isVisible());
+            QCOMPARE(settings.rate.text(), QString(kept));
+            QCOMPARE(settings.storedRate(), QString("0"));
+        }
     }
 
     void theRefusalIsTranslated()

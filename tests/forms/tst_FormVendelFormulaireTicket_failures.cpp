@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <tuple>
+
 #include <sys/stat.h>
 
 namespace {
@@ -33,8 +35,7 @@ private slots:
                 QCOMPARE(editor.saveHeader(), saidTheFailure);
             }
             QCOMPARE(editor.header(), before);
-            QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name),
-                QStringList({headerFile, footerFile}));
+            QCOMPARE(files(), QStringList({headerFile, footerFile}));
             QVERIFY(editor.text().endsWith("\nAnne"));
         }
     }
@@ -96,33 +97,26 @@ private slots:
         QCOMPARE(editor.header(), QByteArray("Chez Paul"));
     }
 
-    void failingSlotsAreLogged_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("logged");
-        const auto row = [](const char* slot, const QByteArray& text, const char* logged) {
-            QTest::newRow(slot) << text << logged;
-        };
-        row("on_actionEntete_Page_triggered", "Entête de page",
-            "Errors FormVendelFormulaireTicket on_actionEntete_Page_triggered : no text");
-        row("on_actionPied_Page_triggered", "Pied de page",
-            "Errors FormVendelFormulaireTicket on_actionPied_Page_triggered : no text");
-        row("on_btn_Entete_Page_clicked", "Sauvegarde",
-            "Errors on_btn_Entete_Page_clicked : no text");
-        row("on_btn_Pied_Page_clicked", "Sauvegarde", "Errors on_btn_Pied_Page_clicked : no text");
-    }
-
     void failingSlotsAreLogged()
     {
-        QFETCH(const QByteArray, text);
-        QFETCH(const QString, logged);
-        OpenReceiptTexts editor;
-        const CapturedLog log;
-        const FailingText failure(text);
-        QVERIFY(QMetaObject::invokeMethod(&editor.window, QTest::currentDataTag()));
-        QCOMPARE(log.criticals(), QStringList(logged));
-        QCOMPARE(editor.header(), QByteArray("Chez Paul"));
-        QCOMPARE(editor.footer(), QByteArray("Merci"));
+        const QString window = "Errors FormVendelFormulaireTicket ";
+        for (const auto& [slot, text, logged] :
+            {std::tuple("on_actionEntete_Page_triggered", "Entête de page",
+                 window + "on_actionEntete_Page_triggered : no text"),
+                {"on_actionPied_Page_triggered", "Pied de page",
+                    window + "on_actionPied_Page_triggered : no text"},
+                {"on_btn_Entete_Page_clicked", "Sauvegarde",
+                    "Errors on_btn_Entete_Page_clicked : no text"},
+                {"on_btn_Pied_Page_clicked", "Sauvegarde",
+                    "Errors on_btn_Pied_Page_clicked : no text"}}) {
+            OpenReceiptTexts editor;
+            const CapturedLog log;
+            const FailingText failure(text);
+            QVERIFY(QMetaObject::invokeMethod(&editor.window, slot));
+            QCOMPARE(log.criticals(), QStringList(logged));
+            QCOMPARE(editor.header(), QByteArray("Chez Paul"));
+            QCOMPARE(editor.footer(), QByteArray("Merci"));
+        }
     }
 
     void aFailingConstructorIsLogged()

@@ -47,8 +47,7 @@ private slots:
         QCOMPARE(editor.footer(), QByteArray("Merci"));
         QCOMPARE(editor.text(), QString("Chez Paul\ntitre:Paris"));
         QVERIFY(editor.window.isVisible());
-        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name),
-            QStringList({headerFile, footerFile}));
+        QCOMPARE(files(), QStringList({headerFile, footerFile}));
     }
 
     void yesSavesTheFooter()
@@ -109,7 +108,7 @@ private slots:
             editor.typeAtEnd("Chez Paul");
             const CapturedLog log;
             QCOMPARE(saidAtClick(editor.window, button, QMessageBox::Yes), asked);
-            QVERIFY(QDir().isEmpty());
+            QCOMPARE(files(), QStringList());
             QCOMPARE(log.criticals(), QStringList());
         }
     }

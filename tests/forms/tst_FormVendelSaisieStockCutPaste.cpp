@@ -45,17 +45,13 @@ class TestFormVendelSaisieStockCutPaste : public QObject
 private slots:
     void offersTheArticlesOfTheMenuAndListsTheOthers()
     {
-        Moving at("insert into ArticleStock values (5, 'Ancien'), (1000, 'hors menu')");
-        QCOMPARE(at.targets().count(), 2);
-        QCOMPARE(at.targets().itemText(0), QString("1, Café, Valide"));
-        QCOMPARE(at.targets().itemText(1), QString("2, Thé, Valide"));
+        OpenTransfer at("insert into ArticleStock values (5, 'Ancien'), (1000, 'hors menu')");
+        const auto& targets = child<QComboBox>(at.window, "cbx_Article");
+        QCOMPARE(targets.count(), 2);
+        QCOMPARE(targets.itemText(0), QString("1, Café, Valide"));
+        QCOMPARE(targets.itemText(1), QString("2, Thé, Valide"));
         QCOMPARE(rows(at.window, "tableView1"),
-            QStringList({"5;Ancien;Périmé", "1000;hors menu;Périmé", "3;Sirop;Périmé"}));
-    }
-
-    void opensWithoutARecipe()
-    {
-        OpenTransfer at;
+            QStringList({"5|Ancien|Périmé", "1000|hors menu|Périmé", "3|Sirop|Périmé"}));
         QCOMPARE(rowCount(at.window, "tableView2"), 0);
     }
 
@@ -64,7 +60,7 @@ private slots:
         OpenTransfer at;
         at.sql("delete from Article where id = 2");
         at.window.Display();
-        QCOMPARE(rows(at.window, "tableView1"), QStringList({"3;Sirop;Périmé", "2;Thé;Périmé"}));
+        QCOMPARE(rows(at.window, "tableView1"), QStringList({"3|Sirop|Périmé", "2|Thé|Périmé"}));
     }
 
     void selectingAWithdrawnArticleShowsItsRecipe()
@@ -74,14 +70,14 @@ private slots:
                         " (14, 5, 'Eau', 2, 'cl')");
         clickCell(at.window, "tableView1", 0, 2);
         QCOMPARE(rows(at.window, "tableView2"),
-            QStringList({"14;5;Eau;2.00;cl", "13;5;Zeste;1,234.50;g"}));
+            QStringList({"14|5|Eau|2.00|cl", "13|5|Zeste|1,234.50|g"}));
         auto& articles = child<QTableView>(at.window, "tableView1");
         QTest::keyClick(&articles, Qt::Key_Down);
-        QCOMPARE(rows(at.window, "tableView2"), QStringList("12;3;Menthe;3.00;cl"));
+        QCOMPARE(rows(at.window, "tableView2"), QStringList("12|3|Menthe|3.00|cl"));
 
         articles.selectionModel()->setCurrentIndex(
             articles.model()->index(0, 1), QItemSelectionModel::NoUpdate);
-        QCOMPARE(rows(at.window, "tableView2"), QStringList("12;3;Menthe;3.00;cl"));
+        QCOMPARE(rows(at.window, "tableView2"), QStringList("12|3|Menthe|3.00|cl"));
     }
 
     void withoutLinesThereIsNothingToMove()
@@ -91,17 +87,6 @@ private slots:
         const AnswerBox box;
         click(at.window, "btn_Modify");
         QCOMPARE(box.said(), QStringList("Modifier: Vous n'avez rien à couper / coller"));
-        QVERIFY(box.isNoticeOf(at.window));
-    }
-
-    void withoutASelectionItAsksForOne()
-    {
-        OpenTransfer at;
-        clickCell(at.window, "tableView1", 0, 1);
-        const AnswerBox box;
-        click(at.window, "btn_Modify");
-        QCOMPARE(box.said(),
-            QStringList("Modifier: Selectionner un/des composition(s) / dose(s) dans la list"));
         QVERIFY(box.isNoticeOf(at.window));
     }
 
@@ -171,7 +156,7 @@ private slots:
         clickCell(at.window, "tableView2", 0, 2);
         CapturedOutput output;
         const QStringList said = saidAtClick(at.window, "btn_Modify", QMessageBox::Yes);
-        QCOMPARE(diagnostics(output),
+        QCOMPARE(output.text(),
             databaseReport(
                 "update DoseStock set id =  where idlig = 12", "near \"where\": syntax error"));
         QCOMPARE(said, QStringList("Modifier: Voulez-vous modifier : Menthe ... dans , "));
@@ -209,7 +194,7 @@ private slots:
         QCOMPARE(at.targets().itemText(0),
             QString("1, Café, FormVendelSaisieStockCutPasteMessages:Valide"));
         QCOMPARE(rows(at.window, "tableView1"),
-            QStringList("3;Sirop;FormVendelSaisieStockCutPasteMessages:Périmé"));
+            QStringList("3|Sirop|FormVendelSaisieStockCutPasteMessages:Périmé"));
     }
 };
 

@@ -39,7 +39,7 @@ private slots:
             "update Article set article = 'Noir' where id = 1;"
             "insert into Article (id, article, prix) values (7, 'Zeste', 1), (8, 'Ananas', 1)");
         QCOMPARE(
-            preview(at), QStringList({"7;Zeste;Ajouter", "8;Ananas;Ajouter", "1;Noir;Renommer"}));
+            preview(at), QStringList({"7|Zeste|Ajouter", "8|Ananas|Ajouter", "1|Noir|Renommer"}));
     }
 
     void aNewArticleBecomesValid()
@@ -49,14 +49,14 @@ private slots:
         QVERIFY(!at.window.isVisible());
         QCOMPARE(at.cell("select article from ArticleStock where id = 7"), QString("Zeste"));
         QCOMPARE(rowCount(at.stock, "tableView1"), 4);
-        QCOMPARE(rows(at.stock, "tableView1").at(3), QString("7;Zeste;Valide"));
+        QCOMPARE(rows(at.stock, "tableView1").at(3), QString("7|Zeste|Valide"));
     }
 
     void aRenamedArticleKeepsItsRecipe()
     {
         OpenUpdate at(newName);
         click(at.window, "btn_Update");
-        QCOMPARE(rows(at.stock, "tableView1").at(0), QString("1;Noir;Valide"));
+        QCOMPARE(rows(at.stock, "tableView1").at(0), QString("1|Noir|Valide"));
         at.stock.Display_DoseStock("1");
         QCOMPARE(rowCount(at.stock, "tableView2"), 2);
     }
@@ -85,7 +85,7 @@ private slots:
         QCOMPARE(preview(at).size(), 1);
         click(at.window, "btn_Update");
         QCOMPARE(rows(at.stock, "tableView1"),
-            QStringList({"1;Noir;Valide", "3;Sirop;Périmé", "2;Thé;Périmé"}));
+            QStringList({"1|Noir|Valide", "3|Sirop|Périmé", "2|Thé|Périmé"}));
     }
 
     void applyingReadsTheDatabaseAgain()
@@ -104,7 +104,7 @@ private slots:
     void quotesTravelAsTheyAre()
     {
         OpenUpdate at("insert into Article (id, article, prix) values (7, '<b>l''eau</b>', 1)");
-        QCOMPARE(preview(at), QStringList("7;<b>l'eau</b>;Ajouter"));
+        QCOMPARE(preview(at), QStringList("7|<b>l'eau</b>|Ajouter"));
         click(at.window, "btn_Update");
         QCOMPARE(at.cell("select article from ArticleStock where id = 7"), QString("<b>l'eau</b>"));
     }
@@ -113,7 +113,7 @@ private slots:
     {
         const MarkedContext texts("FormVendelSaisieStockMajMessages");
         OpenUpdate at(newArticle);
-        QCOMPARE(preview(at), QStringList("7;Zeste;FormVendelSaisieStockMajMessages:Ajouter"));
+        QCOMPARE(preview(at), QStringList("7|Zeste|FormVendelSaisieStockMajMessages:Ajouter"));
     }
 };
 

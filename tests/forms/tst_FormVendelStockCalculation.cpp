@@ -6,6 +6,8 @@
 
 #include <QLabel>
 
+#include <utility>
+
 class TestFormVendelStockCalculation : public QObject
 {
     Q_OBJECT
@@ -29,30 +31,22 @@ private slots:
         QCOMPARE(rowCount(window, "tableView2"), 0);
     }
 
-    void nothingConsumedSaysSo_data()
-    {
-        QTest::addColumn<QString>("article");
-        QTest::addColumn<QString>("when");
-        QTest::newRow("no sale in the period") << "Café"
-                                               << "2019-06-01 00:00:00.000";
-        QTest::newRow("no recipe") << "Thé"
-                                   << "2019-05-10 10:00:00.000";
-    }
-
     void nothingConsumedSaysSo()
     {
-        QFETCH(const QString, article);
-        QFETCH(const QString, when);
-        const Bar bar;
-        bar.sell(qUtf8Printable(article), 3, "2", qUtf8Printable(when));
-        const AnswerBox box;
-        Consumed at;
-        QCOMPARE(box.said(),
-            QStringList("Calcul Stock: Composition est vide\nAller dans le menu Stock Saisie "
-                        "Stock\nDoubleClick sur article et composez"));
-        QVERIFY(box.isNoticeOf(at.window));
-        QCOMPARE(rowCount(at.window, "tableView1"), 0);
-        QCOMPARE(rowCount(at.window, "tableView2"), 0);
+        // No sale in the period, and no recipe.
+        for (const auto& [article, when] :
+            {std::pair("Café", "2019-06-01 00:00:00.000"), {"Thé", "2019-05-10 10:00:00.000"}}) {
+            const Bar bar;
+            bar.sell(article, 3, "2", when);
+            const AnswerBox box;
+            Consumed at;
+            QCOMPARE(box.said(),
+                QStringList("Calcul Stock: Composition est vide\nAller dans le menu Stock Saisie "
+                            "Stock\nDoubleClick sur article et composez"));
+            QVERIFY2(box.isNoticeOf(at.window), article);
+            QCOMPARE(rowCount(at.window, "tableView1"), 0);
+            QCOMPARE(rowCount(at.window, "tableView2"), 0);
+        }
     }
 
     void aSecondPressWritesTheSameRows()
@@ -61,8 +55,8 @@ private slots:
         bar.sell("Café", 3);
         Consumed at;
         click(at.window, "btn_Display");
-        QCOMPARE(rows(at.window, "tableView1"), QStringList("3;Café;Lait;2.50 cl;7.50 cl"));
-        QCOMPARE(rows(at.window, "tableView2"), QStringList("Lait;7.50;cl;;"));
+        QCOMPARE(rows(at.window, "tableView1"), QStringList("3|Café|Lait|2.50 cl|7.50 cl"));
+        QCOMPARE(rows(at.window, "tableView2"), QStringList("Lait|7.50|cl||"));
     }
 
     void aLaterPressOverwritesAndLeavesRowsBeyond()
@@ -77,14 +71,14 @@ private slots:
         bar.sql("delete from Historique where article = 'Thé'");
         click(at.window, "btn_Display");
         QCOMPARE(rows(at.window, "tableView1"),
-            QStringList({"4;Café;Lait;2.50 cl;10.00 cl", "1;Thé;Eau;20.00 cl;20.00 cl"}));
-        QCOMPARE(rows(at.window, "tableView2").at(0), QString("Lait;10.00;cl;;"));
+            QStringList({"4|Café|Lait|2.50 cl|10.00 cl", "1|Thé|Eau|20.00 cl|20.00 cl"}));
+        QCOMPARE(rows(at.window, "tableView2").at(0), QString("Lait|10.00|cl||"));
         bar.sell("Thé", 2);
         bar.sell("Thé", 3, "4");
         click(at.window, "btn_Display");
         QCOMPARE(rowCount(at.window, "tableView1"), 3);
         QCOMPARE(rowCount(at.window, "tableView2"), 2);
-        QCOMPARE(rows(at.window, "tableView2").at(0), QString("Eau;100.00;cl;;"));
+        QCOMPARE(rows(at.window, "tableView2").at(0), QString("Eau|100.00|cl||"));
     }
 
     void anEmptyLaterPressLeavesTheLists()

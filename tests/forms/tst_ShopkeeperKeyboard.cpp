@@ -23,6 +23,13 @@ void type(const char* text)
     QTest::keyClicks(QApplication::focusWidget(), text);
 }
 
+void typeArticle(const char* name, const char* price)
+{
+    type(name);
+    press(Qt::Key_Tab);
+    type(price);
+}
+
 QString focused()
 {
     const QWidget* widget = QApplication::focusWidget();
@@ -60,9 +67,7 @@ private slots:
     void anArticleIsAdded()
     {
         OpenArticleEditor editor("('Cafe', 1)");
-        type("Vin");
-        press(Qt::Key_Tab);
-        type("3,5");
+        typeArticle("Vin", "3,5");
         press(Qt::Key_Tab, 3);
         QCOMPARE(focused(), QString("btn_Ajouter"));
         press(Qt::Key_Space);
@@ -76,9 +81,7 @@ private slots:
         QCOMPARE(focused(), QString("tableView"));
         press(Qt::Key_Down);
         press(Qt::Key_Tab);
-        type("The vert");
-        press(Qt::Key_Tab);
-        type("2,5");
+        typeArticle("The vert", "2,5");
         press(Qt::Key_Tab, 5);
         QCOMPARE(focused(), QString("btn_Renommer"));
         QCOMPARE(pressButton(), QStringList("Voulez-vous renommer : The ..."));
@@ -110,9 +113,7 @@ private slots:
     void theFieldsAreEmptied()
     {
         OpenArticleEditor editor;
-        type("Vin");
-        press(Qt::Key_Tab);
-        type("3");
+        typeArticle("Vin", "3");
         press(Qt::Key_Tab);
         QCOMPARE(focused(), QString("btn_Effacer_Saisie"));
         press(Qt::Key_Space);
