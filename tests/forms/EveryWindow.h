@@ -14,32 +14,34 @@
 
 #include <QHash>
 
-#include <functional>
 #include <memory>
 
 using AnyWindow = std::unique_ptr<QDialog>;
 
+template <class Window> AnyWindow make()
+{
+    return std::make_unique<Window>();
+}
+
 /// The window with the given class name, not shown yet.
 inline AnyWindow makeWindow(const QString& name)
 {
-    const QHash<QString, std::function<AnyWindow()>> makers{
-        {"FormVendelAbout", [] { return std::make_unique<FormVendelAbout>(); }},
-        {"FormVendelConfig", [] { return std::make_unique<FormVendelConfig>(); }},
-        {"FormVendelFormulaireTicket",
-            [] { return std::make_unique<FormVendelFormulaireTicket>(); }},
-        {"FormVendelHistorique", [] { return std::make_unique<FormVendelHistorique>(); }},
-        {"FormVendelSaisieArticle", [] { return std::make_unique<FormVendelSaisieArticle>(); }},
-        {"FormVendelSaisieStock", [] { return std::make_unique<FormVendelSaisieStock>(); }},
-        {"FormVendelSaisieStockComposition",
-            [] { return std::make_unique<FormVendelSaisieStockComposition>("Café", "1"); }},
-        {"FormVendelSaisieStockCutPaste",
-            [] { return std::make_unique<FormVendelSaisieStockCutPaste>(); }},
-        {"FormVendelSaisieStockMaj", [] { return std::make_unique<FormVendelSaisieStockMaj>(); }},
-        {"FormVendelStockCalculation",
-            [] {
-                return std::make_unique<FormVendelStockCalculation>(
-                    "05/01/2019 00:00:00.000", "12/30/2019 23:59:59.999");
-            }},
+    const QHash<QString, AnyWindow (*)()> makers{
+        {"FormVendelAbout", make<FormVendelAbout>},
+        {"FormVendelConfig", make<FormVendelConfig>},
+        {"FormVendelFormulaireTicket", make<FormVendelFormulaireTicket>},
+        {"FormVendelHistorique", make<FormVendelHistorique>},
+        {"FormVendelSaisieArticle", make<FormVendelSaisieArticle>},
+        {"FormVendelSaisieStock", make<FormVendelSaisieStock>},
+        {"FormVendelSaisieStockCutPaste", make<FormVendelSaisieStockCutPaste>},
+        {"FormVendelSaisieStockMaj", make<FormVendelSaisieStockMaj>},
     };
+    if (name == "FormVendelSaisieStockComposition") {
+        return std::make_unique<FormVendelSaisieStockComposition>("Café", "1");
+    }
+    if (name == "FormVendelStockCalculation") {
+        return std::make_unique<FormVendelStockCalculation>(
+            "05/01/2019 00:00:00.000", "12/30/2019 23:59:59.999");
+    }
     return makers.value(name)();
 }

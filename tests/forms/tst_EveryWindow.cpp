@@ -7,21 +7,16 @@
 #include "tests/support/Translation.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include <initializer_list>
+#include <tuple>
+#include <utility>
 
 namespace {
 constexpr auto blue = "background-color: rgb(114, 159, 207)";
 constexpr auto red = "background-color: rgb(204, 0, 0)";
-
-/// A window and its widget, a row of a table.
-QTestData& addRow(const char* window, const char* widget)
-{
-    return QTest::addRow("%s %s", window, widget) << window << widget;
-}
 
 /// The window of the running row on the screen.
 AnyWindow openWindow()
@@ -91,7 +86,7 @@ private slots:
         using Captions = std::initializer_list<std::pair<const char*, const char*>>;
         const auto add = [](const char* window, const Captions& captions) {
             for (const auto& [widget, caption] : captions) {
-                addRow(window, widget) << caption;
+                QTest::addRow("%s %s", window, widget) << window << widget << caption;
             }
         };
         add("FormVendelHistorique",
@@ -146,46 +141,41 @@ private slots:
                  {"FormVendelSaisieStockMaj", "btn_Update"},
                  {"FormVendelSaisieStockCutPaste", "btn_Modify"},
                  {"FormVendelStockCalculation", "btn_Display"},
-                 {"FormVendelFormulaireTicket", "btn_Pied_Page"}}) {
+                 {"FormVendelFormulaireTicket", "btn_Pied_Page"},
+                 {"FormVendelConfig", "btn_Maj_TVA"}}) {
             const AnyWindow opened = makeWindow(window);
             opened->show();
+            if (auto* rate = opened->findChild<QLineEdit*>("txt_TVA")) {
+                rate->clear();
+            }
             QCOMPARE(saidAtClick(*opened, button, QMessageBox::No),
                 QStringList(QString("%1Messages: %1Messages").arg(window)));
         }
     }
 
-    void buttonsHaveTheirColourAndSize_data()
-    {
-        QTest::addColumn<QString>("window");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<QSize>("size");
-        const auto add = [](const char* window, std::initializer_list<const char*> buttons,
-                             const char* style, QSize size) {
-            for (const char* button : buttons) {
-                addRow(window, button) << style << size;
-            }
-        };
-        add("FormVendelHistorique", {"btn_Del_Seizure"}, "", {270, 36});
-        add("FormVendelHistorique", {"btn_Show_Date", "btn_View_Historical", "btn_Total"}, blue,
-            {270, 36});
-        add("FormVendelHistorique", {"btn_Clear"}, red, {270, 36});
-        add("FormVendelSaisieStock", {"btn_Display", "btn_Update", "btn_Remove", "btn_Cut_Paste"},
-            blue, {149, 52});
-        add("FormVendelSaisieStockComposition", {"btn_Add"}, blue, {110, 40});
-        add("FormVendelSaisieStockMaj", {"btn_Update"}, blue, {120, 43});
-        add("FormVendelSaisieStockCutPaste", {"btn_Modify"}, blue, {149, 32});
-        add("FormVendelStockCalculation", {"btn_Display"}, blue, {149, 36});
-    }
-
     void buttonsHaveTheirColourAndSize()
     {
-        QFETCH(const QString, button);
         const Shop shop;
-        const AnyWindow opened = openWindow();
-        const auto& shown = child<QPushButton>(*opened, qPrintable(button));
-        QTEST(shown.styleSheet(), "style");
-        QTEST(shown.size(), "size");
+        for (const auto& [window, buttons, style, size] :
+            {std::tuple("FormVendelHistorique", "btn_Del_Seizure", "", QSize(270, 36)),
+                {"FormVendelHistorique", "btn_Show_Date btn_View_Historical btn_Total", blue,
+                    {270, 36}},
+                {"FormVendelHistorique", "btn_Clear", red, {270, 36}},
+                {"FormVendelSaisieStock", "btn_Display btn_Update btn_Remove btn_Cut_Paste", blue,
+                    {149, 52}},
+                {"FormVendelSaisieStockComposition", "btn_Add", blue, {110, 40}},
+                {"FormVendelSaisieStockMaj", "btn_Update", blue, {120, 43}},
+                {"FormVendelSaisieStockCutPaste", "btn_Modify", blue, {149, 32}},
+                {"FormVendelStockCalculation", "btn_Display", blue, {149, 36}}}) {
+            const AnyWindow opened = makeWindow(window);
+            opened->show();
+            const auto names = QByteArray(buttons).split(' ');
+            for (const QByteArray& name : names) {
+                const auto& button = child<QPushButton>(*opened, name);
+                QVERIFY2(button.styleSheet() == style, window + name);
+                QVERIFY2(button.size() == size, window + name);
+            }
+        }
     }
 
     void fieldsAreHighEnoughToBeHit()

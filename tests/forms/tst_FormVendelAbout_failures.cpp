@@ -56,7 +56,6 @@ private slots:
         QCOMPARE(log.criticals(),
             QStringList({"Errors FormVendel on_btn_buttonBox_clicked : no closing",
                 "Errors FormVendelAbout Constructor : no text"}));
-        window.disconnect();
     }
 };
 

@@ -4,7 +4,6 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Translation.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -109,15 +108,6 @@ private slots:
             QCOMPARE(settings.rate.text(), QString(kept));
             QCOMPARE(settings.storedRate(), QString("0"));
         }
-    }
-
-    void theRefusalIsTranslated()
-    {
-        const ContextEcho translation;
-        OpenSettings settings;
-        settings.typeRate("");
-        QCOMPARE(saidAtClick(settings.window, "btn_Maj_TVA"),
-            QStringList("FormVendelConfigMessages: FormVendelConfigMessages"));
     }
 
     void theSwitchIsStoredAndClosesTheWindow()

@@ -38,13 +38,13 @@ private slots:
         settings.window.show();
         click(settings.window, "btn_Maj_Epson");
         const FormVendelConfig another;
-        QCOMPARE(output.text(),
-            databaseReport(
-                "update Config set valeur = 5.5 where param like 'TVA'", "no such table: Config")
-                + databaseReport("update Config set valeur = 0 where param like 'Epson TM-T20II'",
-                    "no such table: Config")
-                + databaseReport("select * from Config where param like 'Epson TM-T20II'",
-                    "no such table: Config"));
+        QByteArray reports;
+        for (const char* sql : {"update Config set valeur = 5.5 where param like 'TVA'",
+                 "update Config set valeur = 0 where param like 'Epson TM-T20II'",
+                 "select * from Config where param like 'Epson TM-T20II'"}) {
+            reports += databaseReport(sql, "no such table: Config");
+        }
+        QCOMPARE(output.text(), reports);
     }
 
     void aMissingSettingIsLogged()

@@ -70,12 +70,16 @@ private slots:
         QCOMPARE(editor.header(), QByteArray("Chez Paul"));
     }
 
-    void opensEmptyWithoutAHeader()
+    void missingFilesAreShownEmpty()
     {
         OpenReceiptTexts editor({}, {});
         QCOMPARE(editor.label(), QString("Entête de page"));
         QCOMPARE(editor.text(), QString());
         QVERIFY(!QFile::exists(headerFile));
+        editor.typeAtEnd("Merci");
+        editor.showFooter();
+        QCOMPARE(editor.label(), QString("Pied de page"));
+        QCOMPARE(editor.text(), QString());
     }
 
     void theMenuShowsTheFooterAndTheHeaderAgain()
@@ -89,14 +93,6 @@ private slots:
         editor.showHeader();
         QCOMPARE(editor.label(), QString("Entête de page"));
         QCOMPARE(editor.text(), QString("Chez Paul"));
-    }
-
-    void aMissingFooterEmptiesTheText()
-    {
-        OpenReceiptTexts editor("Chez Paul", {});
-        editor.showFooter();
-        QCOMPARE(editor.label(), QString("Pied de page"));
-        QCOMPARE(editor.text(), QString());
     }
 
     void showingAFileDropsWhatWasTyped()

@@ -90,14 +90,17 @@ private slots:
         QVERIFY(box.isNoticeOf(at.window));
     }
 
-    void noMovesNothing()
+    void noMovesNothingAndTheQuestionShowsNamesAsTheyAre()
     {
-        Moving at;
+        Moving at("update ArticleStock set article = '<b>l''eau</b>' where id = 1;"
+                  "update DoseStock set composition = '<i>l''anis</i>' where idlig = 12");
         const AnswerBox box(QMessageBox::No);
         click(at.window, "btn_Modify");
         QCOMPARE(box.said(),
-            QStringList("Modifier: Voulez-vous modifier : Menthe ... dans  Café,  Valide"));
+            QStringList("Modifier: Voulez-vous modifier : <i>l'anis</i> ... dans  <b>l'eau</b>,  "
+                        "Valide"));
         QVERIFY(box.isQuestionOf(at.window));
+        QCOMPARE(box.format(), Qt::PlainText);
         QCOMPARE(at.owner(), QString("3"));
         QCOMPARE(rowCount(at.window, "tableView2"), 1);
     }
@@ -134,17 +137,6 @@ private slots:
         QCOMPARE(at.modify(QMessageBox::Yes),
             QStringList("Modifier: Voulez-vous modifier : Menthe ... dans  Café,  crème"));
         QCOMPARE(at.owner(), QString("1"));
-    }
-
-    void namesAreAskedForAsTheyAre()
-    {
-        Moving at("update ArticleStock set article = '<b>l''eau</b>' where id = 1;"
-                  "update DoseStock set composition = '<i>l''anis</i>' where idlig = 12");
-        const AnswerBox box(QMessageBox::No);
-        click(at.window, "btn_Modify");
-        QCOMPARE(box.text(),
-            QString("Voulez-vous modifier : <i>l'anis</i> ... dans  <b>l'eau</b>,  Valide"));
-        QCOMPARE(box.format(), Qt::PlainText);
     }
 
     void withoutATargetNothingMoves()

@@ -27,15 +27,17 @@ private slots:
         QCOMPARE(rowCount(stock, "tableView2"), 0);
     }
 
-    void anEmptyStockSaysSo()
+    void anEmptyStockSaysSoWhenItIsDisplayedAndWhenAnArticleIsRemoved()
     {
         OpenStock at;
         at.sql("delete from ArticleStock");
-        const AnswerBox box;
-        click(at.window, "btn_Display");
-        QCOMPARE(box.said(), QStringList("Afficher: Aucun Article\nFaite Mise à jour"));
-        QVERIFY(box.isNoticeOf(at.window));
-        QCOMPARE(rowCount(at.window, "tableView1"), 0);
+        for (const char* button : {"btn_Display", "btn_Remove"}) {
+            const AnswerBox box;
+            click(at.window, button);
+            QCOMPARE(box.said(), QStringList("Afficher: Aucun Article\nFaite Mise à jour"));
+            QVERIFY2(box.isNoticeOf(at.window), button);
+            QCOMPARE(rowCount(at.window, "tableView1"), 0);
+        }
     }
 
     void listsArticlesByNameAndMarksTheWithdrawn()
