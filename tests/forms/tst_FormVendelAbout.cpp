@@ -8,7 +8,9 @@
 
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QImage>
 #include <QLabel>
+#include <QPixmap>
 #include <QPushButton>
 #include <QTextEdit>
 

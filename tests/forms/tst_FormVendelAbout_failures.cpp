@@ -9,6 +9,7 @@
 
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 

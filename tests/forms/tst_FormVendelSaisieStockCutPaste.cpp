@@ -105,15 +105,19 @@ private slots:
         QCOMPARE(rowCount(at.window, "tableView2"), 1);
     }
 
-    void yesMovesTheLine()
+    void yesMovesTheLineAndEmptiesTheEditorsRecipe()
     {
         Moving at;
+        at.stock.Display_DoseStock("3");
+        at.stock.Display(true);
         at.targets().setCurrentIndex(1);
         QCOMPARE(at.modify(QMessageBox::Yes),
             QStringList("Modifier: Voulez-vous modifier : Menthe ... dans  Thé,  Valide"));
         QCOMPARE(at.owner(), QString("2"));
         QCOMPARE(rowCount(at.window, "tableView2"), 0);
         QCOMPARE(rowCount(at.window, "tableView1"), 1);
+        QCOMPARE(rowCount(at.stock, "tableView2"), 0);
+        QCOMPARE(rowCount(at.stock, "tableView1"), 3);
         QVERIFY(at.window.isVisible());
     }
 
@@ -167,16 +171,6 @@ private slots:
         QCOMPARE(saidAtClick(at.stock, "btn_Remove", QMessageBox::Yes),
             QStringList("Supprimer: Voulez-vous supprimer : Sirop, Périmé ..."));
         QCOMPARE(at.owner(), QString("1"));
-    }
-
-    void theStockEditorsRecipeListIsEmptied()
-    {
-        Moving at;
-        at.stock.Display_DoseStock("3");
-        at.stock.Display(true);
-        at.modify(QMessageBox::Yes);
-        QCOMPARE(rowCount(at.stock, "tableView2"), 0);
-        QCOMPARE(rowCount(at.stock, "tableView1"), 3);
     }
 
     void theValidityIsTranslated()
