@@ -81,8 +81,8 @@ private slots:
     {
         QTest::addColumn<QString>("window");
         QTest::addColumn<QString>("widget");
+        // Empty where the text is no caption.
         QTest::addColumn<QString>("caption");
-        // A text that is no caption is left out.
         using Captions = std::initializer_list<std::pair<const char*, const char*>>;
         const auto add = [](const char* window, const Captions& captions) {
             for (const auto& [widget, caption] : captions) {

@@ -15,7 +15,7 @@
 
 namespace {
 /// The two lists of a window made unreadable, their first cells marked. The window is hidden, since
-/// nobody could paint the lists.
+/// painting them would throw, too.
 struct Unreadable
 {
     QDialog& window;
