@@ -1,41 +1,54 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/FormVendelConfig.h"
 #include "tests/support/Shop.h"
 #include "tests/support/Widgets.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 
-/// The rate on the screen.
-inline QString rateOf(QWidget& window)
+/// A shop whose database \a change has changed.
+struct ChangedShop : Shop
 {
-    return child<QLineEdit>(window, "txt_TVA").text();
-}
+    explicit ChangedShop(const QByteArray& change)
+    {
+        fill(change);
+    }
+};
 
-/// The printer's switch on the screen.
-inline QString switchOf(QWidget& window)
+/// The settings on the screen of a shop of their own.
+struct OpenSettings
 {
-    return child<QComboBox>(window, "cbx_Epson").currentText();
-}
+    const ChangedShop shop;
+    FormVendelConfig window;
+    QLineEdit& rate = child<QLineEdit>(window, "txt_TVA");
+    QComboBox& printer = child<QComboBox>(window, "cbx_Epson");
 
-/// Puts \a rate in the place of what the field holds, key by key.
-inline void typeRate(QWidget& window, const char* rate)
-{
-    auto& field = child<QLineEdit>(window, "txt_TVA");
-    field.selectAll();
-    QTest::keyClick(&field, Qt::Key_Delete);
-    QTest::keyClicks(&field, QString::fromLatin1(rate));
-}
+    /// The statements \a change change the shop before the settings are read.
+    explicit OpenSettings(const QByteArray& change = {})
+        : shop(change)
+    {
+        window.show();
+        if (!QTest::qWaitForWindowActive(&window)) {
+            qFatal("the settings do not become active");
+        }
+    }
 
-/// The rate in the database.
-inline QString storedRate(const Shop& shop)
-{
-    return shop.cell("select valeur from Config where param = 'TVA'");
-}
+    /// Puts \a text in the place of the rate, key by key.
+    void typeRate(const QString& text) const
+    {
+        rate.selectAll();
+        QTest::keyClick(&rate, Qt::Key_Delete);
+        QTest::keyClicks(&rate, text);
+    }
 
-/// The printer's switch in the database.
-inline QString storedSwitch(const Shop& shop)
-{
-    return shop.cell("select valeur from Config where param = 'Epson TM-T20II'");
-}
+    QString storedRate() const
+    {
+        return shop.cell("select valeur from Config where param = 'TVA'");
+    }
+    QString storedSwitch() const
+    {
+        return shop.cell("select valeur from Config where param = 'Epson TM-T20II'");
+    }
+};

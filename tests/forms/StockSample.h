@@ -1,24 +1,40 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/FormVendelSaisieStock.h"
+#include "forms/FormVendelSaisieStockCutPaste.h"
+#include "forms/FormVendelSaisieStockMaj.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
+#include "tests/support/Widgets.h"
 
-#include <QAbstractButton>
 #include <QApplication>
+#include <QTableView>
 #include <QTest>
-#include <QWidget>
 
 /// A shop whose menu sells Café (1) and Thé (2); the stock knows both and Sirop (3), which the menu
 /// no longer sells. Café consumes 7 g of Grains and 1.5 cl of Lait, Sirop 3 cl of Menthe.
 struct StockSample : Shop
 {
-    StockSample()
+    /// The statements \a change change the sample.
+    explicit StockSample(const char* change = "")
     {
-        sql("insert into Article (article, prix) values ('Café', 2), ('Thé', 2.5)");
-        sql("insert into ArticleStock values (1, 'Café'), (2, 'Thé'), (3, 'Sirop')");
-        sql("insert into DoseStock values (10, 1, 'Lait', 1.5, 'cl'), (11, 1, 'Grains', 7, 'g'), "
-            "(12, 3, 'Menthe', 3, 'cl')");
+        fill("insert into Article (article, prix) values ('Café', 2), ('Thé', 2.5);"
+             "insert into ArticleStock values (1, 'Café'), (2, 'Thé'), (3, 'Sirop');"
+             "insert into DoseStock values (10, 1, 'Lait', 1.5, 'cl'), (11, 1, 'Grains', 7, 'g'),"
+             " (12, 3, 'Menthe', 3, 'cl')");
+        fill(change);
+    }
+
+    /// The keys of all lines of recipes.
+    QString lines() const
+    {
+        return cell("select group_concat(idlig) from DoseStock");
+    }
+    /// The keys of all stock articles.
+    QString articles() const
+    {
+        return cell("select group_concat(id) from ArticleStock");
     }
 };
 
@@ -29,39 +45,61 @@ inline bool showActive(QWidget& window)
     return QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; });
 }
 
-/// What the database layer said so far, without what else stands in \a output.
+/// The stock editor of the sample shop, on the screen, its articles listed: Café, Sirop, Thé.
+struct OpenStock : StockSample
+{
+    FormVendelSaisieStock window;
+    QTableView& left = child<QTableView>(window, "tableView1");
+    QTableView& right = child<QTableView>(window, "tableView2");
+
+    explicit OpenStock(const char* change = "")
+        : StockSample(change)
+    {
+        if (!showActive(window)) {
+            qFatal("the stock editor does not become active");
+        }
+        window.Display(true);
+    }
+
+    /// Marks the article in \a row with the mouse.
+    void mark(int row)
+    {
+        clickCell(window, "tableView1", row, 1);
+    }
+};
+
+/// A \a Window of the sample shop that the stock editor opens, on the screen.
+template <class Window> struct OpenOverStock : StockSample
+{
+    FormVendelSaisieStock stock;
+    Window window{&stock};
+
+    explicit OpenOverStock(const char* change = "")
+        : StockSample(change)
+    {
+        if (!showActive(window)) {
+            qFatal("the window does not become active");
+        }
+    }
+};
+
+using OpenUpdate = OpenOverStock<FormVendelSaisieStockMaj>;
+
+/// The transfer window; Sirop alone is listed, at first.
+using OpenTransfer = OpenOverStock<FormVendelSaisieStockCutPaste>;
+
+/// The compositions that the recipe on the right of \a window shows, parted by "|".
+inline QString recipe(QWidget& window)
+{
+    QStringList names;
+    for (int row = 0; row < rowCount(window, "tableView2"); ++row) {
+        names << rowTexts(window, "tableView2", row).at(2);
+    }
+    return names.join('|');
+}
+
+/// What the database layer said so far.
 inline QByteArray diagnostics(CapturedOutput& output)
 {
-    QByteArray lines;
-    const auto written = output.text().split('\n');
-    for (const QByteArray& line : written) {
-        if (line.startsWith("Errors Db::DbLoad")) {
-            lines += line + '\n';
-        }
-    }
-    return lines;
-}
-
-/// Whether any button of \a window is pressed by Return while another widget has the focus.
-inline bool anyAutoDefault(const QWidget& window)
-{
-    const auto buttons = window.findChildren<QAbstractButton*>();
-    for (const auto* button : buttons) {
-        if (button->property("autoDefault").toBool()) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// Whether the shown tip is beside \a cursor (screen pixels).
-inline bool tipIsBeside(QPoint cursor)
-{
-    const auto widgets = QApplication::topLevelWidgets();
-    for (const QWidget* widget : widgets) {
-        if (widget->inherits("QTipLabel") && widget->isVisible()) {
-            return (widget->pos() - cursor).manhattanLength() < 40;
-        }
-    }
-    return false;
+    return output.text();
 }

@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "forms/FormVendelSaisieStock.h"
-#include "forms/FormVendelSaisieStockCutPaste.h"
 #include "tests/forms/OpenArticleEditor.h"
 #include "tests/forms/StockSample.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Widgets.h"
 
-#include <QTableView>
-
-#include <array>
+#include <utility>
 
 namespace {
 void clickFirst(QTableView& list, Qt::KeyboardModifiers modifiers)
 {
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers,
-        list.visualRect(list.model()->index(0, 2)).center());
+    clickCell(*list.window(), qPrintable(list.objectName()), 0, 2, modifiers);
 }
 
 /// Walks with Tab from widget to widget until \a list has the focus.
@@ -28,53 +22,21 @@ void tabInto(QTableView& list)
     }
 }
 
-void ctrlAndClickTwice(QTableView& list)
-{
-    clickFirst(list, Qt::ControlModifier);
-    clickFirst(list, Qt::ControlModifier);
-}
-
-void ctrlAndClickAfterAClick(QTableView& list)
-{
-    clickFirst(list, Qt::NoModifier);
-    clickFirst(list, Qt::ControlModifier);
-}
-
-void ctrlAndSpace(QTableView& list)
-{
-    clickFirst(list, Qt::NoModifier);
-    QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
-}
-
 /// A way to make the first row of a list the current one without marking it.
-struct Way
-{
-    const char* name;
-    void (*unmark)(QTableView& list);
-};
-
-constexpr std::array<Way, 4> ways{
-    {{"Tab into the list", tabInto}, {"twice Ctrl and click", ctrlAndClickTwice},
-        {"a click, then Ctrl and click", ctrlAndClickAfterAClick},
-        {"a click, then Ctrl and space", ctrlAndSpace}}};
-
-void waysToUnmark()
-{
-    QTest::addColumn<std::size_t>("way");
-    for (std::size_t way = 0; way < ways.size(); ++way) {
-        QTest::newRow(ways.at(way).name) << way;
-    }
-}
+using Way = void (*)(QTableView& list);
 
 /// Whether the way of the running row leads to a first row of \a list that is current, not marked.
 bool leadsToAFrameWithoutAMark(QTableView& list)
 {
-    QFETCH(const std::size_t, way);
-    ways.at(way).unmark(list);
+    QFETCH_GLOBAL(const Way, way);
+    way(list);
     return list.hasFocus() && list.currentIndex().row() == 0
         && !list.selectionModel()->hasSelection();
 }
+
+constexpr auto noArticleChosen = "Supprimer: Selectionner un/des article(s) dans le menu";
 } // namespace
+Q_DECLARE_METATYPE(Way)
 
 /// A button means the row that the user has marked, never one that only has the keyboard's frame.
 class TestChosenRow : public QObject
@@ -82,97 +44,69 @@ class TestChosenRow : public QObject
     Q_OBJECT
 
 private slots:
-    void removingAnArticleNeedsAMarkedRow_data()
+    void initTestCase_data()
     {
-        waysToUnmark();
+        QTest::addColumn<Way>("way");
+        QTest::newRow("Tab into the list") << Way(tabInto);
+        QTest::newRow("twice Ctrl and click") << Way([](QTableView& list) {
+            clickFirst(list, Qt::ControlModifier);
+            clickFirst(list, Qt::ControlModifier);
+        });
+        QTest::newRow("a click, then Ctrl and click") << Way([](QTableView& list) {
+            clickFirst(list, Qt::NoModifier);
+            clickFirst(list, Qt::ControlModifier);
+        });
+        QTest::newRow("a click, then Ctrl and space") << Way([](QTableView& list) {
+            clickFirst(list, Qt::NoModifier);
+            QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+        });
     }
 
-    void removingAnArticleNeedsAMarkedRow()
+    void removingOrRenamingAnArticleNeedsAMarkedRow()
     {
-        OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
-        click(editor.window, "btn_Afficher");
-        QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(editor.window, "tableView")));
-        const AnswerBox box(QMessageBox::Yes);
-        click(editor.window, "btn_Supprimer");
-        QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
-        QCOMPARE(box.strays(), 0);
-        QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
-    }
-
-    void renamingAnArticleNeedsAMarkedRow_data()
-    {
-        waysToUnmark();
-    }
-
-    void renamingAnArticleNeedsAMarkedRow()
-    {
-        OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
-        click(editor.window, "btn_Afficher");
-        editor.type("txt_Article", "Eau");
-        editor.type("txt_Montant", "4");
-        QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(editor.window, "tableView")));
-        const AnswerBox box(QMessageBox::Yes);
-        click(editor.window, "btn_Renommer");
-        QCOMPARE(box.text(), QString("Selectionner 1 article dans le menu à renommer"));
-        QCOMPARE(box.strays(), 0);
-        QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
-    }
-
-    void removingAStockArticleNeedsAMarkedRow_data()
-    {
-        waysToUnmark();
+        for (const auto& [button, said] : {std::pair("btn_Supprimer", noArticleChosen),
+                 std::pair(
+                     "btn_Renommer", "Renommer: Selectionner 1 article dans le menu à renommer")}) {
+            OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
+            click(editor.window, "btn_Afficher");
+            editor.type("txt_Article", "Eau");
+            editor.type("txt_Montant", "4");
+            QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(editor.window, "tableView")));
+            QCOMPARE(saidAtClick(editor.window, button, QMessageBox::Yes), QStringList(said));
+            QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
+        }
     }
 
     void removingAStockArticleNeedsAMarkedRow()
     {
-        const StockSample shop;
-        FormVendelSaisieStock stock;
-        QVERIFY(showActive(stock));
-        stock.Display(true);
-        child<QWidget>(stock, "btn_Display").setFocus();
-        QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(stock, "tableView1")));
-        const AnswerBox box(QMessageBox::Yes);
-        click(stock, "btn_Remove");
-        QCOMPARE(box.text(), QString("Selectionner un/des article(s) dans le menu"));
-        QCOMPARE(box.strays(), 0);
-        QCOMPARE(shop.cell("select group_concat(id) from ArticleStock"), QString("1,2,3"));
-    }
-
-    void movingALineNeedsAMarkedRow_data()
-    {
-        waysToUnmark();
+        OpenStock at;
+        child<QWidget>(at.window, "btn_Display").setFocus();
+        QVERIFY(leadsToAFrameWithoutAMark(at.left));
+        QCOMPARE(
+            saidAtClick(at.window, "btn_Remove", QMessageBox::Yes), QStringList(noArticleChosen));
+        QCOMPARE(at.articles(), QString("1,2,3"));
     }
 
     void movingALineNeedsAMarkedRow()
     {
-        const StockSample shop;
-        FormVendelSaisieStockCutPaste window;
-        QVERIFY(showActive(window));
-        clickCell(window, "tableView1", 0, 1);
-        QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(window, "tableView2")));
+        OpenTransfer at;
+        clickCell(at.window, "tableView1", 0, 1);
+        QVERIFY(leadsToAFrameWithoutAMark(child<QTableView>(at.window, "tableView2")));
         const AnswerBox box(QMessageBox::Yes);
-        click(window, "btn_Modify");
-        QCOMPARE(box.text(), QString("Selectionner un/des composition(s) / dose(s) dans la list"));
-        QCOMPARE(box.strays(), 0);
-        QCOMPARE(shop.cell("select id from DoseStock where idlig = 12"), QString("3"));
-    }
-
-    void theDeleteKeyNeedsAMarkedLine_data()
-    {
-        waysToUnmark();
+        click(at.window, "btn_Modify");
+        QCOMPARE(box.said(),
+            QStringList("Modifier: Selectionner un/des composition(s) / dose(s) dans la list"));
+        QVERIFY(box.isNoticeOf(at.window));
+        QCOMPARE(at.cell("select id from DoseStock where idlig = 12"), QString("3"));
     }
 
     void theDeleteKeyNeedsAMarkedLine()
     {
-        const StockSample shop;
-        FormVendelSaisieStock stock;
-        QVERIFY(showActive(stock));
-        stock.Display(true);
-        clickCell(stock, "tableView1", 0, 1);
-        auto& recipe = child<QTableView>(stock, "tableView2");
-        QVERIFY(leadsToAFrameWithoutAMark(recipe));
-        QTest::keyClick(&recipe, Qt::Key_Delete);
-        QCOMPARE(shop.cell("select group_concat(idlig) from DoseStock"), QString("10,11,12"));
+        OpenStock at;
+        at.mark(0);
+        QVERIFY(leadsToAFrameWithoutAMark(at.right));
+        QTest::keyClick(&at.right, Qt::Key_Delete);
+        QCOMPARE(at.lines(), QString("10,11,12"));
     }
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/AnswerBox.h"
 
+#include "tests/support/Widgets.h"
+
 #include <QApplication>
 #include <QPushButton>
 
@@ -44,6 +46,9 @@ void AnswerBox::watch()
     buttons_ = box->standardButtons();
     parent_ = box->parent();
     look_(*box);
+    if (!box->isVisible()) {
+        return;
+    }
     QAbstractButton* button = box->button(button_);
     if (agrees_ && button == nullptr) {
         button = box->button(QMessageBox::Ok);
@@ -53,4 +58,11 @@ void AnswerBox::watch()
     } else {
         box->done(QMessageBox::NoButton);
     }
+}
+
+QStringList saidAtClick(QWidget& window, const char* name, QMessageBox::StandardButton answer)
+{
+    const AnswerBox box(answer);
+    click(window, name);
+    return box.said();
 }

@@ -13,7 +13,8 @@ class AnswerBox
 public:
     using Look = std::function<void(QMessageBox&)>;
 
-    /// Presses \a button on the first box, after \a look has seen it; sends any other away.
+    /// Presses \a button on the first box, after \a look has seen it, unless \a look has closed it;
+    /// sends any other away.
     explicit AnswerBox(
         QMessageBox::StandardButton button = QMessageBox::Ok, Look look = [](QMessageBox&) {});
 
@@ -45,6 +46,16 @@ public:
     {
         return buttons_;
     }
+    /// Whether the last box was a notice of \a window, with OK alone.
+    bool isNoticeOf(const QObject& window) const
+    {
+        return isOf(window, QMessageBox::Ok);
+    }
+    /// Whether the last box was a question of \a window, with Yes and No.
+    bool isQuestionOf(const QObject& window) const
+    {
+        return isOf(window, QMessageBox::Yes | QMessageBox::No);
+    }
     /// The parent window of the first box.
     const QObject* parent() const
     {
@@ -72,6 +83,10 @@ public:
 
 private:
     AnswerBox(QMessageBox::StandardButton button, Look look, bool agrees);
+    bool isOf(const QObject& window, QMessageBox::StandardButtons buttons) const
+    {
+        return icon_ == QMessageBox::Information && parent_ == &window && buttons_ == buttons;
+    }
     void watch();
 
     QMessageBox::StandardButton button_;
@@ -89,3 +104,8 @@ private:
     QMessageBox::StandardButtons buttons_;
     const QObject* parent_ = nullptr;
 };
+
+/// What all boxes said, "title: text" each, when \a answer was pressed on the first one after a
+/// click on the widget \a name of \a window.
+QStringList saidAtClick(
+    QWidget& window, const char* name, QMessageBox::StandardButton answer = QMessageBox::Ok);

@@ -36,10 +36,11 @@ void click(QWidget& window, const char* name)
     QTest::mouseClick(&child<QWidget>(window, name), Qt::LeftButton);
 }
 
-void clickCell(QWidget& window, const char* name, int row, int column)
+void clickCell(
+    QWidget& window, const char* name, int row, int column, Qt::KeyboardModifiers modifiers)
 {
     auto& view = child<QAbstractItemView>(window, name);
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, centreOf(view, row, column));
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, centreOf(view, row, column));
 }
 
 void doubleClickCell(

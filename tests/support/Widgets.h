@@ -23,7 +23,8 @@ template <class Widget> Widget& child(QWidget& window, const char* name)
 void click(QWidget& window, const char* name);
 
 /// Presses and releases the left mouse button once on the cell of the list \a name.
-void clickCell(QWidget& window, const char* name, int row, int column);
+void clickCell(QWidget& window, const char* name, int row, int column,
+    Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 /// Double-clicks the cell of the list \a name, as a mouse does it: press, release, double click,
 /// release.
