@@ -5,7 +5,7 @@
 
 QString clockText(const QDateTime& now, const QString& datePattern)
 {
-    // Dates are typed with the digits of the C locale, whatever the system's are.
+    // Always Western digits, whatever the system's are: dates are typed with them.
     const QLocale digits = QLocale::c();
     QString time = digits.toString(now, QStringLiteral("hh:mm:ss"));
     if (now.time().second() % 2 == 0) {

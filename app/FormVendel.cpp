@@ -23,7 +23,7 @@
 #include "widgets/HoverTip.h"
 #include "widgets/Lists.h"
 #include "widgets/MessageBoxes.h"
-#include "widgets/Windows.h"
+#include "widgets/OpenWindow.h"
 
 #include <QMouseEvent>
 #include <QShowEvent>
@@ -212,7 +212,7 @@ void FormVendel::removeFromTicket(const QModelIndex& index)
     Ticket::remove(textAt(index, SalesLists::TicketKey));
     refreshTicket();
     const int first = std::min(firstInView, modelTicket_->rowCount() - 1);
-    // The first scroll lays the list out, without which the second would find no way to go.
+    // scrollToBottom forces the layout that scrollTo needs.
     ui_->tableView2->scrollToBottom();
     ui_->tableView2->scrollTo(
         modelTicket_->index(first, SalesLists::TicketArticle), QAbstractItemView::PositionAtTop);

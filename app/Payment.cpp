@@ -57,7 +57,8 @@ bool printReceipt()
     }
 }
 
-/// Shows the receipt, or nothing where it should stand; returns whether the customer can read it.
+/// Shows the receipt, or an empty window if it cannot be composed; returns whether the customer can
+/// read it. What fails is logged as the receipt window's, whose work it is.
 bool showReceipt(const std::function<bool(const Receipt&)>& show)
 {
     std::optional<Receipt> receipt;
@@ -83,9 +84,17 @@ void Payment::record()
 
 void Payment::giveReceipt(const std::function<bool(const Receipt&)>& show)
 {
-    const Output where = output();
-    const bool isGiven = (where == Output::Screen && showReceipt(show))
-        || (where == Output::Paper && printReceipt());
+    bool isGiven = false;
+    switch (output()) {
+    case Output::Screen:
+        isGiven = showReceipt(show);
+        break;
+    case Output::Paper:
+        isGiven = printReceipt();
+        break;
+    case Output::None:
+        break;
+    }
     if (isGiven) {
         Ticket::clear();
     }

@@ -16,6 +16,13 @@ namespace {
 using Style = ReceiptLine::Style;
 
 constexpr Texts texts{"FormVendelTicketMessages"};
+const auto& titleLabel = Messages::Messages62;
+const auto& saleLabel = Messages::Messages7;
+const auto& datePattern = Messages::Messages98;
+const auto& headings = Messages::Messages64;
+const auto& sumLabel = Messages::Messages9;
+const auto& taxLabel = Messages::Messages10;
+const auto& grandTotalLabel = Messages::Messages11;
 constexpr int columns = 47;
 constexpr int quantityColumns = 2;
 constexpr int priceColumns = 9;
@@ -56,7 +63,7 @@ public:
         if (!frame) {
             return;
         }
-        const QString titleMark = texts(Messages::Messages62[0]);
+        const QString titleMark = texts(titleLabel[0]);
         const QStringList parts = frame->split(QLatin1Char('\n'));
         for (const QString& line : parts) {
             const QString part = withoutCommands(line);
@@ -72,13 +79,12 @@ public:
     {
         // The system may write other digits, which the printer lacks.
         const QLocale digits = QLocale::c();
-        add(texts(Messages::Messages7[0]) + QLatin1String("\t\t\t     ")
-            + digits.toString(time, texts(Messages::Messages98[0])) + QLatin1Char(' ')
+        add(texts(saleLabel[0]) + QLatin1String("\t\t\t     ")
+            + digits.toString(time, texts(datePattern[0])) + QLatin1Char(' ')
             + digits.toString(time, QStringLiteral("hh:mm:ss")));
         addBlank();
-        const auto& labels = Messages::Messages64;
-        add(texts(labels[0]) + texts(labels[1]) + QLatin1String("\t\t") + texts(labels[2])
-            + QLatin1String("   ") + texts(labels[3]));
+        add(texts(headings[0]) + texts(headings[1]) + QLatin1String("\t\t") + texts(headings[2])
+            + QLatin1String("   ") + texts(headings[3]));
         addBlank();
     }
 
@@ -97,13 +103,12 @@ public:
     void addTotals(const TicketTotals& totals)
     {
         const QLatin1String arrow("->  ");
-        add(arrow + texts(Messages::Messages9[0]) + QLatin1String("\t\t    $") + totals.sum);
+        add(arrow + texts(sumLabel[0]) + QLatin1String("\t\t    $") + totals.sum);
         for (const TicketTotals::Tax& tax : totals.taxes) {
-            add(arrow + texts(Messages::Messages10[0]) + tax.rate + QLatin1String("%\t\t\t    $")
-                + tax.amount);
+            add(arrow + texts(taxLabel[0]) + tax.rate + QLatin1String("%\t\t\t    $") + tax.amount);
         }
         add(QString(48, QLatin1Char('-')));
-        add(arrow + texts(Messages::Messages11[0]) + QLatin1String("\t    $") + totals.grandTotal,
+        add(arrow + texts(grandTotalLabel[0]) + QLatin1String("\t    $") + totals.grandTotal,
             Style::GrandTotal);
     }
 };

@@ -64,7 +64,7 @@ QString shownText(const ReceiptLine& line)
 {
     const bool centred = line.style == Style::Header || line.style == Style::Footer;
     QString text = centred ? QString::fromStdString(centredLine(line.text)) : line.text;
-    // Paper knows a carriage return without a line feed, the window does not.
+    // A lone carriage return means something to the printer only.
     return text.remove(QLatin1Char('\r'));
 }
 

@@ -29,11 +29,11 @@ constexpr QLatin1String bigDay("2022-06-15");
 constexpr double ratioLimit = 1.3;
 constexpr double rowLimitBytes = 1024;
 
-/// Writes sales into the journal in the order of a bar's days.
-class Journal
+/// Writes sales into the history in the order of a bar's days.
+class SoldHistory
 {
 public:
-    Journal()
+    SoldHistory()
     {
         sqlite3* database = nullptr;
         check(sqlite3_open("Vendel.db", &database) == SQLITE_OK, "open");
@@ -47,15 +47,15 @@ public:
             "prepare");
         insert_.reset(insert);
     }
-    ~Journal()
+    ~SoldHistory()
     {
         insert_.reset();
         sqlite3_exec(database_.get(), "commit", nullptr, nullptr, nullptr);
     }
-    Journal(const Journal&) = delete;
-    Journal& operator=(const Journal&) = delete;
-    Journal(Journal&&) = delete;
-    Journal& operator=(Journal&&) = delete;
+    SoldHistory(const SoldHistory&) = delete;
+    SoldHistory& operator=(const SoldHistory&) = delete;
+    SoldHistory(SoldHistory&&) = delete;
+    SoldHistory& operator=(SoldHistory&&) = delete;
 
     void sellThroughDay(const QDate& day, int sales)
     {
@@ -107,16 +107,16 @@ public:
     {
         enter();
         Db::DbCreate();
-        Journal journal;
+        SoldHistory history;
         const QDate between = QDate::fromString(bigDay, Qt::ISODate);
-        journal.sellThroughYear(2021, salesOfAYear / part);
+        history.sellThroughYear(2021, salesOfAYear / part);
         const int others = salesOfTheYearBetween / part - salesOfTheBigDay;
         int day = 0;
         for (QDate date(2022, 1, 1); date.year() == 2022; date = date.addDays(1)) {
-            journal.sellThroughDay(
+            history.sellThroughDay(
                 date, date == between ? salesOfTheBigDay : others / 364 + (day++ < others % 364));
         }
-        journal.sellThroughYear(2023, salesOfAYear / part);
+        history.sellThroughYear(2023, salesOfAYear / part);
     }
     ~Bar()
     {

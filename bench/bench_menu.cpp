@@ -83,7 +83,7 @@ struct Screen
     }
 };
 
-/// Makes the shop's menu one of \a articles, some of them doubled.
+/// Makes the shop's menu one of \a articles, some of them duplicates.
 void fillMenu(int articles)
 {
     Db::DbLoad("delete from Article");
@@ -94,7 +94,7 @@ void fillMenu(int articles)
                    .c_str());
 }
 
-/// A short menu costs less than the box that tells of its doubles, and has no limit.
+/// A short menu costs less than the box about its duplicates, and has no limit.
 void keepLimit(benchmark::State& state, int articles)
 {
     if (articles == mostArticles) {
@@ -139,7 +139,7 @@ void showByFloor(benchmark::State& state, int articles)
         state.SetIterationTime(watch.seconds());
         check(marked.size() == static_cast<std::size_t>(articles / articlesForOneDouble)
                 && count[0][0] == std::to_string(articles / articlesForOneDouble),
-            "doubles");
+            "duplicates");
         screen.empty();
     }
     keepLimit(state, articles);

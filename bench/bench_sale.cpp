@@ -4,7 +4,7 @@
 #include "app/Payment.h"
 #include "bench/Floor.h"
 #include "bench/Support.h"
-#include "widgets/Windows.h"
+#include "widgets/OpenWindow.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -26,11 +26,11 @@ public:
     Fault fault() const;
 
     /// The dates as typed, without the blanks around them.
-    QString first() const
+    QString typedFirst() const
     {
         return first_.typed;
     }
-    QString second() const
+    QString typedSecond() const
     {
         return second_.typed;
     }

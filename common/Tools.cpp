@@ -11,9 +11,9 @@ namespace {
 constexpr int dateLength = 10;
 constexpr int dateTimeLength = 23;
 
-/// The parts of a date in a new order with \a separator between them, a time of day (position 11,
-/// 12 characters) kept behind; a year's journal has 330,000 of them, so each is put together in one
-/// go.
+/// The parts of a date in a new order with \a separator between them; a time of day (12 characters
+/// from position 11) stays behind them. A year's history has 330,000 dates, so each is one
+/// allocation.
 QString reordered(QStringView text, QStringView first, QStringView second, QStringView third,
     QLatin1Char separator)
 {

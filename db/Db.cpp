@@ -14,20 +14,20 @@ namespace {
 constexpr int busyTimeoutMs = 2000;
 
 constexpr std::array<const char*, 9> schema{
-    "CREATE TABLE Article (id integer primary key autoincrement not null, article text COLLATE "
-    "NOCASE not null, prix numeric not null)",
-    "CREATE TABLE ArticleStock (id integer primary key not null, article text COLLATE NOCASE not "
-    "null)",
-    "CREATE TABLE Historique (id integer not null, article text COLLATE NOCASE not null, prix "
-    "numeric not null, date_heure text not null default(strftime('%Y-%m-%d "
-    "%H:%M:%f','now','localtime')))",
-    "CREATE TABLE DoseStock (idlig integer primary key not null, id integer not null, composition "
-    "text COLLATE NOCASE not null, dose numeric not null, unite text not null, constraint "
-    "fk_dosestock foreign key (id) references ArticleStock (id) on delete cascade)",
+    "CREATE TABLE Article (id integer primary key autoincrement not null, "
+    "article text COLLATE NOCASE not null, prix numeric not null)",
+    "CREATE TABLE ArticleStock (id integer primary key not null, "
+    "article text COLLATE NOCASE not null)",
+    "CREATE TABLE Historique (id integer not null, article text COLLATE NOCASE not null, "
+    "prix numeric not null, "
+    "date_heure text not null default(strftime('%Y-%m-%d %H:%M:%f','now','localtime')))",
+    "CREATE TABLE DoseStock (idlig integer primary key not null, id integer not null, "
+    "composition text COLLATE NOCASE not null, dose numeric not null, unite text not null, "
+    "constraint fk_dosestock foreign key (id) references ArticleStock (id) on delete cascade)",
     "CREATE TABLE Config (id integer primary key not null, param text COLLATE NOCASE not null, "
     "valeur numeric not null)",
-    "CREATE TABLE Ticket (idlig integer primary key not null, id integer not null, article text "
-    "COLLATE NOCASE not null, prix numeric not null)",
+    "CREATE TABLE Ticket (idlig integer primary key not null, id integer not null, "
+    "article text COLLATE NOCASE not null, prix numeric not null)",
     "CREATE INDEX date_heure_index on Historique (date_heure)",
     "insert into Config (param,valeur) values ('TVA',0)",
     "insert into Config (param,valeur) values ('Epson TM-T20II',0)",

@@ -10,7 +10,7 @@
 #include "ui_FormVendelConfig.h"
 #include "widgets/Captions.h"
 #include "widgets/MessageBoxes.h"
-#include "widgets/Windows.h"
+#include "widgets/OpenWindow.h"
 
 namespace {
 enum PrinterSwitch

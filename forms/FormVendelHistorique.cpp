@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelHistorique.h"
 
+#include "common/Memo.h"
 #include "common/Messages.h"
 #include "common/Money.h"
 #include "common/SlotGuard.h"
@@ -12,9 +13,8 @@
 #include "widgets/HoverTip.h"
 #include "widgets/Lists.h"
 #include "widgets/MessageBoxes.h"
-#include "widgets/Windows.h"
+#include "widgets/OpenWindow.h"
 
-#include <QHash>
 #include <QStandardItemModel>
 
 #include <utility>
@@ -54,22 +54,6 @@ QString totalMark()
 {
     return QStringLiteral("<-");
 }
-
-/// Shown texts by their stored ones. Cells that show the same share one string: the sales of a year
-/// name some forty articles at some forty prices.
-class CellTexts
-{
-public:
-    const QString& operator()(const QString& stored)
-    {
-        const auto known = shown_.constFind(stored);
-        return known != shown_.constEnd() ? *known
-                                          : *shown_.insert(stored, formatExactCell(stored));
-    }
-
-private:
-    QHash<QString, QString> shown_;
-};
 
 const std::array<std::string, 2>& refusalOf(Period::Fault fault)
 {
@@ -138,8 +122,8 @@ bool FormVendelHistorique::ValidDate()
     bool isValid = false;
     guarded("FormVendelHistorique ValidDate", [&] {
         const Period period = typedPeriod();
-        ui_->txt_First_Date->setText(period.first());
-        ui_->txt_Second_Date->setText(period.second());
+        ui_->txt_First_Date->setText(period.typedFirst());
+        ui_->txt_Second_Date->setText(period.typedSecond());
         const Period::Fault fault = period.fault();
         isValid = fault == Period::Fault::None || fault == Period::Fault::SameDay;
         if (!isValid) {
@@ -164,7 +148,8 @@ std::optional<FormVendelHistorique::Sales> FormVendelHistorique::salesOfPeriod()
     std::vector<SoldLine> lines = History::lines(period);
     if (lines.empty()) {
         const auto& message = noSales;
-        notice(this, texts(message[0]) + period.first() + texts(message[1]) + period.second(),
+        notice(this,
+            texts(message[0]) + period.typedFirst() + texts(message[1]) + period.typedSecond(),
             texts(message[2]));
         return std::nullopt;
     }
@@ -210,7 +195,7 @@ void FormVendelHistorique::Display_History()
 void FormVendelHistorique::showSales(const Sales& sales)
 {
     clearList(*modelSales_);
-    CellTexts shown;
+    Memo shown(&formatExactCell);
     appendRows(*ui_->tableView1, *modelSales_, sales.lines, [&shown](const SoldLine& line) {
         return QStringList{
             shown(line.article), shown(line.price), Tools::ConvDate::ToUs_mdy(line.moment)};
@@ -289,7 +274,8 @@ void FormVendelHistorique::purge()
     }
     const Period period = typedPeriod();
     const auto& question = purgeQuestion;
-    if (!confirm(this, texts(question[0]) + period.first() + texts(question[1]) + period.second(),
+    if (!confirm(this,
+            texts(question[0]) + period.typedFirst() + texts(question[1]) + period.typedSecond(),
             texts(question[2]))) {
         return;
     }

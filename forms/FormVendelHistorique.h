@@ -16,7 +16,7 @@ class QStandardItemModel;
 class QTableView;
 class Ui_FormVendelHistorique;
 
-/// The sales journal: the days with sales, the sales of a period line by line and grouped, their
+/// The history of sales: the days with sales, the sales of a period line by line and grouped, their
 /// total, their purge, and the way to the stock windows.
 class FormVendelHistorique : public QDialog
 {

@@ -14,7 +14,7 @@
 
 class Ui_FormVendelSaisieArticle;
 
-/// The editor of the menu's articles: shows and searches them, marks doubled names, adds, renames
+/// The editor of the menu's articles: shows and searches them, marks duplicate names, adds, renames
 /// and removes.
 class FormVendelSaisieArticle : public QDialog
 {

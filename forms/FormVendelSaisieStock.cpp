@@ -15,7 +15,7 @@
 #include "widgets/Lists.h"
 #include "widgets/Marks.h"
 #include "widgets/MessageBoxes.h"
-#include "widgets/Windows.h"
+#include "widgets/OpenWindow.h"
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockMessages"};

@@ -106,7 +106,7 @@ check_clazy() {
 }
 
 check_cppcheck() {
-    # Texts are taken by value where the product says so.
+    # Texts are taken by value where an interface is fixed.
     tracked '*.cpp' | cppcheck --quiet --error-exitcode=1 --inline-suppr --std=c++20 \
         --language=c++ --library=qt --enable=warning,performance,portability \
         --suppress=missingIncludeSystem --suppress=passedByValue \

@@ -71,7 +71,7 @@ if [ "$sales" -eq 0 ]; then
 fi
 
 say "Bad days"
-ctest --test-dir "$build" --output-on-failure -R '_failures' \
+ctest --test-dir "$build" --output-on-failure --no-tests=error -R '_failures' \
     >"$out/bad-days.log" 2>&1 || { cat "$out/bad-days.log" >&2 && fail "a bad day ended badly"; }
 tail -n 3 "$out/bad-days.log" | head -n 1
 

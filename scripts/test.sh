@@ -20,7 +20,7 @@ done
 groups=(build run test)
 presets=(release)
 if $all; then
-    groups+=(lint qt6)
+    groups+=(lint qt6 bench)
     presets+=(analysis asan qt6)
 fi
 

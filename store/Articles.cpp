@@ -15,14 +15,17 @@ std::vector<Article> read(DbRows rows)
 /// Counts the surplus rows to which \a condition applies as well.
 std::optional<int> countWhere(const QString& condition)
 {
-    const DbRows rows = Rows::load(
-        QLatin1String("select sum(z.art) as som from (select count(d.article) as art, d.article "
-                      "from (select b.article,b.id from (select article,max(id) from Article "
-                      "group by article having count(article) > 1) as t, Article as b where "
-                      "t.article = b.article")
-        + condition
-        + QLatin1String(") as d where d.id not in (select max(id) as id from Article group by "
-                        "article having count(article) > 1) group by article) as z"));
+    const DbRows rows
+        = Rows::load(QLatin1String("select sum(z.art) as som "
+                                   "from (select count(d.article) as art, d.article "
+                                   "from (select b.article,b.id "
+                                   "from (select article,max(id) from Article "
+                                   "group by article having count(article) > 1) as t, Article as b "
+                                   "where t.article = b.article")
+            + condition
+            + QLatin1String(") as d where d.id not in (select max(id) as id from Article "
+                            "group by article having count(article) > 1) "
+                            "group by article) as z"));
     const std::string& sum = rows.at(0).at(0);
     return sum.empty() ? std::nullopt : std::optional<int>(std::stoi(sum));
 }
@@ -70,11 +73,12 @@ std::optional<int> Articles::countDuplicatesLike(const QString& term)
 
 std::vector<int> Articles::duplicateIds()
 {
-    return Rows::values(
-        Db::DbLoad(
-            "select d.id, d.article from (select b.article,b.id from (select article,max(id) from "
-            "Article group by article having count(article) > 1) as t, Article as b where "
-            "t.article = b.article) as d where d.id not in (select max(id) as id from Article "
-            "group by article having count(article) > 1)"),
+    return Rows::values(Db::DbLoad("select d.id, d.article "
+                                   "from (select b.article,b.id "
+                                   "from (select article,max(id) from Article "
+                                   "group by article having count(article) > 1) as t, Article as b "
+                                   "where t.article = b.article) as d "
+                                   "where d.id not in (select max(id) as id from Article "
+                                   "group by article having count(article) > 1)"),
         [](const Rows::Row& row) { return std::stoi(row.at(0)); });
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "store/History.h"
 
+#include "common/Memo.h"
 #include "common/Tools.h"
 #include "store/Rows.h"
 
 #include <algorithm>
 #include <iterator>
-#include <unordered_map>
 
 namespace {
 /// \a sql with the bounds of \a period for its "%1" and "%2".
@@ -22,23 +22,6 @@ std::string insertion(const TicketLine& line)
         + line.price + QLatin1String(")");
     return sql.toStdString();
 }
-
-/// Texts by what is stored: the sales of a year name some forty articles at some forty prices.
-class SharedTexts
-{
-public:
-    const QString& operator()(const std::string& stored)
-    {
-        const auto [entry, isNew] = texts_.try_emplace(stored);
-        if (isNew) {
-            entry->second = QString::fromStdString(stored);
-        }
-        return entry->second;
-    }
-
-private:
-    std::unordered_map<std::string, QString> texts_;
-};
 } // namespace
 
 bool History::record(const std::vector<TicketLine>& lines)
@@ -57,7 +40,7 @@ std::vector<QString> History::days()
 
 std::vector<SoldLine> History::lines(const Period& period)
 {
-    SharedTexts shared;
+    Memo shared(&QString::fromStdString);
     return Rows::values(load("select * from Historique where date_heure between '%1' and '%2' "
                              "order by date_heure asc",
                             period),
@@ -69,9 +52,9 @@ std::vector<SoldLine> History::lines(const Period& period)
 std::vector<SoldGroup> History::groups(const Period& period)
 {
     return Rows::values(
-        load("select distinct compte, article, prix, compte * prix as calcul from (select distinct "
-             "count(article) as compte, article, prix from Historique where date_heure between "
-             "'%1' and '%2' group by article, prix)",
+        load("select distinct compte, article, prix, compte * prix as calcul "
+             "from (select distinct count(article) as compte, article, prix from Historique "
+             "where date_heure between '%1' and '%2' group by article, prix)",
             period),
         [](const Rows::Row& row) {
             return SoldGroup{

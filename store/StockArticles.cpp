@@ -19,10 +19,9 @@ std::vector<StockArticle> StockArticles::all()
 
 std::vector<StockArticle> StockArticles::withdrawn()
 {
-    return read(
-        Db::DbLoad("select ArticleStock.id, ArticleStock.article from ArticleStock left join "
-                   "Article on ArticleStock.id = Article.id where Article.id is null order by "
-                   "ArticleStock.article"));
+    return read(Db::DbLoad("select ArticleStock.id, ArticleStock.article from ArticleStock "
+                           "left join Article on ArticleStock.id = Article.id "
+                           "where Article.id is null order by ArticleStock.article"));
 }
 
 std::vector<int> StockArticles::withdrawnIds()

@@ -62,7 +62,7 @@ void setUpList(QTableView& view, QStandardItemModel& model, const Texts& texts,
         QStringLiteral("alternate-background-color: LightBlue;background-color: White"));
     view.setAlternatingRowColors(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
-    // A row has one line: broken at its first comma, a wide amount would lose all behind it.
+    // Rows are one line high: word wrap would hide what follows a comma.
     view.setWordWrap(false);
     // Tab walks through the window; the arrow keys walk through the list.
     view.setTabKeyNavigation(false);

@@ -40,7 +40,7 @@ answer Supprimer Non article-removal
 expect "after a no" "$(ask "select count(*) from Article where article = 'Limonade'")" 2
 press FormVendelSaisieArticle btn_Supprimer
 answer Supprimer Oui
-await_rows "the doubled article is gone" \
+await_rows "the duplicate article is gone" \
     "select group_concat(prix) from Article where article = 'Limonade'" "2.9"
 leave FormVendelSaisieArticle
 

@@ -5,7 +5,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
-#include "widgets/Windows.h"
+#include "widgets/OpenWindow.h"
 
 #include <QFontInfo>
 #include <QPointer>

@@ -4,7 +4,7 @@
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
-#include "widgets/Windows.h"
+#include "widgets/OpenWindow.h"
 
 #include <QAction>
 #include <QElapsedTimer>

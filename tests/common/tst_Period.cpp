@@ -109,8 +109,8 @@ private slots:
     {
         const Period period(QString("  05/01/2019 "), QString("\t05/02/2019\n"));
         QCOMPARE(period.fault(), Period::Fault::None);
-        QCOMPARE(period.first(), QString("05/01/2019"));
-        QCOMPARE(period.second(), QString("05/02/2019"));
+        QCOMPARE(period.typedFirst(), QString("05/01/2019"));
+        QCOMPARE(period.typedSecond(), QString("05/02/2019"));
         QCOMPARE(period.to(), QString("2019-05-02"));
     }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/TestProgram.h"
-#include "widgets/Windows.h"
+#include "widgets/OpenWindow.h"
 
 #include <QDialog>
 #include <QPointer>

@@ -3,8 +3,8 @@
 
 #include <QWidget>
 
-/// Opens a window on top of \a opener; it is deleted when it is closed, since nothing keeps a
-/// pointer to it for long. \a arguments go to the window's constructor in front of its parent.
+/// Opens a window on top of \a opener, which owns it; it is deleted when it is closed, so the pointer
+/// that is returned is for the moment. \a arguments go to the window's constructor in front of its parent.
 template <class Window, class... Arguments>
 Window* openWindow(QWidget* opener, const Arguments&... arguments)
 {
