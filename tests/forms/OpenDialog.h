@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/AnswerBox.h"
+#include "tests/support/ListLook.h"
 #include "tests/support/Shop.h"
 #include "tests/support/Widgets.h"
 
@@ -14,16 +15,6 @@
 #include <QToolTip>
 
 #include <string>
-
-/// The rows of the list \a name, cells parted by "|", those of hidden columns included.
-inline QStringList rows(QWidget& window, const char* name)
-{
-    QStringList texts;
-    for (int row = 0; row < rowCount(window, name); ++row) {
-        texts << rowTexts(window, name, row).join('|');
-    }
-    return texts;
-}
 
 /// A dialog on the screen, in a shop of its own that the statements \a sql fill.
 template <class Window> class OpenDialog

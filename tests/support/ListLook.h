@@ -10,12 +10,6 @@
 
 #include <vector>
 
-/// \a texts as a list, for comparing rows and labels.
-inline QStringList cells(const QStringList& texts)
-{
-    return texts;
-}
-
 /// The rows of the list \a name, cells parted by "|", those of hidden columns included.
 inline QStringList rows(QWidget& window, const char* name)
 {
