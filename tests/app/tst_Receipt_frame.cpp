@@ -45,6 +45,7 @@ QByteArray printedFooter(const QByteArray& file)
 }
 } // namespace
 
+/// The texts above and below a sale.
 class TestReceiptFrame : public QObject
 {
     Q_OBJECT
@@ -76,10 +77,9 @@ private slots:
         row("47 bytes", line47, boldLine(line47));
         row("48 bytes", line48, boldLine(line48));
         row("49 bytes", line49, boldLine(""));
-        row("44 letters and 4 accented ones",
-            QByteArray(40, 'x') + "\xc3\xa9\xc3\xa9\xc3\xa9\xc3\xa9",
+        row("44 letters and 4 accented ones", QByteArray(40, 'x') + "éééé",
             boldLine(QByteArray(40, 'x') + "\x82\x82\x82\x82"));
-        row("24 accented letters and one more byte", QByteArray("\xc3\xa9").repeated(24) + "x",
+        row("24 accented letters and one more byte", QByteArray("é").repeated(24) + "x",
             boldLine(""));
         row("a title with a second colon", "titre:Ouvert : 8 h", titleLine("Ouvert "));
         row("an empty title", "titre:", titleLine(""));
@@ -103,10 +103,9 @@ private slots:
         row("a NUL at the start of a line", QByteArray("ab\n\0cd", 6),
             boldLine("                      ab                      ") + boldLine(blank46));
         row("a NUL at the start", QByteArray("\0ab", 3), boldLine(blank46));
-        row("a euro sign", "3 \xe2\x82\xac",
-            boldLine("                     3 \xd5                     "));
-        row("a euro sign in a title", "titre:3 \xe2\x82\xac", titleLine("3 \xd5"));
-        row("accents", "\xc3\x80 bient\xc3\xb4t",
+        row("a euro sign", "3 €", boldLine("                     3 \xd5                     "));
+        row("a euro sign in a title", "titre:3 €", titleLine("3 \xd5"));
+        row("accents", "À bientôt",
             boldLine("                  \xb7 bient\x93t                  "));
         row("a tab", "a\tb", boldLine("                      a\tb                      "));
         row("a command that changes the printer's settings", "a\x1d(E\x03z",
@@ -133,21 +132,20 @@ private slots:
     {
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("a plain line") << QByteArray(
-            "Merci !") << QByteArray("                    Merci !                    \r\n");
+        const auto row = [](const char* name, const QByteArray& file, const QByteArray& bytes) {
+            QTest::newRow(name) << file << bytes + "\r\n";
+        };
+        row("a plain line", "Merci !", "                    Merci !                    ");
+        row("an empty line and the file's last line end", "\na\n",
+            blank46 + "\r\n                       a                       \r\n" + blank46);
+        row("48 bytes", QByteArray(48, 'x'), QByteArray(48, 'x'));
+        row("49 bytes", QByteArray(49, 'x'), "");
+        row("a carriage return", "ab\r\n",
+            "                      ab\r                      \r\n" + blank46);
+        row("a command", "a\x1bp0z", "                     a p0z                     ");
+        row("a NUL", QByteArray("ab\0cd", 5), "                      ab                      ");
         QTest::newRow("a title is big as in a header")
             << QByteArray("titre:Merci") << titleLine("Merci");
-        QTest::newRow("an empty line and the file's last line end") << QByteArray("\na\n")
-                                                                    << blank46
-                + "\r\n                       a                       \r\n" + blank46 + "\r\n";
-        QTest::newRow("48 bytes") << QByteArray(48, 'x') << QByteArray(48, 'x') + "\r\n";
-        QTest::newRow("49 bytes") << QByteArray(49, 'x') << QByteArray("\r\n");
-        QTest::newRow("a carriage return") << QByteArray(
-            "ab\r\n") << "                      ab\r                      \r\n" + blank46 + "\r\n";
-        QTest::newRow("a command") << QByteArray(
-            "a\x1bp0z") << QByteArray("                     a p0z                     \r\n");
-        QTest::newRow("a NUL") << QByteArray("ab\0cd", 5)
-                               << QByteArray("                      ab                      \r\n");
     }
 
     void aFooterHasTheseBytes()
@@ -170,7 +168,7 @@ private slots:
     void aFolderInAFilesPlaceIsNothing()
     {
         const Shop shop;
-        QVERIFY(QDir().mkdir(QString("EnteteFormulaire.dat")));
+        QVERIFY(QDir().mkdir("EnteteFormulaire.dat"));
         QVERIFY(printedReceipt().startsWith("\r\n\r\nProduit"));
     }
 
@@ -199,12 +197,11 @@ private slots:
     void aCharacterThatThePrinterLacksIsNotPrinted_data()
     {
         QTest::addColumn<QByteArray>("text");
-        QTest::newRow("a ligature") << QByteArray("c\xc5\x93ur");
-        QTest::newRow("an emoji") << QByteArray("\xf0\x9f\x8d\xba");
-        QTest::newRow("Arabic") << QByteArray("\xd9\x82\xd9\x87\xd9\x88\xd8\xa9");
-        QTest::newRow("a right-to-left mark") << QByteArray("a\xe2\x80\x8f");
-        QTest::newRow("a curly quote") << QByteArray("l\xe2\x80\x99"
-                                                     "eau");
+        QTest::newRow("a ligature") << QByteArray("cœur");
+        QTest::newRow("an emoji") << QByteArray("🍺");
+        QTest::newRow("Arabic") << QByteArray("قهوة");
+        QTest::newRow("a right-to-left mark") << QByteArray("a\u200f");
+        QTest::newRow("a curly quote") << QByteArray("l’eau");
     }
 
     void aCharacterThatThePrinterLacksIsNotPrinted()
@@ -214,7 +211,7 @@ private slots:
         QVERIFY_EXCEPTION_THROWN(printedHeader("titre:" + text), std::runtime_error);
         QVERIFY_EXCEPTION_THROWN(printedFooter(text), std::runtime_error);
         const Shop shop;
-        putOnTicket(shop, text.constData(), "1");
+        putOnTicket(shop, text, "1");
         QVERIFY_EXCEPTION_THROWN(printedReceipt(), std::runtime_error);
     }
 
@@ -231,4 +228,4 @@ private slots:
 };
 
 VENDEL_TEST(TestReceiptFrame)
-#include "tst_ReceiptFrame.moc"
+#include "tst_Receipt_frame.moc"

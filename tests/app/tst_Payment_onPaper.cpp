@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: MIT
+#include "Print/escpospp/Printer.h"
+#include "tests/app/PrintedReceipt.h"
+#include "tests/app/Till.h"
+#include "tests/support/AnswerBox.h"
+#include "tests/support/Captured.h"
+#include "tests/support/EmulatedPrinter.h"
+#include "tests/support/TestProgram.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <functional>
+
+#include <dlfcn.h>
+#include <libusb.h>
+
+namespace {
+std::function<void()> onTransfer = [] {};
+
+/// The bytes of the first receipt.
+QByteArray firstReceipt(const EmulatedPrinter& printer)
+{
+    return QByteArray::fromStdString(printer.transfers().at(0).bytes);
+}
+} // namespace
+
+/// The library's, watched.
+extern "C" int LIBUSB_CALL libusb_bulk_transfer(libusb_device_handle* handle,
+    unsigned char endpoint, unsigned char* data, int length, int* transferred, unsigned timeout)
+{
+    onTransfer();
+    static const auto own = reinterpret_cast<decltype(&libusb_bulk_transfer)>(
+        dlsym(RTLD_NEXT, "libusb_bulk_transfer"));
+    return own(handle, endpoint, data, length, transferred, timeout);
+}
+
+/// A sale whose receipt is printed.
+class TestPaymentOnPaper : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup()
+    {
+        onTransfer = [] {};
+    }
+
+    void aReceiptIsOneTransferAndACut()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        CapturedOutput output;
+        const AnswerBox box;
+        till.run("update Config set valeur = 20 where param = 'TVA'");
+        writeHeader(till.shop, "titre:Chez Paul");
+        writeFooter(till.shop, "3 \xe2\x82\xac");
+        till.sell("Thé", "2.5");
+        till.sell("Thé", "2.5");
+        till.sellOnPaper();
+        QCOMPARE(printer.transfers().size(), 2U);
+        QByteArray receipt = firstReceipt(printer);
+        receipt.replace(receipt.indexOf("     ") + 5, 19, "05/03/2024 09:07:03");
+        COMPARE_BYTES(receipt,
+            "\x1b\x21\x30\x1b\x61\x01"
+            "Chez Paul\r\n"
+            "\x1b\x21\x02\x1b\x61\x30"
+            "\r\n"
+            "\r\n"
+            "Produit\t\t\t     05/03/2024 09:07:03\r\n"
+            "\r\n"
+            "Qtit\x82  Article\t\tPrix U   Prix * Qtit\x82\r\n"
+            "\r\n"
+            "3  Th\x82           \t$2.50       $7.50\r\n"
+            "\r\n"
+            "->  Total ticket\t\t    $7.50\r\n"
+            "->  TVA 20.00%\t\t\t    $1.50\r\n"
+            "------------------------------------------------\r\n"
+            "\x1b\x21\x20\x1b\x45\x01"
+            "->  TOTAL \t    $9.01\r\n"
+            "\x1b\x45\x02\x1b\x21\x02"
+            "\r\n"
+            "                     3 \xd5                     \r\n");
+        QCOMPARE(printer.transfers().at(1).bytes, std::string("\x1d\x56\x41\x96"));
+        QCOMPARE(output.text(), QByteArray());
+        QVERIFY(!box.wasShown());
+        QVERIFY(till.receipt() == nullptr);
+    }
+
+    void aReceiptBearsTheTimeOfTheSale()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+        till.sellOnPaper();
+        const QDateTime after = QDateTime::currentDateTime();
+        const QRegularExpression pattern("Produit\t\t\t     ([^\r]*)\r\n\r\n");
+        const QString shown = pattern.match(QString::fromLatin1(firstReceipt(printer))).captured(1);
+        const QDateTime time = QDateTime::fromString(shown, "dd/MM/yyyy hh:mm:ss");
+        QVERIFY2(time >= before && time <= after, qPrintable(shown));
+    }
+
+    void controlCharactersAreBlanks()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        till.setSwitch("1");
+        writeHeader(till.shop, "titre:Chez\x1bp0 Paul\n12\x1drue X");
+        writeFooter(till.shop, "Merci\x7f!");
+        till.sell("\x1bp0zz", "2.5");
+        till.pay();
+        QCOMPARE(printer.transfers().size(), 2U);
+        const QByteArray bytes = firstReceipt(printer);
+        QVERIFY(bytes.startsWith("\x1b\x21\x30\x1b\x61\x01"
+                                 "Chez p0 Paul\r\n\x1b\x21\x02\x1b\x61\x30\x1b\x45\x01"
+                                 "                   12 rue X                   \r\n\x1b\x45\x02"));
+        QVERIFY(bytes.contains("\r\n1   p0zz          \t$2.50       $2.50\r\n"));
+        QVERIFY(bytes.endsWith("\r\n                    Merci !                    \r\n"));
+        QCOMPARE(till.history(), QStringList("7 \x1bp0zz 2.5"));
+    }
+
+    void aNameOfTenThousandLettersIsPrinted()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        till.setSwitch("1");
+        till.sell(QByteArray(10'000, 'x'), "2.5");
+        till.pay();
+        QCOMPARE(printer.transfers().size(), 2U);
+        QVERIFY(firstReceipt(printer).contains(
+            "\r\n1  " + QByteArray(10'000, 'x') + "\t$2.50       $2.50\r\n"));
+        QCOMPARE(till.ticket(), QStringList());
+    }
+
+    void aHeaderOfAMegabyteIsPrinted()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        writeHeader(till.shop, QByteArray("123456789\n").repeated(100'000));
+        CapturedOutput output;
+        till.sellOnPaper();
+        QCOMPARE(output.text(), QByteArray());
+        QCOMPARE(printer.transfers().size(), 2U);
+        const EmulatedTransfer receipt = printer.transfers().at(0);
+        QCOMPARE(receipt.result, std::string("taken"));
+        QCOMPARE(receipt.bytes.size(), receipt.requested);
+        // 55 bytes for each line: 47 columns, the line's end, and emphasis on and off.
+        QVERIFY(receipt.requested > 55 * 100'000U);
+        QCOMPARE(till.ticket(), QStringList());
+        QVERIFY(till.sellsOnScreen());
+    }
+
+    void aPrintedSaleEmptiesTicketAndList()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        till.sellOnPaper();
+        QCOMPARE(till.ticket(), QStringList());
+        QCOMPARE(till.shownLines(), 0);
+        QCOMPARE(till.history(), QStringList("7 Thé 2.5"));
+        const AnswerBox box;
+        till.pay();
+        QCOMPARE(box.text(), QString("Le ticket est vide"));
+        QCOMPARE(printer.transfers().size(), 2U);
+        QVERIFY(till.sellsOnScreen());
+    }
+
+    void theTicketIsEmptiedBehindTheCut()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        QStringList seen;
+        onTransfer = [&] {
+            seen << QString("%1 sold, %2 shown, %3 recorded")
+                        .arg(till.ticket().size())
+                        .arg(till.shownLines())
+                        .arg(till.history().size());
+        };
+        till.sellOnPaper();
+        onTransfer = [] {};
+        const QString line = "1 sold, 0 shown, 1 recorded";
+        QCOMPARE(seen, QStringList({line, line}));
+        QCOMPARE(till.ticket(), QStringList());
+    }
+
+    void anotherIntOfThePrinterIsIgnored()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        const CapturedLog log;
+        const AnswerBox box;
+        onTransfer = [] { throw -2; };
+        till.sellOnPaper();
+        QVERIFY(!box.wasShown());
+        QCOMPARE(log.criticals(), QStringList());
+        QCOMPARE(till.ticket(), QStringList("Thé 2.5"));
+    }
+
+    void thePrinterStaysHeldBetweenSales()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        till.sellOnPaper();
+        const Printer* held = Printer::getPrinter();
+        QVERIFY(held != nullptr);
+        till.sellOnPaper();
+        QVERIFY(till.sellsOnScreen());
+        till.sellOnPaper();
+        QCOMPARE(Printer::getPrinter(), held);
+        using Words = std::vector<std::string>;
+        Words conversation = printer.conversation();
+        std::erase(conversation, "0 taken");
+        QCOMPARE(conversation, (Words{"0 open", "0 claim"}));
+        QCOMPARE(printer.transfers().size(), 6U);
+        QCOMPARE(till.history().size(), 4);
+    }
+
+    void theFirstOfTwoPrintersPrints()
+    {
+        const EmulatedPrinter printer({.devices = {"04b8:0202", "04b8:0e15", "04b8:0e15"}});
+        Till till;
+        till.sellOnPaper();
+        QCOMPARE(printer.transfers().size(), 2U);
+        const int device = printer.transfers().at(0).device;
+        QVERIFY(device == 1 || device == 2);
+        QCOMPARE(printer.transfers().at(1).device, device);
+        QCOMPARE(till.ticket(), QStringList());
+    }
+
+    void theKernelsDriverIsDetached()
+    {
+        const EmulatedPrinter printer({.kernelDriver = true});
+        Till till;
+        CapturedOutput output;
+        till.sellOnPaper();
+        till.sellOnPaper();
+        QCOMPARE(output.text(), QByteArray("Kernel Driver Active\nKernel Driver Detached!\n"));
+        QCOMPARE(printer.transfers().size(), 4U);
+        QCOMPARE(till.ticket(), QStringList());
+    }
+
+    void twoQuickPressesAreOneReceipt()
+    {
+        const EmulatedPrinter printer;
+        Till till;
+        const AnswerBox box;
+        till.setSwitch("1");
+        till.sell("Thé", "2.5");
+        const auto& button = child<QWidget>(till.window, "btn_Payer");
+        QTest::mouseDClick(till.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+            button.mapTo(&till.window, button.rect().center()));
+        QCOMPARE(printer.transfers().size(), 2U);
+        QCOMPARE(till.history(), QStringList("7 Thé 2.5"));
+        QCOMPARE(box.texts(), QStringList("Le ticket est vide"));
+    }
+};
+
+VENDEL_TEST(TestPaymentOnPaper)
+#include "tst_Payment_onPaper.moc"
