@@ -191,7 +191,7 @@ private slots:
         QTest::newRow("unplugged during the receipt")
             << QByteArray("unplug-during 10") << 10 << writeError + writeError << gone << 3;
         QTest::newRow("unplugged before the cut")
-            << QByteArray("unplug-after 1") << 264 << writeError << gone << 3;
+            << QByteArray("unplug-after 1") << 264 << writeError << gone << 4;
         QTest::newRow("a stall") << QByteArray("stall") << 0 << writeError << stillThere << 4;
         QTest::newRow("a short write")
             << QByteArray("short-write 20") << 20 << writeError << stillThere << 4;

@@ -9,14 +9,14 @@ class TestPeriod : public QObject
     Q_OBJECT
 
 private slots:
-    void twoDatesAreAPeriodOrNamed_data()
+    void twoDatesAreAPeriodOrHaveAFault_data()
     {
         using Fault = Period::Fault;
         QTest::addColumn<QString>("first");
         QTest::addColumn<QString>("second");
         QTest::addColumn<Fault>("fault");
         const auto row = [](const char* name, const char* first, const char* second, Fault fault) {
-            QTest::newRow(name) << QString::fromUtf8(first) << QString::fromUtf8(second) << fault;
+            QTest::newRow(name) << first << second << fault;
         };
         row("both empty", "", "", Fault::Length);
         row("first empty", "", "05/02/2019", Fault::Length);
@@ -63,7 +63,7 @@ private slots:
         row("all years", "01/01/0001", "12/31/9999", Fault::None);
     }
 
-    void twoDatesAreAPeriodOrNamed()
+    void twoDatesAreAPeriodOrHaveAFault()
     {
         QFETCH(QString, first);
         QFETCH(QString, second);
@@ -71,43 +71,35 @@ private slots:
         QCOMPARE(Period(first, second).fault(), fault);
     }
 
-    void everyHourOfAClockChangeIsADate_data()
-    {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
-        QTest::newRow("put forward")
-            << QString("03/31/2019 02:30:00.000") << QString("03/31/2019 02:59:59.999");
-        QTest::newRow("put back") << QString("10/27/2019 02:30:00.000")
-                                  << QString("10/27/2019 02:59:59.999");
-        QTest::newRow("around it")
-            << QString("03/31/2019 01:59:59.999") << QString("03/31/2019 03:00:00.000");
-    }
-
     void everyHourOfAClockChangeIsADate()
     {
-        QFETCH(QString, first);
-        QFETCH(QString, second);
-        QCOMPARE(Period(first, second).fault(), Period::Fault::None);
-        QCOMPARE(Period(second, first).fault(), Period::Fault::BackwardsInTime);
+        for (const auto& [first, second] : {
+                 std::pair{"03/31/2019 02:30:00.000", "03/31/2019 02:59:59.999"},
+                 {"10/27/2019 02:30:00.000", "10/27/2019 02:59:59.999"},
+                 {"03/31/2019 01:59:59.999", "03/31/2019 03:00:00.000"},
+             }) {
+            QVERIFY2(Period(first, second).fault() == Period::Fault::None, first);
+            QVERIFY2(Period(second, first).fault() == Period::Fault::BackwardsInTime, first);
+        }
     }
 
     void boundsAreInTheStoredForm()
     {
-        const Period period(QString("05/01/2019"), QString("12/31/2020"));
+        const Period period("05/01/2019", "12/31/2020");
         QCOMPARE(period.from(), QString("2019-05-01"));
         QCOMPARE(period.to(), QString("2020-12-31"));
     }
 
     void aMomentKeepsItsTimeOfDay()
     {
-        const Period period(QString("05/01/2019 01:02:03.004"), QString("05/01/2019 23:59:59.999"));
+        const Period period("05/01/2019 01:02:03.004", "05/01/2019 23:59:59.999");
         QCOMPARE(period.from(), QString("2019-05-01 01:02:03.004"));
         QCOMPARE(period.to(), QString("2019-05-01 23:59:59.999"));
     }
 
     void blanksAroundADateDoNotCount()
     {
-        const Period period(QString("  05/01/2019 "), QString("\t05/02/2019\n"));
+        const Period period("  05/01/2019 ", "\t05/02/2019\n");
         QCOMPARE(period.fault(), Period::Fault::None);
         QCOMPARE(period.first(), QString("05/01/2019"));
         QCOMPARE(period.second(), QString("05/02/2019"));
@@ -116,32 +108,23 @@ private slots:
 
     void separatorsAreNotLookedAt()
     {
-        const Period period(QString("05-01.2019"), QString("05'02'2019'10:20:30'123"));
+        const Period period("05-01.2019", "05'02'2019'10:20:30'123");
         QCOMPARE(period.fault(), Period::Fault::None);
         QCOMPARE(period.from(), QString("2019-05-01"));
         QCOMPARE(period.to(), QString("2019-05-02 10:20:30.123"));
     }
 
-    void textsThatAreNoDatesNeverPass_data()
+    void textsThatAreNoDatesNeverPass()
     {
-        QTest::addColumn<QString>("typed");
         for (const char* typed : {"yyyy/mm/dd", "2019-05-01", "' or 1=1--", "05/01/-019",
                  "05/01/+019", " 5/ 1/2019", "5 /1 /2019", "05/ 1/2019", "+5/+1/2019", "05/01/2 19",
                  "é5/01/2019", "٠٥/٠١/٢٠١٩", "05/01/2019 1 :20:30.123", "05/01/2019  1:20:30.123",
                  "05/01/2019 10:20:30.12 ' ", "05/01/2019 10:20:30. 12", "05/01/2019 10:20:30.'12",
                  "05/01/2019 10-20-30.123", "05/01/2019 10'20'30.123"}) {
-            QTest::newRow(typed) << QString::fromUtf8(typed);
+            const Period::Fault asFirst = Period(typed, "12/31/9999").fault();
+            QVERIFY2(asFirst == Period::Fault::NoDate || asFirst == Period::Fault::Length, typed);
+            QVERIFY2(Period("01/01/0001", typed).fault() == asFirst, typed);
         }
-    }
-
-    void textsThatAreNoDatesNeverPass()
-    {
-        QFETCH(QString, typed);
-        const auto late = QString("12/31/9999");
-        const Period::Fault asFirst = Period(typed, late).fault();
-        QVERIFY(asFirst == Period::Fault::NoDate || asFirst == Period::Fault::Length);
-        const Period::Fault asSecond = Period(QString("01/01/0001"), typed).fault();
-        QCOMPARE(asSecond, asFirst);
     }
 };
 
