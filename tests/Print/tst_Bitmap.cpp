@@ -7,13 +7,13 @@
 
 namespace {
 /// Rows as text: '#' is a black dot.
-DotMatrix dotsFrom(const std::vector<std::string>& rows)
+DotMatrix dotsFrom(const QStringList& rows)
 {
     DotMatrix dots;
-    for (const auto& row : rows) {
+    for (const QString& row : rows) {
         dots.emplace_back();
-        for (const char c : row) {
-            dots.back().push_back(c == '#');
+        for (const QChar dot : row) {
+            dots.back().push_back(dot == '#');
         }
     }
     return dots;
@@ -25,224 +25,125 @@ DotMatrix allBlack(std::size_t columns, std::size_t rows)
 }
 } // namespace
 
+Q_DECLARE_METATYPE(DotMatrix)
+
 class TestBitmap : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void aBlackPictureLosesTheTopDotOfEachEight()
+    void aPictureIsPrintedInBandsOf24Rows_data()
     {
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        DotMatrix dots = allBlack(8, 24);
-        printer.image(dots);
-        QCOMPARE(transfersOf(bus),
-            QStringList({"1b3300",
-                "1b2a210800"
-                "fefefefefefefefefefefefefefefefefefefefefefefefe"
-                "0a",
-                "1b32"}));
+        QTest::addColumn<DotMatrix>("dots");
+        QTest::addColumn<QString>("bands");
+        const auto row = [](const char* name, const DotMatrix& dots, const QString& bands) {
+            QTest::newRow(name) << dots << bands;
+        };
+        row("a black picture loses the top dot of each eight", allBlack(8, 24),
+            "1b2a210800fefefefefefefefefefefefefefefefefefefefefefefefe0a");
+        row("a band goes column by column", dotsFrom({"...", "#..", ".#.", "..#"}),
+            "1b2a2103008000004000002000000a");
+        row("25 rows are two bands", allBlack(2, 25),
+            "1b2a210200fefefefefefe0a"
+            "1b2a2102000000000000000a");
+        row("missing rows of the last band are white", allBlack(1, 35),
+            "1b2a210100fefefe0a"
+            "1b2a210100fec0000a");
+        row("a width above 255 takes both bytes of its count",
+            DotMatrix(1, std::vector<bool>(300, false)),
+            "1b2a212c01" + QString("000000").repeated(300) + "0a");
+        row("one row needs no rectangle", dotsFrom({"##"}), "1b2a2102000000000000000a");
+    }
+
+    void aPictureIsPrintedInBandsOf24Rows()
+    {
+        QFETCH(DotMatrix, dots);
+        QFETCH(QString, bands);
+        HeldPrinter held;
+        held.printer.image(dots);
+        QCOMPARE(held.sent(), QStringList({"1b3300", bands, "1b32"}));
+        QCOMPARE(held.output.take(), std::string());
     }
 
     void eachRowHasItsBit_data()
     {
-        QTest::addColumn<int>("row");
+        QTest::addColumn<std::size_t>("row");
         QTest::addColumn<QString>("column");
-        QTest::newRow("0 falls out") << 0 << "000000";
-        QTest::newRow("1") << 1 << "800000";
-        QTest::newRow("2") << 2 << "400000";
-        QTest::newRow("3") << 3 << "200000";
-        QTest::newRow("6") << 6 << "040000";
-        QTest::newRow("7") << 7 << "020000";
-        QTest::newRow("8 falls out") << 8 << "000000";
-        QTest::newRow("9") << 9 << "008000";
-        QTest::newRow("15") << 15 << "000200";
-        QTest::newRow("16 falls out") << 16 << "000000";
-        QTest::newRow("17") << 17 << "000080";
-        QTest::newRow("23") << 23 << "000002";
+        const auto row = [](const char* name, std::size_t number, const char* column) {
+            QTest::newRow(name) << number << column;
+        };
+        row("0 falls out", 0, "000000");
+        row("1", 1, "800000");
+        row("2", 2, "400000");
+        row("3", 3, "200000");
+        row("6", 6, "040000");
+        row("7", 7, "020000");
+        row("8 falls out", 8, "000000");
+        row("9", 9, "008000");
+        row("15", 15, "000200");
+        row("16 falls out", 16, "000000");
+        row("17", 17, "000080");
+        row("23", 23, "000002");
     }
 
     void eachRowHasItsBit()
     {
-        QFETCH(int, row);
+        QFETCH(std::size_t, row);
         QFETCH(QString, column);
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
+        HeldPrinter held;
         DotMatrix dots(24, std::vector<bool>(1, false));
-        dots[static_cast<std::size_t>(row)][0] = true;
-        printer.image(dots);
-        QCOMPARE(transfersOf(bus), QStringList({"1b3300", "1b2a210100" + column + "0a", "1b32"}));
-    }
-
-    void aBandGoesColumnByColumn()
-    {
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        DotMatrix dots = dotsFrom({"...", "#..", ".#.", "..#"});
-        printer.image(dots);
-        QCOMPARE(transfersOf(bus),
-            QStringList({"1b3300",
-                "1b2a210300"
-                "800000"
-                "400000"
-                "200000"
-                "0a",
-                "1b32"}));
-    }
-
-    void twentyFiveRowsAreTwoBands()
-    {
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        DotMatrix dots = allBlack(2, 25);
-        printer.image(dots);
-        QCOMPARE(transfersOf(bus),
-            QStringList({"1b3300",
-                "1b2a210200"
-                "fefefe"
-                "fefefe"
-                "0a"
-                "1b2a210200"
-                "000000"
-                "000000"
-                "0a",
-                "1b32"}));
-    }
-
-    void missingRowsOfTheLastBandAreWhite()
-    {
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        DotMatrix dots = allBlack(1, 35);
-        printer.image(dots);
-        QCOMPARE(transfersOf(bus),
-            QStringList({"1b3300",
-                "1b2a210100"
-                "fefefe"
-                "0a"
-                "1b2a210100"
-                "fec000"
-                "0a",
-                "1b32"}));
-    }
-
-    void aWidthAbove255TakesBothCountBytes()
-    {
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        DotMatrix dots(1, std::vector<bool>(300, false));
-        printer.image(dots);
-        QCOMPARE(transfersOf(bus),
-            QStringList({"1b3300", "1b2a212c01" + QString("000000").repeated(300) + "0a", "1b32"}));
-    }
-
-    void oneRowNeedsNoRectangle()
-    {
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        FlushedOutput output;
-        DotMatrix dots = dotsFrom({"##"});
-        printer.image(dots);
-        QCOMPARE(transfersOf(bus),
-            QStringList({"1b3300",
-                "1b2a210200"
-                "000000"
-                "000000"
-                "0a",
-                "1b32"}));
-        QCOMPARE(output.take(), std::string());
+        dots[row][0] = true;
+        held.printer.image(dots);
+        QCOMPARE(held.sent(), QStringList({"1b3300", "1b2a210100" + column + "0a", "1b32"}));
     }
 
     void theWidestPictureIsPrinted()
     {
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        DotMatrix dots = allBlack(65'535, 1);
-        printer.image(dots);
-        const QStringList sent = transfersOf(bus);
+        HeldPrinter held;
+        held.printer.image(allBlack(65'535, 1));
+        const QStringList sent = held.sent();
         QCOMPARE(sent.size(), 3);
         QCOMPARE(sent[1].size(), 2 * (5 + 3 * 65'535 + 1));
         QCOMPARE(sent[1].left(10), QString("1b2a21ffff"));
     }
 
-    void aPictureTooWideIsRefused_data()
+    void whatIsNoPictureOfThePaperIsRefused_data()
     {
-        QTest::addColumn<int>("rows");
-        QTest::newRow("one row") << 1;
-        QTest::newRow("two rows") << 2;
+        QTest::addColumn<DotMatrix>("dots");
+        QTest::newRow("one row too wide") << allBlack(65'536, 1);
+        QTest::newRow("two rows too wide") << allBlack(65'536, 2);
+        QTest::newRow("second row longer") << dotsFrom({"#", "##"});
+        QTest::newRow("last row shorter") << dotsFrom({"##", "##", "#"});
+        QTest::newRow("last row empty") << dotsFrom({"##", ""});
+        QTest::newRow("first row empty") << dotsFrom({"", "##"});
     }
 
-    void aPictureTooWideIsRefused()
+    void whatIsNoPictureOfThePaperIsRefused()
     {
-        QFETCH(int, rows);
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        FlushedOutput output;
-        DotMatrix dots = allBlack(65'536, static_cast<std::size_t>(rows));
-        QCOMPARE(thrownInt([&] { printer.image(dots); }), -1);
-        QCOMPARE(output.take(), std::string("Error: the bitmap is not squared\n"));
-        QCOMPARE(transfersOf(bus), QStringList());
-    }
-
-    void raggedRowsAreRefused_data()
-    {
-        QTest::addColumn<QStringList>("rows");
-        QTest::newRow("second longer") << QStringList({"#", "##"});
-        QTest::newRow("last shorter") << QStringList({"##", "##", "#"});
-        QTest::newRow("last empty") << QStringList({"##", ""});
-        QTest::newRow("first empty") << QStringList({"", "##"});
-    }
-
-    void raggedRowsAreRefused()
-    {
-        QFETCH(QStringList, rows);
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        FlushedOutput output;
-        DotMatrix dots;
-        for (const auto& row : rows) {
-            dots.emplace_back(row.size(), true);
-        }
-        QCOMPARE(thrownInt([&] { printer.image(dots); }), -1);
-        QCOMPARE(output.take(), std::string("Error: the bitmap is not squared\n"));
-        QCOMPARE(transfersOf(bus), QStringList());
-    }
-
-    void aPictureWithoutDotsSendsNothing_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::newRow("no rows") << 0;
-        QTest::newRow("rows without dots") << 3;
+        QFETCH(DotMatrix, dots);
+        HeldPrinter held;
+        QCOMPARE(thrownInt([&] { held.printer.image(dots); }), -1);
+        QCOMPARE(held.output.take(), std::string("Error: the bitmap is not squared\n"));
+        QCOMPARE(held.sent(), QStringList());
     }
 
     void aPictureWithoutDotsSendsNothing()
     {
-        QFETCH(int, rows);
-        EmulatedPrinter bus;
-        Printer printer(receiptPrinter);
-        FlushedOutput output;
-        DotMatrix dots(static_cast<std::size_t>(rows));
-        QCOMPARE(thrownInt([&] { printer.image(dots); }), 0);
-        QCOMPARE(transfersOf(bus), QStringList());
-        QCOMPARE(output.take(), std::string());
+        for (const std::size_t rows : {0U, 3U}) {
+            HeldPrinter held;
+            QCOMPARE(thrownInt([&] { held.printer.image(DotMatrix(rows)); }), 0);
+            QCOMPARE(held.sent(), QStringList());
+            QCOMPARE(held.output.take(), std::string());
+        }
     }
 
     void theOtherModePrintsBandsOfEightDots()
     {
         const auto bands = renderBitmap(allBlack(2, 10), 1);
         QVERIFY(bands.has_value());
-        QCOMPARE(QByteArray::fromStdString(*bands).toHex(),
-            QByteArray("1b2a010200"
-                       "fe"
-                       "fe"
-                       "0a"
-                       "1b2a010200"
-                       "80"
-                       "80"
-                       "0a"));
+        QCOMPARE(hexOf(*bands), QByteArray("1b2a010200fefe0a1b2a01020080800a"));
     }
 };
 
 VENDEL_TEST(TestBitmap)
-
 #include "tst_Bitmap.moc"

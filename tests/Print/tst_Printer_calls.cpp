@@ -80,14 +80,14 @@ private slots:
 
     void theLibrarySpeaksUpToItsInformation()
     {
-        EmulatedPrinter bus;
+        const EmulatedPrinter bus;
         Printer::initializePrinter(receiptPrinter);
         QCOMPARE(calls.options, QStringList("0 = 3"));
     }
 
     void theKernelsDriverIsAnnouncedBeforeItIsDetached()
     {
-        EmulatedPrinter bus({.kernelDriver = true});
+        const EmulatedPrinter bus({.kernelDriver = true});
         FlushedOutput output;
         std::string announced;
         calls.onDetach = [&] { announced = output.take(); };
@@ -96,28 +96,22 @@ private slots:
         QCOMPARE(announced, std::string("Kernel Driver Active\n"));
     }
 
-    void everyFailedClaimIsNoPrinter_data()
-    {
-        QTest::addColumn<int>("result");
-        QTest::newRow("not found") << static_cast<int>(LIBUSB_ERROR_NOT_FOUND);
-        QTest::newRow("no device") << static_cast<int>(LIBUSB_ERROR_NO_DEVICE);
-        QTest::newRow("other") << static_cast<int>(LIBUSB_ERROR_OTHER);
-    }
-
     void everyFailedClaimIsNoPrinter()
     {
-        QFETCH(int, result);
-        EmulatedPrinter bus;
-        FlushedOutput output;
-        calls.claimResult = result;
-        QCOMPARE(thrownByInitializing(), -1);
-        QCOMPARE(output.take(), std::string("Cannot Claim Interface\n"));
-        QVERIFY(Printer::getPrinter() == nullptr);
+        for (const int result :
+            {LIBUSB_ERROR_NOT_FOUND, LIBUSB_ERROR_NO_DEVICE, LIBUSB_ERROR_OTHER}) {
+            const EmulatedPrinter bus;
+            FlushedOutput output;
+            calls.claimResult = result;
+            QCOMPARE(thrownByInitializing(), -1);
+            QCOMPARE(output.take(), std::string("Cannot Claim Interface\n"));
+            QVERIFY(Printer::getPrinter() == nullptr);
+        }
     }
 
     void aTransferHasNoTimeLimit()
     {
-        EmulatedPrinter bus;
+        const EmulatedPrinter bus;
         Printer::initializePrinter(receiptPrinter);
         Printer::getPrinter()->raw("abc");
         QCOMPARE(calls.transfers, QStringList("3 bytes to 1, 0 ms"));
@@ -125,5 +119,4 @@ private slots:
 };
 
 VENDEL_TEST(TestPrinterCalls)
-
 #include "tst_Printer_calls.moc"
