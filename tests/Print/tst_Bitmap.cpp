@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Print/escpospp/Bitmap.h"
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestProgram.h"
 
 #include <QTest>
@@ -25,76 +26,51 @@ DotMatrix allBlack(std::size_t columns, std::size_t rows)
 }
 } // namespace
 
-Q_DECLARE_METATYPE(DotMatrix)
-
 class TestBitmap : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void aPictureIsPrintedInBandsOf24Rows_data()
-    {
-        QTest::addColumn<DotMatrix>("dots");
-        QTest::addColumn<QString>("bands");
-        const auto row = [](const char* name, const DotMatrix& dots, const QString& bands) {
-            QTest::newRow(name) << dots << bands;
-        };
-        row("a black picture loses the top dot of each eight", allBlack(8, 24),
-            "1b2a210800fefefefefefefefefefefefefefefefefefefefefefefefe0a");
-        row("a band goes column by column", dotsFrom({"...", "#..", ".#.", "..#"}),
-            "1b2a2103008000004000002000000a");
-        row("25 rows are two bands", allBlack(2, 25),
-            "1b2a210200fefefefefefe0a"
-            "1b2a2102000000000000000a");
-        row("missing rows of the last band are white", allBlack(1, 35),
-            "1b2a210100fefefe0a"
-            "1b2a210100fec0000a");
-        row("a width above 255 takes both bytes of its count",
-            DotMatrix(1, std::vector<bool>(300, false)),
-            "1b2a212c01" + QString("000000").repeated(300) + "0a");
-        row("one row needs no rectangle", dotsFrom({"##"}), "1b2a2102000000000000000a");
-    }
-
     void aPictureIsPrintedInBandsOf24Rows()
     {
-        QFETCH(DotMatrix, dots);
-        QFETCH(QString, bands);
-        HeldPrinter held;
-        held.printer.image(dots);
-        QCOMPARE(held.sent(), QStringList({"1b3300", bands, "1b32"}));
-        QCOMPARE(held.output.take(), std::string());
-    }
-
-    void eachRowHasItsBit_data()
-    {
-        QTest::addColumn<std::size_t>("row");
-        QTest::addColumn<QString>("column");
-        const auto row = [](const char* name, std::size_t number, const char* column) {
-            QTest::newRow(name) << number << column;
+        const Rows<DotMatrix, QString> rows{
+            {"a black picture loses the top dot of each eight", allBlack(8, 24),
+                "1b2a210800fefefefefefefefefefefefefefefefefefefefefefefefe0a"},
+            {"a band goes column by column", dotsFrom({"...", "#..", ".#.", "..#"}),
+                "1b2a2103008000004000002000000a"},
+            {"25 rows are two bands", allBlack(2, 25),
+                "1b2a210200fefefefefefe0a"
+                "1b2a2102000000000000000a"},
+            {"missing rows of the last band are white", allBlack(1, 35),
+                "1b2a210100fefefe0a"
+                "1b2a210100fec0000a"},
+            {"a width above 255 takes both bytes of its count",
+                DotMatrix(1, std::vector<bool>(300, false)),
+                "1b2a212c01" + QString("000000").repeated(300) + "0a"},
+            {"one row needs no rectangle", dotsFrom({"##"}), "1b2a2102000000000000000a"},
         };
-        row("0 falls out", 0, "000000");
-        row("1", 1, "800000");
-        row("2", 2, "400000");
-        row("3", 3, "200000");
-        row("6", 6, "040000");
-        row("7", 7, "020000");
-        row("8 falls out", 8, "000000");
-        row("9", 9, "008000");
-        row("15", 15, "000200");
-        row("16 falls out", 16, "000000");
-        row("17", 17, "000080");
-        row("23", 23, "000002");
+        for (const auto& [row, dots, bands] : rows) {
+            const InRow inRow(row);
+            HeldPrinter held;
+            held.printer.image(dots);
+            QCOMPARE(held.sent(), QStringList({"1b3300", bands, "1b32"}));
+            QCOMPARE(held.output.take(), std::string());
+        }
     }
 
     void eachRowHasItsBit()
     {
-        QFETCH(std::size_t, row);
-        QFETCH(QString, column);
-        HeldPrinter held;
-        DotMatrix dots(24, std::vector<bool>(1, false));
-        dots[row][0] = true;
-        held.printer.image(dots);
-        QCOMPARE(held.sent(), QStringList({"1b3300", "1b2a210100" + column + "0a", "1b32"}));
+        // The first row of each eight falls out.
+        const std::vector<std::pair<std::size_t, QString>> columns{{0, "000000"}, {1, "800000"},
+            {2, "400000"}, {3, "200000"}, {6, "040000"}, {7, "020000"}, {8, "000000"},
+            {9, "008000"}, {15, "000200"}, {16, "000000"}, {17, "000080"}, {23, "000002"}};
+        for (const auto& [row, column] : columns) {
+            HeldPrinter held;
+            DotMatrix dots(24, std::vector<bool>(1, false));
+            dots[row][0] = true;
+            held.printer.image(dots);
+            QCOMPARE(held.sent(), QStringList({"1b3300", "1b2a210100" + column + "0a", "1b32"}));
+        }
     }
 
     void theWidestPictureIsPrinted()
@@ -107,24 +83,23 @@ private slots:
         QCOMPARE(sent[1].left(10), QString("1b2a21ffff"));
     }
 
-    void whatIsNoPictureOfThePaperIsRefused_data()
-    {
-        QTest::addColumn<DotMatrix>("dots");
-        QTest::newRow("one row too wide") << allBlack(65'536, 1);
-        QTest::newRow("two rows too wide") << allBlack(65'536, 2);
-        QTest::newRow("second row longer") << dotsFrom({"#", "##"});
-        QTest::newRow("last row shorter") << dotsFrom({"##", "##", "#"});
-        QTest::newRow("last row empty") << dotsFrom({"##", ""});
-        QTest::newRow("first row empty") << dotsFrom({"", "##"});
-    }
-
     void whatIsNoPictureOfThePaperIsRefused()
     {
-        QFETCH(DotMatrix, dots);
-        HeldPrinter held;
-        QCOMPARE(thrownInt([&] { held.printer.image(dots); }), -1);
-        QCOMPARE(held.output.take(), std::string("Error: the bitmap is not squared\n"));
-        QCOMPARE(held.sent(), QStringList());
+        const Rows<DotMatrix> rows{
+            {"one row too wide", allBlack(65'536, 1)},
+            {"two rows too wide", allBlack(65'536, 2)},
+            {"second row longer", dotsFrom({"#", "##"})},
+            {"last row shorter", dotsFrom({"##", "##", "#"})},
+            {"last row empty", dotsFrom({"##", ""})},
+            {"first row empty", dotsFrom({"", "##"})},
+        };
+        for (const auto& [row, dots] : rows) {
+            const InRow inRow(row);
+            HeldPrinter held;
+            QCOMPARE(thrownInt([&] { held.printer.image(dots); }), -1);
+            QCOMPARE(held.output.take(), std::string("Error: the bitmap is not squared\n"));
+            QCOMPARE(held.sent(), QStringList());
+        }
     }
 
     void aPictureWithoutDotsSendsNothing()

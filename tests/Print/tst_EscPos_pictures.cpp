@@ -2,6 +2,7 @@
 #include "Print/escpospp/EscPos.h"
 #include "tests/Print/PrinterTest.h"
 #include "tests/support/Failures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestProgram.h"
 
 #include <QFile>
@@ -43,61 +44,49 @@ class TestEscPosPictures : public QObject
     Q_OBJECT
 
 private slots:
-    void aPixelIsBlackBelow150_data()
-    {
-        QTest::addColumn<QByteArray>("rgb");
-        QTest::addColumn<QString>("dot");
-        const auto row = [](const char* name, const char* rgb, const char* dot) {
-            QTest::newRow(name) << QByteArray::fromHex(rgb) << dot;
-        };
-        row("black", "000000", "#");
-        row("white", "ffffff", ".");
-        row("grey 149", "959595", "#");
-        row("grey 150", "969696", ".");
-        row("red", "ff0000", "#");
-        row("green", "00ff00", ".");
-        row("blue", "0000ff", "#");
-        row("149.89", "969695", "#");
-        row("exactly 150, rounded to 149.99998", "3ad53f", "#");
-        row("exactly 150, kept", "00d0f8", ".");
-    }
-
     void aPixelIsBlackBelow150()
     {
-        QFETCH(QByteArray, rgb);
-        QFETCH(QString, dot);
-        QCOMPARE(rowsOf(loaded("P6 1 1 255\n" + rgb)), QStringList(dot));
-    }
-
-    void everyFormatIsLoaded_data()
-    {
-        QTest::addColumn<QByteArray>("format");
-        QTest::addColumn<int>("pixels");
-        const auto row = [](const char* name, const char* format, QImage::Format pixels) {
-            QTest::newRow(name) << QByteArray(format) << static_cast<int>(pixels);
+        const Rows<QByteArray, QString> rows{
+            {"black", "000000", "#"},
+            {"white", "ffffff", "."},
+            {"grey 149", "959595", "#"},
+            {"grey 150", "969696", "."},
+            {"red", "ff0000", "#"},
+            {"green", "00ff00", "."},
+            {"blue", "0000ff", "#"},
+            {"149.89", "969695", "#"},
+            {"exactly 150, rounded to 149.99998", "3ad53f", "#"},
+            {"exactly 150, kept", "00d0f8", "."},
         };
-        row("PNG", "PNG", QImage::Format_RGB32);
-        row("PNG with alpha", "PNG", QImage::Format_ARGB32);
-        row("grey PNG", "PNG", QImage::Format_Grayscale8);
-        row("PNG of one bit", "PNG", QImage::Format_Mono);
-        row("BMP", "BMP", QImage::Format_RGB32);
-        row("PPM", "PPM", QImage::Format_RGB32);
+        for (const auto& [row, rgb, dot] : rows) {
+            const InRow inRow(row);
+            QCOMPARE(rowsOf(loaded("P6 1 1 255\n" + QByteArray::fromHex(rgb))), QStringList(dot));
+        }
     }
 
     void everyFormatIsLoaded()
     {
-        QFETCH(QByteArray, format);
-        QFETCH(int, pixels);
-        QImage picture(5, 3, QImage::Format_RGB32);
-        picture.fill(Qt::white);
-        for (const QPoint point : {QPoint(0, 0), QPoint(4, 1), QPoint(2, 2)}) {
-            picture.setPixelColor(point, Qt::black);
+        const Rows<QByteArray, int> rows{
+            {"PNG", "PNG", QImage::Format_RGB32},
+            {"PNG with alpha", "PNG", QImage::Format_ARGB32},
+            {"grey PNG", "PNG", QImage::Format_Grayscale8},
+            {"PNG of one bit", "PNG", QImage::Format_Mono},
+            {"BMP", "BMP", QImage::Format_RGB32},
+            {"PPM", "PPM", QImage::Format_RGB32},
+        };
+        for (const auto& [row, format, pixels] : rows) {
+            const InRow inRow(row);
+            QImage picture(5, 3, QImage::Format_RGB32);
+            picture.fill(Qt::white);
+            for (const QPoint point : {QPoint(0, 0), QPoint(4, 1), QPoint(2, 2)}) {
+                picture.setPixelColor(point, Qt::black);
+            }
+            const QString path = folder_.filePath("encoded");
+            QVERIFY(picture.convertToFormat(static_cast<QImage::Format>(pixels))
+                        .save(path, format.constData()));
+            QCOMPARE(rowsOf(EscPos::loadImage(path.toStdString())),
+                QStringList({"#....", "....#", "..#.."}));
         }
-        const QString path = folder_.filePath("encoded");
-        QVERIFY(picture.convertToFormat(static_cast<QImage::Format>(pixels))
-                    .save(path, format.constData()));
-        QCOMPARE(rowsOf(EscPos::loadImage(path.toStdString())),
-            QStringList({"#....", "....#", "..#.."}));
     }
 
     void aJpegIsLoaded()
@@ -146,30 +135,29 @@ private slots:
         QCOMPARE(held.sent(), QStringList({"1b3300", "1b2a2102008000000000000a", "1b32"}));
     }
 
-    void whatCannotBeDecodedIsEmpty_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("nothing") << QByteArray();
-        QTest::newRow("text") << QByteArray("Chez Paul\n12 rue X\n");
-        QTest::newRow("a PNG's first bytes") << QByteArray("\x89PNG\r\n\x1A\n");
-        QTest::newRow("a PNG without data")
-            << QByteArray::fromHex("89504e470d0a1a0a 0000000d49484452 0000000100000001 0800000000"
-                                   "3a7e9b55 0000000049454e44ae426082");
-        QTest::newRow("a size of nothing") << QByteArray("P6 0 0 255\n");
-        QTest::newRow("a width of nothing") << QByteArray("P6 0 2 255\n");
-        QTest::newRow("a PPM that ends early") << QByteArray("P6 2 2 255\nabcdefghijk");
-        QTest::newRow("a PGM that ends early") << whitePixels(299, "P5 300 1 255\n");
-        QTest::newRow("a PGM of 16 bits") << QByteArray("P5 1 1 65535\n\0\0", 15);
-        QTest::newRow("a PPM of 16 bits") << QByteArray("P6 1 1 65535\n\0\0\0\0\0\0", 19);
-        QTest::newRow("a format that no shop uses") << QByteArray("8BPS\0\1", 6);
-        QTest::newRow("a row too many") << whitePixels(4096 * 4097, "P5 4096 4097 255\n");
-        QTest::newRow("a huge size") << QByteArray("P5 2000000000 2000000000 255\n");
-    }
-
     void whatCannotBeDecodedIsEmpty()
     {
-        QFETCH(QByteArray, bytes);
-        QCOMPARE(loaded(bytes).size(), 0U);
+        const Rows<QByteArray> rows{
+            {"nothing", ""},
+            {"text", "Chez Paul\n12 rue X\n"},
+            {"a PNG's first bytes", "\x89PNG\r\n\x1A\n"},
+            {"a PNG without data",
+                QByteArray::fromHex("89504e470d0a1a0a 0000000d49484452 0000000100000001 0800000000"
+                                    "3a7e9b55 0000000049454e44ae426082")},
+            {"a size of nothing", "P6 0 0 255\n"},
+            {"a width of nothing", "P6 0 2 255\n"},
+            {"a PPM that ends early", "P6 2 2 255\nabcdefghijk"},
+            {"a PGM that ends early", whitePixels(299, "P5 300 1 255\n")},
+            {"a PGM of 16 bits", QByteArray("P5 1 1 65535\n\0\0", 15)},
+            {"a PPM of 16 bits", QByteArray("P6 1 1 65535\n\0\0\0\0\0\0", 19)},
+            {"a format that no shop uses", QByteArray("8BPS\0\1", 6)},
+            {"a row too many", whitePixels(4096 * 4097, "P5 4096 4097 255\n")},
+            {"a huge size", "P5 2000000000 2000000000 255\n"},
+        };
+        for (const auto& [row, bytes] : rows) {
+            const InRow inRow(row);
+            QCOMPARE(loaded(bytes).size(), 0U);
+        }
     }
 
     void whatIsNoFileIsEmpty()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/Print/PrinterTest.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestProgram.h"
 
 #include <QTest>
@@ -7,76 +8,60 @@
 #include <sys/resource.h>
 
 using Setup = EmulatedPrinter::Setup;
-Q_DECLARE_METATYPE(Setup)
-
 /// A printer that cannot be taken over, and one that does not take what is written.
 class TestPrinterFailures : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void aFailedStartIsNoPrinter_data()
-    {
-        QTest::addColumn<Setup>("setup");
-        QTest::addColumn<QByteArray>("said");
-        QTest::addColumn<QStringList>("conversation");
-        const auto row = [](const char* name, const Setup& setup, const char* said,
-                             const QStringList& conversation) {
-            QTest::newRow(name) << setup << QByteArray(said) << conversation;
-        };
-        row("no device", {.devices = {}}, "Cannot open device\n", {});
-        row("both ids must match", {.devices = {"04b8:0e03", "0416:0e15"}}, "Cannot open device\n",
-            {});
-        row("a device that cannot be opened", {.openRefused = true}, "Cannot open device\n", {});
-        row("held by another program", {.claimRefused = true}, "Cannot Claim Interface\n",
-            {"0 open"});
-        row("the kernel's driver stays", {.kernelDriver = true, .detachRefused = true},
-            "Kernel Driver Active\nCannot Claim Interface\n", {"0 open"});
-    }
-
     void aFailedStartIsNoPrinter()
     {
-        QFETCH(Setup, setup);
-        QFETCH(QByteArray, said);
-        const EmulatedPrinter bus(setup);
-        FlushedOutput output;
-        QCOMPARE(thrownByInitializing(), -1);
-        QCOMPARE(QByteArray::fromStdString(output.take()), said);
-        QVERIFY(Printer::getPrinter() == nullptr);
-        QTEST(conversationOf(bus), "conversation");
-    }
-
-    void aFailedStartLeavesNothingOpenAndIsTriedAgain_data()
-    {
-        QTest::addColumn<QByteArray>("trouble");
-        QTest::addColumn<QByteArray>("remedy");
-        QTest::addColumn<QByteArray>("said");
-        QTest::newRow("no device")
-            << QByteArray("unplug") << QByteArray("plug") << QByteArray("Cannot open device\n");
-        QTest::newRow("held by another program")
-            << QByteArray("claim-refused") << QByteArray("claim-refused off")
-            << QByteArray("Cannot Claim Interface\n");
+        const Rows<Setup, QByteArray, QStringList> rows{
+            {"no device", {.devices = {}}, "Cannot open device\n", {}},
+            {"both ids must match", {.devices = {"04b8:0e03", "0416:0e15"}}, "Cannot open device\n",
+                {}},
+            {"a device that cannot be opened", {.openRefused = true}, "Cannot open device\n", {}},
+            {"held by another program", {.claimRefused = true}, "Cannot Claim Interface\n",
+                {"0 open"}},
+            {"the kernel's driver stays", {.kernelDriver = true, .detachRefused = true},
+                "Kernel Driver Active\nCannot Claim Interface\n", {"0 open"}},
+        };
+        for (const auto& [row, setup, said, conversation] : rows) {
+            const InRow inRow(row);
+            const EmulatedPrinter bus(setup);
+            FlushedOutput output;
+            QCOMPARE(thrownByInitializing(), -1);
+            QCOMPARE(QByteArray::fromStdString(output.take()), said);
+            QVERIFY(Printer::getPrinter() == nullptr);
+            QCOMPARE(conversationOf(bus), conversation);
+        }
     }
 
     void aFailedStartLeavesNothingOpenAndIsTriedAgain()
     {
-        QFETCH(QByteArray, trouble);
-        QFETCH(QByteArray, remedy);
-        EmulatedPrinter bus;
-        bus.send(trouble.toStdString());
-        FlushedOutput output;
-        const auto before = openDescriptors();
-        QCOMPARE(thrownByInitializing(), -1);
-        QTEST(QByteArray::fromStdString(output.take()), "said");
-        for (int i = 0; i < 20; ++i) {
+        const Rows<QByteArray, QByteArray, QByteArray> rows{
+            {"no device", "unplug", "plug", "Cannot open device\n"},
+            {"held by another program", "claim-refused", "claim-refused off",
+                "Cannot Claim Interface\n"},
+        };
+        for (const auto& [row, trouble, remedy, said] : rows) {
+            const InRow inRow(row);
+            EmulatedPrinter bus;
+            bus.send(trouble.toStdString());
+            FlushedOutput output;
+            const auto before = openDescriptors();
             QCOMPARE(thrownByInitializing(), -1);
+            QCOMPARE(QByteArray::fromStdString(output.take()), said);
+            for (int i = 0; i < 20; ++i) {
+                QCOMPARE(thrownByInitializing(), -1);
+            }
+            QCOMPARE(openDescriptors(), before);
+            output.take();
+            bus.send(remedy.toStdString());
+            QCOMPARE(thrownByInitializing(), 0);
+            QCOMPARE(output.take(), std::string());
+            QVERIFY(Printer::getPrinter() != nullptr);
         }
-        QCOMPARE(openDescriptors(), before);
-        output.take();
-        bus.send(remedy.toStdString());
-        QCOMPARE(thrownByInitializing(), 0);
-        QCOMPARE(output.take(), std::string());
-        QVERIFY(Printer::getPrinter() != nullptr);
     }
 
     void aFailingLibraryIsNamedWithItsCode()
@@ -124,39 +109,32 @@ private slots:
         QCOMPARE(transfersOf(bus), QStringList("6265666f7265"));
     }
 
-    void aFailedWriteIsReportedOnceAndMarksThePrinterForReplacement_data()
-    {
-        QTest::addColumn<QByteArray>("fault");
-        QTest::addColumn<QString>("event");
-        QTest::addColumn<QString>("transfer");
-        QTest::newRow("stalled") << QByteArray("stall") << "0 stall"
-                                 << "stall ";
-        QTest::newRow("cut short") << QByteArray("short-write 3") << "0 short"
-                                   << "short 726563";
-        QTest::newRow("cut short before the first byte") << QByteArray("short-write 0") << "0 short"
-                                                         << "short ";
-    }
-
     void aFailedWriteIsReportedOnceAndMarksThePrinterForReplacement()
     {
-        QFETCH(QByteArray, fault);
-        QFETCH(QString, event);
-        QFETCH(QString, transfer);
-        EmulatedPrinter bus;
-        FlushedOutput output;
-        Printer::initializePrinter(receiptPrinter);
-        bus.send(fault.toStdString());
-        Printer::getPrinter()->raw("receipt");
-        QCOMPARE(output.take(), std::string("Write Error\n"));
-        Printer::getPrinter()->raw("ok");
-        QCOMPARE(output.take(), std::string());
-        QCOMPARE(transfersOf(bus), QStringList({transfer, "6f6b"}));
-        QCOMPARE(thrownByInitializing(), 0);
-        QCOMPARE(output.take(), std::string("Released Interface\n"));
-        QCOMPARE(conversationOf(bus),
-            QStringList({"0 open", "0 claim", event, "0 taken", "0 release", "0 open", "0 claim"}));
-        Printer::initializePrinter(receiptPrinter);
-        QCOMPARE(output.take(), std::string());
+        const Rows<QByteArray, QString, QString> rows{
+            {"stalled", "stall", "0 stall", "stall "},
+            {"cut short", "short-write 3", "0 short", "short 726563"},
+            {"cut short before the first byte", "short-write 0", "0 short", "short "},
+        };
+        for (const auto& [row, fault, event, transfer] : rows) {
+            const InRow inRow(row);
+            EmulatedPrinter bus;
+            FlushedOutput output;
+            Printer::initializePrinter(receiptPrinter);
+            bus.send(fault.toStdString());
+            Printer::getPrinter()->raw("receipt");
+            QCOMPARE(output.take(), std::string("Write Error\n"));
+            Printer::getPrinter()->raw("ok");
+            QCOMPARE(output.take(), std::string());
+            QCOMPARE(transfersOf(bus), QStringList({transfer, "6f6b"}));
+            QCOMPARE(thrownByInitializing(), 0);
+            QCOMPARE(output.take(), std::string("Released Interface\n"));
+            QCOMPARE(conversationOf(bus),
+                QStringList(
+                    {"0 open", "0 claim", event, "0 taken", "0 release", "0 open", "0 claim"}));
+            Printer::initializePrinter(receiptPrinter);
+            QCOMPARE(output.take(), std::string());
+        }
     }
 
     void aPrinterPluggedBackInPrintsAgain()

@@ -84,6 +84,14 @@ public:
         return lines("select article || ' ' || prix from Ticket order by idlig");
     }
 
+    /// The history, the stored ticket and the shown one:
+    /// "sold: 7 Thé 2.5, 7 Eau 3; ticket: Eau 3; 1 shown".
+    QString books()
+    {
+        return "sold: " + history().join(", ") + "; ticket: " + ticket().join(", ") + "; "
+            + QString::number(shownLines()) + " shown";
+    }
+
     /// The number of lines that the ticket's list shows.
     int shownLines()
     {

@@ -156,9 +156,7 @@ private slots:
         const EmulatedPrinter printer;
         Till till;
         till.sellOnPaper();
-        QCOMPARE(till.ticket(), QStringList());
-        QCOMPARE(till.shownLines(), 0);
-        QCOMPARE(till.history(), QStringList("7 Thé 2.5"));
+        QCOMPARE(till.books(), QString("sold: 7 Thé 2.5; ticket: ; 0 shown"));
         const AnswerBox box;
         till.pay();
         QCOMPARE(box.text(), QString("Le ticket est vide"));

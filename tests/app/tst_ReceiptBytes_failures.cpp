@@ -4,6 +4,7 @@
 #include "tests/app/Till.h"
 #include "tests/support/Captured.h"
 #include "tests/support/EmulatedPrinter.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestProgram.h"
 
 #include <cerrno>
@@ -54,38 +55,31 @@ class TestReceiptBytesFailures : public QObject
     Q_OBJECT
 
 private slots:
-    void theReasonIsOneOfThree_data()
-    {
-        QTest::addColumn<QByteArray>("article");
-        QTest::addColumn<int>("error");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("a character outside the code page")
-            << QByteArray("Café 😀") << 0 << "a character of the receipt is not in code page 858";
-        QTest::newRow("no such code page")
-            << QByteArray("Cafe") << EINVAL << "this system cannot write code page 858";
-        QTest::newRow("no memory")
-            << QByteArray("Cafe") << ENOMEM << "there is no memory left for the receipt";
-    }
-
     void theReasonIsOneOfThree()
     {
-        QFETCH(const QByteArray, article);
-        QFETCH(const int, error);
-        QFETCH(const QString, reason);
-        const EmulatedPrinter printer;
-        Till till;
-        till.setSwitch("1");
-        till.sell(article, "2.5");
-        const CapturedLog log;
-        {
-            const Refusal refused(error);
-            till.pay();
+        const Rows<QByteArray, int, QString> rows{
+            {"a character outside the code page", "Café 😀", 0,
+                "a character of the receipt is not in code page 858"},
+            {"no such code page", "Cafe", EINVAL, "this system cannot write code page 858"},
+            {"no memory", "Cafe", ENOMEM, "there is no memory left for the receipt"},
+        };
+        for (const auto& [row, article, error, reason] : rows) {
+            const InRow inRow(row);
+            const EmulatedPrinter printer;
+            Till till;
+            till.setSwitch("1");
+            till.sell(article, "2.5");
+            const CapturedLog log;
+            {
+                const Refusal refused(error);
+                till.pay();
+            }
+            QCOMPARE(
+                log.criticals(), QStringList("Errors FormVendel on_btn_Payer_clicked : " + reason));
+            QVERIFY(printer.bytes().empty());
+            QCOMPARE(till.history().size(), 1);
+            QCOMPARE(till.ticket().size(), 1);
         }
-        QCOMPARE(
-            log.criticals(), QStringList("Errors FormVendel on_btn_Payer_clicked : " + reason));
-        QVERIFY(printer.bytes().empty());
-        QCOMPARE(till.history().size(), 1);
-        QCOMPARE(till.ticket().size(), 1);
     }
 
     void aDescriptorThatCannotBeOpenedLeavesItsReasonInErrno()

@@ -2,6 +2,7 @@
 #include "app/Receipt.h"
 #include "tests/app/PrintedReceipt.h"
 #include "tests/support/Captured.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
 
@@ -12,19 +13,8 @@
 namespace {
 using Line = std::pair<QByteArray, QByteArray>;
 using Lines = std::vector<Line>;
-
-/// The statements that make \a rates the rates of VAT.
-QByteArray settingOf(const std::vector<QByteArray>& rates)
-{
-    QByteArray sql = "delete from Config where param = 'TVA';";
-    for (const QByteArray& rate : rates) {
-        sql += "insert into Config (param, valeur) values ('TVA', " + rate + ");";
-    }
-    return sql;
-}
+using Texts = std::vector<QByteArray>;
 } // namespace
-
-Q_DECLARE_METATYPE(Lines)
 
 /// What is sold, and the totals below it.
 class TestReceiptSale : public QObject
@@ -79,67 +69,62 @@ private slots:
             "\x1b\x45\x02\x1b\x21\x02\r\n");
     }
 
-    void articlesAreTheseLines_data()
-    {
-        QTest::addColumn<Lines>("sold");
-        QTest::addColumn<QByteArray>("printed");
-        const auto row = [](const char* name, const Lines& sold, const QByteArray& printed) {
-            QTest::newRow(name) << sold << printed;
-        };
-        const QByteArray longName(10'000, 'x');
-        row("three units are one line", Lines(3, {"Croissant", "2.5"}),
-            "3  Croissant      \t$2.50       $7.50\r\n");
-        row("units at another price are a line of their own",
-            {{"Eau", "3"}, {"Bière", "4"}, {"Eau", "2"}, {"Eau", "3"}},
-            "1  Bi\x8are         \t$4.00       $4.00\r\n"
-            "1  Eau            \t$2.00       $2.00\r\n"
-            "2  Eau            \t$3.00       $6.00\r\n");
-        row("a free amount is a line", {{"----", "-2.5"}},
-            "1  ----           \t$-2.50      $-2.50\r\n");
-        row("a long name pushes the rest of its line", {{"Assiette de fromages", "12"}},
-            "1  Assiette de fromages\t$12.00      $12.00\r\n");
-        row("a name of 15 letters is not padded", {{"Croque-monsieur", "8"}},
-            "1  Croque-monsieur\t$8.00       $8.00\r\n");
-        // Ten letters and three blanks: two of the fifteen bytes go to the second halves of é and
-        // è.
-        row("an accented name is one column short", {{"Café crème", "3"}},
-            "1  Caf\x82 cr\x8ame   \t$3.00       $3.00\r\n");
-        row("a name of 10,000 letters is not cut", {{longName, "1"}},
-            "1  " + longName + "\t$1.00       $1.00\r\n");
-        row("a semicolon and quotes are printed", {{"l''eau; \"100%\"", "1"}},
-            "1  l'eau; \"100%\"  \t$1.00       $1.00\r\n");
-        row("ten units fill the quantity's column", Lines(10, {"Eau", "2"}),
-            "10 Eau            \t$2.00       $20.00\r\n");
-        row("a hundred units push the rest of their line", Lines(100, {"Eau", "20"}),
-            "100 Eau            \t$20.00      $2,000.00\r\n");
-        row("a long price pushes the rest of its line", {{"Voyage", "1234567.5"}},
-            "1  Voyage         \t$1,234,567.50   $1,234,567.50\r\n");
-        // Only SQLite's own product reads the number that a text begins with.
-        row("a price that is no number counts as 0",
-            {{"Vide", "''"}, {"Texte", "'abc'"}, {"Virgule", "'2,5'"}},
-            "1  Texte          \t$0.00       $0.00\r\n"
-            "1  Vide           \t$0.00       $0.00\r\n"
-            "1  Virgule        \t$0.00       $2.00\r\n");
-        // A control character is a blank, but for the tab and the carriage return.
-        const QByteArray price = "\t$1.00       $1.00\r\n";
-        row("the command that opens the drawer", {{"\x1bp0zz", "1"}}, "1   p0zz          " + price);
-        row("the first and the last control characters", {{"a\x01\x1f\x7fz", "1"}},
-            "1  a   z          " + price);
-        row("those around the tab and the carriage return", {{"a\x08\x0a\x0c\x0ez", "1"}},
-            "1  a    z         " + price);
-        row("a tab", {{"a\tz", "1"}}, "1  a\tz            " + price);
-        row("a carriage return", {{"a\rz", "1"}}, "1  a\rz            " + price);
-    }
-
     void articlesAreTheseLines()
     {
-        QFETCH(Lines, sold);
-        QFETCH(QByteArray, printed);
-        const Shop shop;
-        for (const Line& line : sold) {
-            putOnTicket(shop, line.first, line.second);
+        const QByteArray longName(10'000, 'x');
+        const QByteArray price = "\t$1.00       $1.00\r\n";
+        const Rows<Lines, QByteArray> rows{
+            {"three units are one line", Lines(3, {"Croissant", "2.5"}),
+                "3  Croissant      \t$2.50       $7.50\r\n"},
+            {"units at another price are a line of their own",
+                {{"Eau", "3"}, {"Bière", "4"}, {"Eau", "2"}, {"Eau", "3"}},
+                "1  Bi\x8are         \t$4.00       $4.00\r\n"
+                "1  Eau            \t$2.00       $2.00\r\n"
+                "2  Eau            \t$3.00       $6.00\r\n"},
+            {"a free amount is a line", {{"----", "-2.5"}},
+                "1  ----           \t$-2.50      $-2.50\r\n"},
+            {"a long name pushes the rest of its line", {{"Assiette de fromages", "12"}},
+                "1  Assiette de fromages\t$12.00      $12.00\r\n"},
+            {"a name of 15 letters is not padded", {{"Croque-monsieur", "8"}},
+                "1  Croque-monsieur\t$8.00       $8.00\r\n"},
+            // Ten letters and three blanks: two of the fifteen bytes go to the second halves
+            // of é and è.
+            {"an accented name is one column short", {{"Café crème", "3"}},
+                "1  Caf\x82 cr\x8ame   \t$3.00       $3.00\r\n"},
+            {"a name of 10,000 letters is not cut", {{longName, "1"}},
+                "1  " + longName + "\t$1.00       $1.00\r\n"},
+            {"a semicolon and quotes are printed", {{"l''eau; \"100%\"", "1"}},
+                "1  l'eau; \"100%\"  \t$1.00       $1.00\r\n"},
+            {"ten units fill the quantity's column", Lines(10, {"Eau", "2"}),
+                "10 Eau            \t$2.00       $20.00\r\n"},
+            {"a hundred units push the rest of their line", Lines(100, {"Eau", "20"}),
+                "100 Eau            \t$20.00      $2,000.00\r\n"},
+            {"a long price pushes the rest of its line", {{"Voyage", "1234567.5"}},
+                "1  Voyage         \t$1,234,567.50   $1,234,567.50\r\n"},
+            // Only SQLite's own product reads the number that a text begins with.
+            {"a price that is no number counts as 0",
+                {{"Vide", "''"}, {"Texte", "'abc'"}, {"Virgule", "'2,5'"}},
+                "1  Texte          \t$0.00       $0.00\r\n"
+                "1  Vide           \t$0.00       $0.00\r\n"
+                "1  Virgule        \t$0.00       $2.00\r\n"},
+            // A control character is a blank, but for the tab and the carriage return.
+            {"the command that opens the drawer", {{"\x1bp0zz", "1"}},
+                "1   p0zz          " + price},
+            {"the first and the last control characters", {{"a\x01\x1f\x7fz", "1"}},
+                "1  a   z          " + price},
+            {"those around the tab and the carriage return", {{"a\x08\x0a\x0c\x0ez", "1"}},
+                "1  a    z         " + price},
+            {"a tab", {{"a\tz", "1"}}, "1  a\tz            " + price},
+            {"a carriage return", {{"a\rz", "1"}}, "1  a\rz            " + price},
+        };
+        for (const auto& [row, sold, printed] : rows) {
+            const InRow inRow(row);
+            const Shop shop;
+            for (const Line& line : sold) {
+                putOnTicket(shop, line.first, line.second);
+            }
+            COMPARE_BYTES(printedItems(), printed);
         }
-        COMPARE_BYTES(printedItems(), printed);
     }
 
     void articlesThatDifferInCaseAreOneLine()
@@ -151,58 +136,53 @@ private slots:
         COMPARE_BYTES(printedItems().toLower(), "2  cafe           \t$2.00       $4.00\r\n");
     }
 
-    void totals_data()
-    {
-        QTest::addColumn<QByteArray>("price");
-        QTest::addColumn<QByteArray>("settings");
-        QTest::addColumn<QByteArray>("sum");
-        QTest::addColumn<QByteArray>("taxes");
-        QTest::addColumn<QByteArray>("grandTotal");
-        const auto add = [](const char* name, const char* price, const QByteArray& settings,
-                             const char* sum, const QByteArray& taxes, const char* grandTotal) {
-            QTest::newRow(name) << QByteArray(price) << settings << QByteArray(sum) << taxes
-                                << QByteArray(grandTotal);
-        };
-        const auto row = [&](const char* name, const char* price, const char* rate, const char* sum,
-                             const QByteArray& tax, const char* grandTotal) {
-            add(name, price, settingOf({rate}), sum, "->  TVA " + tax + "\r\n", grandTotal);
-        };
-        row("half a cent rounds up", "10", "20", "$10.00", "20.00%\t\t\t    $2.01", "$12.01");
-        row("half a cent rounds down", "16", "20", "$16.00", "20.00%\t\t\t    $3.20", "$19.20");
-        row("half a cent without a tax", "10", "0", "$10.00", "0.00%\t\t\t    $0.00", "$10.01");
-        row("a broken rate", "8.25", "19.6", "$8.25", "19.60%\t\t\t    $1.62", "$9.87");
-        row("below a thousand", "999.99", "20", "$999.99", "20.00%\t\t\t    $200.00", "$1,199.99");
-        row("a thousand", "1000", "20", "$1,000.00", "20.00%\t\t\t    $0.00", "$0.00");
-        row("above a thousand", "1234.5", "20", "$1,234.50", "20.00%\t\t\t    $0.00", "$0.00");
-        row("a million", "1234567.5", "20", "$1,234,567.50", "20.00%\t\t\t    $0.00", "$0.00");
-        row("a negative ticket", "-10", "20", "$-10.00", "20.00%\t\t\t    $-2.00", "$-11.99");
-        row("nothing", "0", "20", "$0.00", "20.00%\t\t\t    $0.00", "$0.00");
-        row("a rate of 1,234.5", "10", "1234.5", "$10.00", "1,234.50%\t\t\t    $0.00", "$10.01");
-        row("a rate that is no number", "7.5", "'vingt'", "$7.50", "0.00%\t\t\t    $0.00", "$7.51");
-        add("a rate in small letters", "10",
-            "update Config set param = 'tva', valeur = 20 where param = 'TVA'", "$10.00",
-            "->  TVA 20.00%\t\t\t    $2.01\r\n", "$12.01");
-        add("no rate, no tax", "7.5", settingOf({}), "$7.50", "", "$7.50");
-        add("two rates, and the last tax counts", "10", settingOf({"20", "5.5"}), "$10.00",
-            "->  TVA 20.00%\t\t\t    $2.01\r\n->  TVA 5.50%\t\t\t    $0.56\r\n", "$10.56");
-    }
-
     void totals()
     {
-        QFETCH(QByteArray, price);
-        QFETCH(QByteArray, settings);
-        QFETCH(QByteArray, sum);
-        QFETCH(QByteArray, taxes);
-        QFETCH(QByteArray, grandTotal);
+        const Rows<QByteArray, Texts, QByteArray, Texts, QByteArray> rows{
+            {"half a cent rounds up", "10", {"20"}, "10.00", {"20.00%\t\t\t    $2.01"}, "12.01"},
+            {"half a cent rounds down", "16", {"20"}, "16.00", {"20.00%\t\t\t    $3.20"}, "19.20"},
+            {"half a cent without a tax", "10", {"0"}, "10.00", {"0.00%\t\t\t    $0.00"}, "10.01"},
+            {"a broken rate", "8.25", {"19.6"}, "8.25", {"19.60%\t\t\t    $1.62"}, "9.87"},
+            {"999.99", "999.99", {"20"}, "999.99", {"20.00%\t\t\t    $200.00"}, "1,199.99"},
+            {"a thousand", "1000", {"20"}, "1,000.00", {"20.00%\t\t\t    $0.00"}, "0.00"},
+            {"above it", "1234.5", {"20"}, "1,234.50", {"20.00%\t\t\t    $0.00"}, "0.00"},
+            {"a million", "1234567.5", {"20"}, "1,234,567.50", {"20.00%\t\t\t    $0.00"}, "0.00"},
+            {"a negative ticket", "-10", {"20"}, "-10.00", {"20.00%\t\t\t    $-2.00"}, "-11.99"},
+            {"nothing", "0", {"20"}, "0.00", {"20.00%\t\t\t    $0.00"}, "0.00"},
+            {"a large rate", "10", {"1234.5"}, "10.00", {"1,234.50%\t\t\t    $0.00"}, "10.01"},
+            {"no number", "7.5", {"'vingt'"}, "7.50", {"0.00%\t\t\t    $0.00"}, "7.51"},
+            {"no rate, no tax", "7.5", {}, "7.50", {}, "7.50"},
+            {"two rates, and the last tax counts", "10", {"20", "5.5"}, "10.00",
+                {"20.00%\t\t\t    $2.01", "5.50%\t\t\t    $0.56"}, "10.56"},
+        };
+        for (const auto& [row, price, rates, sum, taxes, grandTotal] : rows) {
+            const InRow inRow(row);
+            const Shop shop;
+            shop.sql("delete from Config where param = 'TVA'");
+            for (const QByteArray& rate : rates) {
+                shop.fill(("insert into Config (param, valeur) values ('TVA', " + rate + ")")
+                              .constData());
+            }
+            putOnTicket(shop, "Eau", price);
+            QByteArray lines = "->  Total ticket\t\t    $" + sum + "\r\n";
+            for (const QByteArray& tax : taxes) {
+                lines += "->  TVA " + tax + "\r\n";
+            }
+            const QByteArray receipt = printedReceipt();
+            COMPARE_BYTES(receipt.mid(receipt.indexOf("->  Total ticket")),
+                lines
+                    + "------------------------------------------------\r\n"
+                      "\x1b\x21\x20\x1b\x45\x01->  TOTAL \t    $"
+                    + grandTotal + "\r\n\x1b\x45\x02\x1b\x21\x02\r\n");
+        }
+    }
+
+    void theRateIsFoundInAnyCase()
+    {
         const Shop shop;
-        shop.fill(settings.constData());
-        putOnTicket(shop, "Eau", price);
-        const QByteArray receipt = printedReceipt();
-        COMPARE_BYTES(receipt.mid(receipt.indexOf("->  Total ticket")),
-            "->  Total ticket\t\t    " + sum + "\r\n" + taxes
-                + "------------------------------------------------\r\n"
-                  "\x1b\x21\x20\x1b\x45\x01->  TOTAL \t    "
-                + grandTotal + "\r\n\x1b\x45\x02\x1b\x21\x02\r\n");
+        shop.sql("update Config set param = 'tva', valeur = 20 where param = 'TVA'");
+        putOnTicket(shop, "Eau", "10");
+        QVERIFY(printedReceipt().contains("\r\n->  TVA 20.00%\t\t\t    $2.01\r\n"));
     }
 
     void aTranslationChangesTheReceiptAndTheTitleMark()

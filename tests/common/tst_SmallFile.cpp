@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "common/SmallFile.h"
 #include "tests/support/Captured.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
@@ -15,23 +16,22 @@ class TestSmallFile : public QObject
     Q_OBJECT
 
 private slots:
-    void everyByteIsRead_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("none") << QByteArray();
-        QTest::newRow("line ends and a NUL") << QByteArray("a\r\n\0\xff", 5);
-        QTest::newRow("a megabyte") << QByteArray("123456789\n").repeated(100'000);
-        QTest::newRow("four megabytes") << QByteArray(4'194'304, '\0');
-    }
-
     void everyByteIsRead()
     {
-        QFETCH(QByteArray, bytes);
-        const Shop shop(Shop::Database::None);
-        const CapturedLog log;
-        shop.write(name, bytes);
-        QVERIFY(SmallFile::read(name) == bytes);
-        QCOMPARE(log.criticals(), QStringList());
+        const Rows<QByteArray> rows{
+            {"none", ""},
+            {"line ends and a NUL", QByteArray("a\r\n\0\xff", 5)},
+            {"a megabyte", QByteArray("123456789\n").repeated(100'000)},
+            {"four megabytes", QByteArray(4'194'304, '\0')},
+        };
+        for (const auto& [row, bytes] : rows) {
+            const InRow inRow(row);
+            const Shop shop(Shop::Database::None);
+            const CapturedLog log;
+            shop.write(name, bytes);
+            QVERIFY(SmallFile::read(name) == bytes);
+            QCOMPARE(log.criticals(), QStringList());
+        }
     }
 
     void aLinkIsFollowed()

@@ -2,6 +2,7 @@
 #include "common/SmallFile.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Failures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
@@ -32,46 +33,39 @@ Make link(const char* target)
 }
 } // namespace
 
-Q_DECLARE_METATYPE(Make)
-
 class TestSmallFileFailures : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void whatCannotBeReadIsLogged_data()
+    void whatCannotBeReadIsLogged()
     {
-        QTest::addColumn<Make>("make");
-        QTest::addColumn<QString>("reason");
-        const auto row = [](const char* what, const Make& make, const char* reason) {
-            QTest::newRow(what) << make << reason;
-        };
         const char* noFile = "it is not a regular file";
         const char* tooLarge = "it is larger than 4 MB";
         const Make fifo = [] { QCOMPARE(mkfifo(QFile::encodeName(name).constData(), 0600), 0); };
-        row("a byte too many", sparse(4'194'305), tooLarge);
-        row("a huge sparse file", sparse(1LL << 40), tooLarge);
-        row("a FIFO that nobody writes to", fifo, noFile);
-        row(
-            "a folder", [] { QVERIFY(QDir().mkdir(name)); }, noFile);
-        row("a device that never ends", link("/dev/zero"), noFile);
-        row("a device that nothing comes from", link("/dev/null"), noFile);
-        row("a link to itself", link("Essai é.dat"), "Too many levels of symbolic links");
-        // The first page of a process' memory opens like a file and fails like a damaged disk.
-        row("a damaged disk", link("/proc/self/mem"), "Input/output error");
-        // The kernel writes a process' page map as it is read: no size, and far more than 4 MB.
-        row("a file that never ends", link("/proc/self/pagemap"), tooLarge);
-    }
-
-    void whatCannotBeReadIsLogged()
-    {
-        QFETCH(Make, make);
-        QFETCH(QString, reason);
-        const Shop shop(Shop::Database::None);
-        make();
-        const CapturedLog log;
-        QVERIFY(!SmallFile::read(name));
-        QCOMPARE(log.criticals(), QStringList("Essai é.dat is not read: " + reason));
+        const Rows<Make, QString> rows{
+            {"a byte too many", sparse(4'194'305), tooLarge},
+            {"a huge sparse file", sparse(1LL << 40), tooLarge},
+            {"a FIFO that nobody writes to", fifo, noFile},
+            {"a folder", [] { QVERIFY(QDir().mkdir(name)); }, noFile},
+            {"a device that never ends", link("/dev/zero"), noFile},
+            {"a device that nothing comes from", link("/dev/null"), noFile},
+            {"a link to itself", link("Essai é.dat"), "Too many levels of symbolic links"},
+            // The first page of a process' memory opens like a file and fails like a damaged
+            // disk.
+            {"a damaged disk", link("/proc/self/mem"), "Input/output error"},
+            // The kernel writes a process' page map as it is read: no size, and far more than
+            // 4 MB.
+            {"a file that never ends", link("/proc/self/pagemap"), tooLarge},
+        };
+        for (const auto& [row, make, reason] : rows) {
+            const InRow inRow(row);
+            const Shop shop(Shop::Database::None);
+            make();
+            const CapturedLog log;
+            QVERIFY(!SmallFile::read(name));
+            QCOMPARE(log.criticals(), QStringList("Essai é.dat is not read: " + reason));
+        }
     }
 
     void aFileWithoutRightsIsLogged()

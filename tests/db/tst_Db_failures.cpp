@@ -2,6 +2,7 @@
 #include "db/Db.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Failures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
@@ -135,30 +136,27 @@ private slots:
             databaseReport("select * from Historique", "no such table: Historique"));
     }
 
-    void whatIsReadOnlyIsReadAndNotWritten_data()
-    {
-        QTest::addColumn<uint>("folder");
-        QTest::addColumn<uint>("file");
-        QTest::newRow("a file") << 0777U << 0444U;
-        QTest::newRow("a folder") << 0555U << 0666U;
-    }
-
     void whatIsReadOnlyIsReadAndNotWritten()
     {
-        QFETCH(uint, folder);
-        QFETCH(uint, file);
-        const Shop shop;
-        shop.sql(addTea);
-        setRights(folder, file);
-        {
-            const OrdinaryUser user;
-            QCOMPARE(reportOf("select * from Ticket"), QByteArray());
-            QCOMPARE(shop.cell("select article from Article"), QString("Thé"));
-            QCOMPARE(
-                reportOf(addTea), databaseReport(addTea, "attempt to write a readonly database"));
-            QCOMPARE(shop.cell("select count(*) from Article"), QString("1"));
+        const Rows<uint, uint> rows{
+            {"a file", 0777U, 0444U},
+            {"a folder", 0555U, 0666U},
+        };
+        for (const auto& [row, folder, file] : rows) {
+            const InRow inRow(row);
+            const Shop shop;
+            shop.sql(addTea);
+            setRights(folder, file);
+            {
+                const OrdinaryUser user;
+                QCOMPARE(reportOf("select * from Ticket"), QByteArray());
+                QCOMPARE(shop.cell("select article from Article"), QString("Thé"));
+                QCOMPARE(reportOf(addTea),
+                    databaseReport(addTea, "attempt to write a readonly database"));
+                QCOMPARE(shop.cell("select count(*) from Article"), QString("1"));
+            }
+            setRights(0777, 0666);
         }
-        setRights(0777, 0666);
     }
 
     void anUnreadableFileCannotBeOpened()
@@ -188,39 +186,30 @@ private slots:
         QCOMPARE(shop.cell("select count(*) from Article"), QString("2"));
     }
 
-    void aLockedDatabaseIsWaitedForAndReported_data()
-    {
-        QTest::addColumn<QByteArray>("lock");
-        QTest::addColumn<QByteArray>("refused");
-        QTest::addColumn<bool>("isTransaction");
-        const auto row
-            = [](const char* name, const char* lock, const char* sql, bool isTransaction) {
-                  QTest::newRow(name) << QByteArray(lock) << QByteArray(sql) << isTransaction;
-              };
-        row("a statement", "begin exclusive", "select * from Config", false);
-        row("a transaction", "begin immediate", "begin immediate", true);
-        row("a transaction that a reader holds up", "begin; select * from Config", "commit", true);
-    }
-
     void aLockedDatabaseIsWaitedForAndReported()
     {
-        QFETCH(QByteArray, lock);
-        QFETCH(QByteArray, refused);
-        QFETCH(bool, isTransaction);
-        const Shop shop;
-        {
-            const OtherProcess backup(lock.constData(), aMinute);
-            CapturedOutput output;
-            QElapsedTimer timer;
-            timer.start();
-            QVERIFY(isTransaction ? !Db::DbTransact({addTea, addTea})
-                                  : Db::DbLoad(refused.constData()).empty());
-            const qint64 waited = timer.elapsed();
-            QCOMPARE(output.text(), databaseReport(refused, "database is locked"));
-            QVERIFY2(waited >= 1500 && waited < 20'000, qPrintable(QString::number(waited)));
+        const Rows<QByteArray, QByteArray, bool> rows{
+            {"a statement", "begin exclusive", "select * from Config", false},
+            {"a transaction", "begin immediate", "begin immediate", true},
+            {"a transaction that a reader holds up", "begin; select * from Config", "commit", true},
+        };
+        for (const auto& [row, lock, refused, isTransaction] : rows) {
+            const InRow inRow(row);
+            const Shop shop;
+            {
+                const OtherProcess backup(lock.constData(), aMinute);
+                CapturedOutput output;
+                QElapsedTimer timer;
+                timer.start();
+                QVERIFY(isTransaction ? !Db::DbTransact({addTea, addTea})
+                                      : Db::DbLoad(refused.constData()).empty());
+                const qint64 waited = timer.elapsed();
+                QCOMPARE(output.text(), databaseReport(refused, "database is locked"));
+                QVERIFY2(waited >= 1500 && waited < 20'000, qPrintable(QString::number(waited)));
+            }
+            QCOMPARE(shop.cell("select count(*) from Article"), QString("0"));
+            QCOMPARE(shop.cell("pragma integrity_check"), QString("ok"));
         }
-        QCOMPARE(shop.cell("select count(*) from Article"), QString("0"));
-        QCOMPARE(shop.cell("pragma integrity_check"), QString("ok"));
     }
 
     void aLockReleasedInTimeIsNoError()

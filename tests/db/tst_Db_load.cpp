@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "db/Db.h"
 #include "tests/support/Captured.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
@@ -20,44 +21,36 @@ auto openDescriptors()
 }
 } // namespace
 
-Q_DECLARE_METATYPE(DbRows)
-
 /// One statement on the working directory's database.
 class TestDbLoad : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void columnsAreTextInTheStatementsOrder_data()
-    {
-        QTest::addColumn<QByteArray>("sql");
-        QTest::addColumn<DbRows>("rows");
-        const auto row = [](const char* name, const char* sql, const DbRows& rows) {
-            QTest::newRow(name) << QByteArray(sql) << rows;
-        };
-        row("numbers", "select 'b', 1, 2.5, -3, 'a'", {{"b", "1", "2.5", "-3", "a"}});
-        row("several rows", "values (3, 'Eau', 1), (2, 'Bière', 4), (1, 'Thé', 2.5)",
-            {{"3", "Eau", "1"}, {"2", "Bière", "4"}, {"1", "Thé", "2.5"}});
-        row("NULL is the empty text", "select NULL, '', 0", {{"", "", "0"}});
-        row("the sum of an empty ticket", "select sum(prix) from Ticket",
-            DbRows(1, {std::string()}));
-        row("characters of several bytes", "select 'Crème brûlée €😀 שלום', 1",
-            {{"Crème brûlée €😀 שלום", "1"}});
-        row("text ends at its first NUL", "select 'Thé' || char(0) || 'vert', 1", {{"Thé", "1"}});
-        row("no row", "select * from Article", {});
-        row("no result", "delete from Article", {});
-        row("nothing", "", {});
-        row("a comment", "  -- nothing to do", {});
-    }
-
     void columnsAreTextInTheStatementsOrder()
     {
-        QFETCH(QByteArray, sql);
-        QFETCH(DbRows, rows);
-        const Shop shop;
-        CapturedOutput output;
-        QCOMPARE(Db::DbLoad(sql.constData()), rows);
-        QCOMPARE(output.text(), QByteArray());
+        const Rows<QByteArray, DbRows> rows{
+            {"numbers", "select 'b', 1, 2.5, -3, 'a'", {{"b", "1", "2.5", "-3", "a"}}},
+            {"several rows", "values (3, 'Eau', 1), (2, 'Bière', 4), (1, 'Thé', 2.5)",
+                {{"3", "Eau", "1"}, {"2", "Bière", "4"}, {"1", "Thé", "2.5"}}},
+            {"NULL is the empty text", "select NULL, '', 0", {{"", "", "0"}}},
+            {"the sum of an empty ticket", "select sum(prix) from Ticket",
+                DbRows(1, {std::string()})},
+            {"characters of several bytes", "select 'Crème brûlée €😀 שלום', 1",
+                {{"Crème brûlée €😀 שלום", "1"}}},
+            {"text ends at its first NUL", "select 'Thé' || char(0) || 'vert', 1", {{"Thé", "1"}}},
+            {"no row", "select * from Article", {}},
+            {"no result", "delete from Article", {}},
+            {"nothing", "", {}},
+            {"a comment", "  -- nothing to do", {}},
+        };
+        for (const auto& [row, sql, loaded] : rows) {
+            const InRow inRow(row);
+            const Shop shop;
+            CapturedOutput output;
+            QCOMPARE(Db::DbLoad(sql.constData()), loaded);
+            QCOMPARE(output.text(), QByteArray());
+        }
     }
 
     void whatIsInsertedComesBack()
@@ -82,27 +75,22 @@ private slots:
         QCOMPARE(output.text(), QByteArray());
     }
 
-    void anErrorIsOneLineWithTheStatement_data()
-    {
-        QTest::addColumn<QByteArray>("sql");
-        QTest::addColumn<QByteArray>("reason");
-        const auto row = [](const char* name, const char* sql, const char* reason) {
-            QTest::newRow(name) << QByteArray(sql) << QByteArray(reason);
-        };
-        row("a syntax error", "selct * from Article", "near \"selct\": syntax error");
-        row("an unknown column", "insert into Ticket(id, article, prix) values (0, '----', inf)",
-            "no such column: inf");
-        row("a statement of two lines", "select 'Thé\n€' from Nowhere", "no such table: Nowhere");
-    }
-
     void anErrorIsOneLineWithTheStatement()
     {
-        QFETCH(QByteArray, sql);
-        QFETCH(QByteArray, reason);
-        const Shop shop;
-        CapturedOutput output;
-        QVERIFY(Db::DbLoad(sql.constData()).empty());
-        QCOMPARE(output.text(), "Errors Db::DbLoad sqlite3_errmsg : " + sql + ' ' + reason + '\n');
+        const Rows<QByteArray, QByteArray> rows{
+            {"a syntax error", "selct * from Article", "near \"selct\": syntax error"},
+            {"an unknown column", "insert into Ticket(id, article, prix) values (0, '----', inf)",
+                "no such column: inf"},
+            {"a statement of two lines", "select 'Thé\n€' from Nowhere", "no such table: Nowhere"},
+        };
+        for (const auto& [row, sql, reason] : rows) {
+            const InRow inRow(row);
+            const Shop shop;
+            CapturedOutput output;
+            QVERIFY(Db::DbLoad(sql.constData()).empty());
+            QCOMPARE(
+                output.text(), "Errors Db::DbLoad sqlite3_errmsg : " + sql + ' ' + reason + '\n');
+        }
     }
 
     void anErrorAfterSomeRowsKeepsThem()

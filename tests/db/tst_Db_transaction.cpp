@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "db/Db.h"
 #include "tests/support/Captured.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
@@ -31,30 +32,24 @@ private slots:
         QVERIFY(Db::DbTransact({}));
     }
 
-    void theFirstRefusedStatementTakesAllOthersBack_data()
-    {
-        QTest::addColumn<QByteArray>("refused");
-        QTest::addColumn<QByteArray>("reason");
-        QTest::newRow("a table that is missing")
-            << QByteArray("insert into Nowhere values (1)") << QByteArray("no such table: Nowhere");
-        QTest::newRow("a value that is missing")
-            << QByteArray("insert into Article (article) values ('Eau')")
-            << QByteArray("NOT NULL constraint failed: Article.prix");
-        QTest::newRow("no SQL") << QByteArray("Bonjour")
-                                << QByteArray("near \"Bonjour\": syntax error");
-    }
-
     void theFirstRefusedStatementTakesAllOthersBack()
     {
-        QFETCH(QByteArray, refused);
-        QFETCH(QByteArray, reason);
-        const Shop shop;
-        CapturedOutput output;
-        QVERIFY(!Db::DbTransact({addTea, refused.toStdString(), addMilk, "neither is this"}));
-        QCOMPARE(output.text(), databaseReport(refused, reason));
-        QVERIFY(shop.sql("select article from Article").empty());
-        QVERIFY(Db::DbTransact({addMilk}));
-        QCOMPARE(shop.sql("select article, prix from Article"), (DbRows{{"Lait", "1"}}));
+        const Rows<QByteArray, QByteArray> rows{
+            {"a table that is missing", "insert into Nowhere values (1)", "no such table: Nowhere"},
+            {"a value that is missing", "insert into Article (article) values ('Eau')",
+                "NOT NULL constraint failed: Article.prix"},
+            {"no SQL", "Bonjour", "near \"Bonjour\": syntax error"},
+        };
+        for (const auto& [row, refused, reason] : rows) {
+            const InRow inRow(row);
+            const Shop shop;
+            CapturedOutput output;
+            QVERIFY(!Db::DbTransact({addTea, refused.toStdString(), addMilk, "neither is this"}));
+            QCOMPARE(output.text(), databaseReport(refused, reason));
+            QVERIFY(shop.sql("select article from Article").empty());
+            QVERIFY(Db::DbTransact({addMilk}));
+            QCOMPARE(shop.sql("select article, prix from Article"), (DbRows{{"Lait", "1"}}));
+        }
     }
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/Articles.h"
 #include "tests/support/Captured.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
@@ -11,43 +12,35 @@ namespace {
 using Ids = std::vector<int>;
 } // namespace
 
-Q_DECLARE_METATYPE(Ids)
-
 /// The duplicates in the menu.
 class TestArticles : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void olderRowsOfANameAreDuplicates_data()
-    {
-        QTest::addColumn<QByteArray>("menu");
-        QTest::addColumn<Ids>("duplicates");
-        const auto row = [](const char* name, const char* menu, const Ids& duplicates) {
-            QTest::newRow(name) << QByteArray(menu) << duplicates;
-        };
-        row("different names", "('Thé', 1), ('Eau', 1)", {});
-        row("the older of two", "('Eau', 1), ('Thé', 1), ('Eau', 1)", {1});
-        row("the price does not matter", "('Eau', 1), ('Eau', 2)", {1});
-        row("ASCII case does not matter", "('Cafe', 1), ('cafe', 1)", {1});
-        row("accented letters have a case", "('Café', 1), ('CAFÉ', 1), ('cafÉ', 1)", {2});
-        row("all older rows", "('Eau', 1), ('eau', 1), ('EAU', 1)", {1, 2});
-        row("two names", "('Eau', 1), ('Vin', 1), ('Thé', 1), ('eau', 1), ('vin', 1)", {1, 2});
-        row("blanks matter", "('Eau', 1), ('Eau ', 1)", {});
-        row("a quote in a name", "('l''eau', 1), ('L''EAU', 1)", {1});
-    }
-
     void olderRowsOfANameAreDuplicates()
     {
-        QFETCH(QByteArray, menu);
-        QFETCH(Ids, duplicates);
-        const Shop shop;
-        shop.sql(("insert into Article (article, prix) values " + menu).constData());
-        QCOMPARE(Articles::countDuplicates().value_or(0), static_cast<int>(duplicates.size()));
-        QCOMPARE(Articles::countDuplicates().has_value(), !duplicates.empty());
-        Ids found = Articles::duplicateIds();
-        std::sort(found.begin(), found.end());
-        QCOMPARE(found, duplicates);
+        const Rows<QByteArray, Ids> rows{
+            {"different names", "('Thé', 1), ('Eau', 1)", {}},
+            {"the older of two", "('Eau', 1), ('Thé', 1), ('Eau', 1)", {1}},
+            {"the price does not matter", "('Eau', 1), ('Eau', 2)", {1}},
+            {"ASCII case does not matter", "('Cafe', 1), ('cafe', 1)", {1}},
+            {"accented letters have a case", "('Café', 1), ('CAFÉ', 1), ('cafÉ', 1)", {2}},
+            {"all older rows", "('Eau', 1), ('eau', 1), ('EAU', 1)", {1, 2}},
+            {"two names", "('Eau', 1), ('Vin', 1), ('Thé', 1), ('eau', 1), ('vin', 1)", {1, 2}},
+            {"blanks matter", "('Eau', 1), ('Eau ', 1)", {}},
+            {"a quote in a name", "('l''eau', 1), ('L''EAU', 1)", {1}},
+        };
+        for (const auto& [row, menu, duplicates] : rows) {
+            const InRow inRow(row);
+            const Shop shop;
+            shop.sql(("insert into Article (article, prix) values " + menu).constData());
+            QCOMPARE(Articles::countDuplicates().value_or(0), static_cast<int>(duplicates.size()));
+            QCOMPARE(Articles::countDuplicates().has_value(), !duplicates.empty());
+            Ids found = Articles::duplicateIds();
+            std::sort(found.begin(), found.end());
+            QCOMPARE(found, duplicates);
+        }
     }
 
     void anEmptyMenuHasNone()
