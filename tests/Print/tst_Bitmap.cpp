@@ -4,8 +4,6 @@
 #include "tests/support/Rows.h"
 #include "tests/support/TestProgram.h"
 
-#include <QTest>
-
 namespace {
 /// Rows as text: '#' is a black dot.
 DotMatrix dotsFrom(const QStringList& rows)

@@ -3,8 +3,6 @@
 #include "tests/Print/PrinterTest.h"
 #include "tests/support/TestProgram.h"
 
-#include <QTest>
-
 namespace {
 /// What is built before main may already use the commands.
 const std::string cutBeforeMain = EscPos::CUT;

@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtEndian>
-#include <QTest>
 
 #include <algorithm>
 #include <cstddef>

@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <sys/resource.h>
 #include <sys/stat.h>

@@ -4,8 +4,6 @@
 #include "tests/Print/PrinterTest.h"
 #include "tests/support/TestProgram.h"
 
-#include <QTest>
-
 #include <map>
 
 namespace {

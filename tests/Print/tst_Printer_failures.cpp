@@ -3,8 +3,6 @@
 #include "tests/support/Rows.h"
 #include "tests/support/TestProgram.h"
 
-#include <QTest>
-
 #include <sys/resource.h>
 
 using Setup = EmulatedPrinter::Setup;

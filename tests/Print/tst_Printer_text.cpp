@@ -4,8 +4,6 @@
 #include "tests/support/Rows.h"
 #include "tests/support/TestProgram.h"
 
-#include <QTest>
-
 #include <map>
 
 /// Texts with markers in them.

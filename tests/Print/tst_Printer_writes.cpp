@@ -2,8 +2,6 @@
 #include "tests/Print/PrinterTest.h"
 #include "tests/support/TestProgram.h"
 
-#include <QTest>
-
 class TestPrinterWrites : public QObject
 {
     Q_OBJECT

@@ -58,12 +58,18 @@ public:
         click(window, "btn_Payer");
     }
 
-    /// Sells a tea at 2.50, with the printer switched on.
+    /// Sells a tea at 2.50.
+    void sellTea()
+    {
+        sell("Thé", "2.5");
+        pay();
+    }
+
+    /// The same with the printer switched on.
     void sellOnPaper()
     {
         setSwitch("1");
-        sell("Thé", "2.5");
-        pay();
+        sellTea();
     }
 
     /// Runs \a sql on the shop's database.

@@ -185,12 +185,8 @@ private slots:
 
     void withoutAHistoryTheTicketIsKept()
     {
-        const Rows<QByteArray> rows{
-            {"on the screen", "0"},
-            {"on paper", "1"},
-        };
-        for (const auto& [row, output] : rows) {
-            const InRow inRow(row);
+        for (const char* output : {"0", "1"}) {
+            const InRow inRow(output);
             const EmulatedPrinter printer;
             Till till;
             till.setSwitch(output);
@@ -303,9 +299,7 @@ private slots:
             const InRow inRow(row);
             Till till;
             till.sell("Eau", price);
-            QCOMPARE(till.shownLines(), 1);
             payUnrecorded(till, refusedLine("7, 'Eau', " + spliced, reason));
-            QCOMPARE(till.ticket().size(), 1);
             QCOMPARE(till.history(), QStringList());
             // The cashier takes the line off, and tries the menu.
             clickCell(till.window, "tableView2", 0, 2);

@@ -38,8 +38,7 @@ private slots:
         Till till;
         const CapturedLog log;
         const AnswerBox box;
-        till.sell("Thé", "2.5");
-        till.pay();
+        till.sellTea();
         QVERIFY(till.receipt() != nullptr);
         QVERIFY(till.receipt()->isVisible());
         QVERIFY(till.receipt()->isFilled());
@@ -56,8 +55,7 @@ private slots:
     void theReceiptStandsOverTheSalesScreenAndIsDeleted()
     {
         Till till;
-        till.sell("Thé", "2.5");
-        till.pay();
+        till.sellTea();
         const QPointer<FormVendelTicket> receipt = till.receipt();
         QCOMPARE(receipt->parentWidget(), &till.window);
         QVERIFY(receipt->isModal());
@@ -200,8 +198,7 @@ private slots:
     {
         Till till;
         const AnswerBox box;
-        till.sell("Thé", "2.5");
-        till.pay();
+        till.sellTea();
         till.pay();
         QCOMPARE(box.text(), QString("Le ticket est vide"));
         QCOMPARE(till.history().size(), 1);

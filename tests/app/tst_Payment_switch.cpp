@@ -18,8 +18,7 @@ private slots:
             const InRow inRow(value);
             Till till;
             till.setSwitch(value);
-            till.sell("Thé", "2.5");
-            till.pay();
+            till.sellTea();
             QVERIFY(till.receipt() != nullptr);
             QCOMPARE(till.ticket(), QStringList());
         }
@@ -31,8 +30,7 @@ private slots:
         Till till;
         for (const char* value : {"1", " 1", "1.9", "1 oui", "+1"}) {
             till.setSwitch(value);
-            till.sell("Thé", "2.5");
-            till.pay();
+            till.sellTea();
             QCOMPARE(till.ticket(), QStringList());
         }
         QCOMPARE(printer.transfers().size(), 10U);
@@ -47,8 +45,7 @@ private slots:
             CapturedOutput output;
             const AnswerBox box;
             till.setSwitch(value);
-            till.sell("Thé", "2.5");
-            till.pay();
+            till.sellTea();
             QVERIFY(till.receipt() == nullptr);
             QVERIFY(!box.wasShown());
             QCOMPARE(till.books(), QString("sold: 7 Thé 2.5; ticket: Thé 2.5; 0 shown"));
@@ -68,8 +65,7 @@ private slots:
             const CapturedLog log;
             const AnswerBox box;
             till.setSwitch(value);
-            till.sell("Thé", "2.5");
-            till.pay();
+            till.sellTea();
             QCOMPARE(log.criticals(), QStringList("Errors FormVendel on_btn_Payer_clicked : stoi"));
             QVERIFY(till.receipt() == nullptr);
             QVERIFY(!box.wasShown());
@@ -83,8 +79,7 @@ private slots:
         Till till;
         const CapturedLog log;
         till.run("delete from Config where param = 'Epson TM-T20II'");
-        till.sell("Thé", "2.5");
-        till.pay();
+        till.sellTea();
         QCOMPARE(log.criticals(), QStringList("Errors FormVendel on_btn_Payer_clicked : stoi"));
         QCOMPARE(till.books(), QString("sold: 7 Thé 2.5; ticket: Thé 2.5; 0 shown"));
         till.run("insert into Config (param, valeur) values ('Epson TM-T20II', 0)");
@@ -96,13 +91,11 @@ private slots:
         Till till;
         till.setSwitch("2");
         till.run("insert into Config (param, valeur) values ('Epson TM-T20II', 0)");
-        till.sell("Thé", "2.5");
-        till.pay();
+        till.sellTea();
         QVERIFY(till.receipt() != nullptr);
         till.takeReceipt();
         till.run("insert into Config (param, valeur) values ('Epson TM-T20II', 3)");
-        till.sell("Thé", "2.5");
-        till.pay();
+        till.sellTea();
         QVERIFY(till.receipt() == nullptr);
         QCOMPARE(till.ticket().size(), 1);
     }
@@ -111,8 +104,7 @@ private slots:
     {
         Till till;
         till.run("update Config set param = 'epson tm-T20ii' where param = 'Epson TM-T20II'");
-        till.sell("Thé", "2.5");
-        till.pay();
+        till.sellTea();
         QVERIFY(till.receipt() != nullptr);
     }
 };

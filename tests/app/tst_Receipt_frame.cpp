@@ -10,10 +10,10 @@
 #include <stdexcept>
 
 namespace {
-const QByteArray bold = "\x1b\x45\x01";
-const QByteArray notBold = "\x1b\x45\x02";
-const QByteArray bigAndCentred = "\x1b\x21\x30\x1b\x61\x01";
-const QByteArray normalAndLeft = "\x1b\x21\x02\x1b\x61\x30";
+const QByteArray bold = "\033E\001";
+const QByteArray notBold = "\033E\002";
+const QByteArray bigAndCentred = "\033!0\033a\001";
+const QByteArray normalAndLeft = "\033!\002\033a0";
 const QByteArray blank46(46, ' ');
 
 QByteArray boldLine(const QByteArray& text)
@@ -38,7 +38,7 @@ QByteArray printedHeader(const QByteArray& file)
 /// What is printed below the sale for a footer file of \a file.
 QByteArray printedFooter(const QByteArray& file)
 {
-    const QByteArray endOfTotal = "\x1b\x45\x02\x1b\x21\x02\r\n";
+    const QByteArray endOfTotal = "\033E\002\033!\002\r\n";
     const Shop shop;
     writeFooter(shop, file);
     const QByteArray receipt = printedReceipt();
@@ -168,7 +168,7 @@ private slots:
         const Shop shop;
         QVERIFY(!ReceiptFiles::read(ReceiptFiles::header));
         QVERIFY(printedReceipt().startsWith("\r\n\r\nProduit"));
-        QVERIFY(printedReceipt().endsWith("\x1b\x45\x02\x1b\x21\x02\r\n"));
+        QVERIFY(printedReceipt().endsWith("\033E\002\033!\002\r\n"));
     }
 
     void aFolderInAFilesPlaceIsNothing()

@@ -32,22 +32,17 @@ private slots:
         putOnTicket(shop, "Thé", "2.5");
         putOnTicket(shop, "Thé", "2.5");
         COMPARE_BYTES(printedReceipt(),
-            "\x1b\x21\x30\x1b\x61\x01"
-            "Chez Paul\r\n"
-            "\x1b\x21\x02\x1b\x61\x30"
-            "\x1b\x45\x01"
-            "                   12 rue X                   \r\n"
-            "\x1b\x45\x02"
-            "\r\n\r\n"
+            "\033!0\033a\001Chez Paul\r\n"
+            "\033!\002\033a0\033E\001                   12 rue X                   \r\n"
+            "\033E\002\r\n\r\n"
             "Produit\t\t\t     05/03/2024 09:07:03\r\n\r\n"
             "Qtit\x82  Article\t\tPrix U   Prix * Qtit\x82\r\n\r\n"
             "3  Th\x82           \t$2.50       $7.50\r\n\r\n"
             "->  Total ticket\t\t    $7.50\r\n"
             "->  TVA 20.00%\t\t\t    $1.50\r\n"
             "------------------------------------------------\r\n"
-            "\x1b\x21\x20\x1b\x45\x01"
-            "->  TOTAL \t    $9.01\r\n"
-            "\x1b\x45\x02\x1b\x21\x02\r\n"
+            "\033! \033E\001->  TOTAL \t    $9.01\r\n"
+            "\033E\002\033!\002\r\n"
             "                    Merci !                    \r\n"
             "                                              \r\n");
     }
@@ -64,9 +59,8 @@ private slots:
             "->  Total ticket\t\t    $7.50\r\n"
             "->  TVA 0.00%\t\t\t    $0.00\r\n"
             "------------------------------------------------\r\n"
-            "\x1b\x21\x20\x1b\x45\x01"
-            "->  TOTAL \t    $7.51\r\n"
-            "\x1b\x45\x02\x1b\x21\x02\r\n");
+            "\033! \033E\001->  TOTAL \t    $7.51\r\n"
+            "\033E\002\033!\002\r\n");
     }
 
     void articlesAreTheseLines()
@@ -172,8 +166,8 @@ private slots:
             COMPARE_BYTES(receipt.mid(receipt.indexOf("->  Total ticket")),
                 lines
                     + "------------------------------------------------\r\n"
-                      "\x1b\x21\x20\x1b\x45\x01->  TOTAL \t    $"
-                    + grandTotal + "\r\n\x1b\x45\x02\x1b\x21\x02\r\n");
+                      "\033! \033E\001->  TOTAL \t    $"
+                    + grandTotal + "\r\n\033E\002\033!\002\r\n");
         }
     }
 
@@ -198,22 +192,17 @@ private slots:
         writeHeader(shop, "title:Paul\ntitre:Anne");
         putOnTicket(shop, "Eau", "7.5");
         COMPARE_BYTES(printedReceipt(),
-            "\x1b\x21\x30\x1b\x61\x01"
-            "Paul\r\n"
-            "\x1b\x21\x02\x1b\x61\x30"
-            "\x1b\x45\x01"
-            "                  titre:Anne                  \r\n"
-            "\x1b\x45\x02"
-            "\r\n\r\n"
+            "\033!0\033a\001Paul\r\n"
+            "\033!\002\033a0\033E\001                  titre:Anne                  \r\n"
+            "\033E\002\r\n\r\n"
             "Item\t\t\t     03-05-2024 09:07:03\r\n\r\n"
             "Qty    Name\t\tPrice   Price * Qty\r\n\r\n"
             "1  Eau            \t$7.50       $7.50\r\n\r\n"
             "->  Ticket\t\t    $7.50\r\n"
             "->  VAT 0.00%\t\t\t    $0.00\r\n"
             "------------------------------------------------\r\n"
-            "\x1b\x21\x20\x1b\x45\x01"
-            "->  SUM \t    $7.51\r\n"
-            "\x1b\x45\x02\x1b\x21\x02\r\n");
+            "\033! \033E\001->  SUM \t    $7.51\r\n"
+            "\033E\002\033!\002\r\n");
     }
 
     void theReceiptsOwnTranslationComesFirst()

@@ -2,6 +2,7 @@
 #include "common/ReceiptFiles.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Failures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
@@ -9,16 +10,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <sys/stat.h>
+#include <functional>
 
-namespace {
-/// Compares that the header's file is nothing to a receipt, and is not replaced.
-void compareUnreadable()
-{
-    QVERIFY(!ReceiptFiles::read(ReceiptFiles::header).has_value());
-    QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, "Rue"));
-}
-} // namespace
+#include <sys/stat.h>
 
 /// Files that cannot be read, and texts that cannot be written.
 class TestReceiptFilesFailures : public QObject
@@ -26,11 +20,30 @@ class TestReceiptFilesFailures : public QObject
     Q_OBJECT
 
 private slots:
-    void aDirectoryIsNothing()
+    void whatIsNoFileToReadIsNothingAndNotReplaced()
     {
-        const Shop shop(Shop::Database::None);
-        QVERIFY(QDir().mkdir(ReceiptFiles::header));
-        compareUnreadable();
+        using Make = std::function<bool()>;
+        const Rows<Make> rows{
+            {"a folder", [] { return QDir().mkdir(ReceiptFiles::header); }},
+            {"a FIFO", [] { return mkfifo("EnteteFormulaire.dat", 0600) == 0; }},
+            // The first page of a process' memory opens like a file and fails like a damaged disk.
+            {"a damaged disk", [] { return QFile::link("/proc/self/mem", ReceiptFiles::header); }},
+        };
+        for (const auto& [row, make] : rows) {
+            const InRow inRow(row);
+            const Shop shop(Shop::Database::None);
+            QVERIFY(make());
+            struct stat before
+            { };
+            QCOMPARE(stat("EnteteFormulaire.dat", &before), 0);
+            const CapturedLog log;
+            compareUnreadable();
+            struct stat after
+            { };
+            QCOMPARE(stat("EnteteFormulaire.dat", &after), 0);
+            QCOMPARE(after.st_mode, before.st_mode);
+            QCOMPARE(log.criticals().size(), 2);
+        }
     }
 
     void anUnreadableFileIsNothingAndNotReplaced()
@@ -47,29 +60,7 @@ private slots:
         QCOMPARE(shop.read(ReceiptFiles::header), QByteArray("Bar"));
     }
 
-    // The first page of a process' memory opens like a file and fails like a damaged disk.
-    void aFileThatFailsWhileItIsReadIsNothing()
-    {
-        const Shop shop(Shop::Database::None);
-        QVERIFY(QFile::link("/proc/self/mem", ReceiptFiles::header));
-        compareUnreadable();
-    }
-
-    void aFifoIsNeitherReadNorReplaced()
-    {
-        const Shop shop(Shop::Database::None);
-        QVERIFY(mkfifo("EnteteFormulaire.dat", 0600) == 0);
-        const CapturedLog log;
-        compareUnreadable();
-        struct stat status
-        { };
-        QVERIFY(stat("EnteteFormulaire.dat", &status) == 0);
-        QVERIFY(S_ISFIFO(status.st_mode));
-        const QString line = "EnteteFormulaire.dat is not read: it is not a regular file";
-        QCOMPARE(log.criticals(), QStringList({line, line}));
-    }
-
-    void aFileThatIsTooLargeIsNeitherReadNorReplaced()
+    void aFileThatIsTooLargeIsNothingAndNotReplaced()
     {
         const Shop shop(Shop::Database::None);
         shop.write(ReceiptFiles::header, "Bar");
@@ -77,7 +68,8 @@ private slots:
         const CapturedLog log;
         compareUnreadable();
         QCOMPARE(QFileInfo(ReceiptFiles::header).size(), 4'194'305);
-        QCOMPARE(log.criticals().size(), 2);
+        const QString line = "EnteteFormulaire.dat is not read: it is larger than 4 MB";
+        QCOMPARE(log.criticals(), QStringList({line, line}));
     }
 
     void aTextThatIsTooLongIsNotWritten()
@@ -88,6 +80,13 @@ private slots:
         QCOMPARE(shop.read(ReceiptFiles::footer), QByteArray("Merci"));
         QVERIFY(ReceiptFiles::replace(ReceiptFiles::footer, QString(4'194'304, 'x')));
         QCOMPARE(ReceiptFiles::read(ReceiptFiles::footer)->size(), 4'194'304);
+    }
+
+private:
+    static void compareUnreadable()
+    {
+        QVERIFY(!ReceiptFiles::read(ReceiptFiles::header).has_value());
+        QVERIFY(!ReceiptFiles::replace(ReceiptFiles::header, "Rue"));
     }
 };
 

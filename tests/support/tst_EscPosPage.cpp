@@ -8,7 +8,6 @@
 
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <array>
 
@@ -127,13 +126,11 @@ private slots:
 
     void bitImagesBecomeDots()
     {
-        const Rows<std::string, int, QList<int>> rows{
-            {"24 dots, double density", "\033*!\001\000\200\001\002\n"s, 1,
-                QList<int>({0, 15, 22})},
-            {"24 dots, single density", "\033* \001\000\200\000\000\n"s, 2, QList<int>({0})},
-            {"8 dots, double density", "\033*\001\001\000A\n"s, 1,
-                QList<int>({3, 4, 5, 21, 22, 23})},
-            {"8 dots, single density", "\033*\000\001\000\200\n"s, 2, QList<int>({0, 1, 2})},
+        const Rows<std::string, int, std::vector<int>> rows{
+            {"24 dots, double density", "\033*!\001\000\200\001\002\n"s, 1, {0, 15, 22}},
+            {"24 dots, single density", "\033* \001\000\200\000\000\n"s, 2, {0}},
+            {"8 dots, double density", "\033*\001\001\000A\n"s, 1, {3, 4, 5, 21, 22, 23}},
+            {"8 dots, single density", "\033*\000\001\000\200\n"s, 2, {0, 1, 2}},
         };
         for (const auto& [row, job, width, blackRowsOfFirstColumn] : rows) {
             const InRow inRow(row);
@@ -141,10 +138,10 @@ private slots:
             const PageBand& band = page.lines().at(0).bands.at(0);
             QCOMPARE(band.width(), width);
             QCOMPARE(band.height(), 24);
-            QList<int> black;
+            std::vector<int> black;
             for (int y = 0; y < band.height(); ++y) {
                 if (band.rows[static_cast<std::size_t>(y)][0]) {
-                    black += y;
+                    black.push_back(y);
                 }
             }
             QCOMPARE(black, blackRowsOfFirstColumn);
@@ -231,34 +228,33 @@ private slots:
     void theToolWritesPictureAndLines()
     {
         const QTemporaryDir folder;
-        QFile job(folder.filePath("job"));
-        QVERIFY(job.open(QIODevice::WriteOnly));
-        job.write("\033a\001\033!0Chez Paul\r\n\033!\002\033a0Caf\202 \325\r\n");
-        job.close();
-        QCOMPARE(QProcess::execute(VENDEL_ESCPOS_PAGE,
-                     {job.fileName(), folder.filePath("page.png"), folder.filePath("page.txt")}),
-            0);
+        QCOMPARE(runTool(folder, "\033a\001\033!0Chez Paul\r\n\033!\002\033a0Caf\202 \325\r\n"), 0);
         QCOMPARE(QImage(folder.filePath("page.png")).size(), QSize(640, 24 + 48 + 30 + 24));
         QFile lines(folder.filePath("page.txt"));
         QVERIFY(lines.open(QIODevice::ReadOnly));
-        QCOMPARE(QString::fromUtf8(lines.readAll()),
-            QString::fromUtf8("[centre][wide high]Chez Paul\nCafé €\n"));
+        QCOMPARE(lines.readAll(), QByteArray("[centre][wide high]Chez Paul\nCafé €\n"));
     }
 
     void theToolFailsOnAComplaint()
     {
         const QTemporaryDir folder;
-        QFile job(folder.filePath("job"));
-        QVERIFY(job.open(QIODevice::WriteOnly));
-        job.write("\033x\n");
-        job.close();
-        QCOMPARE(QProcess::execute(VENDEL_ESCPOS_PAGE,
-                     {job.fileName(), folder.filePath("page.png"), folder.filePath("page.txt")}),
-            1);
+        QCOMPARE(runTool(folder, "\033x\n"), 1);
         QVERIFY(QFile::exists(folder.filePath("page.png")));
+    }
+
+private:
+    /// Gives \a bytes to the tool, which writes into \a folder; returns its exit code.
+    static int runTool(const QTemporaryDir& folder, const QByteArray& bytes)
+    {
+        QFile job(folder.filePath("job"));
+        if (!job.open(QIODevice::WriteOnly) || job.write(bytes) != bytes.size()) {
+            qFatal("cannot write the job");
+        }
+        job.close();
+        return QProcess::execute(VENDEL_ESCPOS_PAGE,
+            {job.fileName(), folder.filePath("page.png"), folder.filePath("page.txt")});
     }
 };
 
 VENDEL_TEST(TestEscPosPage)
-
 #include "tst_EscPosPage.moc"
