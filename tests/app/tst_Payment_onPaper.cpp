@@ -93,37 +93,6 @@ private slots:
         QVERIFY2(time >= before && time <= after, qPrintable(shown));
     }
 
-    void controlCharactersAreBlanks()
-    {
-        const EmulatedPrinter printer;
-        Till till;
-        till.setSwitch("1");
-        writeHeader(till.shop, "titre:Chez\x1bp0 Paul\n12\x1drue X");
-        writeFooter(till.shop, "Merci\x7f!");
-        till.sell("\x1bp0zz", "2.5");
-        till.pay();
-        QCOMPARE(printer.transfers().size(), 2U);
-        const QByteArray bytes = firstReceipt(printer);
-        QVERIFY(bytes.startsWith("\033!0\033a\001Chez p0 Paul\r\n\033!\002\033a0\033E\001"
-                                 "                   12 rue X                   \r\n\033E\002"));
-        QVERIFY(bytes.contains("\r\n1   p0zz          \t$2.50       $2.50\r\n"));
-        QVERIFY(bytes.endsWith("\r\n                    Merci !                    \r\n"));
-        QCOMPARE(till.history(), QStringList("7 \x1bp0zz 2.5"));
-    }
-
-    void aNameOfTenThousandLettersIsPrinted()
-    {
-        const EmulatedPrinter printer;
-        Till till;
-        till.setSwitch("1");
-        till.sell(QByteArray(10'000, 'x'), "2.5");
-        till.pay();
-        QCOMPARE(printer.transfers().size(), 2U);
-        QVERIFY(firstReceipt(printer).contains(
-            "\r\n1  " + QByteArray(10'000, 'x') + "\t$2.50       $2.50\r\n"));
-        QCOMPARE(till.ticket(), QStringList());
-    }
-
     void aHeaderOfAMegabyteIsPrinted()
     {
         const EmulatedPrinter printer;
