@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "Print/escpospp/EscPos.h"
+#include "tests/Print/Pictures.h"
 #include "tests/support/Allocations.h"
 #include "tests/support/TestProgram.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtEndian>
 
 #include <algorithm>
@@ -84,16 +82,12 @@ private slots:
 private:
     DotMatrix loaded(const QByteArray& bytes)
     {
-        QFile file(folder_.filePath("picture"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-            qFatal("cannot write the picture");
-        }
-        file.close();
+        const std::string file = pictures_.fileHolding(bytes);
         Allocations::takeLargestRealloc();
-        return EscPos::loadImage(file.fileName().toStdString());
+        return EscPos::loadImage(file);
     }
 
-    QTemporaryDir folder_;
+    const Pictures pictures_;
 };
 
 VENDEL_TEST(TestEscPosMemory)

@@ -10,20 +10,16 @@
 #include <stdexcept>
 
 namespace {
-const QByteArray bold = "\033E\001";
-const QByteArray notBold = "\033E\002";
-const QByteArray bigAndCentred = "\033!0\033a\001";
-const QByteArray normalAndLeft = "\033!\002\033a0";
 const QByteArray blank46(46, ' ');
 
-QByteArray boldLine(const QByteArray& text)
+QByteArray bold(const QByteArray& text)
 {
-    return bold + text + "\r\n" + notBold;
+    return "\033E\001" + text + "\r\n\033E\002";
 }
 
-QByteArray titleLine(const QByteArray& text)
+QByteArray title(const QByteArray& text)
 {
-    return bigAndCentred + text + "\r\n" + normalAndLeft;
+    return "\033!0\033a\001" + text + "\r\n\033!\002\033a0";
 }
 
 /// What is printed above the sale for a header file of \a file.
@@ -68,58 +64,53 @@ private slots:
         const QByteArray line48(48, 'x');
         const QByteArray line49(49, 'x');
         compareHeaders({
-            {"a plain line", "12 rue X",
-                boldLine("                   12 rue X                   ")},
+            {"a plain line", "12 rue X", bold("                   12 rue X                   ")},
             {"a plain line of odd length", "75011 Paris",
-                boldLine("                  75011 Paris                  ")},
+                bold("                  75011 Paris                  ")},
             {"an empty line between two", "a\n\nb",
-                boldLine("                       a                       ") + boldLine(blank46)
-                    + boldLine("                       b                       ")},
+                bold("                       a                       ") + bold(blank46)
+                    + bold("                       b                       ")},
             {"a line end at the end of the file", "12 rue X\n",
-                boldLine("                   12 rue X                   ") + boldLine(blank46)},
-            {"nothing but line ends", "\n\n",
-                boldLine(blank46) + boldLine(blank46) + boldLine(blank46)},
-            {"46 bytes", line46, boldLine(line46)},
-            {"47 bytes", line47, boldLine(line47)},
-            {"48 bytes", line48, boldLine(line48)},
-            {"49 bytes", line49, boldLine("")},
+                bold("                   12 rue X                   ") + bold(blank46)},
+            {"nothing but line ends", "\n\n", bold(blank46) + bold(blank46) + bold(blank46)},
+            {"46 bytes", line46, bold(line46)},
+            {"47 bytes", line47, bold(line47)},
+            {"48 bytes", line48, bold(line48)},
+            {"49 bytes", line49, bold("")},
             {"44 letters and 4 accented ones", QByteArray(40, 'x') + "éééé",
-                boldLine(QByteArray(40, 'x') + "\x82\x82\x82\x82")},
-            {"24 accented letters and one more byte", QByteArray("é").repeated(24) + "x",
-                boldLine("")},
+                bold(QByteArray(40, 'x') + "\x82\x82\x82\x82")},
+            {"24 accented letters and one more byte", QByteArray("é").repeated(24) + "x", bold("")},
             {"Windows line ends", "ab\r\ntitre:Chez Paul\r\n",
-                boldLine("                      ab\r                      ")
-                    + titleLine("Chez Paul\r") + boldLine(blank46)},
+                bold("                      ab\r                      ") + title("Chez Paul\r")
+                    + bold(blank46)},
             {"a line end of 48 bytes with its carriage return", line47 + "\r\n" + line48 + "\r",
-                boldLine(line47 + '\r') + boldLine("")},
-            {"a euro sign", "3 €", boldLine("                     3 \xd5                     ")},
-            {"accents", "À bientôt",
-                boldLine("                  \xb7 bient\x93t                  ")},
+                bold(line47 + '\r') + bold("")},
+            {"a euro sign", "3 €", bold("                     3 \xd5                     ")},
+            {"accents", "À bientôt", bold("                  \xb7 bient\x93t                  ")},
             {"semicolons and angle brackets", "<b>;a;</b>",
-                boldLine("                  <b>;a;</b>                  ")},
+                bold("                  <b>;a;</b>                  ")},
         });
     }
 
     void aTitleIsLarge()
     {
         compareHeaders({
-            {"a title", "titre:Chez Paul", titleLine("Chez Paul")},
-            {"a title with a second colon", "titre:Ouvert : 8 h", titleLine("Ouvert ")},
-            {"an empty title", "titre:", titleLine("")},
-            {"a title with blanks", "titre: Chez Paul ", titleLine(" Chez Paul ")},
+            {"a title", "titre:Chez Paul", title("Chez Paul")},
+            {"a title with a second colon", "titre:Ouvert : 8 h", title("Ouvert ")},
+            {"an empty title", "titre:", title("")},
+            {"a title with blanks", "titre: Chez Paul ", title(" Chez Paul ")},
             {"a title longer than the paper", "titre:" + QByteArray(60, 'x'),
-                titleLine(QByteArray(60, 'x'))},
-            {"a title mark in the middle of a line", "Notre titre:Chez Paul",
-                titleLine("Chez Paul")},
-            {"a colon before the title mark", "a:titre:Chez Paul", titleLine("titre")},
-            {"a euro sign in a title", "titre:3 €", titleLine("3 \xd5")},
-            {"a command in a title", "titre:Chez\x1bp0 Paul\x10\x14", titleLine("Chez p0 Paul  ")},
+                title(QByteArray(60, 'x'))},
+            {"a title mark in the middle of a line", "Notre titre:Chez Paul", title("Chez Paul")},
+            {"a colon before the title mark", "a:titre:Chez Paul", title("titre")},
+            {"a euro sign in a title", "titre:3 €", title("3 \xd5")},
+            {"a command in a title", "titre:Chez\x1bp0 Paul\x10\x14", title("Chez p0 Paul  ")},
             {"a capital in the title mark", "Titre:Chez Paul",
-                boldLine("                Titre:Chez Paul                ")},
+                bold("                Titre:Chez Paul                ")},
             {"a blank in the title mark", "titre :Chez Paul",
-                boldLine("               titre :Chez Paul               ")},
+                bold("               titre :Chez Paul               ")},
             {"a command in the title mark", "titre\x1b:Chez Paul",
-                boldLine("               titre :Chez Paul               ")},
+                bold("               titre :Chez Paul               ")},
         });
     }
 
@@ -127,17 +118,17 @@ private slots:
     {
         compareHeaders({
             {"a NUL in a line", QByteArray("ab\0cd\nef", 8),
-                boldLine("                      ab                      ")},
+                bold("                      ab                      ")},
             {"a NUL at the start of a line", QByteArray("ab\n\0cd", 6),
-                boldLine("                      ab                      ") + boldLine(blank46)},
-            {"a NUL at the start", QByteArray("\0ab", 3), boldLine(blank46)},
-            {"a tab", "a\tb", boldLine("                      a\tb                      ")},
+                bold("                      ab                      ") + bold(blank46)},
+            {"a NUL at the start", QByteArray("\0ab", 3), bold(blank46)},
+            {"a tab", "a\tb", bold("                      a\tb                      ")},
             {"a command that changes the printer's settings", "a\x1d(E\x03z",
-                boldLine("                    a (E z                    ")},
+                bold("                    a (E z                    ")},
             {"the first and the last control characters", "a\x01\x1f\x7fz",
-                boldLine("                     a   z                     ")},
+                bold("                     a   z                     ")},
             {"those around the tab, the line feed and the carriage return", "a\x08\x0b\x0c\x0ez",
-                boldLine("                    a    z                    ")},
+                bold("                    a    z                    ")},
         });
     }
 
@@ -158,12 +149,12 @@ private slots:
             const InRow inRow(row);
             COMPARE_BYTES(printedFooter(file), bytes + "\r\n");
         }
-        COMPARE_BYTES(printedFooter("titre:Merci"), titleLine("Merci"));
+        COMPARE_BYTES(printedFooter("titre:Merci"), title("Merci"));
     }
 
     void anEmptyFileIsAnEmptyLineAndAMissingOneIsNothing()
     {
-        COMPARE_BYTES(printedHeader(""), boldLine(blank46));
+        COMPARE_BYTES(printedHeader(""), bold(blank46));
         COMPARE_BYTES(printedFooter(""), blank46 + "\r\n");
         const Shop shop;
         QVERIFY(!ReceiptFiles::read(ReceiptFiles::header));
@@ -182,14 +173,14 @@ private slots:
     {
         constexpr int lines = 100'000;
         const QByteArray header = printedHeader(QByteArray("123456789\n").repeated(lines));
-        const QByteArray line = boldLine("                   123456789                   ");
-        QVERIFY(header == line.repeated(lines) + boldLine(blank46));
+        const QByteArray line = bold("                   123456789                   ");
+        QVERIFY(header == line.repeated(lines) + bold(blank46));
     }
 
     void aLineOfAMegabyteDisappears()
     {
         COMPARE_BYTES(printedHeader(QByteArray(1'000'000, 'x') + "\na"),
-            boldLine("") + boldLine("                       a                       "));
+            bold("") + bold("                       a                       "));
     }
 
     void aTextThatIsNoUtf8IsNotPrinted()
@@ -197,20 +188,13 @@ private slots:
         QVERIFY_EXCEPTION_THROWN(printedHeader("Caf\xe9"), std::runtime_error);
         QVERIFY_EXCEPTION_THROWN(printedFooter("\xc3"), std::runtime_error);
         // What disappears from the receipt does no harm.
-        COMPARE_BYTES(printedHeader("\xff" + QByteArray(49, 'x')), boldLine(""));
+        COMPARE_BYTES(printedHeader("\xff" + QByteArray(49, 'x')), bold(""));
     }
 
     void aCharacterThatThePrinterLacksIsNotPrinted()
     {
-        const Rows<QByteArray> rows{
-            {"a ligature", "cœur"},
-            {"an emoji", "🍺"},
-            {"Arabic", "قهوة"},
-            {"a right-to-left mark", "a\u200f"},
-            {"a curly quote", "l’eau"},
-        };
-        for (const auto& [row, text] : rows) {
-            const InRow inRow(row);
+        for (const QByteArray text : {"cœur", "🍺", "قهوة", "a\u200f", "l’eau"}) {
+            const InRow inRow(text.constData());
             QVERIFY_EXCEPTION_THROWN(printedHeader(text), std::runtime_error);
             QVERIFY_EXCEPTION_THROWN(printedHeader("titre:" + text), std::runtime_error);
             QVERIFY_EXCEPTION_THROWN(printedFooter(text), std::runtime_error);
@@ -224,11 +208,11 @@ private slots:
     {
         const Shop shop;
         writeHeader(shop, "titre:Lundi");
-        QVERIFY(printedReceipt().startsWith(titleLine("Lundi")));
+        QVERIFY(printedReceipt().startsWith(title("Lundi")));
         writeHeader(shop, "titre:Mardi");
-        QVERIFY(printedReceipt().startsWith(titleLine("Mardi")));
+        QVERIFY(printedReceipt().startsWith(title("Mardi")));
         writeFooter(shop, "titre:Soir");
-        QVERIFY(printedReceipt().endsWith(titleLine("Soir")));
+        QVERIFY(printedReceipt().endsWith(title("Soir")));
     }
 };
 
