@@ -94,7 +94,8 @@ private slots:
         for (const auto& [row, dots] : rows) {
             const InRow inRow(row);
             HeldPrinter held;
-            QCOMPARE(thrownInt([&] { held.printer.image(dots); }), -1);
+            const DotMatrix& picture = dots;
+            QCOMPARE(thrownInt([&] { held.printer.image(picture); }), -1);
             QCOMPARE(held.output.take(), std::string("Error: the bitmap is not squared\n"));
             QCOMPARE(held.sent(), QStringList());
         }

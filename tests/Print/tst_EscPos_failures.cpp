@@ -79,7 +79,7 @@ private slots:
     }
 
 private:
-    const Pictures pictures_;
+    Pictures pictures_;
 };
 
 VENDEL_TEST(TestEscPosFailures)

@@ -87,7 +87,7 @@ private:
         return EscPos::loadImage(file);
     }
 
-    const Pictures pictures_;
+    Pictures pictures_;
 };
 
 VENDEL_TEST(TestEscPosMemory)

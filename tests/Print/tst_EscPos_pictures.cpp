@@ -128,7 +128,7 @@ private slots:
     }
 
 private:
-    const Pictures pictures_;
+    Pictures pictures_;
 };
 
 VENDEL_TEST(TestEscPosPictures)

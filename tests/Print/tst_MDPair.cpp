@@ -58,8 +58,7 @@ private slots:
 
     void getMatchingGivesACopy()
     {
-        MDPair bold = MDPair::getMatching("**");
-        bold.on = "changed";
+        MDPair::getMatching("**").on = "changed";
         QCOMPARE(hexOf(MDPair::getMatching("**").on), QByteArray("1b4501"));
     }
 

@@ -135,6 +135,14 @@ private slots:
         }
     }
 
+    void textThatCannotBeWrittenCountsAsSent()
+    {
+        HeldPrinter held;
+        held.bus.unplug();
+        QVERIFY(held.printer.textCut("x"));
+        QCOMPARE(held.output.take(), std::string("Write Error\nWrite Error\n"));
+    }
+
     void aPrinterPluggedBackInPrintsAgain()
     {
         EmulatedPrinter bus;

@@ -32,18 +32,12 @@ private slots:
         QCOMPARE(held.output.take(), std::string());
     }
 
-    void cutFeedsAndCuts()
+    void cutAndResetSendTheirCommands()
     {
         HeldPrinter held;
         held.printer.cut();
-        QCOMPARE(held.sent(), QStringList("1d564196"));
-    }
-
-    void resetSendsItsTwoBytes()
-    {
-        HeldPrinter held;
         held.printer.reset();
-        QCOMPARE(held.sent(), QStringList("1d40"));
+        QCOMPARE(held.sent(), QStringList({"1d564196", "1d40"}));
     }
 };
 

@@ -152,6 +152,16 @@ private:
     }
 };
 
+/// A till with a tea at 2.50 on its ticket.
+class TillWithTea : public Till
+{
+public:
+    TillWithTea()
+    {
+        sell("Thé", "2.5");
+    }
+};
+
 /// Whether \a box is the notice about the missing printer.
 inline bool saysNotConnected(const AnswerBox& box, const Till& till)
 {

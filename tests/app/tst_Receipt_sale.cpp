@@ -13,7 +13,7 @@
 namespace {
 using Line = std::pair<QByteArray, QByteArray>;
 using Lines = std::vector<Line>;
-using Texts = std::vector<QByteArray>;
+using Amounts = std::vector<QByteArray>;
 } // namespace
 
 /// What is sold, and the totals below it.
@@ -132,7 +132,7 @@ private slots:
 
     void totals()
     {
-        const Rows<QByteArray, Texts, QByteArray, Texts, QByteArray> rows{
+        const Rows<QByteArray, Amounts, QByteArray, Amounts, QByteArray> rows{
             {"half a cent rounds up", "10", {"20"}, "10.00", {"20.00%\t\t\t    $2.01"}, "12.01"},
             {"half a cent rounds down", "16", {"20"}, "16.00", {"20.00%\t\t\t    $3.20"}, "19.20"},
             {"a broken rate", "8.25", {"19.6"}, "8.25", {"19.60%\t\t\t    $1.62"}, "9.87"},

@@ -46,16 +46,11 @@ private slots:
         QCOMPARE(output.text(), QByteArray());
     }
 
-    void holdsTheTwoDefaultSettings()
+    void holdsTheTwoDefaultSettingsAndNothingElse()
     {
         const Shop shop;
         QCOMPARE(shop.sql("select id, param, valeur, typeof(valeur) from Config"),
             (DbRows{{"1", "TVA", "0", "integer"}, {"2", "Epson TM-T20II", "0", "integer"}}));
-    }
-
-    void allOtherTablesAreEmpty()
-    {
-        const Shop shop;
         for (const char* table : {"Article", "ArticleStock", "DoseStock", "Historique", "Ticket"}) {
             QVERIFY2(shop.sql((std::string("select * from ") + table).c_str()).empty(), table);
         }
