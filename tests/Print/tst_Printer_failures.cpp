@@ -42,10 +42,10 @@ private slots:
             {"held by another program", "claim-refused", "claim-refused off",
                 "Cannot Claim Interface\n"},
         };
-        for (const auto& [row, trouble, remedy, said] : rows) {
+        for (const auto& [row, fault, remedy, said] : rows) {
             const InRow inRow(row);
             EmulatedPrinter bus;
-            bus.send(trouble.toStdString());
+            bus.send(fault.toStdString());
             FlushedOutput output;
             const auto before = openDescriptors();
             QCOMPARE(thrownByInitializing(), -1);

@@ -24,17 +24,13 @@ QLineEdit& secondDate(QWidget& window)
     return child<QLineEdit>(window, "txt_Second_Date");
 }
 
-/// The history, opened from the till's menu.
+/// The history of two days, opened from the till's menu.
 FormVendelHistorique& openHistory(Till& till)
-{
-    chooseMenu(till.window, "menuVendel", "actionHistorique");
-    return *till.window.findChild<FormVendelHistorique*>();
-}
-
-void sellOnTwoDays(Till& till)
 {
     till.run("insert into Historique values (1, 'Thé', 2.5, '2019-05-01 10:20:30.123'), "
              "(2, 'Eau', 2, '2019-05-02 11:00:00.000')");
+    chooseMenu(till.window, "menuVendel", "actionHistorique");
+    return *till.window.findChild<FormVendelHistorique*>();
 }
 } // namespace
 
@@ -85,7 +81,6 @@ private slots:
     {
         Till till;
         const AnswerBox boxes = AnswerBox::agreeing();
-        sellOnTwoDays(till);
         FormVendelHistorique& history = openHistory(till);
         click(history, "btn_Show_Date");
         QCOMPARE(rowTexts(history, "tableView2", 0), QStringList("05/01/2019"));
@@ -106,7 +101,6 @@ private slots:
     {
         Till till;
         const AnswerBox box;
-        sellOnTwoDays(till);
         FormVendelHistorique& history = openHistory(till);
         QTest::keyClicks(&firstDate(history), "05/01/2019 10:20:30.123");
         QTest::keyClicks(&secondDate(history), "05/02/2019 11:00:00.000");
@@ -119,7 +113,6 @@ private slots:
     void aDateInTheSystemsDigitsIsNone()
     {
         Till till;
-        sellOnTwoDays(till);
         FormVendelHistorique& history = openHistory(till);
         const auto zero = QLocale::system().toString(0).at(0).unicode();
         QString typed = "05/01/2019";

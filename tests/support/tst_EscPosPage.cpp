@@ -101,7 +101,7 @@ private slots:
             const char character = static_cast<char>(byte);
             QCOMPARE(printed(std::string{character, '\n'}), QStringList(characterOf858(character)));
         }
-        QCOMPARE(printed("\325\n"), QStringList(QString::fromUtf8("€")));
+        QCOMPARE(printed("\325\n"), QStringList("€"));
     }
 
     void aLineFeedMovesThePaper()
