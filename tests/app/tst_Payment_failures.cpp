@@ -34,7 +34,7 @@ QByteArray refusedLine(const QByteArray& line, const QByteArray& reason)
 /// database writes \a report.
 void payUnrecorded(Till& till, const QByteArray& report, const QString& error = notWritten)
 {
-    const int lines = till.ticket().size();
+    const auto lines = till.ticket().size();
     const CapturedLog log;
     CapturedOutput output;
     const AnswerBox box;

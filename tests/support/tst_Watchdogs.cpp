@@ -28,7 +28,8 @@ Ended run(const char* function, int seconds)
     process.setWorkingDirectory(folder.path());
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QCoreApplication::applicationFilePath(), {"hanging", function});
+    process.start(
+        QCoreApplication::applicationFilePath(), {"hanging", function, "-platform", "offscreen"});
     if (!process.waitForFinished(25'000)) {
         return {"it hangs", QProcess::CrashExit, -1};
     }
