@@ -8,6 +8,8 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <filesystem>
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -43,6 +45,13 @@ inline QStringList conversationOf(const EmulatedPrinter& printer)
     return list;
 }
 
+/// The number of the process's open descriptors.
+inline auto openDescriptors()
+{
+    const std::filesystem::directory_iterator entries("/proc/self/fd");
+    return std::distance(begin(entries), end(entries));
+}
+
 /// The value of the int that \a body throws; 0 when it throws none.
 template <class Body> int thrownInt(Body&& body)
 {
@@ -59,3 +68,17 @@ inline int thrownByInitializing()
 {
     return thrownInt([] { Printer::initializePrinter(receiptPrinter); });
 }
+
+/// The printer that receipts go to, taken over, and what is shown of it.
+struct HeldPrinter
+{
+    EmulatedPrinter bus;
+    FlushedOutput output;
+    Printer printer{receiptPrinter};
+
+    /// The bytes of each transfer so far.
+    QStringList sent() const
+    {
+        return transfersOf(bus);
+    }
+};

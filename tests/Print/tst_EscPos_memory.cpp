@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "Print/escpospp/EscPos.h"
+#include "tests/Print/Pictures.h"
 #include "tests/support/Allocations.h"
 #include "tests/support/TestProgram.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtEndian>
-#include <QTest>
 
 #include <algorithm>
 #include <cstddef>
@@ -16,24 +13,26 @@
 namespace {
 constexpr char rgbWithAlpha = 6;
 
+QByteArray bigEndian(quint32 number)
+{
+    QByteArray bytes(4, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
 /// A PNG of 16 bits a sample, stored interlaced or row by row. The decoder leaves checksums alone.
 QByteArray pngHead(quint32 width, quint32 height, char colours, char interlaced)
 {
-    QByteArray head = QByteArray::fromHex("89504e470d0a1a0a"
-                                          "0000000d49484452");
+    QByteArray head = QByteArray::fromHex("89504e470d0a1a0a 0000000d49484452");
     for (const quint32 side : {width, height}) {
-        QByteArray bytes(4, '\0');
-        qToBigEndian(side, bytes.data());
-        head += bytes;
+        head += bigEndian(side);
     }
     return head + '\x10' + colours + QByteArray(2, '\0') + interlaced + "sum.";
 }
 
 QByteArray chunk(const char* type, const QByteArray& data)
 {
-    QByteArray length(4, '\0');
-    qToBigEndian(static_cast<quint32>(data.size()), length.data());
-    return length + type + data + "sum.";
+    return bigEndian(static_cast<quint32>(data.size())) + type + data + "sum.";
 }
 } // namespace
 
@@ -61,7 +60,7 @@ private slots:
     void theHungriestPictureIsLoaded()
     {
         // Eight bytes a pixel, and one ahead of each of the 7,680 rows of the seven interlaced
-        // pictures. The decoder reckons with 4,096 rows and doubles: 2 * (8 * 4096 * 4096 + 4096).
+        // pictures. The decoder counts with 4,096 rows and doubles: 2 * (8 * 4096 * 4096 + 4096).
         const QByteArray rows = qCompress(QByteArray(8 * 4096 * 4096 + 7680, '\0'), 1).mid(4);
         const DotMatrix dots = loaded(pngHead(4096, 4096, rgbWithAlpha, 1) + chunk("IDAT", rows)
             + chunk("IEND", QByteArray()));
@@ -75,10 +74,7 @@ private slots:
         // Memory that nobody clears reads as 0xAA, which is white.
         QCOMPARE(mallopt(M_PERTURB, 0x55), 1);
         // A grey JPEG of 8 x 1 pixels: its frame and its end, no scan between them.
-        const DotMatrix dots = loaded(QByteArray::fromHex("ffd8"
-                                                          "ffc0000b08000100080101"
-                                                          "1100"
-                                                          "ffd9"));
+        const DotMatrix dots = loaded(QByteArray::fromHex("ffd8 ffc0000b08000100080101 1100 ffd9"));
         QCOMPARE(mallopt(M_PERTURB, 0), 1);
         QCOMPARE(dots, DotMatrix{std::vector<bool>(8, true)});
     }
@@ -86,18 +82,13 @@ private slots:
 private:
     DotMatrix loaded(const QByteArray& bytes)
     {
-        QFile file(folder_.filePath("picture"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-            qFatal("cannot write the picture");
-        }
-        file.close();
+        const std::string file = pictures_.fileHolding(bytes);
         Allocations::takeLargestRealloc();
-        return EscPos::loadImage(file.fileName().toStdString());
+        return EscPos::loadImage(file);
     }
 
-    QTemporaryDir folder_;
+    Pictures pictures_;
 };
 
 VENDEL_TEST(TestEscPosMemory)
-
 #include "tst_EscPos_memory.moc"

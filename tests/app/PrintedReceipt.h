@@ -5,6 +5,7 @@
 #include "tests/support/Shop.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QTest>
 
 /// The bytes of the stored ticket's receipt, made on 5 March 2024 at 09:07:03.
@@ -14,43 +15,26 @@ inline QByteArray printedReceipt()
     return QByteArray::fromStdString(receiptBytes(composeReceipt(readSale(time))));
 }
 
-/// The lines between the headings and the blank line above the totals.
-inline QByteArray printedItems()
-{
-    const QByteArray headings = "Prix * Qtit\x82\r\n\r\n";
-    const QByteArray receipt = printedReceipt();
-    const auto begin = receipt.indexOf(headings) + headings.size();
-    return receipt.mid(begin, receipt.indexOf("\r\n->  Total ticket") - begin);
-}
-
-/// Everything from the line "Total ticket" on.
-inline QByteArray printedTotals()
-{
-    const QByteArray receipt = printedReceipt();
-    return receipt.mid(receipt.indexOf("->  Total ticket"));
-}
-
 /// Puts a line on the ticket; \a price as SQL writes it.
-inline void putOnTicket(const Shop& shop, const char* article, const char* price)
+inline void putOnTicket(const Shop& shop, const QByteArray& article, const QByteArray& price)
 {
-    const QByteArray sql = QByteArray("insert into Ticket (id, article, prix) values (7, '")
-        + article + "', " + price + ")";
-    shop.sql(sql.constData());
+    const QByteArray values = "values (7, '" + article + "', " + price + ")";
+    shop.sql(("insert into Ticket (id, article, prix) " + values).constData());
 }
 
 /// Writes the file above the sale.
 inline void writeHeader(const Shop& shop, const QByteArray& bytes)
 {
-    shop.write(QString("EnteteFormulaire.dat"), bytes);
+    shop.write("EnteteFormulaire.dat", bytes);
 }
 
 /// Writes the file below the sale.
 inline void writeFooter(const Shop& shop, const QByteArray& bytes)
 {
-    shop.write(QString("PiedFormulaire.dat"), bytes);
+    shop.write("PiedFormulaire.dat", bytes);
 }
 
-/// Compares byte strings, telling both in full when they differ.
+/// Compares byte strings, showing both in full when they differ.
 #define COMPARE_BYTES(actual, expected)                                                            \
     do {                                                                                           \
         const QByteArray shown = (actual);                                                         \

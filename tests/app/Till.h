@@ -58,12 +58,18 @@ public:
         click(window, "btn_Payer");
     }
 
-    /// Sells a tea at 2.50, with the printer switched on.
+    /// Sells a tea at 2.50.
+    void sellTea()
+    {
+        sell("Thé", "2.5");
+        pay();
+    }
+
+    /// The same with the printer switched on.
     void sellOnPaper()
     {
         setSwitch("1");
-        sell("Thé", "2.5");
-        pay();
+        sellTea();
     }
 
     /// Runs \a sql on the shop's database.
@@ -82,6 +88,14 @@ public:
     QStringList ticket() const
     {
         return lines("select article || ' ' || prix from Ticket order by idlig");
+    }
+
+    /// The history, the stored ticket and the shown one:
+    /// "sold: 7 Thé 2.5, 7 Eau 3; ticket: Eau 3; 1 shown".
+    QString books()
+    {
+        return "sold: " + history().join(", ") + "; ticket: " + ticket().join(", ") + "; "
+            + QString::number(shownLines()) + " shown";
     }
 
     /// The number of lines that the ticket's list shows.
@@ -135,6 +149,16 @@ private:
             texts << QString::fromStdString(row.at(0));
         }
         return texts;
+    }
+};
+
+/// A till with a tea at 2.50 on its ticket.
+class TillWithTea : public Till
+{
+public:
+    TillWithTea()
+    {
+        sell("Thé", "2.5");
     }
 };
 

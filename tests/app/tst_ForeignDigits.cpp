@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "app/Clock.h"
-#include "common/Messages.h"
 #include "forms/FormVendelHistorique.h"
 #include "tests/app/PrintedReceipt.h"
 #include "tests/app/Till.h"
@@ -13,8 +12,7 @@
 #include <QRegularExpression>
 
 namespace {
-const QRegularExpression moment(
-    QString("^[0-9]{2}/[0-9]{2}/[0-9]{4} [0-9]{2}[: ][0-9]{2}[: ][0-9]{2}$"));
+const QRegularExpression moment("^[0-9]{2}/[0-9]{2}/[0-9]{4} [0-9]{2}[: ][0-9]{2}[: ][0-9]{2}$");
 
 QLineEdit& firstDate(QWidget& window)
 {
@@ -26,17 +24,13 @@ QLineEdit& secondDate(QWidget& window)
     return child<QLineEdit>(window, "txt_Second_Date");
 }
 
-/// The history, opened from the till's menu.
+/// The history of two days, opened from the till's menu.
 FormVendelHistorique& openHistory(Till& till)
 {
+    till.run("insert into Historique values (1, 'Thé', 2.5, '2019-05-01 10:20:30.123'), "
+             "(2, 'Eau', 2, '2019-05-02 11:00:00.000')");
     chooseMenu(till.window, "menuVendel", "actionHistorique");
     return *till.window.findChild<FormVendelHistorique*>();
-}
-
-void sellOnTwoDays(Till& till)
-{
-    till.run("insert into Historique values (1, 'Thé', 2.5, '2019-05-01 10:20:30.123')");
-    till.run("insert into Historique values (2, 'Eau', 2, '2019-05-02 11:00:00.000')");
 }
 } // namespace
 
@@ -56,7 +50,7 @@ private slots:
     void theClockKeepsItsDigits()
     {
         const QDateTime time({2019, 3, 5}, {14, 7, 31});
-        QCOMPARE(clockText(time, QString("dd/MM/yyyy")), QString("05/03/2019 14:07:31"));
+        QCOMPARE(clockText(time, "dd/MM/yyyy"), QString("05/03/2019 14:07:31"));
         Till till;
         const auto& label = child<QLabel>(till.window, "lbl_DateTime");
         QTRY_VERIFY2(moment.match(label.text()).hasMatch(), qPrintable(label.text()));
@@ -79,7 +73,7 @@ private slots:
         till.sell("Eau", "2");
         till.pay();
         const QString heading = till.takeReceipt().section('\n', 2, 2);
-        const QString time = heading.mid(heading.indexOf(QLatin1String("     ")) + 5);
+        const QString time = heading.mid(heading.indexOf("     ") + 5);
         QVERIFY2(moment.match(time).hasMatch(), qPrintable(heading));
     }
 
@@ -87,51 +81,48 @@ private slots:
     {
         Till till;
         const AnswerBox boxes = AnswerBox::agreeing();
-        sellOnTwoDays(till);
         FormVendelHistorique& history = openHistory(till);
         click(history, "btn_Show_Date");
-        QCOMPARE(rowTexts(history, "tableView2", 0), QStringList(QString("05/01/2019")));
+        QCOMPARE(rowTexts(history, "tableView2", 0), QStringList("05/01/2019"));
         clickCell(history, "tableView2", 0, 0);
-        QTest::keyClicks(&secondDate(history), QString("05/02/2019"));
+        QTest::keyClicks(&secondDate(history), "05/02/2019");
         click(history, "btn_View_Historical");
         QCOMPARE(boxes.said(), QStringList());
         QCOMPARE(rowCount(history, "tableView1"), 1);
         QCOMPARE(rowTexts(history, "tableView1", 0),
-            (QStringList{QString("Thé"), QString("2.50$"), QString("05/01/2019 10:20:30.123")}));
+            QStringList({"Thé", "2.50$", "05/01/2019 10:20:30.123"}));
         click(history, "btn_Clear");
-        QCOMPARE(
-            boxes.said().value(0), QString("Purger: Voulez-vous purger de 05/01/2019 au 05/02/2019"));
-        QCOMPARE(till.history(), QStringList(QString("2 Eau 2")));
+        QCOMPARE(boxes.said().value(0),
+            QString("Purger: Voulez-vous purger de 05/01/2019 au 05/02/2019"));
+        QCOMPARE(till.history(), QStringList("2 Eau 2"));
     }
 
     void theHistoryIsBrowsedByTimeOfDay()
     {
         Till till;
         const AnswerBox box;
-        sellOnTwoDays(till);
         FormVendelHistorique& history = openHistory(till);
-        QTest::keyClicks(&firstDate(history), QString("05/01/2019 10:20:30.123"));
-        QTest::keyClicks(&secondDate(history), QString("05/02/2019 11:00:00.000"));
+        QTest::keyClicks(&firstDate(history), "05/01/2019 10:20:30.123");
+        QTest::keyClicks(&secondDate(history), "05/02/2019 11:00:00.000");
         click(history, "btn_Total");
         QCOMPARE(box.text(), QString());
-        QCOMPARE(rowTexts(history, "tableView1", 2),
-            (QStringList{QString("Total historique"), QString("4.50$"), QString("<-")}));
+        QCOMPARE(
+            rowTexts(history, "tableView1", 2), QStringList({"Total historique", "4.50$", "<-"}));
     }
 
     void aDateInTheSystemsDigitsIsNone()
     {
         Till till;
-        sellOnTwoDays(till);
         FormVendelHistorique& history = openHistory(till);
         const auto zero = QLocale::system().toString(0).at(0).unicode();
-        QString typed = QString("05/01/2019");
+        QString typed = "05/01/2019";
         for (QChar& character : typed) {
             if (character.isDigit()) {
                 character = QChar(static_cast<char16_t>(zero + character.digitValue()));
             }
         }
         firstDate(history).setText(typed);
-        secondDate(history).setText(QString("05/02/2019"));
+        secondDate(history).setText("05/02/2019");
         const AnswerBox box;
         click(history, "btn_View_Historical");
         QCOMPARE(box.text(), QString("Saisir une date valide"));
@@ -141,9 +132,8 @@ private slots:
     void countsKeepTheirDigits()
     {
         Till till;
-        for (int i = 0; i < 3; ++i) {
-            till.run("insert into Article (article, prix) values ('Thé', 2.5)");
-        }
+        till.run("insert into Article (article, prix) values ('Thé', 2.5), ('Thé', 2.5), "
+                 "('Thé', 2.5)");
         const AnswerBox box;
         click(till.window, "btn_Afficher");
         QCOMPARE(box.text(),

@@ -21,23 +21,11 @@ private slots:
 
     void anExceptionIsOneCriticalLine()
     {
-        const CapturedLog log;
-        guarded("Shop open", [] { throw std::runtime_error("no key"); });
-        QCOMPARE(log.criticals(), QStringList(QString("Errors Shop open : no key")));
-    }
-
-    void theTextOfAnExceptionIsUtf8()
-    {
-        const CapturedLog log;
-        guarded("Shop open", [] { throw std::runtime_error("fermé"); });
-        QCOMPARE(log.criticals(), QStringList(QString("Errors Shop open : fermé")));
-    }
-
-    void percentSignsStand()
-    {
-        const CapturedLog log;
-        guarded("Shop open", [] { throw std::runtime_error("100 %s %n"); });
-        QCOMPARE(log.criticals(), QStringList(QString("Errors Shop open : 100 %s %n")));
+        for (const char* text : {"no key", "fermé", "100 %s %n"}) {
+            const CapturedLog log;
+            guarded("Shop open", [&] { throw std::runtime_error(text); });
+            QCOMPARE(log.criticals(), QStringList("Shop open" + QString(text)));
+        }
     }
 
     void whatIsNoStandardExceptionGoesOn()

@@ -5,10 +5,9 @@
 
 namespace {
 constexpr auto own = "FormVendelSaisieArticle";
+constexpr auto catalogue = "FormVendelMessages";
+constexpr auto duplicates = "Supprimer le(s) %n doublon(s)";
 constexpr Texts texts{own};
-const QString ownContext = QString::fromLatin1(own);
-const QString catalogue = QString("FormVendelMessages");
-const QString duplicates = QString("Supprimer le(s) %n doublon(s)");
 } // namespace
 
 class TestTexts : public QObject
@@ -16,86 +15,56 @@ class TestTexts : public QObject
     Q_OBJECT
 
 private slots:
-    void withoutATranslationTheTextStandsAsItIs()
+    void withoutATranslationTheTextStaysAsItIs()
     {
         QCOMPARE(texts("Première Date"), QString("Première Date"));
         QCOMPARE(texts(""), QString());
-    }
-
-    void theOwnContextComesFirst()
-    {
-        Translation translation;
-        translation.add(ownContext, QString("Entête"), QString("Own heading"));
-        translation.add(catalogue, QString("Entête"), QString("Heading"));
-        QCOMPARE(texts("Entête"), QString("Own heading"));
+        QCOMPARE(texts(duplicates), QString("Supprimer le(s) %n doublon(s)"));
+        QCOMPARE(texts(duplicates, 3), QString("Supprimer le(s) 3 doublon(s)"));
+        QCOMPARE(texts(duplicates, 0), QString("Supprimer le(s) 0 doublon(s)"));
     }
 
     void theCatalogueServesWhereTheOwnContextHasNothing()
     {
         Translation translation;
-        translation.add(catalogue, QString("Entête"), QString("Heading"));
-        QCOMPARE(texts("Entête"), QString("Heading"));
-    }
-
-    void anotherContextIsNotAsked()
-    {
-        Translation translation;
-        translation.add(QString("FormVendel"), QString("Entête"), QString("Heading"));
+        translation.add("FormVendel", "Entête", "elsewhere");
         QCOMPARE(texts("Entête"), QString("Entête"));
+        translation.add(catalogue, "Entête", "Heading");
+        QCOMPARE(texts("Entête"), QString("Heading"));
+        translation.add(own, "Entête", "Own heading");
+        QCOMPARE(texts("Entête"), QString("Own heading"));
     }
 
-    void theNumberIsFilledInWithoutATranslation()
-    {
-        QCOMPARE(texts(duplicates.toStdString(), 3), QString("Supprimer le(s) 3 doublon(s)"));
-    }
-
-    void theNumberIsFilledInFromTheOwnContext()
-    {
-        Translation translation;
-        translation.add(ownContext, duplicates, QString("Delete %n own"));
-        translation.add(catalogue, duplicates, QString("Delete %n"));
-        QCOMPARE(texts(duplicates.toStdString(), 3), QString("Delete 3 own"));
-    }
-
-    void theNumberIsFilledInFromTheCatalogue()
+    void aTranslationHasItsNumber()
     {
         Translation translation;
-        translation.add(catalogue, duplicates, QString("Delete %n"));
-        QCOMPARE(texts(duplicates.toStdString(), 3), QString("Delete 3"));
+        translation.add(catalogue, duplicates, "Delete %n");
+        QCOMPARE(texts(duplicates, 3), QString("Delete 3"));
+        translation.add(own, duplicates, "Delete %n own");
+        QCOMPARE(texts(duplicates, 3), QString("Delete 3 own"));
     }
 
     void thePluralIsChosenByTheCount()
     {
         Translation translation;
-        translation.add(catalogue, duplicates, QString("Delete %n double"));
-        translation.addPlural(catalogue, duplicates, QString("Delete %n doubles"));
-        QCOMPARE(texts(duplicates.toStdString(), 1), QString("Delete 1 double"));
-        QCOMPARE(texts(duplicates.toStdString(), 2), QString("Delete 2 doubles"));
-    }
-
-    void theCountZeroIsFilledIn()
-    {
-        QCOMPARE(texts(duplicates.toStdString(), 0), QString("Supprimer le(s) 0 doublon(s)"));
-    }
-
-    void withoutACountTheMarkStays()
-    {
-        QCOMPARE(texts(duplicates.toStdString()), duplicates);
+        translation.add(catalogue, duplicates, "Delete %n double");
+        translation.addPlural(catalogue, duplicates, "Delete %n doubles");
+        QCOMPARE(texts(duplicates, 1), QString("Delete 1 double"));
+        QCOMPARE(texts(duplicates, 2), QString("Delete 2 doubles"));
     }
 
     void aCaptionIsLookedUpInTheWindowsTwoContextsAndTheCatalogue()
     {
-        const QString heading = QString("Entête");
-        const auto caption = [&] { return Texts::caption(own, heading); };
-        QCOMPARE(caption(), heading);
+        const auto caption = [] { return Texts::caption(own, "Entête"); };
+        QCOMPARE(caption(), QString("Entête"));
         Translation translation;
-        translation.add(QString("FormVendel"), heading, QString("elsewhere"));
-        QCOMPARE(caption(), heading);
-        translation.add(catalogue, heading, QString("catalogue"));
+        translation.add("FormVendel", "Entête", "elsewhere");
+        QCOMPARE(caption(), QString("Entête"));
+        translation.add(catalogue, "Entête", "catalogue");
         QCOMPARE(caption(), QString("catalogue"));
-        translation.add(QString("FormVendelSaisieArticleMessages"), heading, QString("messages"));
+        translation.add("FormVendelSaisieArticleMessages", "Entête", "messages");
         QCOMPARE(caption(), QString("messages"));
-        translation.add(ownContext, heading, QString("own"));
+        translation.add(own, "Entête", "own");
         QCOMPARE(caption(), QString("own"));
     }
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/Articles.h"
 #include "tests/support/Captured.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
@@ -9,25 +10,37 @@
 
 namespace {
 using Ids = std::vector<int>;
-
-Ids sorted(Ids ids)
-{
-    std::sort(ids.begin(), ids.end());
-    return ids;
-}
 } // namespace
 
+/// The duplicates in the menu.
 class TestArticles : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void differentNamesAreNoDuplicates()
+    void olderRowsOfANameAreDuplicates()
     {
-        const Shop shop;
-        shop.sql("insert into Article (article, prix) values ('Thé', 1), ('Eau', 1)");
-        QVERIFY(!Articles::countDuplicates().has_value());
-        QCOMPARE(Articles::duplicateIds(), Ids());
+        const Rows<QByteArray, Ids> rows{
+            {"different names", "('Thé', 1), ('Eau', 1)", {}},
+            {"the older of two", "('Eau', 1), ('Thé', 1), ('Eau', 1)", {1}},
+            {"the price does not matter", "('Eau', 1), ('Eau', 2)", {1}},
+            {"ASCII case does not matter", "('Cafe', 1), ('cafe', 1)", {1}},
+            {"accented letters have a case", "('Café', 1), ('CAFÉ', 1), ('cafÉ', 1)", {2}},
+            {"all older rows", "('Eau', 1), ('eau', 1), ('EAU', 1)", {1, 2}},
+            {"two names", "('Eau', 1), ('Vin', 1), ('Thé', 1), ('eau', 1), ('vin', 1)", {1, 2}},
+            {"blanks matter", "('Eau', 1), ('Eau ', 1)", {}},
+            {"a quote in a name", "('l''eau', 1), ('L''EAU', 1)", {1}},
+        };
+        for (const auto& [row, menu, duplicates] : rows) {
+            const InRow inRow(row);
+            const Shop shop;
+            shop.sql(("insert into Article (article, prix) values " + menu).constData());
+            QCOMPARE(Articles::countDuplicates().value_or(0), static_cast<int>(duplicates.size()));
+            QCOMPARE(Articles::countDuplicates().has_value(), !duplicates.empty());
+            Ids found = Articles::duplicateIds();
+            std::sort(found.begin(), found.end());
+            QCOMPARE(found, duplicates);
+        }
     }
 
     void anEmptyMenuHasNone()
@@ -39,67 +52,13 @@ private slots:
         QCOMPARE(output.text(), QByteArray());
     }
 
-    void theNewestOfANameIsNoDuplicate()
+    void amongTenThousandTheyAreFoundInABlink()
     {
         const Shop shop;
-        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Thé', 1), ('Eau', 1)");
-        QCOMPARE(Articles::countDuplicates(), std::optional<int>(1));
-        QCOMPARE(Articles::duplicateIds(), Ids{1});
-    }
-
-    void asciiCaseDoesNotCount()
-    {
-        const Shop shop;
-        shop.sql("insert into Article (article, prix) values ('Cafe', 1), ('cafe', 1)");
-        QCOMPARE(Articles::countDuplicates(), std::optional<int>(1));
-        QCOMPARE(Articles::duplicateIds(), Ids{1});
-    }
-
-    void accentedLettersAreNotFolded()
-    {
-        const Shop shop;
-        shop.sql(
-            "insert into Article (article, prix) values ('Café', 1), ('CAFÉ', 1), ('cafÉ', 1)");
-        QCOMPARE(Articles::countDuplicates(), std::optional<int>(1));
-        QCOMPARE(Articles::duplicateIds(), Ids{2});
-    }
-
-    void everyOlderRowOfANameIsOne()
-    {
-        const Shop shop;
-        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('eau', 1), ('EAU', 1)");
-        QCOMPARE(Articles::countDuplicates(), std::optional<int>(2));
-        QCOMPARE(sorted(Articles::duplicateIds()), (Ids{1, 2}));
-    }
-
-    void twoNamesAreCountedTogether()
-    {
-        const Shop shop;
-        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Vin', 1), ('Thé', 1), "
-                 "('eau', 1), ('vin', 1)");
-        QCOMPARE(Articles::countDuplicates(), std::optional<int>(2));
-        QCOMPARE(sorted(Articles::duplicateIds()), (Ids{1, 2}));
-    }
-
-    void thePriceDoesNotMatter()
-    {
-        const Shop shop;
-        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Eau', 2)");
-        QCOMPARE(Articles::duplicateIds(), Ids{1});
-    }
-
-    void blanksMatter()
-    {
-        const Shop shop;
-        shop.sql("insert into Article (article, prix) values ('Eau', 1), ('Eau ', 1)");
-        QVERIFY(!Articles::countDuplicates().has_value());
-    }
-
-    void aNameWithAQuoteIsANameLikeAnyOther()
-    {
-        const Shop shop;
-        shop.sql("insert into Article (article, prix) values ('l''eau', 1), ('L''EAU', 1)");
-        QCOMPARE(Articles::duplicateIds(), Ids{1});
+        shop.sql("with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000) "
+                 "insert into Article (article, prix) select 'Article ' || (i % 9800), 1 from n");
+        QCOMPARE(Articles::countDuplicates(), std::optional<int>(200));
+        QCOMPARE(Articles::duplicateIds().size(), std::size_t{200});
     }
 
     void withoutADatabaseTheyThrow()
@@ -109,15 +68,6 @@ private slots:
         QVERIFY_EXCEPTION_THROWN(Articles::countDuplicates(), std::out_of_range);
         QVERIFY(Articles::duplicateIds().empty());
         QCOMPARE(output.text().count(" no such table: Article\n"), 2);
-    }
-
-    void amongTenThousandTheyAreFoundInABlink()
-    {
-        const Shop shop;
-        shop.sql("with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000) "
-                 "insert into Article (article, prix) select 'Article ' || (i % 9800), 1 from n");
-        QCOMPARE(Articles::countDuplicates(), std::optional<int>(200));
-        QCOMPARE(Articles::duplicateIds().size(), std::size_t{200});
     }
 };
 

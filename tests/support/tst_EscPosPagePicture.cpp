@@ -3,7 +3,6 @@
 #include "tests/support/TestProgram.h"
 
 #include <QImage>
-#include <QTest>
 
 using namespace std::string_literals;
 
@@ -109,5 +108,4 @@ private slots:
 };
 
 VENDEL_TEST(TestEscPosPagePicture)
-
 #include "tst_EscPosPagePicture.moc"

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "store/Settings.h"
 #include "store/Ticket.h"
 #include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
@@ -7,8 +6,7 @@
 
 #include <stdexcept>
 
-/// What the ticket and the settings hand out when a row or a column is missing.
-class TestTicketSum : public QObject
+class TestTicket : public QObject
 {
     Q_OBJECT
 
@@ -16,14 +14,9 @@ private slots:
     void theSumIsThatOfAllPrices()
     {
         const Shop shop;
+        QCOMPARE(Ticket::sum(), QString());
         shop.sql("insert into Ticket (id, article, prix) values (1, 'Eau', 2.5), (0, '----', -1)");
         QCOMPARE(Ticket::sum(), QString("1.5"));
-    }
-
-    void anEmptyTicketHasNoSum()
-    {
-        const Shop shop;
-        QCOMPARE(Ticket::sum(), QString());
     }
 
     void withoutATableThereIsNoSum()
@@ -43,17 +36,7 @@ private slots:
         shop.sql("insert into Ticket (id, article) values (1, 'Eau')");
         QVERIFY_EXCEPTION_THROWN(Ticket::lines(), std::out_of_range);
     }
-
-    void aMissingSettingThrowsForItsDialogAlone()
-    {
-        const Shop shop;
-        shop.sql("delete from Config");
-        QVERIFY(Settings::taxRates().empty());
-        QVERIFY(Settings::printerSwitches().empty());
-        QVERIFY_EXCEPTION_THROWN(Settings::taxRate(), std::out_of_range);
-        QVERIFY_EXCEPTION_THROWN(Settings::printerSwitch(), std::out_of_range);
-    }
 };
 
-VENDEL_TEST(TestTicketSum)
-#include "tst_TicketSum.moc"
+VENDEL_TEST(TestTicket)
+#include "tst_Ticket.moc"

@@ -4,6 +4,7 @@
 #include "tests/support/Allocations.h"
 #include "tests/support/TestProgram.h"
 
+#include <cerrno>
 #include <cstdlib>
 
 namespace {
@@ -11,7 +12,7 @@ using Buffer = Handle<char, std::free>;
 } // namespace
 
 /// What the conversion returns when memory runs out.
-class TestConvertOutOfMemory : public QObject
+class TestConvertFailures : public QObject
 {
     Q_OBJECT
 
@@ -29,6 +30,7 @@ private slots:
         Allocations::refuseFrom(1'000'004);
         const Buffer refused(convert("UTF-8", "CP858", text.constData()));
         QVERIFY(refused == nullptr);
+        QCOMPARE(errno, ENOMEM);
         const Buffer again(convert("UTF-8", "CP858", text.constData()));
         QCOMPARE(QByteArray(again.get()), text);
     }
@@ -39,8 +41,9 @@ private slots:
         Allocations::refuseFrom(1'000'005);
         const Buffer refused(convert("UTF-8", "UTF-16LE", text.constData()));
         QVERIFY(refused == nullptr);
+        QCOMPARE(errno, ENOMEM);
     }
 };
 
-VENDEL_TEST(TestConvertOutOfMemory)
-#include "tst_convert_outOfMemory.moc"
+VENDEL_TEST(TestConvertFailures)
+#include "tst_convert_failures.moc"
