@@ -103,37 +103,25 @@ class NumberedShop : public Shop
 public:
     NumberedShop()
     {
-        for (const char* statement : {"insert into Article (id, article, prix) values (1, '11', 2)",
-                 "insert into Article (id, article, prix) values (2, '12', 3)",
-                 "insert into Article (id, article, prix) values (3, '13', 3)",
-                 "insert into ArticleStock (id, article) values (1, '11'), (2, '22'), (4, '14')",
-                 "insert into DoseStock (id, composition, dose, unite) values (1, '31', 2, 'cl'), "
-                 "(4, '32', 3, 'g')",
-                 "insert into Historique values (1, '11', 2, '2019-05-04 12:00:00.000')",
-                 "insert into Ticket (id, article, prix) values (1, '11', 2)"}) {
-            sql(statement);
-        }
-        write(QString("EnteteFormulaire.dat"), "1");
-        write(QString("PiedFormulaire.dat"), "2");
+        fill("insert into Article values (1, '11', 2), (2, '12', 3), (3, '13', 3);"
+             "insert into ArticleStock (id, article) values (1, '11'), (2, '22'), (4, '14');"
+             "insert into DoseStock (id, composition, dose, unite) values (1, '31', 2, 'cl'), "
+             "(4, '32', 3, 'g');"
+             "insert into Historique values (1, '11', 2, '2019-05-04 12:00:00.000');"
+             "insert into Ticket (id, article, prix) values (1, '11', 2)");
+        write("EnteteFormulaire.dat", "1");
+        write("PiedFormulaire.dat", "2");
     }
 };
 
 /// What is the same in both languages, and what no language changes.
-const QSet<QString>& equalWords()
-{
-    static const QSet<QString> words{QString("Ticket"), QString("Menu"), QString("Config"),
-        QString("Total"), QString("TOTAL"), QString("Vendel"), QString("X"), QString("Id"),
-        QString("Date"), QString("Options"), QString("Stock"), QString("Composition"),
-        QString("Dose"), QString("Conversion"), QString("Purge"), QString("cl"), QString("g"),
-        QString("Epson"), QString("TM"), QString("T20II"), QString("ON"), QString("OFF"),
-        QString("OK"), QString("Dialog"), QString("Version"), QString("MIT"), QString("Page"),
-        QString("bar")};
-    return words;
-}
+const QSet<QString> equalWords{"Ticket", "Menu", "Config", "Total", "TOTAL", "Vendel", "X", "Id",
+    "Date", "Options", "Stock", "Composition", "Dose", "Conversion", "Purge", "cl", "g", "Epson",
+    "TM", "T20II", "ON", "OFF", "OK", "Dialog", "Version", "MIT", "Page", "bar"};
 
 QStringList wordsOf(const QString& text)
 {
-    static const QRegularExpression word(QString("\\p{L}[\\p{L}\\d]*"));
+    static const QRegularExpression word("\\p{L}[\\p{L}\\d]*");
     QStringList words;
     auto matches = word.globalMatch(text);
     while (matches.hasNext()) {
@@ -183,17 +171,19 @@ void eachWindow()
     }
 }
 
-QStringList clippedIn(const Opening& opening)
+/// The texts of the running row's window that lack room, one a line.
+QString clippedTexts()
 {
+    QFETCH(int, number);
     QStringList clipped;
-    const auto texts = textsOf(opening);
+    const auto texts = textsOf(windows()[number]);
     for (const ShownText& text : texts) {
         if (text.missing > 0) {
             clipped << QString("%1: \"%2\" lacks %3 pixels")
                            .arg(text.place, text.text, QString::number(text.missing));
         }
     }
-    return clipped;
+    return clipped.join('\n');
 }
 
 QStringList frenchWordsOf(const Opening& opening)
@@ -228,8 +218,8 @@ private slots:
         for (const ShownText& text : texts) {
             const auto words = wordsOf(text.text);
             for (const QString& word : words) {
-                if (french.contains(word) && !equalWords().contains(word)) {
-                    left << text.place + QLatin1String(": ") + word;
+                if (french.contains(word) && !equalWords.contains(word)) {
+                    left << text.place + ": " + word;
                 }
             }
         }
@@ -238,7 +228,7 @@ private slots:
 
     void aWidgetThatIsTooSmallLacksPixels()
     {
-        const QString text = QString("The ticket is empty");
+        const QString text = "The ticket is empty";
         QLabel label(text);
         QPushButton button(text);
         QCheckBox check(text);
@@ -248,11 +238,10 @@ private slots:
         for (QWidget* widget :
             std::initializer_list<QWidget*>{&label, &button, &check, &group, &box}) {
             widget->resize(400, 40);
-            QVERIFY2(
-                shownTexts(*widget).constFirst().missing <= 0, widget->metaObject()->className());
+            const char* kind = widget->metaObject()->className();
+            QVERIFY2(shownTexts(*widget).constFirst().missing <= 0, kind);
             widget->resize(40, 40);
-            QVERIFY2(
-                shownTexts(*widget).constFirst().missing > 0, widget->metaObject()->className());
+            QVERIFY2(shownTexts(*widget).constFirst().missing > 0, kind);
         }
         label.resize(400, 5);
         QVERIFY(shownTexts(label).constFirst().missing > 0);
@@ -265,9 +254,7 @@ private slots:
 
     void noTextIsClipped()
     {
-        QFETCH(int, number);
-        const QStringList clipped = clippedIn(windows()[number]);
-        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
+        QCOMPARE(clippedTexts(), QString());
     }
 
     void noFrenchTextIsClipped_data()
@@ -277,10 +264,8 @@ private slots:
 
     void noFrenchTextIsClipped()
     {
-        QFETCH(int, number);
         const InFrench french;
-        const QStringList clipped = clippedIn(windows()[number]);
-        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
+        QCOMPARE(clippedTexts(), QString());
     }
 
     void everyFieldHasAName_data()
@@ -309,19 +294,20 @@ private slots:
 
     void boxesHaveEnglishButtons()
     {
-        QMessageBox box(QMessageBox::Information, QString(), QString(),
+        QMessageBox box(QMessageBox::Information, "", "",
             QMessageBox::Yes | QMessageBox::No | QMessageBox::Ok | QMessageBox::Cancel
                 | QMessageBox::Close | QMessageBox::Save);
-        QCOMPARE(box.button(QMessageBox::Yes)->text(), QString("&Yes"));
-        QCOMPARE(box.button(QMessageBox::No)->text(), QString("&No"));
-        QCOMPARE(box.button(QMessageBox::Ok)->text(), QString("OK"));
-        QCOMPARE(box.button(QMessageBox::Cancel)->text(), QString("Cancel"));
-        QCOMPARE(box.button(QMessageBox::Close)->text(), QString("Close"));
-        QCOMPARE(box.button(QMessageBox::Save)->text(), QString("Save"));
+        const auto caption
+            = [&](QMessageBox::StandardButton button) { return box.button(button)->text(); };
+        QCOMPARE(caption(QMessageBox::Yes), QString("&Yes"));
+        QCOMPARE(caption(QMessageBox::No), QString("&No"));
+        QCOMPARE(caption(QMessageBox::Ok), QString("OK"));
+        QCOMPARE(caption(QMessageBox::Cancel), QString("Cancel"));
+        QCOMPARE(caption(QMessageBox::Close), QString("Close"));
+        QCOMPARE(caption(QMessageBox::Save), QString("Save"));
 
         const InFrench french;
-        const QMessageBox frenchBox(
-            QMessageBox::Information, QString(), QString(), QMessageBox::Yes);
+        const QMessageBox frenchBox(QMessageBox::Information, "", "", QMessageBox::Yes);
         QCOMPARE(frenchBox.button(QMessageBox::Yes)->text(), QString("&Oui"));
     }
 
@@ -337,8 +323,7 @@ private slots:
             }
             return labels;
         };
-        const QStringList english{QString("Undo"), QString("Redo"), QString("Cut"), QString("Copy"),
-            QString("Paste"), QString("Delete"), QString("Select All")};
+        const QStringList english{"Undo", "Redo", "Cut", "Copy", "Paste", "Delete", "Select All"};
         QLineEdit line;
         QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(line.createStandardContextMenu())), english);
         QTextEdit text;
