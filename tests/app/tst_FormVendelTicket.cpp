@@ -85,10 +85,15 @@ struct ShownReceipt
     }
 };
 
-/// The middle of a line, in pixels from the paper's edge.
+/// Where a line's middle and its end are, in pixels from the paper's edge.
 double middle(const QTextBlock& line)
 {
     return line.layout()->position().x() + line.layout()->lineAt(0).naturalTextRect().center().x();
+}
+
+double right(const QTextBlock& line)
+{
+    return line.layout()->position().x() + line.layout()->lineAt(0).naturalTextRect().right();
 }
 } // namespace
 
@@ -135,15 +140,6 @@ private slots:
                 "              Merci ; à bientôt              ", ""}));
     }
 
-    void isReadFromTheTop()
-    {
-        const TicketShop shop;
-        writeHeader(shop, QByteArray("a\n").repeated(40));
-        const ShownReceipt receipt;
-        QVERIFY(receipt.edit.verticalScrollBar()->maximum() > 0);
-        QCOMPARE(receipt.edit.verticalScrollBar()->value(), 0);
-    }
-
     void writesBlackOnWhite()
     {
         const TicketShop shop;
@@ -183,12 +179,13 @@ private slots:
         writeHeader(shop, (line48 + '\n').repeated(60));
         const ShownReceipt receipt;
         QVERIFY(receipt.edit.verticalScrollBar()->isVisible());
+        QVERIFY(receipt.edit.verticalScrollBar()->maximum() > 0);
+        // It is read from the top.
+        QCOMPARE(receipt.edit.verticalScrollBar()->value(), 0);
         for (const QString& start : {QString(line48), QString(48, '-')}) {
-            const QTextLayout& layout = *receipt.line(start).layout();
-            QCOMPARE(layout.lineCount(), 1);
-            const double left = layout.position().x();
-            QVERIFY(left >= 0);
-            QVERIFY(left + layout.lineAt(0).naturalTextWidth() <= receipt.edit.viewport()->width());
+            QCOMPARE(receipt.line(start).layout()->lineCount(), 1);
+            QVERIFY(receipt.line(start).layout()->position().x() >= 0);
+            QVERIFY(right(receipt.line(start)) <= receipt.edit.viewport()->width());
         }
     }
 
@@ -204,9 +201,7 @@ private slots:
         QCOMPARE(total.text(), QString("->  TOTAL \t    $1,199.99"));
         for (QTextBlock line = receipt.line(""); line.isValid(); line = line.next()) {
             QCOMPARE(line.layout()->lineCount(), 1);
-            const double right = line.layout()->position().x()
-                + line.layout()->lineAt(0).naturalTextRect().right();
-            QVERIFY2(right <= receipt.edit.viewport()->width(), qPrintable(line.text()));
+            QVERIFY2(right(line) <= receipt.edit.viewport()->width(), qPrintable(line.text()));
         }
     }
 
@@ -220,36 +215,26 @@ private slots:
         QCOMPARE(receipt.x("2  Thé", "$5.00"), 36 * receipt.pitch());
         QCOMPARE(receipt.x("->  Total", "$10.00"), 36 * receipt.pitch());
         QCOMPARE(receipt.x("->  TVA", "$2.01"), 36 * receipt.pitch());
+        // The total's letters are twice as wide; the tab stops stay where they are.
+        QVERIFY(qAbs(receipt.x("->  TOTAL", 10) - 20 * receipt.pitch()) < 1);
+        QCOMPARE(receipt.x("->  TOTAL", "    $12.01"), 24 * receipt.pitch());
+        const auto size = receipt.line("->  TOTAL").text().size();
+        QVERIFY(qAbs(receipt.x("->  TOTAL", int(size)) - 44 * receipt.pitch()) < 1);
+        // The title is centred over the paper.
+        QVERIFY(qAbs(middle(receipt.line("Chez Paul")) - middle(receipt.line("---"))) <= 1);
     }
 
-    void aTitleIsBigBoldAndCentredOverThePaper()
+    void theTitleIsBigAndWhatMattersIsBold()
     {
         const TicketShop shop;
         const ShownReceipt receipt;
         QCOMPARE(receipt.font("Chez Paul").pointSize(), 24);
-        QVERIFY(receipt.font("Chez Paul").bold());
-        QVERIFY(qAbs(middle(receipt.line("Chez Paul")) - middle(receipt.line("---"))) <= 1);
-    }
-
-    void theHeaderIsBoldAndTheFooterIsNot()
-    {
-        const TicketShop shop;
-        const ShownReceipt receipt;
-        QVERIFY(receipt.font("                   12").bold());
-        QVERIFY(!receipt.font("              Merci").bold());
-        QVERIFY(!receipt.font("->  Total ticket").bold());
-    }
-
-    void theTotalIsBoldAndTwiceAsWide()
-    {
-        const TicketShop shop;
-        const ShownReceipt receipt;
-        QVERIFY(receipt.font("->  TOTAL").bold());
-        QVERIFY(qAbs(receipt.x("->  TOTAL", 10) - 20 * receipt.pitch()) < 1);
-        // The tab stops stay where they are.
-        QCOMPARE(receipt.x("->  TOTAL", 11), 24 * receipt.pitch());
-        const auto size = receipt.line("->  TOTAL").text().size();
-        QVERIFY(qAbs(receipt.x("->  TOTAL", int(size)) - 44 * receipt.pitch()) < 1);
+        for (const char* bold : {"Chez Paul", "                   12", "->  TOTAL"}) {
+            QVERIFY2(receipt.font(bold).bold(), bold);
+        }
+        for (const char* plain : {"              Merci", "->  Total ticket"}) {
+            QVERIFY2(!receipt.font(plain).bold(), plain);
+        }
     }
 
     void aLongNameIsWrappedAndNotLost()
@@ -308,17 +293,12 @@ private slots:
 
     void isDeletedWhenItIsClosed()
     {
-        const Shop shop;
         QWidget opener;
         for (const bool byKey : {true, false}) {
             openWindow<FormVendelTicket>(&opener, Receipt());
             const QPointer<FormVendelTicket> window = opener.findChild<FormVendelTicket*>();
             QVERIFY(window != nullptr && window->isVisible());
-            if (byKey) {
-                QTest::keyClick(window, Qt::Key_Escape);
-            } else {
-                window->close();
-            }
+            byKey ? QTest::keyClick(window, Qt::Key_Escape) : void(window->close());
             QTRY_VERIFY(window.isNull());
         }
     }

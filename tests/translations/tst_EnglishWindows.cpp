@@ -1,21 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/FormVendel.h"
-#include "app/FormVendelStart.h"
-#include "app/FormVendelTicket.h"
-#include "app/Payment.h"
-#include "forms/FormVendelAbout.h"
-#include "forms/FormVendelConfig.h"
-#include "forms/FormVendelFormulaireTicket.h"
-#include "forms/FormVendelHistorique.h"
-#include "forms/FormVendelSaisieArticle.h"
-#include "forms/FormVendelSaisieStock.h"
-#include "forms/FormVendelSaisieStockComposition.h"
-#include "forms/FormVendelSaisieStockCutPaste.h"
-#include "forms/FormVendelSaisieStockMaj.h"
-#include "forms/FormVendelStockCalculation.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Widgets.h"
+#include "tests/translations/EveryWindow.h"
 #include "tests/translations/ShownTexts.h"
 
 #include <QAccessible>
@@ -32,71 +18,9 @@
 #include <QTextEdit>
 #include <QTranslator>
 
-#include <functional>
 #include <memory>
-#include <vector>
 
 namespace {
-using Window = std::unique_ptr<QWidget>;
-
-struct Opening
-{
-    const char* name;
-    std::function<Window(QWidget* opener)> open;
-};
-
-/// Lets the clock tick, which shows a designer's word until its first time.
-void showTime(QWidget& window)
-{
-    if (window.metaObject()->indexOfSlot("on_timeout()") >= 0) {
-        QMetaObject::invokeMethod(&window, "on_timeout");
-    }
-}
-
-template <class Form, class... Arguments>
-Opening opening(
-    const char* name, std::initializer_list<const char*> buttons, Arguments... arguments)
-{
-    const std::vector<const char*> pressed(buttons);
-    return {name, [=](QWidget* opener) {
-                Window window = std::make_unique<Form>(arguments..., opener);
-                window->show();
-                showTime(*window);
-                for (const char* button : pressed) {
-                    click(*window, button);
-                }
-                return window;
-            }};
-}
-
-/// Every window, with the buttons that fill its lists.
-const QVector<Opening>& windows()
-{
-    static const QVector<Opening> all{
-        opening<FormVendel>("FormVendel", {"btn_Afficher", "btn_Ticket", "btn_Total_Ticket"}),
-        opening<FormVendelStart>("FormVendelStart", {}),
-        Opening{"FormVendelTicket",
-            [](QWidget* opener) {
-                Window window = std::make_unique<FormVendelTicket>(Payment::receipt(), opener);
-                window->show();
-                return window;
-            }},
-        opening<FormVendelAbout>("FormVendelAbout", {}),
-        opening<FormVendelConfig>("FormVendelConfig", {}),
-        opening<FormVendelFormulaireTicket>("FormVendelFormulaireTicket", {}),
-        opening<FormVendelHistorique>("FormVendelHistorique", {"btn_Show_Date"}),
-        opening<FormVendelSaisieArticle>("FormVendelSaisieArticle", {"btn_Afficher"}),
-        opening<FormVendelSaisieStock>("FormVendelSaisieStock", {"btn_Display"}),
-        opening<FormVendelSaisieStockComposition>(
-            "FormVendelSaisieStockComposition", {}, QString("12"), QString("1")),
-        opening<FormVendelSaisieStockCutPaste>("FormVendelSaisieStockCutPaste", {}),
-        opening<FormVendelSaisieStockMaj>("FormVendelSaisieStockMaj", {}),
-        opening<FormVendelStockCalculation>("FormVendelStockCalculation", {"btn_Display"},
-            QString("05/01/2019"), QString("06/01/2019")),
-    };
-    return all;
-}
-
 /// A shop whose names are numbers, so that every letter on the screen is the till's.
 class NumberedShop : public Shop
 {
@@ -130,11 +54,12 @@ QStringList wordsOf(const QString& text)
     return words;
 }
 
-QVector<ShownText> textsOf(const Opening& opening)
+/// What the window of the running row shows.
+QVector<ShownText> textsOfRow()
 {
     const NumberedShop shop;
     QWidget opener;
-    auto texts = shownTexts(*opening.open(&opener));
+    auto texts = shownTexts(*openWindowOfRow(opener));
     for (ShownText& text : texts) {
         text.text.remove(shop.path());
     }
@@ -163,20 +88,11 @@ private:
     QTranslator* english_;
 };
 
-void eachWindow()
-{
-    QTest::addColumn<int>("number");
-    for (int number = 0; number < windows().size(); ++number) {
-        QTest::newRow(windows()[number].name) << number;
-    }
-}
-
 /// The texts of the running row's window that lack room, one a line.
 QString clippedTexts()
 {
-    QFETCH(int, number);
     QStringList clipped;
-    const auto texts = textsOf(windows()[number]);
+    const auto texts = textsOfRow();
     for (const ShownText& text : texts) {
         if (text.missing > 0) {
             clipped << QString("%1: \"%2\" lacks %3 pixels")
@@ -186,11 +102,11 @@ QString clippedTexts()
     return clipped.join('\n');
 }
 
-QStringList frenchWordsOf(const Opening& opening)
+QStringList frenchWordsOfRow()
 {
     const InFrench french;
     QStringList words;
-    const auto texts = textsOf(opening);
+    const auto texts = textsOfRow();
     for (const ShownText& text : texts) {
         words << wordsOf(text.text);
     }
@@ -210,11 +126,10 @@ private slots:
 
     void noWindowStillShowsFrench()
     {
-        QFETCH(int, number);
-        const QStringList french = frenchWordsOf(windows()[number]);
+        const QStringList french = frenchWordsOfRow();
         QVERIFY(!french.isEmpty());
         QStringList left;
-        const auto texts = textsOf(windows()[number]);
+        const auto texts = textsOfRow();
         for (const ShownText& text : texts) {
             const auto words = wordsOf(text.text);
             for (const QString& word : words) {
@@ -275,10 +190,9 @@ private slots:
 
     void everyFieldHasAName()
     {
-        QFETCH(int, number);
         const NumberedShop shop;
         QWidget opener;
-        const auto window = windows()[number].open(&opener);
+        const auto window = openWindowOfRow(opener);
         QStringList nameless;
         const auto widgets = window->findChildren<QWidget*>();
         for (QWidget* widget : widgets) {
