@@ -145,16 +145,11 @@ private slots:
                 "actionA_propos_de: A propos de"}));
     }
 
-    void theListsHaveTheirLabels()
+    void theListsHaveTheirLabelsAndGoWithTheWindow()
     {
         NewScreen at;
         QCOMPARE(labels(at.list("tableView1")), cells({"#", "X", "Article", "Prix"}));
         QCOMPARE(labels(at.list("tableView2")), cells({"#", "Id", "Article", "Prix"}));
-    }
-
-    void theListsGoWithTheWindow()
-    {
-        NewScreen at;
         for (const auto* name : {"tableView1", "tableView2"}) {
             QCOMPARE(at.list(name).model()->parent(), &at.form);
         }

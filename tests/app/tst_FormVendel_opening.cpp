@@ -50,17 +50,13 @@ private slots:
         }
         QCOMPARE(shop.read("Vendel.db"), before);
         QCOMPARE(QDir().entryList(QDir::Files), QStringList("Vendel.db"));
-    }
-
-    void anExistingFileOfAnyKindStaysAsItIs()
-    {
-        const Shop shop(Shop::Database::None);
+        // A file of any kind is left alone too.
         shop.write("Vendel.db", QByteArray());
         const FormVendel window;
         QCOMPARE(shop.read("Vendel.db"), QByteArray());
     }
 
-    void theFirstShowOpensTheSplash()
+    void onlyTheFirstShowOpensTheSplash()
     {
         const Shop shop;
         FormVendel window;
@@ -73,13 +69,7 @@ private slots:
         QCOMPARE(splash.parentWidget(), &window);
         // (1050 - 1) / 2 - (445 - 1) / 2 and (626 - 1) / 2 - (186 - 1) / 2 on the screen.
         QCOMPARE(splash.pos(), QPoint(302, 220));
-    }
-
-    void aShowFromTheDesktopOpensNoSplash()
-    {
-        const Shop shop;
-        FormVendel window;
-        window.show();
+        // A show from the desktop, out of the task bar say, opens no other.
         QShowEvent restored;
         QSpontaneKeyEvent::setSpontaneous(&restored);
         qApp->notify(&window, &restored);
