@@ -57,10 +57,7 @@ public:
         process.terminate();
         process.waitForFinished();
     }
-    StartedTill(const StartedTill&) = delete;
-    StartedTill& operator=(const StartedTill&) = delete;
-    StartedTill(StartedTill&&) = delete;
-    StartedTill& operator=(StartedTill&&) = delete;
+    Q_DISABLE_COPY_MOVE(StartedTill)
 
     /// Waits until exactly \a text came on standard output; whether the program runs on.
     bool writes(const QByteArray& text)

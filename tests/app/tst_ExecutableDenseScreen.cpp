@@ -3,11 +3,13 @@
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
+#include <QBitmap>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
+#include <QRegion>
 #include <QScreen>
 
 namespace {
@@ -52,15 +54,9 @@ QImage settledPicture()
 /// The smallest rectangle around all that is not of the colour of the first pixel.
 QRect ink(const QImage& picture)
 {
-    QRect box;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixel(x, y) != picture.pixel(0, 0)) {
-                box |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return box;
+    const QColor ground = picture.pixelColor(0, 0);
+    return QRegion(QBitmap::fromImage(picture.createMaskFromColor(ground.rgb(), Qt::MaskInColor)))
+        .boundingRect();
 }
 
 bool bothOpen()

@@ -56,11 +56,7 @@ struct ShownTill : OpenTill
     {
         moveTo(outside);
     }
-
-    ShownTill(const ShownTill&) = delete;
-    ShownTill& operator=(const ShownTill&) = delete;
-    ShownTill(ShownTill&&) = delete;
-    ShownTill& operator=(ShownTill&&) = delete;
+    Q_DISABLE_COPY_MOVE(ShownTill)
 
     QPoint cell(const char* name, int row)
     {

@@ -79,10 +79,7 @@ public:
     {
         QCoreApplication::installTranslator(english_);
     }
-    InFrench(const InFrench&) = delete;
-    InFrench& operator=(const InFrench&) = delete;
-    InFrench(InFrench&&) = delete;
-    InFrench& operator=(InFrench&&) = delete;
+    Q_DISABLE_COPY_MOVE(InFrench)
 
 private:
     QTranslator* english_;

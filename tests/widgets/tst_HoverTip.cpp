@@ -5,8 +5,7 @@
 #include "widgets/HoverTip.h"
 #include "widgets/Lists.h"
 
-#include <QApplication>
-#include <QHelpEvent>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QStandardItemModel>
@@ -140,18 +139,6 @@ private slots:
         showTip(window, QPoint(150, 130), "Menu\nClick sur : <b>x</b>");
         QCOMPARE(QToolTip::text(), QString("Menu\nClick sur : <b>x</b>"));
         QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
-    }
-
-    void aTipSurvivesQtsOwnRequest()
-    {
-        List list;
-        QVERIFY(QTest::qWaitForWindowActive(&list));
-        showTip(list, QPoint(150, 130), "Menu");
-        const QPoint point = list.centreOf(0, 2);
-        QHelpEvent request(QEvent::ToolTip, point, list.viewport()->mapToGlobal(point));
-        QApplication::sendEvent(list.viewport(), &request);
-        QCOMPARE(tipText(), QString("Menu"));
-        QVERIFY(!isTipLeaving());
     }
 
     void aMoveWhileATipIsMadeLeavesItAlone()
