@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QString>
 #include <QStringList>
+#include <QTest>
 
 /// What \a tool writes on standard output.
 inline QByteArray outputOf(const QString& tool, const QStringList& arguments)
@@ -15,12 +16,23 @@ inline QByteArray outputOf(const QString& tool, const QStringList& arguments)
 }
 
 /// The X identity of the visible window with the given title, empty when there is none.
-inline QString windowTitled(const char* title)
+inline QString windowTitled(const QString& title)
 {
-    const QByteArray found = outputOf(QString("xdotool"),
-        {QString("search"), QString("--onlyvisible"), QString("--name"),
-            '^' + QString::fromUtf8(title) + '$'});
-    return QString::fromLatin1(found.left(found.indexOf('\n'))).trimmed();
+    const QByteArray found
+        = outputOf("xdotool", {"search", "--onlyvisible", "--name", '^' + title + '$'});
+    return found.left(found.indexOf('\n')).trimmed();
+}
+
+/// Waits until a window with \a title is on the screen; it has long on a busy machine.
+inline bool opens(const QString& title)
+{
+    return QTest::qWaitFor([&] { return !windowTitled(title).isEmpty(); }, 30000);
+}
+
+/// Waits until no window with \a title is on the screen.
+inline bool closes(const QString& title)
+{
+    return QTest::qWaitFor([&] { return windowTitled(title).isEmpty(); }, 30000);
 }
 
 /// The program itself, started in the working directory and ended with its owner.
@@ -33,22 +45,46 @@ public:
     {
         process.setStandardOutputFile(output);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QString("QT_FONT_DPI"));
+        environment.remove("QT_FONT_DPI");
         if (fontDpi != 0) {
-            environment.insert(QString("QT_FONT_DPI"), QString::number(fontDpi));
+            environment.insert("QT_FONT_DPI", QString::number(fontDpi));
         }
         process.setProcessEnvironment(environment);
-        process.start(QString(TILL), QStringList());
+        process.start(TILL, QStringList());
     }
     ~StartedTill()
     {
         process.terminate();
         process.waitForFinished();
     }
-    StartedTill(const StartedTill&) = delete;
-    StartedTill& operator=(const StartedTill&) = delete;
-    StartedTill(StartedTill&&) = delete;
-    StartedTill& operator=(StartedTill&&) = delete;
+    Q_DISABLE_COPY_MOVE(StartedTill)
+
+    /// Waits until exactly \a text came on standard output; whether the program runs on.
+    bool writes(const QByteArray& text)
+    {
+        QByteArray written;
+        return QTest::qWaitFor(
+                   [&] { return (written += process.readAllStandardOutput()) == text; }, 30000)
+            && process.state() == QProcess::Running;
+    }
+
+    /// Waits until \a line was logged on standard error.
+    bool logs(const QByteArray& line)
+    {
+        return QTest::qWaitFor(
+            [&] { return (log_ += process.readAllStandardError()).contains(line); }, 30000);
+    }
+
+    /// All that is logged until the program was asked to end.
+    QByteArray takeLog()
+    {
+        process.terminate();
+        process.waitForFinished();
+        return log_ + process.readAllStandardError();
+    }
 
     QProcess process;
+
+private:
+    QByteArray log_;
 };

@@ -8,6 +8,8 @@
 #include "tests/support/Shop.h"
 #include "tests/support/Widgets.h"
 
+#include <QLineEdit>
+#include <QTableView>
 #include <QTextEdit>
 
 /// A till ready to sell in a shop of its own: its splash is gone.
@@ -30,14 +32,61 @@ public:
         }
     }
 
-    /// The names in the list "tableView1" (menu) or "tableView2" (ticket), parted by "|".
-    QString names(const char* list)
+    /// The list "tableView1" (menu) or "tableView2" (ticket).
+    QTableView& list(const char* name)
+    {
+        return child<QTableView>(window, name);
+    }
+
+    /// The rows of a list, hidden columns included, "1;;Thé;2.50$" each.
+    QStringList rows(const char* list)
     {
         QStringList texts;
         for (int row = 0; row < rowCount(window, list); ++row) {
-            texts << rowTexts(window, list, row).at(2);
+            texts << rowTexts(window, list, row).join(';');
         }
-        return texts.join('|');
+        return texts;
+    }
+
+    /// The names in a list, parted by "|".
+    QString names(const char* list)
+    {
+        return column(list, 2);
+    }
+
+    /// The marks of doubles in the menu, parted by "|".
+    QString marks()
+    {
+        return column("tableView1", 1);
+    }
+
+    /// Whether a row of a list is seen whole.
+    bool isInView(const char* name, int row)
+    {
+        const QTableView& view = list(name);
+        return view.viewport()->rect().contains(view.visualRect(view.model()->index(row, 2)));
+    }
+
+    /// The field of the amount that the keypad types.
+    QLineEdit& field()
+    {
+        return child<QLineEdit>(window, "txt_montant");
+    }
+
+    /// What \a box said, "title: text", when it was a single notice with an OK over this window.
+    QString notice(const AnswerBox& box) const
+    {
+        const bool isNotice = box.icon() == QMessageBox::Information
+            && box.buttons() == QMessageBox::Ok && box.parent() == &window;
+        return (isNotice ? "" : "no notice: ") + box.said().join(" | ");
+    }
+
+    /// The same of the box that a click on \a button opens.
+    QString noticeOf(const char* button)
+    {
+        const AnswerBox box;
+        click(window, button);
+        return notice(box);
     }
 
     /// Sets the printer's switch.
@@ -142,6 +191,15 @@ public:
     }
 
 private:
+    QString column(const char* list, int column)
+    {
+        QStringList texts;
+        for (int row = 0; row < rowCount(window, list); ++row) {
+            texts << rowTexts(window, list, row).at(column);
+        }
+        return texts.join('|');
+    }
+
     QStringList lines(const char* sql) const
     {
         QStringList texts;
@@ -162,19 +220,29 @@ public:
     }
 };
 
+/// A till whose lists show the menu and the ticket.
+struct OpenTill : Till
+{
+    explicit OpenTill(const char* sql)
+        : Till(sql)
+    {
+        if (!shop.sql("select 1 from Article").empty()) {
+            click(window, "btn_Afficher");
+        }
+        if (!ticket().isEmpty()) {
+            click(window, "btn_Ticket");
+        }
+    }
+};
+
 /// Whether \a box is the notice about the missing printer.
 inline bool saysNotConnected(const AnswerBox& box, const Till& till)
 {
-    return box.title() == QString("Payer") && box.text() == QString("Imprimante non connectée")
-        && box.icon() == QMessageBox::Information && box.buttons() == QMessageBox::Ok
-        && box.parent() == &till.window && box.strays() == 0;
+    return till.notice(box) == "Payer: Imprimante non connectée";
 }
 
 /// Whether \a box is the notice that the sale is not in the history and the ticket is kept.
 inline bool saysNotRecorded(const AnswerBox& box, const Till& till)
 {
-    return box.title() == QString("Payer")
-        && box.text() == QString("La vente n'est pas enregistrée\nLe ticket est gardé")
-        && box.icon() == QMessageBox::Information && box.buttons() == QMessageBox::Ok
-        && box.parent() == &till.window && box.strays() == 0;
+    return till.notice(box) == "Payer: La vente n'est pas enregistrée\nLe ticket est gardé";
 }

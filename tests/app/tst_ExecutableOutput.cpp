@@ -1,25 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/StartedTill.h"
+#include "tests/support/Captured.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QTest>
 
 namespace {
-/// Whether \a till writes exactly \a report while it runs.
-bool reports(StartedTill& till, const QByteArray& report)
-{
-    QByteArray written;
-    const bool isWritten = QTest::qWaitFor(
-        [&] {
-            written += till.process.readAllStandardOutput();
-            return written == report;
-        },
-        10000);
-    return isWritten && till.process.state() == QProcess::Running;
-}
+constexpr auto readSwitch = "select valeur from Config where param like 'Epson TM-T20II'";
 } // namespace
 
 /// What the program writes when its output is read through a pipe.
@@ -32,21 +20,15 @@ private slots:
     {
         const Shop shop;
         shop.sql("drop table Config");
-        StartedTill till;
-        QVERIFY(reports(till,
-            "Errors Db::DbLoad sqlite3_errmsg : select valeur from Config where param like 'Epson "
-            "TM-T20II' no such table: Config\n"));
+        QVERIFY(StartedTill().writes(databaseReport(readSwitch, "no such table: Config")));
     }
 
     void aDatabaseThatCannotBeOpenedIsReportedAtOnce()
     {
         const Shop shop(Shop::Database::None);
-        QVERIFY(QDir().mkdir(QString("Vendel.db")));
-        StartedTill till;
-        QVERIFY(reports(till,
-            "Not open database successfully\n"
-            "Errors Db::DbLoad sqlite3_errmsg : select valeur from Config where param like 'Epson "
-            "TM-T20II' unable to open database file\n"));
+        QVERIFY(QDir().mkdir("Vendel.db"));
+        QVERIFY(StartedTill().writes("Not open database successfully\n"
+            + databaseReport(readSwitch, "unable to open database file")));
     }
 };
 

@@ -6,6 +6,34 @@
 #include "tests/support/Widgets.h"
 
 #include <QLabel>
+#include <QPointer>
+#include <QTimer>
+
+namespace {
+/// The splash on the screen above a window that stands for the till's.
+struct OpenSplash
+{
+    QWidget opener;
+    FormVendelStart splash{&opener};
+
+    OpenSplash()
+    {
+        opener.show();
+        splash.show();
+    }
+
+    /// One of the ticks that come every second.
+    bool tick()
+    {
+        return QMetaObject::invokeMethod(&splash, "on_timeout");
+    }
+
+    const QTimer& timer() const
+    {
+        return *splash.findChild<QTimer*>();
+    }
+};
+} // namespace
 
 class TestFormVendelStart : public QObject
 {
@@ -14,28 +42,26 @@ class TestFormVendelStart : public QObject
 private slots:
     void looksLikeTheSplash()
     {
-        QWidget opener;
-        FormVendelStart splash(&opener);
-        QCOMPARE(splash.objectName(), QString("FormVendelStart"));
-        QCOMPARE(splash.size(), QSize(445, 186));
-        QCOMPARE(splash.minimumSize(), QSize(445, 186));
-        QCOMPARE(splash.maximumSize(), QSize(445, 186));
-        QCOMPARE(splash.sizeIncrement(), QSize(445, 186));
-        QCOMPARE(splash.layoutDirection(), Qt::LeftToRight);
-        QCOMPARE(splash.styleSheet(), QString("background-color: rgb(114, 159, 207)"));
-        QCOMPARE(splash.windowModality(), Qt::WindowModal);
-        QVERIFY(splash.isModal());
-        QVERIFY(!splash.testAttribute(Qt::WA_DeleteOnClose));
-        QCOMPARE(splash.windowTitle(), QString("Dialog"));
-        QCOMPARE(splash.parentWidget(), &opener);
+        OpenSplash at;
+        QCOMPARE(at.splash.objectName(), QString("FormVendelStart"));
+        QCOMPARE(at.splash.size(), QSize(445, 186));
+        QCOMPARE(at.splash.minimumSize(), QSize(445, 186));
+        QCOMPARE(at.splash.maximumSize(), QSize(445, 186));
+        QCOMPARE(at.splash.sizeIncrement(), QSize(445, 186));
+        QCOMPARE(at.splash.layoutDirection(), Qt::LeftToRight);
+        QCOMPARE(at.splash.styleSheet(), QString("background-color: rgb(114, 159, 207)"));
+        QCOMPARE(at.splash.windowModality(), Qt::WindowModal);
+        QVERIFY(at.splash.isModal());
+        QVERIFY(!at.splash.testAttribute(Qt::WA_DeleteOnClose));
+        QCOMPARE(at.splash.windowTitle(), QString("Dialog"));
+        QCOMPARE(at.splash.parentWidget(), &at.opener);
     }
 
     void showsItsTitle()
     {
-        QWidget opener;
-        FormVendelStart splash(&opener);
-        QCOMPARE(splash.findChildren<QLabel*>().size(), 1);
-        const auto& title = child<QLabel>(splash, "lbl_Titre");
+        OpenSplash at;
+        QCOMPARE(at.splash.findChildren<QLabel*>().size(), 1);
+        const auto& title = child<QLabel>(at.splash, "lbl_Titre");
         QCOMPARE(title.text(), QString("Système Vendel"));
         QCOMPARE(title.geometry(), QRect(16, 57, 417, 63));
         QCOMPARE(title.font().pointSize(), 40);
@@ -45,41 +71,49 @@ private slots:
     void isTranslated()
     {
         Translation translation;
-        translation.add(
-            QString("FormVendelStart"), QString("Système Vendel"), QString("Vendel System"));
-        QWidget opener;
-        FormVendelStart splash(&opener);
-        QCOMPARE(child<QLabel>(splash, "lbl_Titre").text(), QString("Vendel System"));
+        translation.add("FormVendelStart", "Système Vendel", "Vendel System");
+        OpenSplash at;
+        QCOMPARE(child<QLabel>(at.splash, "lbl_Titre").text(), QString("Vendel System"));
     }
 
-    void closesAtTheFifthTick()
+    void ticksEverySecond()
     {
-        QWidget opener;
-        FormVendelStart splash(&opener);
-        splash.show();
-        for (int tick = 1; tick <= 4; ++tick) {
-            QVERIFY(QMetaObject::invokeMethod(&splash, "on_timeout"));
-            QVERIFY(splash.isVisible());
+        const OpenSplash at;
+        QVERIFY(at.timer().isActive());
+        QCOMPARE(at.timer().interval(), 1000);
+    }
+
+    void isClosedAndNotDeletedAtTheFifthTick()
+    {
+        OpenSplash at;
+        const QPointer<FormVendelStart> splash = &at.splash;
+        for (int tick = 1; tick <= 5; ++tick) {
+            QVERIFY(at.splash.isVisible());
+            QVERIFY(at.tick());
         }
-        QVERIFY(QMetaObject::invokeMethod(&splash, "on_timeout"));
-        QVERIFY(!splash.isVisible());
+        QVERIFY(!at.splash.isVisible());
+        QVERIFY(!at.timer().isActive());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!splash.isNull());
+        QVERIFY(at.opener.isVisible());
     }
 
-    void closesByItself()
+    void staysAwayWhenItWasSentAwayEarly()
     {
-        QWidget opener;
-        FormVendelStart splash(&opener);
-        splash.show();
-        QTest::qWait(4000);
-        QVERIFY(splash.isVisible());
-        QTRY_VERIFY_WITH_TIMEOUT(!splash.isVisible(), 20000);
+        OpenSplash at;
+        QTest::keyClick(&at.splash, Qt::Key_Escape);
+        QVERIFY(!at.splash.isVisible());
+        for (int tick = 1; tick <= 6; ++tick) {
+            QVERIFY(at.tick());
+            QVERIFY(!at.splash.isVisible());
+        }
+        QVERIFY(!at.timer().isActive());
     }
 
     void everySlotFindsItsWidget()
     {
         const CapturedLog log;
-        QWidget opener;
-        const FormVendelStart splash(&opener);
+        const OpenSplash at;
         QCOMPARE(log.warnings(), QStringList());
         QCOMPARE(log.criticals(), QStringList());
     }

@@ -24,7 +24,7 @@ private slots:
         for (const char* text : {"no key", "fermé", "100 %s %n"}) {
             const CapturedLog log;
             guarded("Shop open", [&] { throw std::runtime_error(text); });
-            QCOMPARE(log.criticals(), QStringList("Shop open" + QString(text)));
+            QCOMPARE(log.criticals(), QStringList("Errors Shop open : " + QString(text)));
         }
     }
 

@@ -2,12 +2,15 @@
 #include "tests/support/Widgets.h"
 
 #include <QAbstractButton>
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace {
 QPoint centreOf(QAbstractItemView& view, int row, int column)
@@ -58,13 +61,19 @@ void doubleClickCell(
     QApplication::sendEvent(view.viewport(), &release);
 }
 
+void hoverPoint(QWidget& widget, QPointF point)
+{
+    const QPointF onScreen = point + widget.mapToGlobal(QPoint());
+    QMouseEvent move(
+        QEvent::MouseMove, point, onScreen, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &move);
+}
+
 void hoverCell(QWidget& window, const char* name, int row, int column)
 {
     auto& view = child<QAbstractItemView>(window, name);
     const QPoint point = centreOf(view, row, column);
-    QMouseEvent move(QEvent::MouseMove, point, view.viewport()->mapToGlobal(point), Qt::NoButton,
-        Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &move);
+    hoverPoint(*view.viewport(), point);
 }
 
 QStringList rowTexts(QWidget& window, const char* name, int row)
@@ -104,15 +113,31 @@ QString tipText()
     return QToolTip::isVisible() ? QToolTip::text() : QString();
 }
 
-QRect tipGeometry()
+QWidget* visibleTip()
 {
     const auto widgets = QApplication::topLevelWidgets();
-    for (const QWidget* widget : widgets) {
+    for (QWidget* widget : widgets) {
         if (widget->inherits("QTipLabel") && widget->isVisible()) {
-            return widget->geometry();
+            return widget;
         }
     }
-    qFatal("no tip");
+    return nullptr;
+}
+
+bool isTipLeaving()
+{
+    const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(visibleTip());
+    return std::any_of(
+        timers.begin(), timers.end(), [](const auto& timer) { return timer.interval == 300; });
+}
+
+QRect tipGeometry()
+{
+    const QWidget* tip = visibleTip();
+    if (tip == nullptr) {
+        qFatal("no tip");
+    }
+    return tip->geometry();
 }
 
 bool tipStandsAt(QPoint point)

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QAbstractItemView>
+#include <QEvent>
 #include <QPoint>
+#include <QPointF>
 #include <QRect>
 #include <QString>
 #include <QStringList>
@@ -31,6 +33,9 @@ void clickCell(QWidget& window, const char* name, int row, int column,
 void doubleClickCell(QWidget& window, const char* name, int row, int column,
     Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
+/// Moves the mouse over \a point of \a widget.
+void hoverPoint(QWidget& widget, QPointF point);
+
 /// Moves the mouse over the cell of the list \a name.
 void hoverCell(QWidget& window, const char* name, int row, int column);
 
@@ -46,6 +51,12 @@ void chooseMenu(QWidget& window, const char* menu, const char* action);
 /// The visible tip's text, empty when there is none.
 QString tipText();
 
+/// The visible tip, null when there is none.
+QWidget* visibleTip();
+
+/// Whether the visible tip was told to go: it stays for another third of a second.
+bool isTipLeaving();
+
 /// The visible tip's place on the screen; ends the test program when there is none.
 QRect tipGeometry();
 
@@ -58,3 +69,29 @@ QStringList clippedTexts(QWidget& window);
 /// Names of \a window's widgets in the order in which Tab reaches them, from the one that has the
 /// focus on.
 QStringList tabOrder(QWidget& window);
+
+/// Counts the events of \a type that reach \a watched while it lives.
+class EventCount : public QObject
+{
+public:
+    EventCount(QObject& watched, QEvent::Type type)
+        : type_(type)
+    {
+        watched.installEventFilter(this);
+    }
+
+    int value() const
+    {
+        return value_;
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        value_ += event->type() == type_ ? 1 : 0;
+        return false;
+    }
+
+private:
+    QEvent::Type type_;
+    int value_ = 0;
+};

@@ -97,7 +97,7 @@ private:
     void add(const QWidget& widget, const char* place, const QString& text, int missing = 0)
     {
         if (!text.isEmpty()) {
-            texts.push_back({widget.objectName() + ' ' + QLatin1String(place), text, missing});
+            texts.push_back({widget.objectName() + ' ' + place, text, missing});
         }
     }
 

@@ -1,21 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/FormVendel.h"
-#include "app/FormVendelStart.h"
-#include "app/FormVendelTicket.h"
-#include "app/Payment.h"
-#include "forms/FormVendelAbout.h"
-#include "forms/FormVendelConfig.h"
-#include "forms/FormVendelFormulaireTicket.h"
-#include "forms/FormVendelHistorique.h"
-#include "forms/FormVendelSaisieArticle.h"
-#include "forms/FormVendelSaisieStock.h"
-#include "forms/FormVendelSaisieStockComposition.h"
-#include "forms/FormVendelSaisieStockCutPaste.h"
-#include "forms/FormVendelSaisieStockMaj.h"
-#include "forms/FormVendelStockCalculation.h"
 #include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Widgets.h"
+#include "tests/translations/EveryWindow.h"
 #include "tests/translations/ShownTexts.h"
 
 #include <QAccessible>
@@ -32,108 +18,34 @@
 #include <QTextEdit>
 #include <QTranslator>
 
-#include <functional>
 #include <memory>
-#include <vector>
 
 namespace {
-using Window = std::unique_ptr<QWidget>;
-
-struct Opening
-{
-    const char* name;
-    std::function<Window(QWidget* opener)> open;
-};
-
-/// Lets the clock tick, which shows a designer's word until its first time.
-void showTime(QWidget& window)
-{
-    if (window.metaObject()->indexOfSlot("on_timeout()") >= 0) {
-        QMetaObject::invokeMethod(&window, "on_timeout");
-    }
-}
-
-template <class Form, class... Arguments>
-Opening opening(
-    const char* name, std::initializer_list<const char*> buttons, Arguments... arguments)
-{
-    const std::vector<const char*> pressed(buttons);
-    return {name, [=](QWidget* opener) {
-                Window window = std::make_unique<Form>(arguments..., opener);
-                window->show();
-                showTime(*window);
-                for (const char* button : pressed) {
-                    click(*window, button);
-                }
-                return window;
-            }};
-}
-
-/// Every window, with the buttons that fill its lists.
-const QVector<Opening>& windows()
-{
-    static const QVector<Opening> all{
-        opening<FormVendel>("FormVendel", {"btn_Afficher", "btn_Ticket", "btn_Total_Ticket"}),
-        opening<FormVendelStart>("FormVendelStart", {}),
-        Opening{"FormVendelTicket",
-            [](QWidget* opener) {
-                Window window = std::make_unique<FormVendelTicket>(Payment::receipt(), opener);
-                window->show();
-                return window;
-            }},
-        opening<FormVendelAbout>("FormVendelAbout", {}),
-        opening<FormVendelConfig>("FormVendelConfig", {}),
-        opening<FormVendelFormulaireTicket>("FormVendelFormulaireTicket", {}),
-        opening<FormVendelHistorique>("FormVendelHistorique", {"btn_Show_Date"}),
-        opening<FormVendelSaisieArticle>("FormVendelSaisieArticle", {"btn_Afficher"}),
-        opening<FormVendelSaisieStock>("FormVendelSaisieStock", {"btn_Display"}),
-        opening<FormVendelSaisieStockComposition>(
-            "FormVendelSaisieStockComposition", {}, QString("12"), QString("1")),
-        opening<FormVendelSaisieStockCutPaste>("FormVendelSaisieStockCutPaste", {}),
-        opening<FormVendelSaisieStockMaj>("FormVendelSaisieStockMaj", {}),
-        opening<FormVendelStockCalculation>("FormVendelStockCalculation", {"btn_Display"},
-            QString("05/01/2019"), QString("06/01/2019")),
-    };
-    return all;
-}
-
 /// A shop whose names are numbers, so that every letter on the screen is the till's.
 class NumberedShop : public Shop
 {
 public:
     NumberedShop()
     {
-        for (const char* statement : {"insert into Article (id, article, prix) values (1, '11', 2)",
-                 "insert into Article (id, article, prix) values (2, '12', 3)",
-                 "insert into Article (id, article, prix) values (3, '13', 3)",
-                 "insert into ArticleStock (id, article) values (1, '11'), (2, '22'), (4, '14')",
-                 "insert into DoseStock (id, composition, dose, unite) values (1, '31', 2, 'cl'), "
-                 "(4, '32', 3, 'g')",
-                 "insert into Historique values (1, '11', 2, '2019-05-04 12:00:00.000')",
-                 "insert into Ticket (id, article, prix) values (1, '11', 2)"}) {
-            sql(statement);
-        }
-        write(QString("EnteteFormulaire.dat"), "1");
-        write(QString("PiedFormulaire.dat"), "2");
+        fill("insert into Article values (1, '11', 2), (2, '12', 3), (3, '13', 3);"
+             "insert into ArticleStock (id, article) values (1, '11'), (2, '22'), (4, '14');"
+             "insert into DoseStock (id, composition, dose, unite) values (1, '31', 2, 'cl'), "
+             "(4, '32', 3, 'g');"
+             "insert into Historique values (1, '11', 2, '2019-05-04 12:00:00.000');"
+             "insert into Ticket (id, article, prix) values (1, '11', 2)");
+        write("EnteteFormulaire.dat", "1");
+        write("PiedFormulaire.dat", "2");
     }
 };
 
 /// What is the same in both languages, and what no language changes.
-const QSet<QString>& equalWords()
-{
-    static const QSet<QString> words{QString("Ticket"), QString("Menu"), QString("Config"),
-        QString("Total"), QString("TOTAL"), QString("Vendel"), QString("X"), QString("Id"),
-        QString("Date"), QString("Options"), QString("Stock"), QString("Composition"),
-        QString("Dose"), QString("Conversion"), QString("Purge"), QString("cl"), QString("g"),
-        QString("Epson"), QString("TM"), QString("T20II"), QString("ON"), QString("OFF"),
-        QString("OK"), QString("Dialog"), QString("Version"), QString("MIT"), QString("Page"),
-        QString("bar")};
-    return words;
-}
+const QSet<QString> equalWords{"Ticket", "Menu", "Config", "Total", "TOTAL", "Vendel", "X", "Id",
+    "Date", "Options", "Stock", "Composition", "Dose", "Conversion", "Purge", "cl", "g", "Epson",
+    "TM", "T20II", "ON", "OFF", "OK", "Dialog", "Version", "MIT", "Page", "bar"};
 
 QStringList wordsOf(const QString& text)
 {
-    static const QRegularExpression word(QString("\\p{L}[\\p{L}\\d]*"));
+    static const QRegularExpression word("\\p{L}[\\p{L}\\d]*");
     QStringList words;
     auto matches = word.globalMatch(text);
     while (matches.hasNext()) {
@@ -142,11 +54,12 @@ QStringList wordsOf(const QString& text)
     return words;
 }
 
-QVector<ShownText> textsOf(const Opening& opening)
+/// What the window of the running row shows.
+QVector<ShownText> textsOfRow()
 {
     const NumberedShop shop;
     QWidget opener;
-    auto texts = shownTexts(*opening.open(&opener));
+    auto texts = shownTexts(*openWindowOfRow(opener));
     for (ShownText& text : texts) {
         text.text.remove(shop.path());
     }
@@ -166,41 +79,31 @@ public:
     {
         QCoreApplication::installTranslator(english_);
     }
-    InFrench(const InFrench&) = delete;
-    InFrench& operator=(const InFrench&) = delete;
-    InFrench(InFrench&&) = delete;
-    InFrench& operator=(InFrench&&) = delete;
+    Q_DISABLE_COPY_MOVE(InFrench)
 
 private:
     QTranslator* english_;
 };
 
-void eachWindow()
-{
-    QTest::addColumn<int>("number");
-    for (int number = 0; number < windows().size(); ++number) {
-        QTest::newRow(windows()[number].name) << number;
-    }
-}
-
-QStringList clippedIn(const Opening& opening)
+/// The texts of the running row's window that lack room, one a line.
+QString clippedTexts()
 {
     QStringList clipped;
-    const auto texts = textsOf(opening);
+    const auto texts = textsOfRow();
     for (const ShownText& text : texts) {
         if (text.missing > 0) {
             clipped << QString("%1: \"%2\" lacks %3 pixels")
                            .arg(text.place, text.text, QString::number(text.missing));
         }
     }
-    return clipped;
+    return clipped.join('\n');
 }
 
-QStringList frenchWordsOf(const Opening& opening)
+QStringList frenchWordsOfRow()
 {
     const InFrench french;
     QStringList words;
-    const auto texts = textsOf(opening);
+    const auto texts = textsOfRow();
     for (const ShownText& text : texts) {
         words << wordsOf(text.text);
     }
@@ -220,16 +123,15 @@ private slots:
 
     void noWindowStillShowsFrench()
     {
-        QFETCH(int, number);
-        const QStringList french = frenchWordsOf(windows()[number]);
+        const QStringList french = frenchWordsOfRow();
         QVERIFY(!french.isEmpty());
         QStringList left;
-        const auto texts = textsOf(windows()[number]);
+        const auto texts = textsOfRow();
         for (const ShownText& text : texts) {
             const auto words = wordsOf(text.text);
             for (const QString& word : words) {
-                if (french.contains(word) && !equalWords().contains(word)) {
-                    left << text.place + QLatin1String(": ") + word;
+                if (french.contains(word) && !equalWords.contains(word)) {
+                    left << text.place + ": " + word;
                 }
             }
         }
@@ -238,7 +140,7 @@ private slots:
 
     void aWidgetThatIsTooSmallLacksPixels()
     {
-        const QString text = QString("The ticket is empty");
+        const QString text = "The ticket is empty";
         QLabel label(text);
         QPushButton button(text);
         QCheckBox check(text);
@@ -248,11 +150,10 @@ private slots:
         for (QWidget* widget :
             std::initializer_list<QWidget*>{&label, &button, &check, &group, &box}) {
             widget->resize(400, 40);
-            QVERIFY2(
-                shownTexts(*widget).constFirst().missing <= 0, widget->metaObject()->className());
+            const char* kind = widget->metaObject()->className();
+            QVERIFY2(shownTexts(*widget).constFirst().missing <= 0, kind);
             widget->resize(40, 40);
-            QVERIFY2(
-                shownTexts(*widget).constFirst().missing > 0, widget->metaObject()->className());
+            QVERIFY2(shownTexts(*widget).constFirst().missing > 0, kind);
         }
         label.resize(400, 5);
         QVERIFY(shownTexts(label).constFirst().missing > 0);
@@ -265,9 +166,7 @@ private slots:
 
     void noTextIsClipped()
     {
-        QFETCH(int, number);
-        const QStringList clipped = clippedIn(windows()[number]);
-        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
+        QCOMPARE(clippedTexts(), QString());
     }
 
     void noFrenchTextIsClipped_data()
@@ -277,10 +176,8 @@ private slots:
 
     void noFrenchTextIsClipped()
     {
-        QFETCH(int, number);
         const InFrench french;
-        const QStringList clipped = clippedIn(windows()[number]);
-        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join('\n')));
+        QCOMPARE(clippedTexts(), QString());
     }
 
     void everyFieldHasAName_data()
@@ -290,10 +187,9 @@ private slots:
 
     void everyFieldHasAName()
     {
-        QFETCH(int, number);
         const NumberedShop shop;
         QWidget opener;
-        const auto window = windows()[number].open(&opener);
+        const auto window = openWindowOfRow(opener);
         QStringList nameless;
         const auto widgets = window->findChildren<QWidget*>();
         for (QWidget* widget : widgets) {
@@ -309,19 +205,20 @@ private slots:
 
     void boxesHaveEnglishButtons()
     {
-        QMessageBox box(QMessageBox::Information, QString(), QString(),
+        QMessageBox box(QMessageBox::Information, "", "",
             QMessageBox::Yes | QMessageBox::No | QMessageBox::Ok | QMessageBox::Cancel
                 | QMessageBox::Close | QMessageBox::Save);
-        QCOMPARE(box.button(QMessageBox::Yes)->text(), QString("&Yes"));
-        QCOMPARE(box.button(QMessageBox::No)->text(), QString("&No"));
-        QCOMPARE(box.button(QMessageBox::Ok)->text(), QString("OK"));
-        QCOMPARE(box.button(QMessageBox::Cancel)->text(), QString("Cancel"));
-        QCOMPARE(box.button(QMessageBox::Close)->text(), QString("Close"));
-        QCOMPARE(box.button(QMessageBox::Save)->text(), QString("Save"));
+        const auto caption
+            = [&](QMessageBox::StandardButton button) { return box.button(button)->text(); };
+        QCOMPARE(caption(QMessageBox::Yes), QString("&Yes"));
+        QCOMPARE(caption(QMessageBox::No), QString("&No"));
+        QCOMPARE(caption(QMessageBox::Ok), QString("OK"));
+        QCOMPARE(caption(QMessageBox::Cancel), QString("Cancel"));
+        QCOMPARE(caption(QMessageBox::Close), QString("Close"));
+        QCOMPARE(caption(QMessageBox::Save), QString("Save"));
 
         const InFrench french;
-        const QMessageBox frenchBox(
-            QMessageBox::Information, QString(), QString(), QMessageBox::Yes);
+        const QMessageBox frenchBox(QMessageBox::Information, "", "", QMessageBox::Yes);
         QCOMPARE(frenchBox.button(QMessageBox::Yes)->text(), QString("&Oui"));
     }
 
@@ -337,8 +234,7 @@ private slots:
             }
             return labels;
         };
-        const QStringList english{QString("Undo"), QString("Redo"), QString("Cut"), QString("Copy"),
-            QString("Paste"), QString("Delete"), QString("Select All")};
+        const QStringList english{"Undo", "Redo", "Cut", "Copy", "Paste", "Delete", "Select All"};
         QLineEdit line;
         QCOMPARE(labelsOf(*std::unique_ptr<QMenu>(line.createStandardContextMenu())), english);
         QTextEdit text;

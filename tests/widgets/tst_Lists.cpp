@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "common/Messages.h"
+#include "tests/support/ListLook.h"
 #include "tests/support/TestProgram.h"
-#include "tests/support/Translation.h"
 #include "widgets/Lists.h"
 
 #include <QHeaderView>
@@ -11,68 +11,50 @@
 namespace {
 constexpr Texts texts{"FormVendelMessages"};
 
+/// A list like the menu's, with the rows that a test begins with.
 struct List
 {
     QTableView view;
     QStandardItemModel model;
 
-    List()
+    explicit List(const std::vector<QStringList>& rows = {})
     {
         QFont font = view.font();
         font.setPointSize(18);
         view.setFont(font);
         setUpList(view, model, texts, Messages::Messages97, {50, 25, 210, 110}, {0});
+        ListFiller filler(view, model);
+        for (const QStringList& row : rows) {
+            filler.add(row);
+        }
     }
 
-    QString header(int column) const
+    QStringList column(int number) const
     {
-        return model.headerData(column, Qt::Horizontal).toString();
+        QStringList cells;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            cells << model.index(row, number).data().toString();
+        }
+        return cells;
     }
 
-    QString cell(int row, int column) const
+    std::vector<QBrush> grounds(int row) const
     {
-        return model.index(row, column).data().toString();
+        return {model.item(row, 0)->background(), model.item(row, 1)->background(),
+            model.item(row, 2)->background(), model.item(row, 3)->background()};
     }
 };
 
-QStringList row(const char* id, const char* name)
-{
-    return {QString::fromUtf8(id), QString(), QString::fromUtf8(name), QString("1.00$")};
-}
+const QStringList tea{"1", "", "Thé", "1.00$"};
+const QStringList water{"2", "", "Eau", "1.00$"};
 } // namespace
 
+/// What fills the lists; the look that each of them has is tested with their windows.
 class TestLists : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void labelsStandInColumnOrder()
-    {
-        const List list;
-        QCOMPARE(list.model.columnCount(), 4);
-        QCOMPARE(list.model.rowCount(), 0);
-        QCOMPARE(list.header(0), QString("#"));
-        QCOMPARE(list.header(1), QString("X"));
-        QCOMPARE(list.header(2), QString("Article"));
-        QCOMPARE(list.header(3), QString("Prix"));
-    }
-
-    void labelsAreTranslated()
-    {
-        Translation translation;
-        translation.add(QString("FormVendelMessages"), QString("Prix"), QString("Price"));
-        const List list;
-        QCOMPARE(list.header(3), QString("Price"));
-    }
-
-    void columnsHaveTheirWidths()
-    {
-        const List list;
-        QCOMPARE(list.view.columnWidth(1), 25);
-        QCOMPARE(list.view.columnWidth(2), 210);
-        QCOMPARE(list.view.columnWidth(3), 110);
-    }
-
     void aNarrowColumnKeepsItsWidth()
     {
         QTableView view;
@@ -82,146 +64,67 @@ private slots:
         QCOMPARE(view.horizontalHeader()->minimumSectionSize(), 10);
     }
 
-    void hiddenColumnsAreHidden()
+    void labelsStayInTheMiddleOfTheHeadersHeight()
     {
         const List list;
-        QVERIFY(list.view.isColumnHidden(0));
-        QVERIFY(!list.view.isColumnHidden(1));
-        QVERIFY(!list.view.isColumnHidden(2));
-        QVERIFY(!list.view.isColumnHidden(3));
-    }
-
-    void coloursAlternate()
-    {
-        const List list;
-        QVERIFY(list.view.alternatingRowColors());
-        QCOMPARE(list.view.styleSheet(),
-            QString("alternate-background-color: LightBlue;background-color: White"));
-    }
-
-    void cellsAreNotEdited()
-    {
-        const List list;
-        QCOMPARE(list.view.editTriggers(), QAbstractItemView::NoEditTriggers);
-    }
-
-    void headersAreLeftAligned()
-    {
-        const List list;
-        QCOMPARE(list.view.horizontalHeader()->defaultAlignment(), Qt::Alignment(Qt::AlignLeft));
-        // Labels stay in the middle of the header's height.
+        QCOMPARE(list.model.rowCount(), 0);
         for (int column = 0; column < 4; ++column) {
             QCOMPARE(list.model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt(),
                 static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter));
         }
     }
 
-    void rowsMayBeTenPixelsHigh()
-    {
-        const List list;
-        QCOMPARE(list.view.verticalHeader()->defaultSectionSize(), 10);
-        QCOMPARE(list.view.verticalHeader()->minimumSectionSize(), 10);
-    }
-
     void clearingKeepsHeadersAndWidths()
     {
-        List list;
-        {
-            ListFiller filler(list.view, list.model);
-            filler.add(row("1", "Thé"));
-            filler.add(row("2", "Eau"));
-        }
+        List list({tea, water});
         clearList(list.model);
         QCOMPARE(list.model.rowCount(), 0);
-        QCOMPARE(list.header(2), QString("Article"));
-        QCOMPARE(list.view.columnWidth(2), 210);
-        QVERIFY(list.view.isColumnHidden(0));
+        QCOMPARE(labels(list.view), cells({"#", "X", "Article", "Prix"}));
+        QCOMPARE(widths(list.view), (std::vector<int>{25, 210, 110}));
     }
 
     void rowsAreAppendedInOrder()
     {
-        List list;
-        ListFiller filler(list.view, list.model);
-        filler.add(row("1", "Thé"));
-        filler.add(row("2", "Eau"));
-        QCOMPARE(list.model.rowCount(), 2);
-        QCOMPARE(list.cell(0, 2), QString("Thé"));
-        QCOMPARE(list.cell(1, 0), QString("2"));
-        QCOMPARE(list.cell(1, 2), QString("Eau"));
-        QCOMPARE(list.cell(1, 3), QString("1.00$"));
+        const List list({tea, water});
+        QCOMPARE(list.column(0), QStringList({"1", "2"}));
+        QCOMPARE(list.column(2), QStringList({"Thé", "Eau"}));
+        QCOMPARE(list.column(3), QStringList({"1.00$", "1.00$"}));
     }
 
     void rowsAreAsHighAsTheirFont()
     {
-        List list;
-        {
-            ListFiller filler(list.view, list.model);
-            filler.add(row("1", "Thé"));
-            filler.addTotal(row("2", "Total"));
-        }
+        List list({tea});
+        ListFiller(list.view, list.model).addTotal(water);
         const int letters = QFontMetrics(list.view.font()).height();
         QVERIFY(letters > 20);
-        for (const int line : {0, 1}) {
-            QVERIFY(list.view.rowHeight(line) >= letters);
-            QVERIFY(list.view.rowHeight(line) <= letters + 10);
+        for (const int row : {0, 1}) {
+            QVERIFY(list.view.rowHeight(row) >= letters);
+            QVERIFY(list.view.rowHeight(row) <= letters + 10);
         }
         QCOMPARE(list.view.verticalHeader()->defaultSectionSize(), 10);
     }
 
-    void totalsStandOnYellow()
+    void onlyTotalsStandOnYellow()
     {
-        List list;
-        ListFiller filler(list.view, list.model);
-        filler.addTotal(row("0", "TOTAL "));
-        for (int column = 0; column < 4; ++column) {
-            QCOMPARE(list.model.item(0, column)->background(), QBrush(Qt::yellow));
-        }
-    }
-
-    void ordinaryRowsHaveNoColourOfTheirOwn()
-    {
-        List list;
-        ListFiller filler(list.view, list.model);
-        filler.add(row("1", "Thé"));
-        for (int column = 0; column < 4; ++column) {
-            QCOMPARE(list.model.item(0, column)->background(), QBrush());
-        }
+        List list({tea});
+        ListFiller(list.view, list.model).addTotal({"0", "", "TOTAL ", "1.00$"});
+        QCOMPARE(list.grounds(0), std::vector<QBrush>(4));
+        QCOMPARE(list.grounds(1), std::vector<QBrush>(4, QBrush(Qt::yellow)));
     }
 
     void marksStandInTheRowsOfTheirIds()
     {
-        List list;
-        {
-            ListFiller filler(list.view, list.model);
-            filler.add(row("12", "Cafe"));
-            filler.add(row("2", "cafe"));
-            filler.add(row("1", "Eau"));
-        }
-        markIds(list.model, {1, 12}, 1, QString("X"));
-        QCOMPARE(list.cell(0, 1), QString("X"));
-        QCOMPARE(list.cell(1, 1), QString());
-        QCOMPARE(list.cell(2, 1), QString("X"));
-    }
-
-    void marksOfUnknownIdsStandNowhere()
-    {
-        List list;
-        {
-            ListFiller filler(list.view, list.model);
-            filler.add(row("1", "Eau"));
-        }
-        markIds(list.model, {}, 1, QString("X"));
-        markIds(list.model, {7}, 1, QString("X"));
-        QCOMPARE(list.cell(0, 1), QString());
+        List list({{"12", "", "Cafe", "1.00$"}, {"2", "", "cafe", "1.00$"}, tea});
+        markIds(list.model, {}, 1, "X");
+        markIds(list.model, {7}, 1, "X");
+        QCOMPARE(list.column(1), QStringList({"", "", ""}));
+        markIds(list.model, {1, 12}, 1, "X");
+        QCOMPARE(list.column(1), QStringList({"X", "", "X"}));
     }
 
     void theListPaintsAgainAfterFilling()
     {
-        List list;
-        {
-            ListFiller filler(list.view, list.model);
-            filler.add(row("1", "Eau"));
-        }
+        const List list({tea});
         QVERIFY(list.view.updatesEnabled());
         QVERIFY(list.view.verticalHeader()->updatesEnabled());
     }

@@ -7,13 +7,16 @@
 
 #include <QAbstractButton>
 #include <QPushButton>
+#include <QWidget>
 
 namespace {
 constexpr Texts texts{"FormVendelMessages"};
 
-QString captionOf(const QMessageBox& box, QMessageBox::StandardButton button)
+/// The captions of the buttons Yes and No.
+QStringList captions(const QMessageBox& box)
 {
-    return box.button(button)->text().remove('&');
+    return {box.button(QMessageBox::Yes)->text().remove('&'),
+        box.button(QMessageBox::No)->text().remove('&')};
 }
 } // namespace
 
@@ -24,146 +27,100 @@ class TestMessageBoxes : public QObject
 private slots:
     void aNoticeShowsItsTextUnderItsTitle()
     {
-        QWidget window;
-        AnswerBox box;
-        notice(&window, texts, Messages::Messages12);
-        QVERIFY(box.wasShown());
-        QCOMPARE(box.title(), QString("+/-"));
-        QCOMPARE(box.text(), QString("Saisir un montant"));
+        const AnswerBox box(QMessageBox::Ok, [](QMessageBox& shown) {
+            QVERIFY(shown.defaultButton() == shown.button(QMessageBox::Ok));
+        });
+        notice(&window_, texts, Messages::Messages12);
+        QCOMPARE(box.said(), QStringList("+/-: Saisir un montant"));
         QCOMPARE(box.icon(), QMessageBox::Information);
         QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
-        QCOMPARE(box.parent(), &window);
+        QCOMPARE(box.parent(), &window_);
         QCOMPARE(box.format(), Qt::PlainText);
-        QCOMPARE(box.strays(), 0);
     }
 
     void aNoticeFillsInTheNumber()
     {
-        QWidget window;
-        AnswerBox box;
-        notice(&window, texts, Messages::Messages23, 12);
-        QCOMPARE(box.title(), QString("Doublon"));
-        QCOMPARE(box.text(), QString("Supprimer le(s) 12 doublon(s) note(s) X..."));
+        const AnswerBox box;
+        notice(&window_, texts, Messages::Messages23, 12);
+        QCOMPARE(box.said(), QStringList("Doublon: Supprimer le(s) 12 doublon(s) note(s) X..."));
     }
 
     void aNoticeIsTranslatedInItsContext()
     {
         Translation translation;
-        const QString context = QString("FormVendelMessages");
-        translation.add(context, QString("Saisir un montant"), QString("Amount, please"));
-        translation.add(context, QString("+/-"), QString("Plus or minus"));
-        QWidget window;
-        AnswerBox box;
-        notice(&window, texts, Messages::Messages12);
-        QCOMPARE(box.title(), QString("Plus or minus"));
-        QCOMPARE(box.text(), QString("Amount, please"));
+        translation.add("FormVendelMessages", "Saisir un montant", "Amount, please");
+        translation.add("FormVendelMessages", "+/-", "Plus or minus");
+        const AnswerBox box;
+        notice(&window_, texts, Messages::Messages12);
+        QCOMPARE(box.said(), QStringList("Plus or minus: Amount, please"));
     }
 
     void aComposedNoticeIsPlainText()
     {
-        QWidget window;
-        AnswerBox box;
-        notice(&window, QString("<b>Rosé</b> & co"), QString("Titre"));
-        QCOMPARE(box.text(), QString("<b>Rosé</b> & co"));
-        QCOMPARE(box.title(), QString("Titre"));
+        const AnswerBox box;
+        notice(&window_, "<b>Rosé</b> & co", "Titre");
+        QCOMPARE(box.said(), QStringList("Titre: <b>Rosé</b> & co"));
         QCOMPARE(box.format(), Qt::PlainText);
         QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     }
 
-    void theDefaultOfANoticeIsOk()
+    void aQuestionIsAnsweredByItsButton_data()
     {
-        QWidget window;
-        const AnswerBox box(QMessageBox::Ok, [](QMessageBox& shown) {
-            QVERIFY(shown.defaultButton() == shown.button(QMessageBox::Ok));
+        QTest::addColumn<int>("button");
+        QTest::addColumn<bool>("isYes");
+        QTest::newRow("yes") << int(QMessageBox::Yes) << true;
+        QTest::newRow("no") << int(QMessageBox::No) << false;
+        QTest::newRow("sent away") << int(QMessageBox::NoButton) << false;
+    }
+
+    void aQuestionIsAnsweredByItsButton()
+    {
+        QFETCH(int, button);
+        const AnswerBox box(QMessageBox::StandardButton(button), [&](QMessageBox& shown) {
+            QVERIFY(shown.defaultButton() == nullptr);
+            QCOMPARE(captions(shown), QStringList({"Oui", "Non"}));
+            if (button == QMessageBox::NoButton) {
+                shown.reject();
+            }
         });
-        notice(&window, texts, Messages::Messages12);
-        QVERIFY(box.wasShown());
-    }
-
-    void aQuestionHasNoDefault()
-    {
-        QWidget window;
-        const AnswerBox box(
-            QMessageBox::No, [](QMessageBox& shown) { QVERIFY(shown.defaultButton() == nullptr); });
-        confirm(&window, QString("Purger ?"), QString("Purger"));
-        QVERIFY(box.wasShown());
-    }
-
-    void yesIsYes()
-    {
-        QWidget window;
-        AnswerBox box(QMessageBox::Yes);
-        QVERIFY(confirm(&window, QString("Purger ?"), QString("Purger")));
+        QTEST(confirm(&window_, "Purger ?", "Purger"), "isYes");
+        QCOMPARE(box.said(), QStringList("Purger: Purger ?"));
         QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
         QCOMPARE(box.icon(), QMessageBox::Information);
-        QCOMPARE(box.parent(), &window);
+        QCOMPARE(box.parent(), &window_);
     }
 
-    void noIsNo()
+    void aQuestionStandsAroundTheName_data()
     {
-        QWidget window;
-        AnswerBox box(QMessageBox::No);
-        QVERIFY(!confirm(&window, QString("Purger ?"), QString("Purger")));
-        QVERIFY(box.wasShown());
-    }
-
-    void aQuestionSentAwayIsNo()
-    {
-        QWidget window;
-        AnswerBox box(QMessageBox::NoButton, [](QMessageBox& shown) { shown.reject(); });
-        QVERIFY(!confirm(&window, QString("Purger ?"), QString("Purger")));
-        QVERIFY(box.wasShown());
+        QTest::addColumn<QString>("said");
+        QTest::newRow("Thé à l'anis") << "Supprimer: Voulez-vous supprimer : Thé à l'anis ...";
+        QTest::newRow("<b>x</b>") << "Supprimer: Voulez-vous supprimer : <b>x</b> ...";
+        QTest::newRow("%n %1 100%") << "Supprimer: Voulez-vous supprimer : %n %1 100% ...";
     }
 
     void aQuestionStandsAroundTheName()
     {
-        QWidget window;
-        AnswerBox box(QMessageBox::Yes);
-        QVERIFY(confirm(&window, texts, Messages::Messages16, QString("Thé à l'anis")));
-        QCOMPARE(box.title(), QString("Supprimer"));
-        QCOMPARE(box.text(), QString("Voulez-vous supprimer : Thé à l'anis ..."));
+        QFETCH(QString, said);
+        const AnswerBox box(QMessageBox::Yes);
+        QVERIFY(confirm(&window_, texts, Messages::Messages16, QString(QTest::currentDataTag())));
+        QCOMPARE(box.said(), QStringList(said));
         QCOMPARE(box.buttons(), QMessageBox::Yes | QMessageBox::No);
-    }
-
-    void aNameLikeATagIsPlainText()
-    {
-        QWidget window;
-        AnswerBox box(QMessageBox::Yes);
-        QVERIFY(confirm(&window, texts, Messages::Messages16, QString("<b>x</b>")));
-        QCOMPARE(box.text(), QString("Voulez-vous supprimer : <b>x</b> ..."));
         QCOMPARE(box.format(), Qt::PlainText);
-    }
-
-    void aPercentSignInANameStays()
-    {
-        QWidget window;
-        AnswerBox box(QMessageBox::No);
-        QVERIFY(!confirm(&window, texts, Messages::Messages16, QString("%n %1 100%")));
-        QCOMPARE(box.text(), QString("Voulez-vous supprimer : %n %1 100% ..."));
-    }
-
-    void questionButtonsAreFrench()
-    {
-        QWidget window;
-        QStringList captions;
-        AnswerBox box(QMessageBox::No, [&](QMessageBox& shown) {
-            captions << captionOf(shown, QMessageBox::Yes) << captionOf(shown, QMessageBox::No);
-        });
-        QVERIFY(!confirm(&window, QString("Purger ?"), QString("Purger")));
-        QCOMPARE(captions, (QStringList{QString("Oui"), QString("Non")}));
     }
 
     void theTranslationMayReplaceTheButtons()
     {
         Translation translation;
-        translation.add(QString("QPlatformTheme"), QString("&Yes"), QString("&Sure"));
-        QWidget window;
-        QString caption;
-        AnswerBox box(QMessageBox::No,
-            [&](QMessageBox& shown) { caption = captionOf(shown, QMessageBox::Yes); });
-        QVERIFY(!confirm(&window, QString("Purger ?"), QString("Purger")));
-        QCOMPARE(caption, QString("Sure"));
+        translation.add("QPlatformTheme", "&Yes", "&Sure");
+        QStringList shown;
+        const AnswerBox box(
+            QMessageBox::No, [&](QMessageBox& question) { shown = captions(question); });
+        QVERIFY(!confirm(&window_, "Purger ?", "Purger"));
+        QCOMPARE(shown.value(0), QString("Sure"));
     }
+
+private:
+    QWidget window_;
 };
 
 VENDEL_TEST(TestMessageBoxes)

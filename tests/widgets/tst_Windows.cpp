@@ -4,20 +4,27 @@
 
 #include <QDialog>
 #include <QPointer>
+#include <QWidget>
+
+#include <memory>
 
 namespace {
 class Dialog : public QDialog
 {
 public:
-    explicit Dialog(QWidget* parent)
-        : QDialog(parent)
-    { }
-    Dialog(const QString& first, const QString& second, QWidget* parent)
+    explicit Dialog(const QString& first, const QString& second, QWidget* parent)
         : QDialog(parent)
     {
         setWindowTitle(first + second);
     }
 };
+
+/// The dialog that is opened above \a opener.
+QPointer<QDialog> openAbove(QWidget& opener)
+{
+    openWindow<Dialog>(&opener, QString("05/01/2019"), QString("05/02/2019"));
+    return opener.findChild<QDialog*>();
+}
 } // namespace
 
 class TestWindows : public QObject
@@ -28,25 +35,11 @@ private slots:
     void anOpenedWindowIsShownOnTopOfItsOpener()
     {
         QWidget opener;
-        openWindow<Dialog>(&opener);
-        const auto* dialog = opener.findChild<QDialog*>();
+        const auto dialog = openAbove(opener);
         QVERIFY(dialog != nullptr);
         QVERIFY(dialog->isVisible());
         QCOMPARE(dialog->parentWidget(), &opener);
-    }
-
-    void argumentsReachTheWindow()
-    {
-        QWidget opener;
-        openWindow<Dialog>(&opener, QString("05/01/2019"), QString("05/02/2019"));
-        QCOMPARE(opener.findChild<QDialog*>()->windowTitle(), QString("05/01/201905/02/2019"));
-    }
-
-    void aClosedWindowIsDeleted()
-    {
-        QWidget opener;
-        openWindow<Dialog>(&opener);
-        const QPointer<QDialog> dialog = opener.findChild<QDialog*>();
+        QCOMPARE(dialog->windowTitle(), QString("05/01/201905/02/2019"));
         dialog->close();
         QTRY_VERIFY(dialog.isNull());
     }
@@ -54,8 +47,7 @@ private slots:
     void aWindowGoesWithItsOpener()
     {
         auto opener = std::make_unique<QWidget>();
-        openWindow<Dialog>(opener.get());
-        const QPointer<QDialog> dialog = opener->findChild<QDialog*>();
+        const auto dialog = openAbove(*opener);
         opener.reset();
         QVERIFY(dialog.isNull());
     }

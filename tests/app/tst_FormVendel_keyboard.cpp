@@ -11,19 +11,16 @@
 
 namespace {
 /// A till with an article and a line of its ticket on the screen.
-struct Keyboard : Till
+struct Keyboard : OpenTill
 {
     Keyboard()
-        : Till("insert into Article (article, prix) values ('Thé', 1), ('Vin', 3);"
-               "insert into Ticket (id, article, prix) values (1, 'Thé', 1), (2, 'Vin', 3)")
-    {
-        click(window, "btn_Afficher");
-        click(window, "btn_Ticket");
-    }
+        : OpenTill("insert into Article (article, prix) values ('Thé', 1), ('Vin', 3);"
+                   "insert into Ticket (id, article, prix) values (1, 'Thé', 1), (2, 'Vin', 3)")
+    { }
 
-    QString stored() const
+    QPushButton& button(const char* name)
     {
-        return shop.cell("select group_concat(article || ' ' || prix, '|') from Ticket");
+        return child<QPushButton>(window, name);
     }
 };
 } // namespace
@@ -37,8 +34,7 @@ private slots:
     void tabFollowsTheEye()
     {
         Keyboard till;
-        QVERIFY(QTest::qWaitForWindowActive(&till.window));
-        child<QTableView>(till.window, "tableView1").setFocus();
+        till.list("tableView1").setFocus();
         QCOMPARE(tabOrder(till.window).join(' '),
             QString("tableView1 tableView2 txt_montant btn_Effacer_Saisie btn_Afficher "
                     "btn_Ticket btn_Effacer_Ticket btn_Total_Ticket btn_1 btn_2 btn_3 btn_4 "
@@ -50,28 +46,27 @@ private slots:
     {
         Keyboard till;
         const AnswerBox box;
-        auto& field = child<QLineEdit>(till.window, "txt_montant");
-        field.setText(QString("5"));
+        till.field().setText("5");
         for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
-            QTest::keyClick(&field, key);
+            QTest::keyClick(&till.field(), key);
             for (const auto* name : {"tableView1", "tableView2"}) {
-                auto& view = child<QTableView>(till.window, name);
+                QTableView& view = till.list(name);
                 view.setCurrentIndex(view.model()->index(0, 2));
                 QTest::keyClick(&view, key);
             }
-            QTest::keyClick(&child<QPushButton>(till.window, "btn_Payer"), key);
+            QTest::keyClick(&till.button("btn_Payer"), key);
         }
-        QCOMPARE(till.stored(), QString("Thé 1|Vin 3"));
-        QCOMPARE(field.text(), QString("5"));
+        QCOMPARE(till.ticket(), QStringList({"Thé 1", "Vin 3"}));
+        QCOMPARE(till.field().text(), QString("5"));
         QVERIFY(!box.wasShown());
     }
 
     void spacePressesTheButton()
     {
         Keyboard till;
-        QTest::keyClick(&child<QPushButton>(till.window, "btn_7"), Qt::Key_Space);
-        QTest::keyClick(&child<QPushButton>(till.window, "btn_12"), Qt::Key_Space);
-        QCOMPARE(till.stored(), QString("Thé 1|Vin 3|---- 7"));
+        QTest::keyClick(&till.button("btn_7"), Qt::Key_Space);
+        QTest::keyClick(&till.button("btn_12"), Qt::Key_Space);
+        QCOMPARE(till.ticket(), QStringList({"Thé 1", "Vin 3", "---- 7"}));
     }
 
     void thereAreNoShortcuts()
@@ -87,11 +82,11 @@ private slots:
         for (const QAbstractButton* button : buttons) {
             QVERIFY(button->shortcut().isEmpty());
         }
-        QTest::keyClicks(&child<QPushButton>(till.window, "btn_Payer"), QString("12+"));
-        QCOMPARE(child<QLineEdit>(till.window, "txt_montant").text(), QString());
-        QCOMPARE(till.stored(), QString("Thé 1|Vin 3"));
+        QTest::keyClicks(&till.button("btn_Payer"), "12+");
+        QCOMPARE(till.field().text(), QString());
+        QCOMPARE(till.ticket(), QStringList({"Thé 1", "Vin 3"}));
     }
 };
 
 VENDEL_TEST(TestFormVendelKeyboard)
-#include "tst_FormVendelKeyboard.moc"
+#include "tst_FormVendel_keyboard.moc"
