@@ -11,12 +11,12 @@ TranslatedText readMessage(QXmlStreamReader& xml, const QString& context)
 {
     TranslatedText text;
     text.context = context;
-    text.hasPlural = xml.attributes().value("numerus") == "yes";
+    text.hasPlural = xml.attributes().value(QLatin1String("numerus")) == QLatin1String("yes");
     while (xml.readNextStartElement()) {
-        if (xml.name() == "source") {
+        if (xml.name() == QLatin1String("source")) {
             text.source = xml.readElementText();
-        } else if (xml.name() == "translation") {
-            text.isFinished = !xml.attributes().hasAttribute("type");
+        } else if (xml.name() == QLatin1String("translation")) {
+            text.isFinished = !xml.attributes().hasAttribute(QLatin1String("type"));
             if (!text.hasPlural) {
                 text.forms << xml.readElementText();
                 continue;
@@ -35,9 +35,9 @@ void readContext(QXmlStreamReader& xml, QVector<TranslatedText>& texts)
 {
     QString context;
     while (xml.readNextStartElement()) {
-        if (xml.name() == "name") {
+        if (xml.name() == QLatin1String("name")) {
             context = xml.readElementText();
-        } else if (xml.name() == "message") {
+        } else if (xml.name() == QLatin1String("message")) {
             texts << readMessage(xml, context);
         } else {
             xml.skipCurrentElement();
@@ -56,13 +56,14 @@ QByteArray readFile(const QString& path)
 
 QString withoutEscapes(QString literal)
 {
-    return literal.replace("\\n", "\n").replace("\\\"", "\"");
+    return literal.replace(QLatin1String("\\n"), QLatin1String("\n"))
+        .replace(QLatin1String("\\\""), QLatin1String("\""));
 }
 
 /// The texts of one entry: adjacent literals are one text.
 QStringList readEntry(const QString& body)
 {
-    static const QRegularExpression literalOrComma(R"re("((?:[^"\\]|\\.)*)"|(,))re");
+    static const QRegularExpression literalOrComma(QString(R"re("((?:[^"\\]|\\.)*)"|(,))re"));
     QStringList texts{QString()};
     auto matches = literalOrComma.globalMatch(body);
     while (matches.hasNext()) {
@@ -83,7 +84,7 @@ QVector<TranslatedText> readTranslation(const QString& path)
     QVector<TranslatedText> texts;
     xml.readNextStartElement();
     while (xml.readNextStartElement()) {
-        if (xml.name() == "context") {
+        if (xml.name() == QLatin1String("context")) {
             readContext(xml, texts);
         } else {
             xml.skipCurrentElement();
@@ -97,7 +98,7 @@ QVector<TranslatedText> readTranslation(const QString& path)
 
 QVector<TranslatedText> readCaptions(const QString& path)
 {
-    static const QSet<QString> captions{"text", "title", "windowTitle"};
+    static const QSet<QString> captions{QString("text"), QString("title"), QString("windowTitle")};
     QXmlStreamReader xml(readFile(path));
     QVector<TranslatedText> texts;
     QString form;
@@ -105,11 +106,11 @@ QVector<TranslatedText> readCaptions(const QString& path)
         if (xml.readNext() != QXmlStreamReader::StartElement) {
             continue;
         }
-        if (xml.name() == "class" && form.isEmpty()) {
+        if (xml.name() == QLatin1String("class") && form.isEmpty()) {
             form = xml.readElementText();
-        } else if (xml.name() == "property"
-            && captions.contains(xml.attributes().value("name").toString())
-            && xml.readNextStartElement() && xml.name() == "string") {
+        } else if (xml.name() == QLatin1String("property")
+            && captions.contains(xml.attributes().value(QLatin1String("name")).toString())
+            && xml.readNextStartElement() && xml.name() == QLatin1String("string")) {
             TranslatedText caption;
             caption.context = form;
             caption.source = xml.readElementText();
@@ -121,8 +122,8 @@ QVector<TranslatedText> readCaptions(const QString& path)
 
 QStringList readCatalogue(const QString& path)
 {
-    static const QRegularExpression entry(
-        R"re(Messages::Messages\d+\{(.*?)\};)re", QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression entry(QString(R"re(Messages::Messages\d+\{(.*?)\};)re"),
+        QRegularExpression::DotMatchesEverythingOption);
     QStringList texts;
     auto matches = entry.globalMatch(QString::fromUtf8(readFile(path)));
     while (matches.hasNext()) {

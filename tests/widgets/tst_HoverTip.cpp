@@ -74,10 +74,10 @@ private slots:
     void aMoveOverTheViewportHasItsRoundedPosition()
     {
         const List list;
-        QMouseEvent move = moveTo({12, 34});
+        const QMouseEvent move = moveTo({12, 34});
         QCOMPARE(mouseMoveOver(list, list.viewport(), &move), std::optional(QPoint(12, 34)));
-        move = moveTo({12.6, 34.4});
-        QCOMPARE(mouseMoveOver(list, list.viewport(), &move), std::optional(QPoint(13, 34)));
+        const QMouseEvent between = moveTo({12.6, 34.4});
+        QCOMPARE(mouseMoveOver(list, list.viewport(), &between), std::optional(QPoint(13, 34)));
     }
 
     void movesOverOtherWidgetsHaveNoPosition()
