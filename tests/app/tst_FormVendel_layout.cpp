@@ -148,8 +148,8 @@ private slots:
     void theListsHaveTheirLabelsAndGoWithTheWindow()
     {
         NewScreen at;
-        QCOMPARE(labels(at.list("tableView1")), cells({"#", "X", "Article", "Prix"}));
-        QCOMPARE(labels(at.list("tableView2")), cells({"#", "Id", "Article", "Prix"}));
+        QCOMPARE(labels(at.list("tableView1")), QStringList({"#", "X", "Article", "Prix"}));
+        QCOMPARE(labels(at.list("tableView2")), QStringList({"#", "Id", "Article", "Prix"}));
         for (const auto* name : {"tableView1", "tableView2"}) {
             QCOMPARE(at.list(name).model()->parent(), &at.form);
         }

@@ -30,10 +30,22 @@ inline QStringList labels(const QTableView& view)
     return texts;
 }
 
+/// The widths in pixels of the columns of \a view that are seen.
+inline std::vector<int> widths(const QTableView& view)
+{
+    std::vector<int> pixels;
+    for (int column = 0; column < view.model()->columnCount(); ++column) {
+        if (!view.isColumnHidden(column)) {
+            pixels.push_back(view.columnWidth(column));
+        }
+    }
+    return pixels;
+}
+
 /// Fails the running test unless \a view looks and acts like every list of the till, with letters
-/// of \a points and columns of \a widths in pixels, the \a hidden ones when they are shown.
+/// of \a points and columns of \a wanted pixels, the \a hidden ones when they are shown.
 inline void compareList(
-    QTableView& view, int points, const std::vector<int>& widths, const QString& hidden)
+    QTableView& view, int points, const std::vector<int>& wanted, const QString& hidden)
 {
     QCOMPARE(view.font().pointSize(), points);
     QCOMPARE(view.font().families().constFirst(), QString("Carlito"));
@@ -56,11 +68,11 @@ inline void compareList(
     QVERIFY(header.defaultAlignment() == Qt::AlignLeft);
     QCOMPARE(header.minimumSectionSize(), 10);
     QVERIFY(header.isVisible() && !header.stretchLastSection());
-    QCOMPARE(header.count(), static_cast<int>(widths.size()));
+    QCOMPARE(header.count(), static_cast<int>(wanted.size()));
     for (int column = 0; column < header.count(); ++column) {
         QCOMPARE(header.sectionResizeMode(column), QHeaderView::Interactive);
         QCOMPARE(view.isColumnHidden(column), hidden.contains(QString::number(column)));
         view.showColumn(column);
-        QCOMPARE(view.columnWidth(column), widths.at(static_cast<std::size_t>(column)));
+        QCOMPARE(view.columnWidth(column), wanted.at(static_cast<std::size_t>(column)));
     }
 }

@@ -79,7 +79,7 @@ private slots:
         List list({tea, water});
         clearList(list.model);
         QCOMPARE(list.model.rowCount(), 0);
-        QCOMPARE(labels(list.view), cells({"#", "X", "Article", "Prix"}));
+        QCOMPARE(labels(list.view), QStringList({"#", "X", "Article", "Prix"}));
         QCOMPARE(widths(list.view), (std::vector<int>{25, 210, 110}));
     }
 
