@@ -57,6 +57,8 @@ FormVendel::FormVendel(QWidget* parent)
     , clock_(this)
     , modelMenu_(new QStandardItemModel(0, 4, this))
     , modelTicket_(new QStandardItemModel(0, 4, this))
+    , tips_(
+          *this, texts, [this](QPoint, const QString&) { return ui_->chkbx_ToolTip->isChecked(); })
 {
     guarded("FormVendel Constructor", [this] {
         ui_->setupUi(this);
@@ -65,8 +67,8 @@ FormVendel::FormVendel(QWidget* parent)
         clock_.start(clockMs);
         SalesLists::setUpMenu(*ui_->tableView1, *modelMenu_);
         SalesLists::setUpTicket(*ui_->tableView2, *modelTicket_);
-        watchMouse(*ui_->tableView1, *this);
-        watchMouse(*ui_->tableView2, *this);
+        tips_.add({*ui_->tableView1, SalesLists::MenuArticle, addTip, tipOffset});
+        tips_.add({*ui_->tableView2, SalesLists::TicketArticle, removeTip, tipOffset});
         // A key can uncheck the box while a tip is shown; a mouse press hides the tip anyway.
         connect(ui_->chkbx_ToolTip, &QCheckBox::toggled, this, &hideTip);
         Database::createIfMissing();
@@ -102,13 +104,7 @@ bool FormVendel::eventFilter(QObject* watched, QEvent* event)
 {
     guarded("FormVendel eventFilter", [&] {
         notePress(*event);
-        const auto isWanted
-            = [this](QPoint, const QString&) { return ui_->chkbx_ToolTip->isChecked(); };
-        for (const HoverTip& tip :
-            {HoverTip{*ui_->tableView1, SalesLists::MenuArticle, addTip, tipOffset},
-                HoverTip{*ui_->tableView2, SalesLists::TicketArticle, removeTip, tipOffset}}) {
-            showTipOver(*this, texts, tip, watched, event, isWanted);
-        }
+        tips_.show(watched, event);
     });
     return false;
 }
@@ -265,55 +261,16 @@ void FormVendel::showTotal()
     ui_->tableView2->scrollToBottom();
 }
 
-void FormVendel::on_btn_1_clicked()
-{
-    guarded("on_btn_1_clicked", [this] { type(QStringLiteral("1")); });
-}
-
-void FormVendel::on_btn_2_clicked()
-{
-    guarded("on_btn_2_clicked", [this] { type(QStringLiteral("2")); });
-}
-
-void FormVendel::on_btn_3_clicked()
-{
-    guarded("on_btn_3_clicked", [this] { type(QStringLiteral("3")); });
-}
-
-void FormVendel::on_btn_4_clicked()
-{
-    guarded("on_btn_4_clicked", [this] { type(QStringLiteral("4")); });
-}
-
-void FormVendel::on_btn_5_clicked()
-{
-    guarded("on_btn_5_clicked", [this] { type(QStringLiteral("5")); });
-}
-
-void FormVendel::on_btn_6_clicked()
-{
-    guarded("on_btn_6_clicked", [this] { type(QStringLiteral("6")); });
-}
-
-void FormVendel::on_btn_7_clicked()
-{
-    guarded("on_btn_7_clicked", [this] { type(QStringLiteral("7")); });
-}
-
-void FormVendel::on_btn_8_clicked()
-{
-    guarded("on_btn_8_clicked", [this] { type(QStringLiteral("8")); });
-}
-
-void FormVendel::on_btn_9_clicked()
-{
-    guarded("on_btn_9_clicked", [this] { type(QStringLiteral("9")); });
-}
-
-void FormVendel::on_btn_10_clicked()
-{
-    guarded("on_btn_10_clicked", [this] { type(QStringLiteral("0")); });
-}
+void FormVendel::on_btn_1_clicked() { typeDigit("on_btn_1_clicked", 1); }
+void FormVendel::on_btn_2_clicked() { typeDigit("on_btn_2_clicked", 2); }
+void FormVendel::on_btn_3_clicked() { typeDigit("on_btn_3_clicked", 3); }
+void FormVendel::on_btn_4_clicked() { typeDigit("on_btn_4_clicked", 4); }
+void FormVendel::on_btn_5_clicked() { typeDigit("on_btn_5_clicked", 5); }
+void FormVendel::on_btn_6_clicked() { typeDigit("on_btn_6_clicked", 6); }
+void FormVendel::on_btn_7_clicked() { typeDigit("on_btn_7_clicked", 7); }
+void FormVendel::on_btn_8_clicked() { typeDigit("on_btn_8_clicked", 8); }
+void FormVendel::on_btn_9_clicked() { typeDigit("on_btn_9_clicked", 9); }
+void FormVendel::on_btn_10_clicked() { typeDigit("on_btn_10_clicked", 0); }
 
 void FormVendel::on_btn_11_clicked()
 {
@@ -336,6 +293,11 @@ void FormVendel::on_btn_13_clicked()
 void FormVendel::on_btn_Effacer_Saisie_clicked()
 {
     guarded("on_btn_Effacer_Saisie_clicked", [this] { ui_->txt_montant->clear(); });
+}
+
+void FormVendel::typeDigit(const char* slot, int digit)
+{
+    guarded(slot, [&] { type(QString::number(digit)); });
 }
 
 void FormVendel::type(const QString& text)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "widgets/HoverTip.h"
+
 #include <QMainWindow>
 #include <QModelIndex>
 #include <QStandardItemModel>
@@ -72,6 +74,7 @@ private:
     void removeFromTicket(const QModelIndex& index);
     bool refreshTicket();
     void putOnTicket(const QString& amount);
+    void typeDigit(const char* slot, int digit);
     void type(const QString& text);
     void pay();
 
@@ -79,6 +82,7 @@ private:
     QTimer clock_;
     QStandardItemModel* modelMenu_;
     QStandardItemModel* modelTicket_;
+    HoverTips tips_;
     /// Whether the last press on a list ended a double click, and came from the left button.
     bool isSecondPress_ = false;
     bool isLeftPress_ = true;

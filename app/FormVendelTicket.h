@@ -20,10 +20,7 @@ public:
     ~FormVendelTicket() override;
 
     /// Whether the receipt could be shown.
-    bool isFilled() const
-    {
-        return isFilled_;
-    }
+    bool isFilled() const { return isFilled_; }
 
 private:
     std::unique_ptr<Ui_FormVendelTicket> ui_;

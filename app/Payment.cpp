@@ -100,7 +100,4 @@ void Payment::giveReceipt(const std::function<bool(const Receipt&)>& show)
     }
 }
 
-Receipt Payment::receipt()
-{
-    return composeReceipt(readSale(QDateTime::currentDateTime()));
-}
+Receipt Payment::receipt() { return composeReceipt(readSale(QDateTime::currentDateTime())); }

@@ -48,14 +48,8 @@ class Composer
 public:
     Receipt lines;
 
-    void add(const QString& text, Style style = Style::Plain)
-    {
-        lines.push_back({style, text});
-    }
-    void addBlank()
-    {
-        add(QString());
-    }
+    void add(const QString& text, Style style = Style::Plain) { lines.push_back({style, text}); }
+    void addBlank() { add(QString()); }
 
     /// The lines of a header or footer: titles get a style of their own, all others \a plain.
     void addFrame(const std::optional<QString>& frame, Style plain)

@@ -35,10 +35,7 @@ DbRows run(const Connection& connection, const char* sql)
 }
 } // namespace
 
-DbRows loadByFloor(const char* sql)
-{
-    return run(open(), sql);
-}
+DbRows loadByFloor(const char* sql) { return run(open(), sql); }
 
 void transactByFloor(const std::vector<std::string>& statements)
 {

@@ -84,7 +84,4 @@ BenchTill::BenchTill(int& argc, char** argv)
     Db::DbCreate();
 }
 
-BenchTill::~BenchTill()
-{
-    QDir::setCurrent(QStringLiteral("/"));
-}
+BenchTill::~BenchTill() { QDir::setCurrent(QStringLiteral("/")); }

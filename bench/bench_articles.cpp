@@ -49,10 +49,7 @@ public:
             + std::to_string(size) + ") select 'Article ' || i, i / 4.0 from n";
         Db::DbLoad(fill.c_str());
     }
-    ~Menu()
-    {
-        QDir::setCurrent(QStringLiteral("/"));
-    }
+    ~Menu() { QDir::setCurrent(QStringLiteral("/")); }
     Menu(const Menu&) = delete;
     Menu& operator=(const Menu&) = delete;
     Menu(Menu&&) = delete;

@@ -118,19 +118,13 @@ public:
         }
         history.sellThroughYear(2023, salesOfAYear / part);
     }
-    ~Bar()
-    {
-        QDir::setCurrent(QStringLiteral("/"));
-    }
+    ~Bar() { QDir::setCurrent(QStringLiteral("/")); }
     Bar(const Bar&) = delete;
     Bar& operator=(const Bar&) = delete;
     Bar(Bar&&) = delete;
     Bar& operator=(Bar&&) = delete;
 
-    void enter() const
-    {
-        check(QDir::setCurrent(folder_.path()), "temporary directory");
-    }
+    void enter() const { check(QDir::setCurrent(folder_.path()), "temporary directory"); }
 
 private:
     QTemporaryDir folder_;
@@ -188,10 +182,7 @@ public:
         return *window_.findChild<QTableView*>(QLatin1String(name));
     }
 
-    int sales()
-    {
-        return view("tableView1").model()->rowCount();
-    }
+    int sales() { return view("tableView1").model()->rowCount(); }
 
     void empty()
     {

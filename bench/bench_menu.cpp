@@ -38,20 +38,11 @@ constexpr auto idsSql
 class Stopwatch : public QObject
 {
 public:
-    Stopwatch()
-    {
-        qApp->installEventFilter(this);
-    }
+    Stopwatch() { qApp->installEventFilter(this); }
 
-    void start()
-    {
-        begin_ = workedSeconds();
-    }
+    void start() { begin_ = workedSeconds(); }
 
-    double seconds() const
-    {
-        return workedSeconds() - begin_;
-    }
+    double seconds() const { return workedSeconds() - begin_; }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
@@ -77,10 +68,7 @@ struct Screen
     QTableView& view = *form.findChild<QTableView*>(QStringLiteral("tableView1"));
     QStandardItemModel& model = static_cast<QStandardItemModel&>(*view.model());
 
-    void empty()
-    {
-        model.removeRows(0, model.rowCount());
-    }
+    void empty() { model.removeRows(0, model.rowCount()); }
 };
 
 /// Makes the shop's menu one of \a articles, some of them duplicates.

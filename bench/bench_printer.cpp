@@ -30,15 +30,9 @@ std::size_t allocatedBytes = 0;
     throw std::bad_alloc();
 }
 
-[[gnu::noinline]] void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
 
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace {
 DotMatrix checkered(std::size_t side)
@@ -99,10 +93,7 @@ void styledText(benchmark::State& state)
     textOf(state, "**3**  Café __au lait__ \t$2.50       **$7.50**\r\n");
 }
 
-void nothingButMarkers(benchmark::State& state)
-{
-    textOf(state, "**__x__**");
-}
+void nothingButMarkers(benchmark::State& state) { textOf(state, "**__x__**"); }
 } // namespace
 
 BENCHMARK(image)

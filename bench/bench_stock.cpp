@@ -68,10 +68,7 @@ public:
             "from ArticleStock, (select 0 as part union select 1 union select 2)");
         check(Consumption::details(from, to).size() >= 120, "a month's consumption");
     }
-    ~Bar()
-    {
-        QDir::setCurrent(QStringLiteral("/"));
-    }
+    ~Bar() { QDir::setCurrent(QStringLiteral("/")); }
     Bar(const Bar&) = delete;
     Bar& operator=(const Bar&) = delete;
     Bar(Bar&&) = delete;

@@ -6,10 +6,7 @@
 #include <QLocale>
 
 namespace {
-QLocale numberFormat()
-{
-    return QLocale(QLocale::English, QLocale::AnyCountry);
-}
+QLocale numberFormat() { return QLocale(QLocale::English, QLocale::AnyCountry); }
 
 /// The takings and doses of a year outgrow single precision.
 QString formatExact(const QString& number, int decimals = 2)
@@ -23,15 +20,9 @@ QString formatAmount(float value, int decimals)
     return numberFormat().toString(value, 'f', decimals);
 }
 
-QString formatAmount(const QString& value)
-{
-    return formatAmount(value.toFloat());
-}
+QString formatAmount(const QString& value) { return formatAmount(value.toFloat()); }
 
-QString formatMoney(float value)
-{
-    return formatAmount(value) + QLatin1Char('$');
-}
+QString formatMoney(float value) { return formatAmount(value) + QLatin1Char('$'); }
 
 QString formatCell(const QString& text)
 {
@@ -48,12 +39,6 @@ QString formatQuantity(const QString& text, int decimals)
     return Tools::isNum(text) ? formatExact(text, decimals) : text;
 }
 
-float readBack(const QString& shown)
-{
-    return withPoint(shown).toFloat();
-}
+float readBack(const QString& shown) { return withPoint(shown).toFloat(); }
 
-QString withPoint(QString typed)
-{
-    return typed.replace(QLatin1Char(','), QLatin1Char('.'));
-}
+QString withPoint(QString typed) { return typed.replace(QLatin1Char(','), QLatin1Char('.')); }

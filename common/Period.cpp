@@ -41,15 +41,9 @@ Period::Bound::Bound(const QString& field)
     , start(startOf(stored))
 { }
 
-bool Period::Bound::isDay() const
-{
-    return typed.size() == dayLength;
-}
+bool Period::Bound::isDay() const { return typed.size() == dayLength; }
 
-bool Period::Bound::isMoment() const
-{
-    return typed.size() == momentLength;
-}
+bool Period::Bound::isMoment() const { return typed.size() == momentLength; }
 
 Period::Period(const QString& first, const QString& second)
     : first_(first)

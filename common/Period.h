@@ -26,25 +26,13 @@ public:
     Fault fault() const;
 
     /// The dates as typed, without the blanks around them.
-    QString typedFirst() const
-    {
-        return first_.typed;
-    }
-    QString typedSecond() const
-    {
-        return second_.typed;
-    }
+    QString typedFirst() const { return first_.typed; }
+    QString typedSecond() const { return second_.typed; }
 
     /// The dates in the order that SQLite compares: "yyyy-MM-dd" or "yyyy-MM-dd HH:mm:ss.zzz".
     /// Fit for SQL only when fault() finds two dates in them.
-    QString from() const
-    {
-        return first_.stored;
-    }
-    QString to() const
-    {
-        return second_.stored;
-    }
+    QString from() const { return first_.stored; }
+    QString to() const { return second_.stored; }
 
 private:
     struct Bound

@@ -30,23 +30,14 @@ public:
     Descriptor(Descriptor&&) = delete;
     Descriptor& operator=(Descriptor&&) = delete;
 
-    bool isOpen() const
-    {
-        return number_ >= 0;
-    }
-    int number() const
-    {
-        return number_;
-    }
+    bool isOpen() const { return number_ >= 0; }
+    int number() const { return number_; }
 
 private:
     int number_;
 };
 
-[[noreturn]] void refuse()
-{
-    throw std::runtime_error(std::strerror(errno));
-}
+[[noreturn]] void refuse() { throw std::runtime_error(std::strerror(errno)); }
 
 void checkKind(int descriptor)
 {

@@ -109,10 +109,7 @@ Outcome run(sqlite3* connection, const char* sql)
 }
 } // namespace
 
-DbRows Db::DbLoad(const char* sql)
-{
-    return run(openDatabase().get(), sql).rows;
-}
+DbRows Db::DbLoad(const char* sql) { return run(openDatabase().get(), sql).rows; }
 
 bool Db::DbTransact(const std::vector<std::string>& statements)
 {

@@ -23,10 +23,7 @@ public:
     { }
 
     /// A number from 0 to \a sides - 1.
-    int below(int sides)
-    {
-        return static_cast<int>(engine_() % static_cast<unsigned>(sides));
-    }
+    int below(int sides) { return static_cast<int>(engine_() % static_cast<unsigned>(sides)); }
 
 private:
     std::mt19937 engine_;

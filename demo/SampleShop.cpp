@@ -25,10 +25,7 @@ constexpr const char* footer = "\n"
                                "Merci de votre visite, à bientôt !\n"
                                "titre:Bonne journée";
 
-std::string quoted(const std::string& text)
-{
-    return BulkInsert::quoted(text);
-}
+std::string quoted(const std::string& text) { return BulkInsert::quoted(text); }
 
 std::string amount(int cents)
 {

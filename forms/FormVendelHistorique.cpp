@@ -50,10 +50,7 @@ enum DayColumn
 };
 
 /// Shown in place of a date in the total's row.
-QString totalMark()
-{
-    return QStringLiteral("<-");
-}
+QString totalMark() { return QStringLiteral("<-"); }
 
 const std::array<std::string, 2>& refusalOf(Period::Fault fault)
 {
@@ -78,14 +75,17 @@ FormVendelHistorique::FormVendelHistorique(QWidget* parent)
     , modelSales_(new QStandardItemModel(this))
     , modelDays_(new QStandardItemModel(this))
     , modelGroups_(new QStandardItemModel(this))
+    , tips_(*this, texts, [](QPoint position, const QString& date) {
+        return isOffTheCorner(position) && date != totalMark();
+    })
 {
     guarded("FormVendelHistorique Contructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         setUpLists();
         ui_->rb_First_Date->setChecked(true);
-        watchMouse(*ui_->tableView1, *this);
-        watchMouse(*ui_->tableView2, *this);
+        tips_.add({*ui_->tableView1, SaleMoment, saleTip, saleTipOffset});
+        tips_.add({*ui_->tableView2, Day, dayTip, dayTipOffset});
     });
 }
 
@@ -100,15 +100,7 @@ void FormVendelHistorique::setUpLists()
 
 bool FormVendelHistorique::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("FormVendelHistorique eventFilter", [&] {
-        const auto isWanted = [](QPoint position, const QString& date) {
-            return (position.x() > 0 || position.y() > 0) && date != totalMark();
-        };
-        for (const HoverTip& tip : {HoverTip{*ui_->tableView1, SaleMoment, saleTip, saleTipOffset},
-                 HoverTip{*ui_->tableView2, Day, dayTip, dayTipOffset}}) {
-            showTipOver(*this, texts, tip, watched, event, isWanted);
-        }
-    });
+    guarded("FormVendelHistorique eventFilter", [&] { tips_.show(watched, event); });
     return false;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/History.h"
+#include "widgets/HoverTip.h"
 
 #include <QDialog>
 #include <QPoint>
@@ -72,4 +73,5 @@ private:
     QStandardItemModel* modelSales_;
     QStandardItemModel* modelDays_;
     QStandardItemModel* modelGroups_;
+    HoverTips tips_;
 };

@@ -46,13 +46,14 @@ FormVendelSaisieArticle::FormVendelSaisieArticle(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieArticle>())
     , model_(new QStandardItemModel(0, 4, this))
+    , tips_(*this, texts, [](QPoint position, const QString&) { return isOffTheCorner(position); })
 {
     guarded("FormVendelSaisieArticle Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
         setUpList(
             *ui_->tableView, *model_, {"FormVendelMessages"}, labels, {50, 25, 210, 110}, {Id});
-        watchMouse(*ui_->tableView, *this);
+        tips_.add({*ui_->tableView, Name, articleTip, hoverTipOffset});
         ui_->txt_Article->setFocus();
     });
 }
@@ -61,11 +62,7 @@ FormVendelSaisieArticle::~FormVendelSaisieArticle() = default;
 
 bool FormVendelSaisieArticle::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("FormVendelSaisieArticle eventFilter", [&] {
-        showTipOver(*this, texts, {*ui_->tableView, Name, articleTip, hoverTipOffset}, watched,
-            event,
-            [](QPoint position, const QString&) { return position.x() > 0 || position.y() > 0; });
-    });
+    guarded("FormVendelSaisieArticle eventFilter", [&] { tips_.show(watched, event); });
     return false;
 }
 

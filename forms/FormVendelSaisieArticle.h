@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/Articles.h"
+#include "widgets/HoverTip.h"
 
 #include <QDialog>
 #include <QModelIndex>
@@ -56,4 +57,5 @@ private:
 
     std::unique_ptr<Ui_FormVendelSaisieArticle> ui_;
     QStandardItemModel* model_;
+    HoverTips tips_;
 };

@@ -35,6 +35,7 @@ FormVendelSaisieStock::FormVendelSaisieStock(QWidget* parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieStock>())
     , modelArticles_(new QStandardItemModel(0, 3, this))
     , modelCompositions_(new QStandardItemModel(0, 5, this))
+    , tips_(*this, texts)
 {
     guarded("FormVendelSaisieStock Contructor", [this] {
         ui_->setupUi(this);
@@ -49,8 +50,8 @@ void FormVendelSaisieStock::setUpLists()
 {
     setUpArticles(*ui_->tableView1, *modelArticles_, texts, articleLabels);
     setUpRecipe(*ui_->tableView2, *modelCompositions_, texts, recipeLabels);
-    watchMouse(*ui_->tableView1, *this);
-    watchMouse(*ui_->tableView2, *this);
+    tips_.add({*ui_->tableView1, ArticleName, articleTip, {}});
+    tips_.add({*ui_->tableView2, RecipeComposition, compositionTip, {}});
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &FormVendelSaisieStock::on_tableViewSelection);
     // A click on a row number marks its row after it has become the current one.
@@ -87,18 +88,11 @@ void FormVendelSaisieStock::Display_DoseStock(const QString& id)
         [&] { showRecipe(*ui_->tableView2, *modelCompositions_, id); });
 }
 
-void FormVendelSaisieStock::Clear_List()
-{
-    clearList(*modelCompositions_);
-}
+void FormVendelSaisieStock::Clear_List() { clearList(*modelCompositions_); }
 
 bool FormVendelSaisieStock::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("FormVendelSaisieStock eventFilter", [&] {
-        showTipOver(*this, texts, {*ui_->tableView1, ArticleName, articleTip, {}}, watched, event);
-        showTipOver(*this, texts, {*ui_->tableView2, RecipeComposition, compositionTip, {}},
-            watched, event);
-    });
+    guarded("FormVendelSaisieStock eventFilter", [&] { tips_.show(watched, event); });
     return false;
 }
 

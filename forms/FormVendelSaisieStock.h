@@ -3,6 +3,7 @@
 
 #include "common/Texts.h"
 #include "store/StockArticles.h"
+#include "widgets/HoverTip.h"
 
 #include <QDialog>
 #include <QModelIndex>
@@ -84,4 +85,5 @@ private:
     std::unique_ptr<Ui_FormVendelSaisieStock> ui_;
     QStandardItemModel* modelArticles_;
     QStandardItemModel* modelCompositions_;
+    HoverTips tips_;
 };

@@ -33,6 +33,7 @@ FormVendelSaisieStockCutPaste::FormVendelSaisieStockCutPaste(QWidget* parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieStockCutPaste>())
     , modelArticles_(new QStandardItemModel(0, 3, this))
     , modelCompositions_(new QStandardItemModel(0, 5, this))
+    , tips_(*this, texts)
 {
     guarded("FormVendelSaisieStockCutPaste Constructor", [this] {
         ui_->setupUi(this);
@@ -49,7 +50,7 @@ void FormVendelSaisieStockCutPaste::setUpLists()
 {
     Stock::setUpArticles(*ui_->tableView1, *modelArticles_, texts, articleLabels);
     Stock::setUpRecipe(*ui_->tableView2, *modelCompositions_, texts, recipeLabels);
-    watchMouse(*ui_->tableView2, *this);
+    tips_.add({*ui_->tableView2, Stock::RecipeComposition, compositionTip, {}});
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &FormVendelSaisieStockCutPaste::on_tableViewSelection);
     // A click on a row number marks its row after it has become the current one.
@@ -83,10 +84,7 @@ void FormVendelSaisieStockCutPaste::Display_DoseStock(const QString& id)
 
 bool FormVendelSaisieStockCutPaste::eventFilter(QObject* watched, QEvent* event)
 {
-    guarded("FormVendelSaisieStockCutPaste eventFilter", [&] {
-        showTipOver(*this, texts, {*ui_->tableView2, Stock::RecipeComposition, compositionTip, {}},
-            watched, event);
-    });
+    guarded("FormVendelSaisieStockCutPaste eventFilter", [&] { tips_.show(watched, event); });
     return false;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "widgets/HoverTip.h"
+
 #include <QDialog>
 #include <QModelIndex>
 #include <QStandardItemModel>
@@ -43,4 +45,5 @@ private:
     std::unique_ptr<Ui_FormVendelSaisieStockCutPaste> ui_;
     QStandardItemModel* modelArticles_;
     QStandardItemModel* modelCompositions_;
+    HoverTips tips_;
 };

@@ -60,10 +60,7 @@ void Articles::remove(const QString& id)
     Rows::load(QLatin1String("delete from Article where id = ") + id);
 }
 
-std::optional<int> Articles::countDuplicates()
-{
-    return countWhere(QString());
-}
+std::optional<int> Articles::countDuplicates() { return countWhere(QString()); }
 
 std::optional<int> Articles::countDuplicatesLike(const QString& term)
 {

@@ -14,10 +14,7 @@ namespace Rows {
 using Row = std::vector<std::string>;
 
 /// Runs \a sql like Db::DbLoad.
-inline DbRows load(const QString& sql)
-{
-    return Db::DbLoad(sql.toUtf8().constData());
-}
+inline DbRows load(const QString& sql) { return Db::DbLoad(sql.toUtf8().constData()); }
 
 /// The text of \a column. Throws std::out_of_range when the table lacks the column: the windows
 /// log that.

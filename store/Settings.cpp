@@ -35,12 +35,6 @@ QString Settings::printerSwitch()
         Db::DbLoad("select * from Config where param like 'Epson TM-T20II'").at(0), valueColumn);
 }
 
-void Settings::setTaxRate(const QString& value)
-{
-    store(value, "TVA");
-}
+void Settings::setTaxRate(const QString& value) { store(value, "TVA"); }
 
-void Settings::setPrinterSwitch(const QString& value)
-{
-    store(value, "Epson TM-T20II");
-}
+void Settings::setPrinterSwitch(const QString& value) { store(value, "Epson TM-T20II"); }

@@ -23,10 +23,7 @@ std::vector<TicketGroup> Ticket::groups()
         });
 }
 
-QString Ticket::sum()
-{
-    return Rows::text(Db::DbLoad("select sum(prix) from Ticket").at(0), 0);
-}
+QString Ticket::sum() { return Rows::text(Db::DbLoad("select sum(prix) from Ticket").at(0), 0); }
 
 void Ticket::addArticle(const QString& id)
 {
@@ -50,7 +47,4 @@ void Ticket::remove(const QString& line)
     Rows::load(QLatin1String("delete from Ticket where idlig = ") + line);
 }
 
-void Ticket::clear()
-{
-    Db::DbLoad("delete from Ticket");
-}
+void Ticket::clear() { Db::DbLoad("delete from Ticket"); }

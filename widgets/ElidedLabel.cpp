@@ -3,10 +3,7 @@
 
 #include <QPainter>
 
-QSize ElidedLabel::minimumSizeHint() const
-{
-    return {0, QLabel::minimumSizeHint().height()};
-}
+QSize ElidedLabel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/)
 {

@@ -11,6 +11,8 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+#include <utility>
+
 namespace {
 constexpr int tipMs = 10000;
 constexpr int longestTipCharacters = 200;
@@ -73,7 +75,7 @@ QString textUnder(const QAbstractItemView& view, QPoint position, int column)
 void showTip(QWidget& window, QPoint point, const QString& text)
 {
     // A platform may deliver waiting mouse moves while it makes the tip's window; a second tip
-    // would delete the first one under its hands.
+    // would delete the one being created.
     static bool isShowing = false;
     if (isShowing) {
         return;
@@ -85,23 +87,35 @@ void showTip(QWidget& window, QPoint point, const QString& text)
     QToolTip::showText(point, plain, &window, QRect(), tipMs);
 }
 
-void hideTip()
+void hideTip() { QToolTip::hideText(); }
+
+HoverTips::HoverTips(QWidget& window, const Texts& texts, IsWanted isWanted)
+    : window_(window)
+    , texts_(texts)
+    , isWanted_(std::move(isWanted))
+{ }
+
+void HoverTips::add(const HoverTip& tip)
 {
-    QToolTip::hideText();
+    watchMouse(tip.view, window_);
+    tips_.push_back(tip);
 }
 
-void showTipOver(QWidget& window, const Texts& texts, const HoverTip& tip, const QObject* watched,
-    const QEvent* event, const std::function<bool(QPoint position, const QString& text)>& isWanted)
+void HoverTips::show(const QObject* watched, const QEvent* event) const
 {
-    const auto position = mouseMoveOver(tip.view, watched, event);
-    if (!position) {
-        return;
+    for (const HoverTip& tip : tips_) {
+        const auto position = mouseMoveOver(tip.view, watched, event);
+        if (!position) {
+            continue;
+        }
+        const QString text = textUnder(tip.view, *position, tip.column);
+        if (text.isEmpty() || !isWanted_(*position, text)) {
+            hideTip();
+            continue;
+        }
+        showTip(window_, tip.offset ? *position + *tip.offset : QCursor::pos(),
+            texts_(tip.message[0]) + text + texts_(tip.message[1]));
     }
-    const QString text = textUnder(tip.view, *position, tip.column);
-    if (text.isEmpty() || !isWanted(*position, text)) {
-        hideTip();
-        return;
-    }
-    showTip(window, tip.offset ? *position + *tip.offset : QCursor::pos(),
-        texts(tip.message[0]) + text + texts(tip.message[1]));
 }
+
+bool isOffTheCorner(QPoint position) { return position.x() > 0 || position.y() > 0; }

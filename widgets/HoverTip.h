@@ -10,6 +10,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 class QAbstractItemView;
 class QEvent;
@@ -34,10 +35,10 @@ void showTip(QWidget& window, QPoint point, const QString& text);
 /// Takes any tip away.
 void hideTip();
 
-/// What the mouse over a list is told: head and tail of \a message around the text of \a column.
+/// A tip over a list: head and tail of \a message around the text of \a column.
 struct HoverTip
 {
-    const QAbstractItemView& view;
+    QAbstractItemView& view;
     int column;
     const std::array<std::string, 2>& message;
     /// From the mouse's place in the list to the tip's place on the screen, in pixels; without it
@@ -45,10 +46,30 @@ struct HoverTip
     std::optional<QPoint> offset;
 };
 
-/// Shows \a tip for a mouse move over its list, or hides any tip where there is no text or
-/// \a isWanted says no.
-void showTipOver(
-    QWidget& window, const Texts& texts, const HoverTip& tip, const QObject* watched,
-    const QEvent* event,
-    const std::function<bool(QPoint position, const QString& text)>& isWanted
-    = [](QPoint, const QString&) { return true; });
+/// The tips over the lists of a window, which calls show() in its event filter.
+class HoverTips
+{
+public:
+    /// Whether a tip is wanted at \a position in its list, where the text is \a text.
+    using IsWanted = std::function<bool(QPoint position, const QString& text)>;
+
+    HoverTips(
+        QWidget& window, const Texts& texts,
+        IsWanted isWanted = [](QPoint, const QString&) { return true; });
+
+    /// Adds a tip and has its list report mouse moves to the window.
+    void add(const HoverTip& tip);
+
+    /// Shows the tip of the list that the mouse moves over, or hides any tip where there is no text
+    /// or none is wanted; does nothing for another event.
+    void show(const QObject* watched, const QEvent* event) const;
+
+private:
+    QWidget& window_;
+    Texts texts_;
+    IsWanted isWanted_;
+    std::vector<HoverTip> tips_;
+};
+
+/// Whether \a position is not the top left pixel of a list, over which some lists show no tip.
+bool isOffTheCorner(QPoint position);

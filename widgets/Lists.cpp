@@ -76,10 +76,7 @@ void setUpList(QTableView& view, QStandardItemModel& model, const Texts& texts,
     }
 }
 
-void clearList(QStandardItemModel& model)
-{
-    model.removeRows(0, model.rowCount());
-}
+void clearList(QStandardItemModel& model) { model.removeRows(0, model.rowCount()); }
 
 ListFiller::ListFiller(QTableView& view, QStandardItemModel& model)
     : view_(view)
@@ -96,15 +93,9 @@ ListFiller::~ListFiller()
     view_.setUpdatesEnabled(true);
 }
 
-void ListFiller::add(const QStringList& cells)
-{
-    add(cells, false);
-}
+void ListFiller::add(const QStringList& cells) { add(cells, false); }
 
-void ListFiller::addTotal(const QStringList& cells)
-{
-    add(cells, true);
-}
+void ListFiller::addTotal(const QStringList& cells) { add(cells, true); }
 
 void ListFiller::add(const QStringList& cells, bool isTotal)
 {

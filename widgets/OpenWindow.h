@@ -3,8 +3,9 @@
 
 #include <QWidget>
 
-/// Opens a window on top of \a opener, which owns it; it is deleted when it is closed, so the pointer
-/// that is returned is for the moment. \a arguments go to the window's constructor in front of its parent.
+/// Opens a window on top of \a opener, which owns it; it is deleted when it is closed, so the
+/// pointer that is returned is for the moment. \a arguments go to the window's constructor in front
+/// of its parent.
 template <class Window, class... Arguments>
 Window* openWindow(QWidget* opener, const Arguments&... arguments)
 {

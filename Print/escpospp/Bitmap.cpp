@@ -18,17 +18,11 @@ struct BandFormat
 constexpr BandFormat doubleDensityOf24{24, 33};
 constexpr BandFormat doubleDensityOf8{8, 1};
 
-char lowByte(std::size_t value)
-{
-    return static_cast<char>(value & 0xFFU);
-}
+char lowByte(std::size_t value) { return static_cast<char>(value & 0xFFU); }
 
 /// The bit of a band's row \a k in its byte. Off by one on purpose: the first dot of each eight is
 /// lost, and a byte's lowest bit stays 0. A correction would change what shops print.
-unsigned weightOf(std::size_t k)
-{
-    return 1U << (dotsPerByte - k % dotsPerByte);
-}
+unsigned weightOf(std::size_t k) { return 1U << (dotsPerByte - k % dotsPerByte); }
 
 /// Appends the columns of the band that starts at row \a top, and a line feed. It reads row by row,
 /// because a row's dots are next to each other in memory.

@@ -26,10 +26,7 @@ MDPair::MDPair(std::string markerText)
     : marker(std::move(markerText))
 { }
 
-bool MDPair::operator==(const MDPair& other) const
-{
-    return on == other.on && off == other.off;
-}
+bool MDPair::operator==(const MDPair& other) const { return on == other.on && off == other.off; }
 
 MDPair MDPair::getMatching(const std::string& marker)
 {

@@ -19,16 +19,10 @@ constexpr unsigned char bulkOut = 0x01;
 constexpr unsigned noTimeLimit = 0;
 
 /// Writes \a line to standard output, at once.
-void report(std::string_view line)
-{
-    std::cout << line << std::endl;
-}
+void report(std::string_view line) { std::cout << line << std::endl; }
 
 /// Also gives each device of the list back to the library; an open one stays with its handle.
-void endDeviceList(libusb_device** list)
-{
-    libusb_free_device_list(list, 1);
-}
+void endDeviceList(libusb_device** list) { libusb_free_device_list(list, 1); }
 using DeviceList = Handle<libusb_device*, endDeviceList>;
 } // namespace
 
@@ -44,10 +38,7 @@ void Printer::initializePrinter(std::pair<int, int> ids)
     }
 }
 
-Printer* Printer::getPrinter()
-{
-    return instance;
-}
+Printer* Printer::getPrinter() { return instance; }
 
 Printer::Printer(std::pair<int, int> ids)
 {
@@ -77,15 +68,9 @@ void Printer::raw(std::string bytes)
     }
 }
 
-void Printer::cut()
-{
-    raw(EscPos::CUT);
-}
+void Printer::cut() { raw(EscPos::CUT); }
 
-void Printer::reset()
-{
-    raw(EscPos::RESET);
-}
+void Printer::reset() { raw(EscPos::RESET); }
 
 bool Printer::text(const std::string& s)
 {

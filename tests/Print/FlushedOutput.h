@@ -12,10 +12,7 @@ public:
     FlushedOutput()
         : before_(std::cout.rdbuf(this))
     { }
-    ~FlushedOutput() override
-    {
-        std::cout.rdbuf(before_);
-    }
+    ~FlushedOutput() override { std::cout.rdbuf(before_); }
     FlushedOutput(const FlushedOutput&) = delete;
     FlushedOutput& operator=(const FlushedOutput&) = delete;
 

@@ -12,10 +12,7 @@ class Pictures
 {
 public:
     /// The path of the file \a name.
-    QString path(const QString& name) const
-    {
-        return folder_.filePath(name);
-    }
+    QString path(const QString& name) const { return folder_.filePath(name); }
 
     /// A file that holds \a bytes, until the next one is asked for.
     std::string fileHolding(const QByteArray& bytes) const

@@ -77,8 +77,5 @@ struct HeldPrinter
     Printer printer{receiptPrinter};
 
     /// The bytes of each transfer so far.
-    QStringList sent() const
-    {
-        return transfersOf(bus);
-    }
+    QStringList sent() const { return transfersOf(bus); }
 };

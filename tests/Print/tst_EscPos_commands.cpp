@@ -35,10 +35,7 @@ private slots:
         QCOMPARE(hexOf(EscPos::RESET_LINE), QByteArray("1b32"));
     }
 
-    void commandsAreReadyBeforeMain()
-    {
-        QCOMPARE(hexOf(cutBeforeMain), QByteArray("1d564196"));
-    }
+    void commandsAreReadyBeforeMain() { QCOMPARE(hexOf(cutBeforeMain), QByteArray("1d564196")); }
 };
 
 VENDEL_TEST(TestEscPosCommands)

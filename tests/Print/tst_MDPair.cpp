@@ -16,10 +16,7 @@ class TestMDPair : public QObject
     Q_OBJECT
 
 private slots:
-    void markersAreReadyBeforeMain()
-    {
-        QCOMPARE(hexOf(boldBeforeMain.on), QByteArray("1b4501"));
-    }
+    void markersAreReadyBeforeMain() { QCOMPARE(hexOf(boldBeforeMain.on), QByteArray("1b4501")); }
 
     void aPairStartsWithItsMarkerOnly()
     {

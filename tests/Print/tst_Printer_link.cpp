@@ -114,10 +114,7 @@ class TestPrinterLink : public QObject
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        calls = {};
-    }
+    void init() { calls = {}; }
 
     void theLibrarySpeaksUpToItsInformation()
     {

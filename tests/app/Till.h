@@ -33,10 +33,7 @@ public:
     }
 
     /// The list "tableView1" (menu) or "tableView2" (ticket).
-    QTableView& list(const char* name)
-    {
-        return child<QTableView>(window, name);
-    }
+    QTableView& list(const char* name) { return child<QTableView>(window, name); }
 
     /// The rows of a list, hidden columns included, "1;;Thé;2.50$" each.
     QStringList rows(const char* list)
@@ -49,16 +46,10 @@ public:
     }
 
     /// The names in a list, parted by "|".
-    QString names(const char* list)
-    {
-        return column(list, 2);
-    }
+    QString names(const char* list) { return column(list, 2); }
 
     /// The marks of doubles in the menu, parted by "|".
-    QString marks()
-    {
-        return column("tableView1", 1);
-    }
+    QString marks() { return column("tableView1", 1); }
 
     /// Whether a row of a list is seen whole.
     bool isInView(const char* name, int row)
@@ -68,10 +59,7 @@ public:
     }
 
     /// The field of the amount that the keypad types.
-    QLineEdit& field()
-    {
-        return child<QLineEdit>(window, "txt_montant");
-    }
+    QLineEdit& field() { return child<QLineEdit>(window, "txt_montant"); }
 
     /// What \a box said, "title: text", when it was a single notice with an OK over this window.
     QString notice(const AnswerBox& box) const
@@ -102,10 +90,7 @@ public:
         click(window, "btn_Ticket");
     }
 
-    void pay()
-    {
-        click(window, "btn_Payer");
-    }
+    void pay() { click(window, "btn_Payer"); }
 
     /// Sells a tea at 2.50.
     void sellTea()
@@ -122,10 +107,7 @@ public:
     }
 
     /// Runs \a sql on the shop's database.
-    void run(const QByteArray& sql)
-    {
-        shop.sql(sql.constData());
-    }
+    void run(const QByteArray& sql) { shop.sql(sql.constData()); }
 
     /// The lines of the history, "id article price" each.
     QStringList history() const
@@ -148,16 +130,10 @@ public:
     }
 
     /// The number of lines that the ticket's list shows.
-    int shownLines()
-    {
-        return rowCount(window, "tableView2");
-    }
+    int shownLines() { return rowCount(window, "tableView2"); }
 
     /// The receipt on the screen, null when there is none.
-    FormVendelTicket* receipt() const
-    {
-        return window.findChild<FormVendelTicket*>();
-    }
+    FormVendelTicket* receipt() const { return window.findChild<FormVendelTicket*>(); }
 
     /// Closes the receipt on the screen and returns its text, which is empty without a receipt.
     QString takeReceipt()
@@ -214,10 +190,7 @@ private:
 class TillWithTea : public Till
 {
 public:
-    TillWithTea()
-    {
-        sell("Thé", "2.5");
-    }
+    TillWithTea() { sell("Thé", "2.5"); }
 };
 
 /// A till whose lists show the menu and the ticket.

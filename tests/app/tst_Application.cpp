@@ -28,10 +28,7 @@ void installTranslationFile(const QString& name = translationName)
     }
 }
 
-void setUp()
-{
-    Application::setUp(*qApp);
-}
+void setUp() { Application::setUp(*qApp); }
 
 QString catalogueText(const char* source, int count = -1)
 {
@@ -58,10 +55,7 @@ class TestApplication : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup()
-    {
-        qDeleteAll(qApp->findChildren<QTranslator*>());
-    }
+    void cleanup() { qDeleteAll(qApp->findChildren<QTranslator*>()); }
 
     void textIsLaidOutAt96DotsPerInch()
     {

@@ -59,10 +59,7 @@ QRect ink(const QImage& picture)
         .boundingRect();
 }
 
-bool bothOpen()
-{
-    return opens("Vendel") && opens("Dialog");
-}
+bool bothOpen() { return opens("Vendel") && opens("Dialog"); }
 } // namespace
 
 /// The program itself on a screen of 1366 x 768 with 144 dots per inch, a small laptop's.

@@ -14,15 +14,9 @@
 namespace {
 const QRegularExpression moment("^[0-9]{2}/[0-9]{2}/[0-9]{4} [0-9]{2}[: ][0-9]{2}[: ][0-9]{2}$");
 
-QLineEdit& firstDate(QWidget& window)
-{
-    return child<QLineEdit>(window, "txt_First_Date");
-}
+QLineEdit& firstDate(QWidget& window) { return child<QLineEdit>(window, "txt_First_Date"); }
 
-QLineEdit& secondDate(QWidget& window)
-{
-    return child<QLineEdit>(window, "txt_Second_Date");
-}
+QLineEdit& secondDate(QWidget& window) { return child<QLineEdit>(window, "txt_Second_Date"); }
 
 /// The history of two days, opened from the till's menu.
 FormVendelHistorique& openHistory(Till& till)

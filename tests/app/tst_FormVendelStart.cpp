@@ -23,15 +23,9 @@ struct OpenSplash
     }
 
     /// One of the ticks that come every second.
-    bool tick()
-    {
-        return QMetaObject::invokeMethod(&splash, "on_timeout");
-    }
+    bool tick() { return QMetaObject::invokeMethod(&splash, "on_timeout"); }
 
-    const QTimer& timer() const
-    {
-        return *splash.findChild<QTimer*>();
-    }
+    const QTimer& timer() const { return *splash.findChild<QTimer*>(); }
 };
 } // namespace
 

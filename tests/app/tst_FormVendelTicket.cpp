@@ -45,10 +45,7 @@ struct ShownReceipt
         }
     }
 
-    QString text() const
-    {
-        return edit.toPlainText();
-    }
+    QString text() const { return edit.toPlainText(); }
 
     /// The first line that begins with \a start.
     QTextBlock line(const QString& start) const
@@ -66,10 +63,7 @@ struct ShownReceipt
     }
 
     /// The width of a character in pixels.
-    double pitch() const
-    {
-        return x("---", 1);
-    }
+    double pitch() const { return x("---", 1); }
 
     /// Where the character at \a column of a line stands, in pixels from the line's start.
     double x(const QString& start, int column) const

@@ -69,10 +69,7 @@ public:
         isOver_ = false;
         next_ = qInstallMessageHandler(fail);
     }
-    ~FailingLog()
-    {
-        qInstallMessageHandler(next_);
-    }
+    ~FailingLog() { qInstallMessageHandler(next_); }
     Q_DISABLE_COPY_MOVE(FailingLog)
 
 private:

@@ -18,10 +18,7 @@ struct Keyboard : OpenTill
                    "insert into Ticket (id, article, prix) values (1, 'Thé', 1), (2, 'Vin', 3)")
     { }
 
-    QPushButton& button(const char* name)
-    {
-        return child<QPushButton>(window, name);
-    }
+    QPushButton& button(const char* name) { return child<QPushButton>(window, name); }
 };
 } // namespace
 

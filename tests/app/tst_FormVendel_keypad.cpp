@@ -34,10 +34,7 @@ struct Keypad : Till
         click(window, "btn_13");
     }
 
-    DbRows stored() const
-    {
-        return shop.sql("select id, article, prix from Ticket");
-    }
+    DbRows stored() const { return shop.sql("select id, article, prix from Ticket"); }
 };
 } // namespace
 

@@ -21,10 +21,7 @@ struct NewScreen
     const Shop shop;
     FormVendel form;
 
-    QTableView& list(const char* name)
-    {
-        return child<QTableView>(form, name);
-    }
+    QTableView& list(const char* name) { return child<QTableView>(form, name); }
 };
 } // namespace
 

@@ -32,17 +32,11 @@ struct TippedTill : OpenTill
         return tipText();
     }
 
-    QWidget& viewport(const char* name)
-    {
-        return *list(name).viewport();
-    }
+    QWidget& viewport(const char* name) { return *list(name).viewport(); }
 };
 
 /// Whether a tip with \a text is there to stay.
-bool stays(const QString& text)
-{
-    return tipText() == text && !isTipLeaving();
-}
+bool stays(const QString& text) { return tipText() == text && !isTipLeaving(); }
 } // namespace
 
 /// The tips over the lists of the sales screen.

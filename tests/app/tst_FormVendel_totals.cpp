@@ -21,10 +21,7 @@ struct TotalledTill : Till
     }
 
     /// The rows below the ticket's lines.
-    QStringList totals()
-    {
-        return rows("tableView2").mid(int(ticket().size()));
-    }
+    QStringList totals() { return rows("tableView2").mid(int(ticket().size())); }
 };
 } // namespace
 

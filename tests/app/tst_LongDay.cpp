@@ -30,10 +30,7 @@ qint64 heapBytes()
 
 /// Milliseconds that the processor worked for this process; what else the machine does is no
 /// sale's.
-double workedMs()
-{
-    return double(std::clock()) * 1000 / CLOCKS_PER_SEC;
-}
+double workedMs() { return double(std::clock()) * 1000 / CLOCKS_PER_SEC; }
 
 Held held(const FormVendel& window)
 {

@@ -46,10 +46,7 @@ public:
         end_.exec();
     }
 
-    QSet<QString> windowsSeen() const
-    {
-        return seen_;
-    }
+    QSet<QString> windowsSeen() const { return seen_; }
 
 private:
     // The next step is asked for before this one is done: one that opens a box comes back only when

@@ -52,10 +52,7 @@ struct ShownTill : OpenTill
         window.move(158, 71);
         moveTo(outside);
     }
-    ~ShownTill()
-    {
-        moveTo(outside);
-    }
+    ~ShownTill() { moveTo(outside); }
     Q_DISABLE_COPY_MOVE(ShownTill)
 
     QPoint cell(const char* name, int row)

@@ -38,10 +38,7 @@ class TestReceiptBytesFailures : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup()
-    {
-        openError = 0;
-    }
+    void cleanup() { openError = 0; }
 
     void theReasonIsOneOfThree()
     {

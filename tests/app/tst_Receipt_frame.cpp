@@ -12,10 +12,7 @@
 namespace {
 const QByteArray blank46(46, ' ');
 
-QByteArray bold(const QByteArray& text)
-{
-    return "\033E\001" + text + "\r\n\033E\002";
-}
+QByteArray bold(const QByteArray& text) { return "\033E\001" + text + "\r\n\033E\002"; }
 
 QByteArray title(const QByteArray& text)
 {

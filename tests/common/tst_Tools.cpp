@@ -87,10 +87,7 @@ private slots:
         }
     }
 
-    void namesHaveFifteenCharacters()
-    {
-        QCOMPARE(Tools::NbrChar, 15);
-    }
+    void namesHaveFifteenCharacters() { QCOMPARE(Tools::NbrChar, 15); }
 };
 
 VENDEL_TEST(TestTools)

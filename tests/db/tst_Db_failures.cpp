@@ -25,10 +25,7 @@ const QByteArray notOpened = "Not open database successfully\n";
 class FullStream : public std::streambuf
 {
 protected:
-    int_type overflow(int_type) override
-    {
-        return traits_type::eof();
-    }
+    int_type overflow(int_type) override { return traits_type::eof(); }
 };
 
 /// A shop whose database is a folder.

@@ -39,22 +39,10 @@ struct Consumed
         click(window, "btn_Display");
     }
 
-    QStringList detail(int row)
-    {
-        return rowTexts(window, "tableView1", row);
-    }
-    QStringList total(int row)
-    {
-        return rowTexts(window, "tableView2", row);
-    }
-    int details()
-    {
-        return rowCount(window, "tableView1");
-    }
-    int totals()
-    {
-        return rowCount(window, "tableView2");
-    }
+    QStringList detail(int row) { return rowTexts(window, "tableView1", row); }
+    QStringList total(int row) { return rowTexts(window, "tableView2", row); }
+    int details() { return rowCount(window, "tableView1"); }
+    int totals() { return rowCount(window, "tableView2"); }
 
     FormVendelStockCalculation window;
 };

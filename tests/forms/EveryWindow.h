@@ -18,10 +18,7 @@
 
 using AnyWindow = std::unique_ptr<QDialog>;
 
-template <class Window> AnyWindow make()
-{
-    return std::make_unique<Window>();
-}
+template <class Window> AnyWindow make() { return std::make_unique<Window>(); }
 
 /// The window with the given class name, not shown yet.
 inline AnyWindow makeWindow(const QString& name)

@@ -21,10 +21,7 @@ struct OpenArticleEditor : OpenDialog<FormVendelSaisieArticle>
             articles.empty() ? "" : "insert into Article (article, prix) values " + articles)
     { }
 
-    QString text(const char* field)
-    {
-        return child<QLineEdit>(window, field).text();
-    }
+    QString text(const char* field) { return child<QLineEdit>(window, field).text(); }
 
     /// Puts ASCII \a text in the place of what the field holds, key by key.
     void type(const char* field, const QString& text)
@@ -59,16 +56,10 @@ struct OpenArticleEditor : OpenDialog<FormVendelSaisieArticle>
             list.viewport(), Qt::LeftButton, modifiers, centreOf("tableView", row, 2));
     }
 
-    bool hasSelection() const
-    {
-        return list.selectionModel()->hasSelection();
-    }
+    bool hasSelection() const { return list.selectionModel()->hasSelection(); }
 
     /// The list from top to bottom, "key|mark|name|price" each.
-    QStringList rows()
-    {
-        return ::rows(window, "tableView");
-    }
+    QStringList rows() { return ::rows(window, "tableView"); }
 
     /// The names in the list from top to bottom.
     QStringList names()

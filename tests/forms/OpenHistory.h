@@ -27,38 +27,20 @@ struct OpenHistory : OpenDialog<FormVendelHistorique>
         child<QLineEdit>(window, "txt_Second_Date").setText(secondDate);
     }
 
-    QString first()
-    {
-        return child<QLineEdit>(window, "txt_First_Date").text();
-    }
+    QString first() { return child<QLineEdit>(window, "txt_First_Date").text(); }
 
-    QString second()
-    {
-        return child<QLineEdit>(window, "txt_Second_Date").text();
-    }
+    QString second() { return child<QLineEdit>(window, "txt_Second_Date").text(); }
 
     /// The list of the sales, "article|price|moment" each.
-    QStringList sales()
-    {
-        return rows(window, "tableView1");
-    }
+    QStringList sales() { return rows(window, "tableView1"); }
 
-    QStringList days()
-    {
-        return rows(window, "tableView2");
-    }
+    QStringList days() { return rows(window, "tableView2"); }
 
     /// The list of the sales by article and price, "count|article|price|amount" each.
-    QStringList groups()
-    {
-        return rows(window, "tableView3");
-    }
+    QStringList groups() { return rows(window, "tableView3"); }
 
     /// The number of sales in the journal.
-    QString sold() const
-    {
-        return shop.cell("select count(*) from Historique");
-    }
+    QString sold() const { return shop.cell("select count(*) from Historique"); }
 };
 
 /// A history of two days that shows the sales of the first with their total, and both days.
@@ -79,8 +61,5 @@ struct ListedHistory : OpenHistory
     }
 
     /// The same now.
-    QStringList now()
-    {
-        return sales() + days() + groups() + QStringList(sold());
-    }
+    QStringList now() { return sales() + days() + groups() + QStringList(sold()); }
 };

@@ -52,43 +52,19 @@ struct OpenReceiptTexts
         }
     }
 
-    QString text() const
-    {
-        return edit.toPlainText();
-    }
+    QString text() const { return edit.toPlainText(); }
 
-    QString label()
-    {
-        return child<QLabel>(window, "lbl_Formulaire").text();
-    }
+    QString label() { return child<QLabel>(window, "lbl_Formulaire").text(); }
 
-    QByteArray header() const
-    {
-        return shop.read(headerFile);
-    }
-    QByteArray footer() const
-    {
-        return shop.read(footerFile);
-    }
+    QByteArray header() const { return shop.read(headerFile); }
+    QByteArray footer() const { return shop.read(footerFile); }
 
-    void showHeader()
-    {
-        chooseMenu(window, "menuAfficher", "actionEntete_Page");
-    }
-    void showFooter()
-    {
-        chooseMenu(window, "menuAfficher", "actionPied_Page");
-    }
+    void showHeader() { chooseMenu(window, "menuAfficher", "actionEntete_Page"); }
+    void showFooter() { chooseMenu(window, "menuAfficher", "actionPied_Page"); }
 
     /// Saves as header and answers Yes; what is said then.
-    QStringList saveHeader()
-    {
-        return saidAtClick(window, "btn_Entete_Page", QMessageBox::Yes);
-    }
-    QStringList saveFooter()
-    {
-        return saidAtClick(window, "btn_Pied_Page", QMessageBox::Yes);
-    }
+    QStringList saveHeader() { return saidAtClick(window, "btn_Entete_Page", QMessageBox::Yes); }
+    QStringList saveFooter() { return saidAtClick(window, "btn_Pied_Page", QMessageBox::Yes); }
 
     /// Types ASCII \a text behind what the editor shows, key by key.
     void typeAtEnd(const char* text) const

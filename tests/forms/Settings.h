@@ -11,10 +11,7 @@
 /// A shop whose database \a change has changed.
 struct ChangedShop : Shop
 {
-    explicit ChangedShop(const QByteArray& change)
-    {
-        fill(change);
-    }
+    explicit ChangedShop(const QByteArray& change) { fill(change); }
 };
 
 /// The settings on the screen of a shop of their own.

@@ -27,15 +27,9 @@ struct StockSample : Shop
     }
 
     /// The keys of all lines of recipes.
-    QString lines() const
-    {
-        return cell("select group_concat(idlig) from DoseStock");
-    }
+    QString lines() const { return cell("select group_concat(idlig) from DoseStock"); }
     /// The keys of all stock articles.
-    QString articles() const
-    {
-        return cell("select group_concat(id) from ArticleStock");
-    }
+    QString articles() const { return cell("select group_concat(id) from ArticleStock"); }
 };
 
 /// Shows \a window and waits until it takes keys.
@@ -62,10 +56,7 @@ struct OpenStock : StockSample
     }
 
     /// Marks the article in \a row with the mouse.
-    void mark(int row)
-    {
-        clickCell(window, "tableView1", row, 1);
-    }
+    void mark(int row) { clickCell(window, "tableView1", row, 1); }
 };
 
 /// A \a Window of the sample shop that the stock editor opens, on the screen.
@@ -99,7 +90,4 @@ inline QString recipe(QWidget& window)
 }
 
 /// What the database layer said so far.
-inline QByteArray diagnostics(CapturedOutput& output)
-{
-    return output.text();
-}
+inline QByteArray diagnostics(CapturedOutput& output) { return output.text(); }

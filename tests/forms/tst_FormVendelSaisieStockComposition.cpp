@@ -35,10 +35,7 @@ struct Composing : StockSample
         dose.setText(newDose);
     }
 
-    QStringList recipe()
-    {
-        return rows(stock, "tableView2");
-    }
+    QStringList recipe() { return rows(stock, "tableView2"); }
 };
 
 /// Fails the running test unless \a said is asked for after a click on "Ajouter", nothing added.

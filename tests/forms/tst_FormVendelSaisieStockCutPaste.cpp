@@ -19,10 +19,7 @@ struct Moving : OpenTransfer
         clickCell(window, "tableView2", 0, 2);
     }
 
-    QComboBox& targets()
-    {
-        return child<QComboBox>(window, "cbx_Article");
-    }
+    QComboBox& targets() { return child<QComboBox>(window, "cbx_Article"); }
 
     /// Clicks "Modifier" and answers; what is said then.
     QStringList modify(QMessageBox::StandardButton answer)
@@ -31,10 +28,7 @@ struct Moving : OpenTransfer
     }
 
     /// The stock article that the line of Sirop belongs to.
-    QString owner() const
-    {
-        return cell("select id from DoseStock where idlig = 12");
-    }
+    QString owner() const { return cell("select id from DoseStock where idlig = 12"); }
 };
 } // namespace
 

@@ -10,10 +10,7 @@ constexpr auto newArticle = "insert into Article (id, article, prix) values (7, 
 constexpr auto newName = "update Article set article = 'Noir' where id = 1";
 
 /// What the window \a at is about to do.
-QStringList preview(OpenUpdate& at)
-{
-    return rows(at.window, "tableView");
-}
+QStringList preview(OpenUpdate& at) { return rows(at.window, "tableView"); }
 } // namespace
 
 class TestFormVendelSaisieStockMaj : public QObject

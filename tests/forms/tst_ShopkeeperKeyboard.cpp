@@ -18,10 +18,7 @@ void press(Qt::Key key, int times = 1)
     }
 }
 
-void type(const char* text)
-{
-    QTest::keyClicks(QApplication::focusWidget(), text);
-}
+void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
 
 void typeArticle(const char* name, const char* price)
 {

@@ -44,15 +44,9 @@ std::vector<std::string> split(const std::string& text, char separator)
 }
 
 /// Columns of the database end at a NUL, like the texts of the files.
-std::string column(const std::string& bytes)
-{
-    return bytes.substr(0, bytes.find('\0'));
-}
+std::string column(const std::string& bytes) { return bytes.substr(0, bytes.find('\0')); }
 
-QString textOf(const std::string& bytes)
-{
-    return QString::fromUtf8(bytes.c_str());
-}
+QString textOf(const std::string& bytes) { return QString::fromUtf8(bytes.c_str()); }
 
 /// A frame's line as it is sent: no control character but tab and carriage return.
 std::string withoutCommands(std::string line)
@@ -98,10 +92,7 @@ std::optional<std::string> expectedFrame(
 }
 
 /// The lines of a frame's file.
-std::size_t linesOf(const std::string& file)
-{
-    return split(column(file), '\n').size();
-}
+std::size_t linesOf(const std::string& file) { return split(column(file), '\n').size(); }
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

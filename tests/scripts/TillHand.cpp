@@ -85,10 +85,7 @@ private:
 };
 
 /// A system call that the watcher of the till sees: those before it only lead to the act.
-void begin()
-{
-    [[maybe_unused]] const int result = ::access("the-act-begins", F_OK);
-}
+void begin() { [[maybe_unused]] const int result = ::access("the-act-begins", F_OK); }
 
 /// Writes down how many rows the list \a name shows.
 void noteRows(QWidget& dialog, const char* name)
@@ -96,10 +93,7 @@ void noteRows(QWidget& dialog, const char* name)
     note({QString("rows"), QString::number(rowCount(dialog, name))});
 }
 
-void showTicket(QWidget& till)
-{
-    click(till, "btn_Ticket");
-}
+void showTicket(QWidget& till) { click(till, "btn_Ticket"); }
 
 void payTicket(QWidget& till)
 {

@@ -44,10 +44,7 @@ QString middle(const QWidget& widget, const QRect& part)
     return QString("%1 %2").arg(point.x()).arg(point.y());
 }
 
-QString withoutMnemonic(QString text)
-{
-    return text.remove('&');
-}
+QString withoutMnemonic(QString text) { return text.remove('&'); }
 
 QString textOf(const QWidget& widget)
 {

@@ -11,15 +11,9 @@ std::atomic<std::size_t> refusedSize = 0;
 std::atomic<std::size_t> largestRealloc = 0;
 } // namespace
 
-void Allocations::refuseFrom(std::size_t bytes)
-{
-    refusedSize = bytes;
-}
+void Allocations::refuseFrom(std::size_t bytes) { refusedSize = bytes; }
 
-std::size_t Allocations::takeLargestRealloc()
-{
-    return largestRealloc.exchange(0);
-}
+std::size_t Allocations::takeLargestRealloc() { return largestRealloc.exchange(0); }
 
 #ifdef __SANITIZE_ADDRESS__
 const bool Allocations::areSeen = false;
@@ -39,10 +33,7 @@ void* __libc_malloc(std::size_t size);
 void* __libc_realloc(void* block, std::size_t size);
 
 /// The C library's, but for the one request that is to be refused.
-void* malloc(std::size_t size) noexcept
-{
-    return isRefused(size) ? nullptr : __libc_malloc(size);
-}
+void* malloc(std::size_t size) noexcept { return isRefused(size) ? nullptr : __libc_malloc(size); }
 
 /// The same.
 void* realloc(void* block, std::size_t size) noexcept

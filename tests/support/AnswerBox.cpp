@@ -21,10 +21,7 @@ AnswerBox::AnswerBox(QMessageBox::StandardButton button, Look look, bool agrees)
     timer_.start(1);
 }
 
-AnswerBox AnswerBox::agreeing(Look look)
-{
-    return {QMessageBox::Yes, std::move(look), true};
-}
+AnswerBox AnswerBox::agreeing(Look look) { return {QMessageBox::Yes, std::move(look), true}; }
 
 void AnswerBox::watch()
 {

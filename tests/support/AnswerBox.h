@@ -22,64 +22,28 @@ public:
     static AnswerBox agreeing(Look look = [](QMessageBox&) {});
 
     /// Whether a box was answered.
-    bool wasShown() const
-    {
-        return shown_ > 0;
-    }
-    QString title() const
-    {
-        return title_;
-    }
-    QString text() const
-    {
-        return text_;
-    }
-    Qt::TextFormat format() const
-    {
-        return format_;
-    }
-    QMessageBox::Icon icon() const
-    {
-        return icon_;
-    }
-    QMessageBox::StandardButtons buttons() const
-    {
-        return buttons_;
-    }
+    bool wasShown() const { return shown_ > 0; }
+    QString title() const { return title_; }
+    QString text() const { return text_; }
+    Qt::TextFormat format() const { return format_; }
+    QMessageBox::Icon icon() const { return icon_; }
+    QMessageBox::StandardButtons buttons() const { return buttons_; }
     /// Whether the last box was a notice of \a window, with OK alone.
-    bool isNoticeOf(const QObject& window) const
-    {
-        return isOf(window, QMessageBox::Ok);
-    }
+    bool isNoticeOf(const QObject& window) const { return isOf(window, QMessageBox::Ok); }
     /// Whether the last box was a question of \a window, with Yes and No.
     bool isQuestionOf(const QObject& window) const
     {
         return isOf(window, QMessageBox::Yes | QMessageBox::No);
     }
     /// The parent window of the first box.
-    const QObject* parent() const
-    {
-        return parent_;
-    }
+    const QObject* parent() const { return parent_; }
     /// The titles and the texts of all boxes in order.
-    QStringList titles() const
-    {
-        return titles_;
-    }
-    QStringList texts() const
-    {
-        return texts_;
-    }
+    QStringList titles() const { return titles_; }
+    QStringList texts() const { return texts_; }
     /// What all boxes said in order, "title: text" each.
-    QStringList said() const
-    {
-        return said_;
-    }
+    QStringList said() const { return said_; }
     /// Number of boxes after the first.
-    int strays() const
-    {
-        return shown_ > 1 ? shown_ - 1 : 0;
-    }
+    int strays() const { return shown_ > 1 ? shown_ - 1 : 0; }
 
 private:
     AnswerBox(QMessageBox::StandardButton button, Look look, bool agrees);

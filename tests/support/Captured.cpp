@@ -86,22 +86,10 @@ CapturedLog::CapturedLog()
     before_ = qInstallMessageHandler(collect);
 }
 
-CapturedLog::~CapturedLog()
-{
-    qInstallMessageHandler(before_);
-}
+CapturedLog::~CapturedLog() { qInstallMessageHandler(before_); }
 
-QStringList CapturedLog::criticals() const
-{
-    return currentLog().criticals;
-}
+QStringList CapturedLog::criticals() const { return currentLog().criticals; }
 
-QStringList CapturedLog::warnings() const
-{
-    return currentLog().warnings;
-}
+QStringList CapturedLog::warnings() const { return currentLog().warnings; }
 
-QStringList CapturedLog::debugs() const
-{
-    return currentLog().debugs;
-}
+QStringList CapturedLog::debugs() const { return currentLog().debugs; }

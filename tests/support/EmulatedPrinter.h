@@ -59,35 +59,17 @@ public:
     EmulatedPrinter& operator=(const EmulatedPrinter&) = delete;
 
     /// Pulls all cables. The program has heard of it when its next libusb call is made.
-    void unplug()
-    {
-        send("unplug");
-    }
+    void unplug() { send("unplug"); }
     /// Plugs all cables back in.
-    void plug()
-    {
-        send("plug");
-    }
+    void plug() { send("plug"); }
     /// Takes so many more transfers; the one after them finds no device.
-    void unplugAfter(int transfers)
-    {
-        send("unplug-after " + std::to_string(transfers));
-    }
+    void unplugAfter(int transfers) { send("unplug-after " + std::to_string(transfers)); }
     /// Pulls the cable when so many bytes of the next transfer are taken.
-    void unplugDuring(int bytes)
-    {
-        send("unplug-during " + std::to_string(bytes));
-    }
+    void unplugDuring(int bytes) { send("unplug-during " + std::to_string(bytes)); }
     /// Takes only so many bytes of the next transfer; the one after it is whole again.
-    void shortWrite(int bytes)
-    {
-        send("short-write " + std::to_string(bytes));
-    }
+    void shortWrite(int bytes) { send("short-write " + std::to_string(bytes)); }
     /// Stalls the next transfer; the one after it is taken.
-    void stall()
-    {
-        send("stall");
-    }
+    void stall() { send("stall"); }
 
     /// Sends one command line to the printer's process (README.md lists them) and waits until it
     /// is done. Throws std::runtime_error when it is refused.

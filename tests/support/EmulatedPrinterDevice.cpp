@@ -26,10 +26,7 @@ GRef<UMockdevIoctlData> resolve(UMockdevIoctlData* data, std::size_t offset, std
     return GRef<UMockdevIoctlData>(umockdev_ioctl_data_resolve(data, offset, length, nullptr));
 }
 
-template <class T> T& as(UMockdevIoctlData* data)
-{
-    return *reinterpret_cast<T*>(data->data);
-}
+template <class T> T& as(UMockdevIoctlData* data) { return *reinterpret_cast<T*>(data->data); }
 
 std::string hexOf(const std::string& bytes)
 {

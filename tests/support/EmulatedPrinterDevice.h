@@ -60,16 +60,10 @@ public:
     EmulatedPrinterDevice(const EmulatedPrinterDevice&) = delete;
     EmulatedPrinterDevice& operator=(const EmulatedPrinterDevice&) = delete;
 
-    UMockdevIoctlBase* handler()
-    {
-        return handler_.get();
-    }
+    UMockdevIoctlBase* handler() { return handler_.get(); }
 
     /// From now on every request finds no device.
-    void setGone()
-    {
-        gone_ = true;
-    }
+    void setGone() { gone_ = true; }
 
 private:
     using Fault = EmulatedBehaviour::Fault;

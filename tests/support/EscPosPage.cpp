@@ -302,10 +302,7 @@ bool EscPosPage::has(std::size_t count)
     return false;
 }
 
-unsigned char EscPosPage::next()
-{
-    return static_cast<unsigned char>(job_[at_++]);
-}
+unsigned char EscPosPage::next() { return static_cast<unsigned char>(job_[at_++]); }
 
 /// The command's bytes that are read so far.
 std::string EscPosPage::here() const

@@ -16,14 +16,8 @@ struct PageStyle
     bool high = false;
     bool fontB = false;
 
-    int cellWidth() const
-    {
-        return (fontB ? 9 : 12) * (wide ? 2 : 1);
-    }
-    int cellHeight() const
-    {
-        return (fontB ? 17 : 24) * (high ? 2 : 1);
-    }
+    int cellWidth() const { return (fontB ? 9 : 12) * (wide ? 2 : 1); }
+    int cellHeight() const { return (fontB ? 17 : 24) * (high ? 2 : 1); }
     bool operator==(const PageStyle&) const = default;
 };
 
@@ -41,14 +35,8 @@ struct PageBand
     int x;
     std::vector<std::vector<bool>> rows;
 
-    int width() const
-    {
-        return rows.empty() ? 0 : static_cast<int>(rows.front().size());
-    }
-    int height() const
-    {
-        return static_cast<int>(rows.size());
-    }
+    int width() const { return rows.empty() ? 0 : static_cast<int>(rows.front().size()); }
+    int height() const { return static_cast<int>(rows.size()); }
 };
 
 /// One printed line, or the paper's cut.
@@ -90,25 +78,16 @@ public:
 
     explicit EscPosPage(std::string_view job);
 
-    const std::vector<PageLine>& lines() const
-    {
-        return lines_;
-    }
+    const std::vector<PageLine>& lines() const { return lines_; }
 
     /// Every line as PageLine::styled() gives it.
     std::vector<std::string> styledLines() const;
 
     /// What is wrong with the job, each with its place in it: "at 12: 1b 99 is no command".
-    const std::vector<std::string>& complaints() const
-    {
-        return complaints_;
-    }
+    const std::vector<std::string>& complaints() const { return complaints_; }
 
     /// Commands that are taken and have no effect: "at 0: 1d 40 does nothing".
-    const std::vector<std::string>& remarks() const
-    {
-        return remarks_;
-    }
+    const std::vector<std::string>& remarks() const { return remarks_; }
 
 private:
     void character(unsigned char byte);

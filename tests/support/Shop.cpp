@@ -32,15 +32,9 @@ Shop::Shop(Database database)
     }
 }
 
-Shop::~Shop()
-{
-    QDir::setCurrent(before_);
-}
+Shop::~Shop() { QDir::setCurrent(before_); }
 
-DbRows Shop::sql(const char* sql) const
-{
-    return Db::DbLoad(sql);
-}
+DbRows Shop::sql(const char* sql) const { return Db::DbLoad(sql); }
 
 void Shop::fill(const char* sql) const
 {

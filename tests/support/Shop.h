@@ -41,10 +41,7 @@ public:
     QByteArray read(const QString& name) const;
 
     /// The shop's directory.
-    QString path() const
-    {
-        return folder_.path();
-    }
+    QString path() const { return folder_.path(); }
 
 private:
     QString before_;

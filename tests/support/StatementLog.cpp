@@ -20,10 +20,7 @@ int watch(sqlite3* connection, const char**, const struct sqlite3_api_routines*)
 }
 
 // SQLite calls its extensions with the arguments of watch().
-void (*extension())()
-{
-    return reinterpret_cast<void (*)()>(watch);
-}
+void (*extension())() { return reinterpret_cast<void (*)()>(watch); }
 } // namespace
 
 StatementLog::StatementLog()
@@ -32,15 +29,9 @@ StatementLog::StatementLog()
     sqlite3_auto_extension(extension());
 }
 
-StatementLog::~StatementLog()
-{
-    sqlite3_cancel_auto_extension(extension());
-}
+StatementLog::~StatementLog() { sqlite3_cancel_auto_extension(extension()); }
 
-const std::vector<std::string>& StatementLog::statements() const
-{
-    return seen;
-}
+const std::vector<std::string>& StatementLog::statements() const { return seen; }
 
 long StatementLog::count(const std::string& head) const
 {

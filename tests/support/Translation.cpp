@@ -3,15 +3,9 @@
 
 #include <QCoreApplication>
 
-Translation::Translation()
-{
-    QCoreApplication::installTranslator(this);
-}
+Translation::Translation() { QCoreApplication::installTranslator(this); }
 
-Translation::~Translation()
-{
-    QCoreApplication::removeTranslator(this);
-}
+Translation::~Translation() { QCoreApplication::removeTranslator(this); }
 
 void Translation::add(const QString& context, const QString& source, const QString& text)
 {
@@ -30,7 +24,4 @@ QString Translation::translate(
     return count > 1 && plurals_.contains(key) ? plurals_.value(key) : texts_.value(key);
 }
 
-bool Translation::isEmpty() const
-{
-    return false;
-}
+bool Translation::isEmpty() const { return false; }

@@ -108,10 +108,7 @@ void chooseMenu(QWidget& window, const char* menu, const char* action)
     QTest::mouseClick(&popup, Qt::LeftButton, Qt::NoModifier, popup.actionGeometry(entry).center());
 }
 
-QString tipText()
-{
-    return QToolTip::isVisible() ? QToolTip::text() : QString();
-}
+QString tipText() { return QToolTip::isVisible() ? QToolTip::text() : QString(); }
 
 QWidget* visibleTip()
 {

@@ -80,10 +80,7 @@ public:
         watched.installEventFilter(this);
     }
 
-    int value() const
-    {
-        return value_;
-    }
+    int value() const { return value_; }
 
     bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {

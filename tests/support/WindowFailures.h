@@ -42,8 +42,5 @@ public:
         : QStandardItemModel(2, 5)
     { }
 
-    QVariant data(const QModelIndex&, int) const override
-    {
-        throw std::runtime_error("trouble");
-    }
+    QVariant data(const QModelIndex&, int) const override { throw std::runtime_error("trouble"); }
 };

@@ -21,10 +21,7 @@ QRect printedArea(const QImage& picture)
     return area;
 }
 
-QImage pictureOfJob(const std::string& job)
-{
-    return pictureOf(EscPosPage(job));
-}
+QImage pictureOfJob(const std::string& job) { return pictureOf(EscPosPage(job)); }
 
 int blackDots(const QImage& picture)
 {

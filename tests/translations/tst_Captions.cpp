@@ -56,10 +56,7 @@ class TestCaptions : public QObject
     Q_OBJECT
 
 private slots:
-    void theFirstContextThatHasACaptionCounts_data()
-    {
-        eachWindow();
-    }
+    void theFirstContextThatHasACaptionCounts_data() { eachWindow(); }
     void theFirstContextThatHasACaptionCounts()
     {
         const QString title = windowOfRow().title;
@@ -77,10 +74,7 @@ private slots:
         }
     }
 
-    void everyCaptionIsLookedUp_data()
-    {
-        eachWindow();
-    }
+    void everyCaptionIsLookedUp_data() { eachWindow(); }
     void everyCaptionIsLookedUp()
     {
         const Shop shop;

@@ -75,10 +75,7 @@ public:
     {
         QCoreApplication::removeTranslator(english_);
     }
-    ~InFrench()
-    {
-        QCoreApplication::installTranslator(english_);
-    }
+    ~InFrench() { QCoreApplication::installTranslator(english_); }
     Q_DISABLE_COPY_MOVE(InFrench)
 
 private:
@@ -116,10 +113,7 @@ class TestEnglishWindows : public QObject
     Q_OBJECT
 
 private slots:
-    void noWindowStillShowsFrench_data()
-    {
-        eachWindow();
-    }
+    void noWindowStillShowsFrench_data() { eachWindow(); }
 
     void noWindowStillShowsFrench()
     {
@@ -159,20 +153,11 @@ private slots:
         QVERIFY(shownTexts(label).constFirst().missing > 0);
     }
 
-    void noTextIsClipped_data()
-    {
-        eachWindow();
-    }
+    void noTextIsClipped_data() { eachWindow(); }
 
-    void noTextIsClipped()
-    {
-        QCOMPARE(clippedTexts(), QString());
-    }
+    void noTextIsClipped() { QCOMPARE(clippedTexts(), QString()); }
 
-    void noFrenchTextIsClipped_data()
-    {
-        eachWindow();
-    }
+    void noFrenchTextIsClipped_data() { eachWindow(); }
 
     void noFrenchTextIsClipped()
     {
@@ -180,10 +165,7 @@ private slots:
         QCOMPARE(clippedTexts(), QString());
     }
 
-    void everyFieldHasAName_data()
-    {
-        eachWindow();
-    }
+    void everyFieldHasAName_data() { eachWindow(); }
 
     void everyFieldHasAName()
     {

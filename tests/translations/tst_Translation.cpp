@@ -40,10 +40,7 @@ void runTool(const QString& program, const QStringList& arguments)
         qPrintable(program + QLatin1String(process.readAllStandardError())));
 }
 
-QString key(const TranslatedText& text)
-{
-    return text.context + '\n' + text.source;
-}
+QString key(const TranslatedText& text) { return text.context + '\n' + text.source; }
 
 QSet<QString> keys(const QVector<TranslatedText>& texts)
 {

@@ -36,10 +36,7 @@ struct List : QTableView
     }
 
     /// The name under the pointer over the second article.
-    QString longName() const
-    {
-        return textUnder(*this, centreOf(1, 2), 2);
-    }
+    QString longName() const { return textUnder(*this, centreOf(1, 2), 2); }
 };
 
 QMouseEvent moveTo(const QPointF& point)

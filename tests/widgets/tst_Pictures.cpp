@@ -38,10 +38,7 @@ struct Folder
     const Shop shop{Shop::Database::None};
     const CapturedLog log;
 
-    explicit Folder(const QByteArray& picture)
-    {
-        shop.write(name, picture);
-    }
+    explicit Folder(const QByteArray& picture) { shop.write(name, picture); }
 };
 } // namespace
 
