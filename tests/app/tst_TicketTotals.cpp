@@ -13,9 +13,8 @@ private slots:
     void areInSinglePrecision()
     {
         const Rows<QString, QString, QString, QString, QString, QString> rows{
-            // Half a cent enters every tax. Halves fall where single precision puts
-            // them: 1.505, 0.005
-            // and -11.995 lie just inside, 9.005 and -1.995 just outside.
+            // Half a cent enters every tax. Halves fall where single precision puts them: 1.505,
+            // 0.005 and -11.995 lie just inside, 9.005 and -1.995 just outside.
             {"20 per cent", "7.5", "20", "7.50", "20.00", "1.50", "9.01"},
             {"no tax still adds half a cent", "7.5", "0", "7.50", "0.00", "0.00", "7.51"},
             {"a whole sum at no tax", "10", "0", "10.00", "0.00", "0.00", "10.01"},
@@ -33,10 +32,8 @@ private slots:
             {"an empty sum", "", "20", "0.00", "20.00", "0.00", "0.00"},
             {"six significant digits", "999.95", "33.33", "999.95", "33.33", "333.29", "1,333.24"},
             // Each of these is one cent off unless it is cut to six digits before its half cent
-            // is
-            // rounded: 0.02 + 0.005 is just below 0.025 in single precision, the number read
-            // from
-            // "0.025" just above.
+            // is rounded: 0.02 + 0.005 is just below 0.025 in single precision, the number read
+            // from "0.025" just above.
             {"six digits of two cents", "0.02", "0", "0.02", "0.00", "0.00", "0.03"},
             {"six digits of nine cents", "0.09", "0", "0.09", "0.00", "0.00", "0.09"},
             {"six digits of many cents", "999.84", "0", "999.84", "0.00", "0.00", "999.84"},
