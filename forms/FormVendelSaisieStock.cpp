@@ -192,15 +192,15 @@ void FormVendelSaisieStock::removeLine(const QModelIndex& index)
 }
 
 void FormVendelSaisieStock::setUpArticles(QTableView& view, QStandardItemModel& model,
-    const Texts& texts, std::span<const std::string> labels)
+    const Texts& context, std::span<const std::string> labels)
 {
-    setUpList(view, model, texts, labels, {50, 210, 110});
+    setUpList(view, model, context, labels, {50, 210, 110});
 }
 
 void FormVendelSaisieStock::setUpRecipe(QTableView& view, QStandardItemModel& model,
-    const Texts& texts, std::span<const std::string> labels)
+    const Texts& context, std::span<const std::string> labels)
 {
-    setUpList(view, model, texts, labels, {50, 50, 180, 90, 50}, {RecipeArticle});
+    setUpList(view, model, context, labels, {50, 50, 180, 90, 50}, {RecipeArticle});
 }
 
 void FormVendelSaisieStock::addArticles(QTableView& view, QStandardItemModel& model,

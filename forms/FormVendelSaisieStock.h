@@ -52,9 +52,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     /// The two lists, here and in the transfer window: columns, widths and looks.
-    static void setUpArticles(QTableView& view, QStandardItemModel& model, const Texts& texts,
+    static void setUpArticles(QTableView& view, QStandardItemModel& model, const Texts& context,
         std::span<const std::string> labels);
-    static void setUpRecipe(QTableView& view, QStandardItemModel& model, const Texts& texts,
+    static void setUpRecipe(QTableView& view, QStandardItemModel& model, const Texts& context,
         std::span<const std::string> labels);
 
     /// Appends \a articles, all of the given \a validity.
