@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FormVendelAbout.h"
 #include "forms/FormVendelConfig.h"
+#include "forms/FormVendelHistorique.h"
+#include "forms/FormVendelSaisieArticle.h"
 #include "tests/app/Till.h"
 #include "tests/support/TestProgram.h"
 
@@ -8,7 +10,8 @@
 #include <QPointer>
 #include <QPushButton>
 
-/// The windows that the sales screen's menu opens, and that are gone once a button closes them.
+/// The windows that the sales screen's menu opens, and that are gone once a button or Escape closes
+/// them.
 class TestFormVendelMenuWindows : public QObject
 {
     Q_OBJECT
@@ -33,6 +36,25 @@ private slots:
         QVERIFY(settings != nullptr);
         click(*settings, "btn_Maj_Epson");
         QTRY_VERIFY(settings.isNull());
+    }
+
+    void theArticleEditor()
+    {
+        Till till;
+        const auto editor
+            = opened<FormVendelSaisieArticle>(till, "menuVendel", "actionSaisie_Article");
+        QVERIFY(editor != nullptr);
+        QTest::keyClick(editor, Qt::Key_Escape);
+        QTRY_VERIFY(editor.isNull());
+    }
+
+    void theHistory()
+    {
+        Till till;
+        const auto history = opened<FormVendelHistorique>(till, "menuVendel", "actionHistorique");
+        QVERIFY(history != nullptr);
+        QTest::keyClick(history, Qt::Key_Escape);
+        QTRY_VERIFY(history.isNull());
     }
 
     void theBoxAboutTheTill()

@@ -181,11 +181,13 @@ private slots:
     void fieldsAreHighEnoughToBeHit()
     {
         const Shop shop;
-        const FormVendelHistorique history;
-        QCOMPARE(history.findChild<QLineEdit*>("txt_First_Date")->height(), 30);
-        QCOMPARE(history.findChild<QLineEdit*>("txt_Second_Date")->height(), 30);
-        const FormVendelSaisieStockCutPaste transfer;
-        QCOMPARE(transfer.findChild<QComboBox*>("cbx_Article")->height(), 32);
+        FormVendelHistorique history;
+        history.show();
+        QCOMPARE(child<QLineEdit>(history, "txt_First_Date").height(), 30);
+        QCOMPARE(child<QLineEdit>(history, "txt_Second_Date").height(), 30);
+        FormVendelSaisieStockCutPaste transfer;
+        transfer.show();
+        QCOMPARE(child<QComboBox>(transfer, "cbx_Article").height(), 32);
     }
 
     void tabGoesAsTheEyeDoesAndReturnPressesNoButton_data()

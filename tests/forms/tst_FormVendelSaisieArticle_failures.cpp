@@ -149,6 +149,7 @@ private slots:
             reports += databaseReport(statement.toUtf8(), "no such table: Article");
         }
         QCOMPARE(output.text(), reports);
+        QVERIFY(log.criticals().size() <= 1);
         QTEST(log.criticals().join('|').section(" : ", 0, 0), "log");
     }
 

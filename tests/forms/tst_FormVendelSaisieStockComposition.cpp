@@ -136,7 +136,7 @@ private slots:
 
     void aDoseThatIsNoNumberIsRefused()
     {
-        for (const char* dose : {"deux", "1,2,3", "1.2.3", "3 cl", "1 000", "1)|--", "0x10"}) {
+        for (const char* dose : {"deux", "1,2,3", "1.2.3", "3 cl", "1 000", "1);--", "0x10"}) {
             compareRefusal("Eau", dose, "Saisir une dose valide");
         }
     }

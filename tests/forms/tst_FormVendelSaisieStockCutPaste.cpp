@@ -84,6 +84,14 @@ private slots:
         QVERIFY(box.isNoticeOf(at.window));
     }
 
+    void withoutASelectionItAsksForOne()
+    {
+        OpenTransfer at;
+        clickCell(at.window, "tableView1", 0, 1);
+        QCOMPARE(saidAtClick(at.window, "btn_Modify", QMessageBox::Yes),
+            QStringList("Modifier: Selectionner un/des composition(s) / dose(s) dans la list"));
+    }
+
     void noMovesNothingAndTheQuestionShowsNamesAsTheyAre()
     {
         Moving at("update ArticleStock set article = '<b>l''eau</b>' where id = 1;"

@@ -22,6 +22,9 @@ private slots:
         stock.show();
         QCOMPARE(rowCount(stock, "tableView1"), 0);
         QCOMPARE(rowCount(stock, "tableView2"), 0);
+        QCOMPARE(saidAtClick(stock, "btn_Remove"),
+            QStringList("Afficher: Aucun Article\nFaite Mise à jour"));
+        QCOMPARE(rowCount(stock, "tableView1"), 0);
         click(stock, "btn_Display");
         QCOMPARE(rowCount(stock, "tableView1"), 3);
         QCOMPARE(rowCount(stock, "tableView2"), 0);
@@ -57,10 +60,11 @@ private slots:
 
     void theFlagOfDisplayChangesNothing()
     {
-        OpenStock at;
+        const StockSample shop;
+        FormVendelSaisieStock stock;
         for (const bool flag : {false, true}) {
-            at.window.Display(flag);
-            QCOMPARE(rowCount(at.window, "tableView1"), 3);
+            stock.Display(flag);
+            QCOMPARE(rowCount(stock, "tableView1"), 3);
         }
     }
 
@@ -111,6 +115,8 @@ private slots:
                     QCOMPARE(child<QLabel>(*composition, "lbl_Article").text(), QString("Café"));
                 }
                 QCOMPARE(at.lines(), QString("10,11,12"));
+                // Listed again, no article would be marked.
+                QVERIFY2(at.left.selectionModel()->hasSelection(), name);
             }
         }
     }

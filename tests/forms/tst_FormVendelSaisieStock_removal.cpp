@@ -11,15 +11,18 @@ class TestFormVendelSaisieStockRemoval : public QObject
     Q_OBJECT
 
 private slots:
-    void aSelectionWithoutACurrentRowCountsAsNone()
+    void withoutASelectionAndACurrentRowItAsksForOne()
     {
         OpenStock at;
+        const QStringList noneChosen("Supprimer: Selectionner un/des article(s) dans le menu");
+        QCOMPARE(saidAtClick(at.window, "btn_Remove", QMessageBox::Yes), noneChosen);
+        QCOMPARE(at.articles(), QString("1,2,3"));
         at.left.selectAll();
         at.left.selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
         const AnswerBox box(QMessageBox::Yes);
         CapturedOutput output;
         click(at.window, "btn_Remove");
-        QCOMPARE(box.said(), QStringList("Supprimer: Selectionner un/des article(s) dans le menu"));
+        QCOMPARE(box.said(), noneChosen);
         QVERIFY(box.isNoticeOf(at.window));
         QCOMPARE(output.text(), QByteArray());
     }

@@ -2,10 +2,11 @@
 #include "tests/forms/OpenArticleEditor.h"
 #include "tests/forms/OpenReceiptTexts.h"
 #include "tests/forms/Settings.h"
-#include "tests/support/AnswerBox.h"
 #include "tests/support/TestProgram.h"
 
 #include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
 #include <QWindow>
 
 namespace {
@@ -33,13 +34,22 @@ QString focused()
     return widget != nullptr ? widget->objectName() : QString();
 }
 
-/// Presses the button that has the focus, and Return in the boxes that follow; what they say.
+/// Presses the button that has the focus, and Return in the boxes that follow as soon as they take
+/// keys; what they say.
 QStringList pressButton()
 {
-    const AnswerBox boxes = AnswerBox::agreeing(
-        [](QMessageBox& box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); });
+    QStringList said;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&said] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box != nullptr && box->focusWidget() != nullptr) {
+            said << box->text();
+            QTest::keyClick(box->focusWidget(), Qt::Key_Return);
+        }
+    });
+    timer.start(1);
     press(Qt::Key_Space);
-    return boxes.texts();
+    return said;
 }
 
 /// An article editor that lists its menu, the focus on the list.

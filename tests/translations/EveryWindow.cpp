@@ -53,7 +53,8 @@ const QVector<EveryWindow>& windows()
         window<FormVendelSaisieStockCutPaste>("FormVendelSaisieStockCutPaste", "Couper / Coller"),
         window<FormVendelSaisieStockMaj>("FormVendelSaisieStockMaj", "Mise à jour Stock"),
         window<FormVendelStockCalculation>("FormVendelStockCalculation", "Calcul Stock",
-            {"btn_Display"}, QString("05/01/2019"), QString("06/01/2019")),
+            {"btn_Display"}, QString("05/01/2019 00:00:00.000"),
+            QString("12/30/2019 23:59:59.999")),
     };
     return all;
 }

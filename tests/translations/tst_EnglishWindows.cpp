@@ -165,6 +165,16 @@ private slots:
         QCOMPARE(clippedTexts(), QString());
     }
 
+    void nothingIsBeyondTheEdge_data() { eachWindow(); }
+
+    void nothingIsBeyondTheEdge()
+    {
+        const NumberedShop shop;
+        QWidget opener;
+        const auto window = openWindowOfRow(opener);
+        QVERIFY(window->rect().contains(window->childrenRect()));
+    }
+
     void everyFieldHasAName_data() { eachWindow(); }
 
     void everyFieldHasAName()
