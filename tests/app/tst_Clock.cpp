@@ -71,7 +71,8 @@ private slots:
         FormVendel window;
         QVERIFY(QMetaObject::invokeMethod(&window, "on_timeout"));
         const QString text = child<QLabel>(window, "lbl_DateTime").text();
-        QVERIFY2(text.contains(QRegularExpression("^\\d{4}-\\d\\d-\\d\\d ")), qPrintable(text));
+        static const QRegularExpression date("^\\d{4}-\\d\\d-\\d\\d ");
+        QVERIFY2(text.contains(date), qPrintable(text));
     }
 };
 

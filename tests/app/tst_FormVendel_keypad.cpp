@@ -6,6 +6,7 @@
 #include "tests/support/Translation.h"
 #include "tests/support/Widgets.h"
 
+#include <QByteArray>
 #include <QLineEdit>
 
 namespace {
@@ -206,7 +207,7 @@ private slots:
 
     void amountsThatSqlDoesNotKnowAreReported()
     {
-        for (const QByteArray amount : {"inf", "nan"}) {
+        for (const char* amount : {"inf", "nan"}) {
             Keypad till(oneTea);
             CapturedOutput output;
             const AnswerBox box;
@@ -215,8 +216,9 @@ private slots:
             QVERIFY(!box.wasShown());
             QCOMPARE(output.text(),
                 databaseReport(
-                    "insert into Ticket(id, article, prix) values (0, '----', " + amount + ")",
-                    "no such column: " + amount));
+                    QByteArray("insert into Ticket(id, article, prix) values (0, '----', ") + amount
+                        + ")",
+                    QByteArray("no such column: ") + amount));
             QCOMPARE(till.names("tableView2"), QString("Thé"));
             till.plus("2");
             QCOMPARE(till.names("tableView2"), QString("Thé|----"));

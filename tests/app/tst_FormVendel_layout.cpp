@@ -171,7 +171,7 @@ private slots:
         NewScreen at;
         QCOMPARE(child<QPushButton>(at.form, "btn_Payer").text(), QString("Pay"));
         for (const auto* name : {"tableView1", "tableView2"}) {
-            QCOMPARE(labels(at.list(name)).last(), QString("Price"));
+            QCOMPARE(labels(at.list(name)).constLast(), QString("Price"));
         }
     }
 

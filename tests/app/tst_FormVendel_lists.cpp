@@ -56,8 +56,8 @@ private slots:
             QCOMPARE(rowCount(till.window, list), 1);
             till.shop.fill("delete from Article; delete from Ticket");
             int rows = -1;
-            const AnswerBox box(
-                QMessageBox::Ok, [&](QMessageBox&) { rows = rowCount(till.window, list); });
+            const AnswerBox box(QMessageBox::Ok,
+                [&, shown = list](QMessageBox&) { rows = rowCount(till.window, shown); });
             click(till.window, button);
             QCOMPARE(rows, 0);
             QCOMPARE(rowCount(till.window, list), 0);

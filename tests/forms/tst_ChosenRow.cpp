@@ -24,7 +24,10 @@ void tabInto(QTableView& list)
 
 /// A way to make the first row of a list the current one without marking it.
 using Way = void (*)(QTableView& list);
+} // namespace
+Q_DECLARE_METATYPE(Way)
 
+namespace {
 /// Whether the way of the running row leads to a first row of \a list that is current, not marked.
 bool leadsToAFrameWithoutAMark(QTableView& list)
 {
@@ -36,7 +39,6 @@ bool leadsToAFrameWithoutAMark(QTableView& list)
 
 constexpr auto noArticleChosen = "Supprimer: Selectionner un/des article(s) dans le menu";
 } // namespace
-Q_DECLARE_METATYPE(Way)
 
 /// A button means the row that the user has marked, never one that only has the keyboard's frame.
 class TestChosenRow : public QObject

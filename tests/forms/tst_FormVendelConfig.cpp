@@ -24,10 +24,10 @@ private slots:
         QCOMPARE(rate.left(), printer.left());
         QCOMPARE(rate.right(), printer.right());
         const int buttonsLeft = child<QPushButton>(settings.window, "btn_Maj_TVA").x();
-        for (const QString setting : {"TVA", "Epson", "Formulaire"}) {
-            const auto& label = child<QLabel>(settings.window, qPrintable("lbl_" + setting));
+        for (const char* setting : {"TVA", "Epson", "Formulaire"}) {
+            const auto& label = child<QLabel>(settings.window, QByteArray("lbl_") + setting);
             const auto& button
-                = child<QPushButton>(settings.window, qPrintable("btn_Maj_" + setting));
+                = child<QPushButton>(settings.window, QByteArray("btn_Maj_") + setting);
             QCOMPARE(label.geometry().center().y(), button.geometry().center().y());
             QCOMPARE(label.x(), 16);
             QCOMPARE(button.x(), buttonsLeft);

@@ -193,13 +193,14 @@ private slots:
 
     void aRefusedRemovalChangesNothing()
     {
-        for (const QByteArray table : {"DoseStock", "ArticleStock"}) {
-            OpenStock at("create trigger refused before delete on " + table
+        for (const char* table : {"DoseStock", "ArticleStock"}) {
+            OpenStock at(QByteArray("create trigger refused before delete on ") + table
                 + " begin select raise(abort, 'no'); end");
             at.mark(0);
             CapturedOutput output;
             QCOMPARE(saidAtClick(at.window, "btn_Remove", QMessageBox::Yes).size(), 1);
-            QCOMPARE(output.text(), databaseReport("delete from " + table + " where id = 1", "no"));
+            QCOMPARE(output.text(),
+                databaseReport(QByteArray("delete from ") + table + " where id = 1", "no"));
             QCOMPARE(at.articles(), QString("1,2,3"));
             QCOMPARE(at.lines(), QString("10,11,12"));
             QCOMPARE(rowCount(at.window, "tableView1"), 3);
