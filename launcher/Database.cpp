@@ -75,13 +75,13 @@ DatabaseError::DatabaseError(int code)
 {
 }
 
-DatabaseError::DatabaseError(const Sentence& reason)
-    : code_(SQLITE_AUTH)
+DatabaseError::DatabaseError(const Sentence& reason, int code)
+    : code_(code)
     , reason_(reason)
 {
 }
 
-Database::Database(const std::string& path, double seconds)
+Database::Database(const std::string& path, double seconds, Sharing sharing)
     : deadline_(std::make_unique<double>(steadySeconds() + seconds))
     , hasWal_(Journals::hasWal(path))
 {
@@ -97,7 +97,7 @@ Database::Database(const std::string& path, double seconds)
     sqlite3_progress_handler(handle, stepsBetweenLooks, isLate, deadline_.get());
     run("pragma mmap_size = 0", nullptr);
     run("pragma cell_size_check = on", nullptr);
-    if (hasWal_) {
+    if (hasWal_ && sharing == Sharing::Alone) {
         // Alone with the log, SQLite needs no shared memory that others could have prepared.
         run("pragma locking_mode = exclusive", nullptr);
     }
@@ -190,7 +190,7 @@ void requireSound(const std::string& path)
     Database database(path, seconds);
     const Database::Schema schema = database.schema();
     if (schema.tables < static_cast<int>(TillSchema::tables.size())) {
-        throw DatabaseError(Sentences::lacksTables);
+        throw DatabaseError(Sentences::lacksTables, SQLITE_CORRUPT);
     }
     if (!schema.isOnlyOwn) {
         throw DatabaseError(Sentences::foreignContent);

@@ -17,13 +17,18 @@ class DatabaseError : public std::exception
 public:
     /// \a code is SQLite's.
     explicit DatabaseError(int code);
-    /// A database that SQLite is not even asked about.
-    explicit DatabaseError(const Sentence& reason);
+    /// What SQLite does not object to, but the launcher does.
+    explicit DatabaseError(const Sentence& reason, int code = SQLITE_AUTH);
 
-    /// SQLite's code without its details; SQLITE_AUTH for what the launcher refuses.
+    /// SQLite's code without its details; SQLITE_AUTH for what is not the till's.
     int code() const
     {
         return code_;
+    }
+    /// Whether the file itself is to blame, and not the disk, a lock or the time.
+    bool isAboutContent() const
+    {
+        return code_ == SQLITE_CORRUPT || code_ == SQLITE_NOTADB || code_ == SQLITE_AUTH;
     }
     /// Why, in a shopkeeper's words.
     const Words& reason() const
@@ -58,8 +63,15 @@ public:
         }
     };
 
+    /// Who else may use the database meanwhile.
+    enum class Sharing
+    {
+        Alone,
+        WithTill
+    };
+
     /// Opens the existing file \a path for at most \a seconds. Throws DatabaseError.
-    Database(const std::string& path, double seconds);
+    Database(const std::string& path, double seconds, Sharing sharing = Sharing::Alone);
 
     /// Reads what the database consists of; a change that was cut off is undone first. Has to come
     /// before anything else. Throws DatabaseError.

@@ -73,6 +73,11 @@ public:
     /// Takes over the times of \a original.
     void setTimes(const struct stat& original);
     void sync();
+    /// Whether it still has its first name.
+    bool isThere() const
+    {
+        return isThere_;
+    }
     /// Gives the synced file its name \a name in the same folder, and syncs that.
     void become(const char* name, Existing existing);
 

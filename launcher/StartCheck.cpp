@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "launcher/StartCheck.h"
+
+#include "launcher/Copies.h"
+#include "launcher/DataFolder.h"
+#include "launcher/Database.h"
+#include "launcher/Refusal.h"
+#include "launcher/SafeFile.h"
+#include "launcher/SecondPlace.h"
+#include "launcher/Speech.h"
+#include "launcher/TillSchema.h"
+
+#include <system_error>
+
+#include <fcntl.h>
+
+namespace StartCheck {
+namespace {
+constexpr const char* databaseName = "Vendel.db";
+
+Refusal unusable(const DataFolder& folder, const Words& reason)
+{
+    return Refusal({Sentences::databaseUnusable, {folder.path(), reason}});
+}
+
+enum class Verdict
+{
+    Usable,
+    Unfinished
+};
+
+/// What the database in \a folder is; throws what is wrong with it.
+Verdict judge()
+{
+    constexpr double seconds = 20;
+    Database database(databaseName, seconds);
+    const Database::Schema schema = database.schema();
+    const bool hasAllTables = schema.tables == static_cast<int>(TillSchema::tables.size());
+    if (!schema.isOnlyOwn) {
+        throw DatabaseError(
+            hasAllTables ? Sentences::foreignContent : Sentences::lacksTables);
+    }
+    if (!database.hasRows()) {
+        return Verdict::Unfinished;
+    }
+    if (!hasAllTables) {
+        throw DatabaseError(Sentences::lacksTables);
+    }
+    database.endWal();
+    return Verdict::Usable;
+}
+
+void setAside(const DataFolder& folder, const Speech& speech)
+{
+    std::string name;
+    try {
+        const CopyShelf shelf = Copies(folder.get()).shelf();
+        name = Copies::freeStem(shelf.get(), "inachevee", now()) + ".db";
+        SafeFile::moveNew(folder.get(), databaseName, shelf.get(), name.c_str());
+    } catch (const std::system_error&) {
+        throw folder.unusable(Sentences::notMoved);
+    }
+    speech.note({Sentences::setAside, {folder.path() + "/copies/" + name}});
+}
+
+bool isDamage(const DatabaseError& error)
+{
+    return error.code() == SQLITE_CORRUPT || error.code() == SQLITE_NOTADB;
+}
+} // namespace
+
+void database(const DataFolder& folder, const Speech& speech)
+{
+    if (!SafeFile::exists(folder.get(), databaseName)) {
+        return;
+    }
+    struct stat found{};
+    if (fstatat(folder.get(), databaseName, &found, 0) != 0 || !S_ISREG(found.st_mode)) {
+        throw unusable(folder, Sentences::notFile);
+    }
+    if (faccessat(folder.get(), databaseName, R_OK | W_OK, AT_EACCESS) != 0) {
+        throw unusable(folder, Sentences::notAccessible);
+    }
+    try {
+        if (judge() == Verdict::Unfinished) {
+            setAside(folder, speech);
+        }
+    } catch (const DatabaseError& error) {
+        throw unusable(folder, error.reason());
+    }
+}
+
+void copy(const DataFolder& folder, const Speech& speech)
+{
+    const Moment moment = now();
+    const Copies copies(folder.get());
+    if (!copies.isDueAtStart(moment)) {
+        return;
+    }
+    const Words notMade(Sentences::noDailyCopy, {folder.path()});
+    try {
+        copies.make(moment, Backup::Pace::Full);
+    } catch (const DatabaseError& error) {
+        if (isDamage(error)) {
+            throw unusable(folder, Sentences::damaged);
+        }
+        speech.warn(notMade);
+    } catch (const std::system_error&) {
+        speech.warn(notMade);
+    }
+}
+
+void secondPlace(const DataFolder& folder, const Speech& speech)
+{
+    const SecondPlace place(folder.get());
+    if (place.isLongAway(now())) {
+        speech.warn({Sentences::notReachedFor, {place.path(), place.lastReached()}});
+    }
+}
+} // namespace StartCheck
