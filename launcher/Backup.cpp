@@ -73,8 +73,8 @@ void copy(const std::string& source, const std::string& target, Pace pace)
         if (!copying) {
             throw DatabaseError(sqlite3_extended_errcode(to.get()));
         }
-        const int code
-            = pace == Pace::Full ? sqlite3_backup_step(copying.get(), -1) : copyGently(copying.get());
+        const int code = pace == Pace::Full ? sqlite3_backup_step(copying.get(), -1)
+                                            : copyGently(copying.get());
         if (code != SQLITE_DONE) {
             throw DatabaseError(code);
         }

@@ -21,8 +21,7 @@ Moment now()
     std::tm local{};
     localtime_r(&seconds, &local);
     std::array<char, 32> text{};
-    const std::size_t size
-        = std::strftime(text.data(), text.size(), "%Y-%m-%d%H%M%S", &local);
+    const std::size_t size = std::strftime(text.data(), text.size(), "%Y-%m-%d%H%M%S", &local);
     const std::string all(text.data(), size);
     constexpr std::size_t time = 6;
     return {all.substr(0, size - time), all.substr(size - time)};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/Copies.h"
 
+#include "launcher/Journals.h"
 #include "launcher/SafeFile.h"
 
 #include <algorithm>
@@ -15,8 +16,7 @@ constexpr const char* copiesName = "copies";
 
 Copies::Copies(int folder)
     : folder_(folder)
-{
-}
+{ }
 
 bool Copies::isChanged() const
 {
@@ -45,6 +45,9 @@ void Copies::make(const Moment& moment, Backup::Pace pace) const
     CopyShelf copies = shelf();
     // A change during the copy makes the next one due.
     const std::string copied = fingerprint();
+    for (const char* suffix : Journals::suffixes) {
+        SafeFile::remove(copies.get(), (std::string(CopyShelf::partName) + suffix).c_str());
+    }
     SafeFile::Temporary part(copies.get(), CopyShelf::partName);
     Backup::copy(database, std::string(copiesName) + '/' + CopyShelf::partName, pace);
     const std::string name = copies.freeName(moment);
@@ -87,7 +90,8 @@ std::string Copies::fingerprint() const
 {
     constexpr off_t changeCounter = 24;
     std::array<unsigned char, 4> counter{};
-    struct stat found{};
+    struct stat found
+    { };
     const Descriptor file(openat(folder_, database, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file || fstat(file.get(), &found) != 0 || !S_ISREG(found.st_mode)
         || pread(file.get(), counter.data(), counter.size(), changeCounter) < 0) {

@@ -27,8 +27,8 @@ public:
     /// The dated copies, oldest first.
     std::vector<CopyShelf::Entry> entries() const;
 
-    /// A name in the folder of copies that is still free, of a database that was taken out of use at
-    /// \a moment: "Vendel-KIND-DAY-TIME", which ".db" and ".journal" are then added to.
+    /// A name in the folder of copies that is still free, of a database that was taken out of use
+    /// at \a moment: "Vendel-KIND-DAY-TIME", which ".db" and ".journal" are then added to.
     static std::string freeStem(int shelf, const std::string& kind, const Moment& moment);
 
 private:

@@ -5,6 +5,7 @@
 #include "launcher/Speech.h"
 
 #include <algorithm>
+#include <clocale>
 #include <iomanip>
 #include <iostream>
 #include <sstream>
@@ -42,10 +43,10 @@ std::string nameIn(std::string_view file)
 /// \a name with its size, when it is a file and no link.
 void append(std::vector<Item>& items, int shelf, const std::string& name)
 {
-    struct stat found{};
+    struct stat found
+    { };
     const std::string file = std::string(prefix) + name + std::string(suffix);
-    if (fstatat(shelf, file.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0
-        && S_ISREG(found.st_mode)) {
+    if (fstatat(shelf, file.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(found.st_mode)) {
         items.push_back({name, readableSize(static_cast<unsigned long long>(found.st_size))});
     }
 }
@@ -133,9 +134,9 @@ std::string readableSize(unsigned long long bytes)
     }
     const unsigned long long whole = (bytes + divisor - 1) / divisor;
     const unsigned long long tenths = (bytes * 10 + divisor - 1) / divisor;
-    std::string size = tenths < 100
-        ? std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10)
-        : std::to_string(whole);
+    std::string size = tenths < 100 ? std::to_string(tenths / 10) + std::localeconv()->decimal_point
+            + std::to_string(tenths % 10)
+                                    : std::to_string(whole);
     return size + units[unit];
 }
 

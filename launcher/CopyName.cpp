@@ -66,8 +66,7 @@ std::optional<CopyName> CopyName::parse(const std::string& file)
     }
     rest.remove_prefix(prefix.size());
     rest.remove_suffix(suffix.size());
-    CopyName name{
-        std::string(rest), std::string(rest.substr(0, dayLength)), minutesOfADay - 1, 0};
+    CopyName name{std::string(rest), std::string(rest.substr(0, dayLength)), minutesOfADay - 1, 0};
     rest.remove_prefix(dayLength);
     if (!matches(name.day, "0000-00-00")) {
         return std::nullopt;

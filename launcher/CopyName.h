@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-/// The name of a dated copy: "Vendel-2026-03-05.db" for a day's first, "Vendel-2026-03-05-1407.db" for
-/// a later one, "Vendel-2026-03-05-1407-2.db" where that name is taken.
+/// The name of a dated copy: "Vendel-2026-03-05.db" for a day's first, "Vendel-2026-03-05-1407.db"
+/// for a later one, "Vendel-2026-03-05-1407-2.db" where that name is taken.
 struct CopyName
 {
     /// The name without "Vendel-" and ".db".
@@ -34,7 +34,7 @@ bool isEarlierByName(const CopyName& one, const CopyName& other);
 /// The names that a copy made at \a moment may have, the \a count th of them, from 0 on.
 std::string copyFile(const Moment& moment, long count);
 
-/// Those of \a copies, which are in the order of making, that need not be kept: the last copy of each
-/// of 30 days, the last of each hour of 48 hours and the ten newest are kept. Names only group
+/// Those of \a copies, which are in the order of making, that need not be kept: the last copy of
+/// each of 30 days, the last of each hour of 48 hours and the ten newest are kept. Names only group
 /// copies: where they contradict the order, the clock was wrong, and the order counts.
 std::vector<CopyName> superfluous(const std::vector<CopyName>& copies);

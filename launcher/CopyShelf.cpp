@@ -34,8 +34,7 @@ std::unordered_map<std::string, Known> readRegister(int folder)
 
 CopyShelf::CopyShelf(Descriptor folder)
     : folder_(std::move(folder))
-{
-}
+{ }
 
 std::vector<CopyShelf::Entry> CopyShelf::entries() const
 {

@@ -22,8 +22,8 @@ public:
     /// The shelf in \a folder.
     explicit CopyShelf(Descriptor folder);
 
-    /// All dated copies, oldest first. Those that the register does not know come before all that it
-    /// does, in the order of their names.
+    /// All dated copies, oldest first. Those that the register does not know come before all that
+    /// it does, in the order of their names.
     std::vector<Entry> entries() const;
 
     /// A name that no file has, for a copy made at \a moment.

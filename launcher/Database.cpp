@@ -72,14 +72,12 @@ void harden(sqlite3* connection)
 DatabaseError::DatabaseError(int code)
     : code_(code & primaryCode)
     , reason_(reasonOf(code))
-{
-}
+{ }
 
 DatabaseError::DatabaseError(const Sentence& reason, int code)
     : code_(code)
     , reason_(reason)
-{
-}
+{ }
 
 Database::Database(const std::string& path, double seconds, Sharing sharing)
     : deadline_(std::make_unique<double>(steadySeconds() + seconds))
@@ -156,8 +154,7 @@ bool Database::isIntact()
 {
     bool isOk = false;
     try {
-        run("pragma integrity_check(1)",
-            [&](sqlite3_stmt* row) { isOk = text(row, 0) == "ok"; });
+        run("pragma integrity_check(1)", [&](sqlite3_stmt* row) { isOk = text(row, 0) == "ok"; });
     } catch (const DatabaseError& error) {
         if (error.code() != SQLITE_CORRUPT) {
             throw;
@@ -182,6 +179,12 @@ void Database::endWal()
             throw DatabaseError(SQLITE_BUSY);
         }
     });
+}
+
+void Database::requireAlone()
+{
+    run("begin exclusive", nullptr);
+    run("rollback", nullptr);
 }
 
 void requireSound(const std::string& path)

@@ -88,6 +88,9 @@ public:
     /// till does.
     void endWal();
 
+    /// Fails when another program is using the database.
+    void requireAlone();
+
     /// SQLite's handle, for what has functions of its own.
     sqlite3* get() const
     {

@@ -13,12 +13,10 @@ public:
     /// Owns \a number; a negative one is none.
     explicit Descriptor(int number)
         : number_(number)
-    {
-    }
+    { }
     Descriptor(Descriptor&& other) noexcept
         : number_(std::exchange(other.number_, -1))
-    {
-    }
+    { }
     Descriptor& operator=(Descriptor&& other) noexcept
     {
         std::swap(number_, other.number_);

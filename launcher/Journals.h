@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
-/// The files that SQLite keeps beside a database. It acts on what it finds there before it can be asked
-/// anything, so they are looked at as files first.
+/// The files that SQLite keeps beside a database. It acts on what it finds there before it can be
+/// asked anything, so they are looked at as files first.
 namespace Journals {
 inline constexpr std::array<const char*, 3> suffixes{"-journal", "-wal", "-shm"};
 

@@ -8,8 +8,7 @@ class Arguments
 public:
     explicit Arguments(const std::vector<std::string>& all)
         : all_(all)
-    {
-    }
+    { }
 
     const std::string* next()
     {

@@ -19,7 +19,8 @@ Descriptor fileOf(const std::string& bytes)
 {
     Descriptor file(memfd_create("input", MFD_CLOEXEC));
     if (file
-        && pwrite(file.get(), bytes.data(), bytes.size(), 0) != static_cast<ssize_t>(bytes.size())) {
+        && pwrite(file.get(), bytes.data(), bytes.size(), 0)
+            != static_cast<ssize_t>(bytes.size())) {
         file.reset();
     }
     return file;

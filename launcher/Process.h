@@ -6,8 +6,8 @@
 
 /// Other programs. None of them inherits a descriptor of the launcher but the standard ones.
 namespace Process {
-/// Runs \a command with \a input until it ends; what it wrote on standard output, empty when it failed.
-/// What it says on standard error is nobody's.
+/// Runs \a command with \a input until it ends; what it wrote on standard output, empty when it
+/// failed. What it says on standard error is nobody's.
 std::string filter(const std::vector<std::string>& command, const std::string& input);
 
 /// Replaces this process with \a command. Returns only when that is not possible.

@@ -12,8 +12,7 @@ public:
     explicit Refusal(Words words, int status = 1)
         : words_(std::move(words))
         , status_(status)
-    {
-    }
+    { }
 
     const Words& words() const
     {

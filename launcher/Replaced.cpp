@@ -76,16 +76,17 @@ Replaced::Replaced(const Target& target, int shelf)
             SafeFile::sync(shelf_);
         }
     } catch (const std::system_error&) {
-        if (!stays_) {
-            for (const std::string& file : kept_) {
-                SafeFile::remove(shelf_, file.c_str());
-            }
-        }
+        discard();
         throw;
     }
 }
 
 Replaced::~Replaced()
+{
+    discard();
+}
+
+void Replaced::discard() noexcept
 {
     if (!stays_) {
         for (const std::string& file : kept_) {
@@ -101,7 +102,8 @@ void Replaced::keep(const std::string& file, const std::string& name)
         return;
     }
     const Descriptor source = SafeFile::openRegular(folder, file.c_str(), O_RDONLY);
-    struct stat original{};
+    struct stat original
+    { };
     if (!source || fstat(source.get(), &original) != 0) {
         SafeFile::fail(file.c_str());
     }
@@ -116,9 +118,7 @@ void Replaced::keep(const std::string& file, const std::string& name)
 void Replaced::settle()
 {
     const int folder = target_.folder.get();
-    const bool needsRollBack = Journals::hasWal(target_.path())
-        || SafeFile::exists(folder, (target_.base + "-journal").c_str());
-    if (isFile_ && needsRollBack && !rollBack()) {
+    if (isFile_ && !rollBack()) {
         // The old file is no database without its journal, nor with it: both are kept.
         stays_ = true;
     }
@@ -151,6 +151,7 @@ bool Replaced::rollBack() const
         Database database(target_.path(), seconds);
         database.schema();
         database.endWal();
+        database.requireAlone();
     } catch (const DatabaseError& error) {
         if (!error.isAboutContent()) {
             throw;

@@ -24,8 +24,8 @@ struct Target
     Descriptor folder;
 };
 
-/// The database that a copy replaces, kept among the copies byte for byte, whatever it is. Unless it is
-/// told to stay, what was kept is removed again.
+/// The database that a copy replaces, kept among the copies byte for byte, whatever it is. Unless
+/// it is told to stay, what was kept is removed again.
 class Replaced
 {
 public:
@@ -37,8 +37,8 @@ public:
     Replaced& operator=(Replaced&&) = delete;
     ~Replaced();
 
-    /// Leaves no journal at the target that would be applied to the file that takes its place. Throws
-    /// DatabaseError or std::system_error, and then the old database still has its journal.
+    /// Leaves no journal at the target that would be applied to the file that takes its place.
+    /// Throws DatabaseError or std::system_error, and then the old database still has its journal.
     void settle();
     void stay()
     {
@@ -53,6 +53,7 @@ public:
 
 private:
     void keep(const std::string& file, const std::string& name);
+    void discard() noexcept;
     bool rollBack() const;
 
     const Target& target_;

@@ -2,8 +2,8 @@
 #include "launcher/Restore.h"
 
 #include "launcher/CopyChoice.h"
-#include "launcher/DataFolder.h"
 #include "launcher/Database.h"
+#include "launcher/DataFolder.h"
 #include "launcher/Journals.h"
 #include "launcher/Refusal.h"
 #include "launcher/Replaced.h"
@@ -26,12 +26,10 @@ public:
         : target_(target)
         , name_(std::move(name))
         , base_(target.base + ".neuf")
-        , isReady_(removeJournals())
         , part_(target.folder.get(), base_)
     {
         const std::string stem = "Vendel-" + name_;
-        const Descriptor source
-            = SafeFile::openRegular(shelf, (stem + ".db").c_str(), O_RDONLY);
+        const Descriptor source = SafeFile::openRegular(shelf, (stem + ".db").c_str(), O_RDONLY);
         if (!source || fstat(source.get(), &original_) != 0) {
             SafeFile::fail(stem.c_str());
         }
@@ -48,7 +46,17 @@ public:
     Newcomer& operator=(Newcomer&&) = delete;
     ~Newcomer()
     {
-        removeJournals();
+        removeJournals(target_);
+    }
+
+    /// Removes what an earlier try may have left for SQLite beside the copy; false when it stays.
+    static bool removeJournals(const Target& target)
+    {
+        return std::all_of(
+            Journals::suffixes.begin(), Journals::suffixes.end(), [&](const char* suffix) {
+                return SafeFile::remove(
+                    target.folder.get(), (target.base + ".neuf" + suffix).c_str());
+            });
     }
 
     void check()
@@ -67,13 +75,6 @@ public:
     }
 
 private:
-    bool removeJournals() const
-    {
-        return std::all_of(
-            Journals::suffixes.begin(), Journals::suffixes.end(), [&](const char* suffix) {
-                return SafeFile::remove(target_.folder.get(), (base_ + suffix).c_str());
-            });
-    }
     void bringJournal(int shelf, const std::string& kept, const char* suffix) const
     {
         if (const Descriptor source = SafeFile::openRegular(shelf, kept.c_str(), O_RDONLY)) {
@@ -86,9 +87,9 @@ private:
     const Target& target_;
     std::string name_;
     std::string base_;
-    bool isReady_;
     SafeFile::Temporary part_;
-    struct stat original_{};
+    struct stat original_
+    { };
 };
 
 Target findTarget(const DataFolder& folder)
@@ -119,6 +120,9 @@ std::unique_ptr<Newcomer> bring(
     const DataFolder& folder, const Target& target, const std::string& name, int shelf)
 {
     try {
+        if (!Newcomer::removeJournals(target)) {
+            SafeFile::fail("journal");
+        }
         auto copy = std::make_unique<Newcomer>(target, name, shelf);
         copy->check();
         return copy;

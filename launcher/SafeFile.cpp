@@ -44,7 +44,8 @@ Descriptor openRegular(int folder, const char* name, int flags)
 {
     constexpr int safely = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     Descriptor opened(openat(folder, name, flags | safely, userOnly));
-    struct stat found{};
+    struct stat found
+    { };
     if (opened && (fstat(opened.get(), &found) != 0 || !S_ISREG(found.st_mode))) {
         opened.reset();
         errno = EINVAL;
@@ -61,8 +62,8 @@ std::optional<std::string> read(int folder, const char* name, std::size_t limit)
     std::string bytes(limit + 1, '\0');
     std::size_t size = 0;
     ssize_t got = 0;
-    while (size <= limit
-        && (got = ::read(file.get(), bytes.data() + size, bytes.size() - size)) > 0) {
+    while (
+        size <= limit && (got = ::read(file.get(), bytes.data() + size, bytes.size() - size)) > 0) {
         size += static_cast<std::size_t>(got);
     }
     if (got < 0 || size > limit) {
@@ -74,13 +75,15 @@ std::optional<std::string> read(int folder, const char* name, std::size_t limit)
 
 bool exists(int folder, const char* name)
 {
-    struct stat found{};
+    struct stat found
+    { };
     return fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
 bool isRegular(int folder, const char* name)
 {
-    struct stat found{};
+    struct stat found
+    { };
     return fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(found.st_mode);
 }
 

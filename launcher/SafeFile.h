@@ -10,9 +10,9 @@
 
 #include <sys/stat.h>
 
-/// Files in a folder that somebody else may have put things into: no link is followed, no FIFO waited
-/// for, and a name has either its old file or the whole new one. Folders are descriptors, failures
-/// are std::system_error.
+/// Files in a folder that somebody else may have put things into: no link is followed, no FIFO
+/// waited for, and a name has either its old file or the whole new one. Folders are descriptors,
+/// failures are std::system_error.
 namespace SafeFile {
 /// Throws errno, which \a what caused.
 [[noreturn]] void fail(const char* what);

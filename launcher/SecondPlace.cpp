@@ -4,7 +4,6 @@
 #include "launcher/Copies.h"
 #include "launcher/SafeFile.h"
 
-
 #include <fcntl.h>
 
 namespace {
@@ -21,8 +20,7 @@ void forgetFile(int folder, const char* name)
 
 SecondPlace::SecondPlace(int folder)
     : folder_(folder)
-{
-}
+{ }
 
 void SecondPlace::remember(const std::string& path, const Moment& moment) const
 {

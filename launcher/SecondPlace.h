@@ -7,7 +7,8 @@
 
 class Copies;
 
-/// A folder, such as a stick or a share, that each copy goes to as well. It may be away at any time.
+/// A folder, such as a stick or a share, that each copy goes to as well. It may be away at any
+/// time.
 class SecondPlace
 {
 public:

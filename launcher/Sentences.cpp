@@ -20,28 +20,24 @@ template <class Text> std::string filled(std::string_view pattern, Text&& text)
 
 Words::Words(const char* same)
     : Words(std::string(same))
-{
-}
+{ }
 
 Words::Words(std::string same)
     : french(same)
     , english(std::move(same))
-{
-}
+{ }
 
 Words::Words(const Sentence& sentence)
     : french(sentence.french)
     , english(sentence.english)
-{
-}
+{ }
 
 Words::Words(const Sentence& sentence, std::initializer_list<Words> inserted)
-    : french(filled(sentence.french,
-        [&](std::size_t number) { return std::data(inserted)[number].french; }))
+    : french(filled(
+        sentence.french, [&](std::size_t number) { return std::data(inserted)[number].french; }))
     , english(filled(sentence.english,
           [&](std::size_t number) { return std::data(inserted)[number].english; }))
-{
-}
+{ }
 
 const std::string& say(Language language, const Words& words)
 {

@@ -47,7 +47,8 @@ void provide(const DataFolder& folder, const std::string& name, const std::strin
 
 bool isLink(int folder, const char* name)
 {
-    struct stat found{};
+    struct stat found
+    { };
     return fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(found.st_mode);
 }
 

@@ -19,8 +19,7 @@ bool isSet(const char* variable)
 Speech::Speech(Language language, std::string dialogue)
     : language_(language)
     , dialogue_(std::move(dialogue))
-{
-}
+{ }
 
 void Speech::error(const Words& words) const
 {
@@ -54,8 +53,7 @@ bool Speech::hasBoxes() const
 
 std::string Speech::choose(const Words& question, const std::string& lines) const
 {
-    std::string chosen
-        = Process::filter(command({"--copies", say(language_, question)}), lines);
+    std::string chosen = Process::filter(command({"--copies", say(language_, question)}), lines);
     chosen.resize(std::min(chosen.find('\n'), chosen.size()));
     return chosen;
 }

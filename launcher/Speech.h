@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-/// How the launcher speaks to the shopkeeper: on standard error, and in boxes where there is a display.
+/// How the launcher speaks to the shopkeeper: on standard error, and in boxes where there is a
+/// display.
 class Speech
 {
 public:

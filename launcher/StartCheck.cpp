@@ -2,8 +2,8 @@
 #include "launcher/StartCheck.h"
 
 #include "launcher/Copies.h"
-#include "launcher/DataFolder.h"
 #include "launcher/Database.h"
+#include "launcher/DataFolder.h"
 #include "launcher/Refusal.h"
 #include "launcher/SafeFile.h"
 #include "launcher/SecondPlace.h"
@@ -37,8 +37,7 @@ Verdict judge()
     const Database::Schema schema = database.schema();
     const bool hasAllTables = schema.tables == static_cast<int>(TillSchema::tables.size());
     if (!schema.isOnlyOwn) {
-        throw DatabaseError(
-            hasAllTables ? Sentences::foreignContent : Sentences::lacksTables);
+        throw DatabaseError(hasAllTables ? Sentences::foreignContent : Sentences::lacksTables);
     }
     if (!database.hasRows()) {
         return Verdict::Unfinished;
@@ -71,10 +70,15 @@ bool isDamage(const DatabaseError& error)
 
 void database(const DataFolder& folder, const Speech& speech)
 {
+    // What a restoration that was cut off may have left.
+    for (const char* left : {"", "-journal", "-wal", "-shm"}) {
+        SafeFile::remove(folder.get(), (std::string(databaseName) + ".neuf" + left).c_str());
+    }
     if (!SafeFile::exists(folder.get(), databaseName)) {
         return;
     }
-    struct stat found{};
+    struct stat found
+    { };
     if (fstatat(folder.get(), databaseName, &found, 0) != 0 || !S_ISREG(found.st_mode)) {
         throw unusable(folder, Sentences::notFile);
     }
@@ -90,16 +94,17 @@ void database(const DataFolder& folder, const Speech& speech)
     }
 }
 
-void copy(const DataFolder& folder, const Speech& speech)
+bool copy(const DataFolder& folder, const Speech& speech)
 {
     const Moment moment = now();
     const Copies copies(folder.get());
     if (!copies.isDueAtStart(moment)) {
-        return;
+        return true;
     }
     const Words notMade(Sentences::noDailyCopy, {folder.path()});
     try {
         copies.make(moment, Backup::Pace::Full);
+        return true;
     } catch (const DatabaseError& error) {
         if (isDamage(error)) {
             throw unusable(folder, Sentences::damaged);
@@ -108,6 +113,7 @@ void copy(const DataFolder& folder, const Speech& speech)
     } catch (const std::system_error&) {
         speech.warn(notMade);
     }
+    return false;
 }
 
 void secondPlace(const DataFolder& folder, const Speech& speech)

@@ -10,8 +10,9 @@ namespace StartCheck {
 /// not finish. Throws Refusal.
 void database(const DataFolder& folder, const Speech& speech);
 
-/// Makes a copy when one is due. Throws Refusal when that shows that the database is damaged.
-void copy(const DataFolder& folder, const Speech& speech);
+/// Makes a copy when one is due; says so and returns false when that fails. Throws Refusal when it
+/// shows that the database is damaged.
+bool copy(const DataFolder& folder, const Speech& speech);
 
 /// Says so when the second place of the copies has not been reached for long.
 void secondPlace(const DataFolder& folder, const Speech& speech);
