@@ -145,8 +145,8 @@ std::string ask(const std::vector<Item>& items, const Speech& speech)
     if (isatty(STDIN_FILENO) != 0) {
         return askOnTerminal(items, speech);
     }
-    if (speech.hasBoxes()) {
-        return speech.choose(Sentences::whichCopy, lines(items));
+    if (const auto chosen = speech.choose(Sentences::whichCopy, lines(items))) {
+        return *chosen;
     }
     std::cout << lines(items) << std::flush;
     return {};

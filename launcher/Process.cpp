@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -14,6 +15,8 @@
 
 namespace Process {
 namespace {
+constexpr int notRun = 127;
+
 /// A file without a name that holds \a bytes, to be read from its start.
 Descriptor fileOf(const std::string& bytes)
 {
@@ -42,13 +45,13 @@ std::string readAll(int file)
 }
 } // namespace
 
-std::string filter(const std::vector<std::string>& command, const std::string& input)
+Answer filter(const std::vector<std::string>& command, const std::string& input)
 {
     const Descriptor source = fileOf(input);
     const Descriptor nowhere(open("/dev/null", O_RDWR | O_CLOEXEC));
     std::array<int, 2> ends{};
     if (!source || !nowhere || pipe2(ends.data(), O_CLOEXEC) != 0) {
-        return {};
+        return {notRun, {}};
     }
     const Descriptor result(ends[0]);
     Descriptor written(ends[1]);
@@ -58,13 +61,13 @@ std::string filter(const std::vector<std::string>& command, const std::string& i
         dup2(written.get(), STDOUT_FILENO);
         dup2(nowhere.get(), STDERR_FILENO);
         become(command);
-        _exit(127);
+        _exit(notRun);
     }
     written.reset();
     std::string answer = readAll(result.get());
     int state = 0;
     while (child > 0 && waitpid(child, &state, 0) < 0 && errno == EINTR) { }
-    return child > 0 && state == 0 ? answer : std::string();
+    return {child > 0 ? exitStatus(state) : notRun, std::move(answer)};
 }
 
 void become(const std::vector<std::string>& command)

@@ -6,9 +6,15 @@
 
 /// Other programs. None of them inherits a descriptor of the launcher but the standard ones.
 namespace Process {
-/// Runs \a command with \a input until it ends; what it wrote on standard output, empty when it
-/// failed. What it says on standard error is nobody's.
-std::string filter(const std::vector<std::string>& command, const std::string& input);
+/// How a program ended, and what it wrote on standard output.
+struct Answer
+{
+    int status;
+    std::string output;
+};
+
+/// Runs \a command with \a input until it ends. What it says on standard error is nobody's.
+Answer filter(const std::vector<std::string>& command, const std::string& input);
 
 /// Replaces this process with \a command. Returns only when that is not possible.
 void become(const std::vector<std::string>& command);

@@ -51,11 +51,17 @@ bool Speech::hasBoxes() const
     return (isSet("DISPLAY") || isSet("WAYLAND_DISPLAY")) && access(dialogue_.c_str(), X_OK) == 0;
 }
 
-std::string Speech::choose(const Words& question, const std::string& lines) const
+std::optional<std::string> Speech::choose(const Words& question, const std::string& lines) const
 {
-    std::string chosen = Process::filter(command({"--copies", say(language_, question)}), lines);
-    chosen.resize(std::min(chosen.find('\n'), chosen.size()));
-    return chosen;
+    constexpr int closed = 1;
+    if (!hasBoxes()) {
+        return std::nullopt;
+    }
+    const auto answer = Process::filter(command({"--copies", say(language_, question)}), lines);
+    if (answer.status == 0) {
+        return answer.output.substr(0, answer.output.find('\n'));
+    }
+    return answer.status == closed ? std::optional<std::string>("") : std::nullopt;
 }
 
 void Speech::box(const char* kind, const std::string& text) const

@@ -3,6 +3,7 @@
 
 #include "launcher/Sentences.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,12 +29,12 @@ public:
     /// Says that something is done, on standard output and, away from a terminal, in a box.
     void done(const Words& words) const;
 
-    /// Whether a box can be shown.
-    bool hasBoxes() const;
-    /// The line of \a lines that is chosen in a box that asks \a question, empty for none.
-    std::string choose(const Words& question, const std::string& lines) const;
+    /// What is chosen of \a lines in a box that asks \a question, empty when it is closed; nothing
+    /// when there is no box.
+    std::optional<std::string> choose(const Words& question, const std::string& lines) const;
 
 private:
+    bool hasBoxes() const;
     void box(const char* kind, const std::string& text) const;
     std::vector<std::string> command(std::vector<std::string> arguments) const;
 

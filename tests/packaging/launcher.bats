@@ -66,7 +66,7 @@ setup() {
 }
 
 @test "a link to the launcher finds the till" {
-    ln -s "$launcher" "$BATS_TEST_TMPDIR/caisse"
+    ln -s "$installed" "$BATS_TEST_TMPDIR/caisse"
     "$BATS_TEST_TMPDIR/caisse"
     [ "$(head -n 1 "$TILL_LOG")" = "$data" ]
 }
@@ -82,7 +82,7 @@ setup() {
 
 @test "a till that was killed leaves no lock" {
     open_till
-    close_till
+    kill_till
     "$launcher"
     [ "$(grep -c arguments "$TILL_LOG")" -eq 2 ]
 }

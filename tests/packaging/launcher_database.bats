@@ -27,7 +27,7 @@ first_statements() {
 create table Article (id integer primary key autoincrement not null, article text collate nocase not null, prix numeric not null);
 create table ArticleStock (id integer primary key not null, article text collate nocase not null);
 create table Historique (id integer not null, article text collate nocase not null, prix numeric not null, date_heure text not null default(strftime('%Y-%m-%d %H:%M:%f','now','localtime')));
-create table DoseStock (idlig integer primary key not null, id integer not null, composition text collate nocase not null, dose numeric not null, unite text not null);
+create table DoseStock (idlig integer primary key not null, id integer not null, composition text collate nocase not null, dose numeric not null, unite text not null, constraint fk_dosestock foreign key (id) references ArticleStock (id) on delete cascade);
 create table Config (id integer primary key not null, param text collate nocase not null, valeur numeric not null);
 create table Ticket (idlig integer primary key not null, id integer not null, article text collate nocase not null, prix numeric not null);
 create index date_heure_index on Historique (date_heure);
@@ -197,11 +197,11 @@ SCHEMA
     hold_database
     local holder=$COPROC_PID
     (
-        until [ -e "$BATS_TEST_TMPDIR/asked" ]; do sleep 0.01; done
-        sleep 0.3
+        until grep -q Vendel.db <(readlink "/proc/$(pgrep -xf "$installed")"/fd/* 2>/dev/null); do
+            sleep 0.01
+        done
         kill -KILL "$holder"
     ) 3>&- &
-    stand_in sqlite3 "touch '$BATS_TEST_TMPDIR/asked'; exec $(command -v sqlite3) \"\$@\""
     run "$launcher"
     wait
     [ "$status" -eq 0 ]
