@@ -94,6 +94,9 @@ std::vector<Item> items(const Copies& copies)
         known.push_back(entry.name.stem);
     }
     const Descriptor shelf(open("copies", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!shelf) {
+        return {};
+    }
     for (const std::string& file : SafeFile::names(shelf.get())) {
         const std::string name = nameIn(file);
         if (!name.empty() && !CopyName::parse(file)) {

@@ -11,6 +11,15 @@ CopyWork::CopyWork(int folder)
     , place_(folder)
 { }
 
+bool CopyWork::isChanged() const noexcept
+{
+    try {
+        return copies_.isChanged();
+    } catch (const std::exception&) {
+        return true;
+    }
+}
+
 CopyWork::Result CopyWork::run(bool makesCopy, Backup::Pace pace) const noexcept
 {
     Result result = Result::Done;

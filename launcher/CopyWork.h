@@ -20,10 +20,8 @@ public:
     /// For the shop in the data folder \a folder.
     explicit CopyWork(int folder);
 
-    bool isChanged() const
-    {
-        return copies_.isChanged();
-    }
+    /// Whether a copy is due; also when nobody knows.
+    bool isChanged() const noexcept;
     bool hasSecondPlace() const
     {
         return !place_.path().empty();

@@ -15,6 +15,18 @@ namespace SafeFile {
 namespace {
 constexpr mode_t userOnly = 0600;
 
+/// What \a name is. A disk that does not answer is not taken for a missing file.
+bool look(int folder, const char* name, struct stat& found)
+{
+    if (fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) == 0) {
+        return true;
+    }
+    if (errno != ENOENT && errno != ENOTDIR) {
+        fail(name);
+    }
+    return false;
+}
+
 /// A rename that replaces nothing, for file systems that know no such rename.
 int moveWithoutFlag(int fromFolder, const char* from, int toFolder, const char* to)
 {
@@ -77,26 +89,31 @@ bool exists(int folder, const char* name)
 {
     struct stat found
     { };
-    return fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) == 0;
+    return look(folder, name, found);
 }
 
 bool isRegular(int folder, const char* name)
 {
     struct stat found
     { };
-    return fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(found.st_mode);
+    return look(folder, name, found) && S_ISREG(found.st_mode);
 }
 
 std::vector<std::string> names(int folder)
 {
-    Descriptor opened(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    const Handle<DIR, closedir> entries(opened ? fdopendir(opened.get()) : nullptr);
+    Descriptor opened = openFolder(folder, ".");
+    const Handle<DIR, closedir> entries(fdopendir(opened.get()));
+    if (!entries) {
+        fail("folder");
+    }
+    opened.release();
     std::vector<std::string> found;
-    if (entries) {
-        opened.release();
-        while (const dirent* entry = readdir(entries.get())) {
-            found.emplace_back(entry->d_name);
-        }
+    errno = 0;
+    while (const dirent* entry = readdir(entries.get())) {
+        found.emplace_back(entry->d_name);
+    }
+    if (errno != 0) {
+        fail("folder");
     }
     return found;
 }

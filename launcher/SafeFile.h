@@ -26,10 +26,10 @@ Descriptor openRegular(int folder, const char* name, int flags);
 /// The bytes of the regular file \a name, unless it is larger than \a limit or cannot be read.
 std::optional<std::string> read(int folder, const char* name, std::size_t limit);
 
-/// Whether \a name is anything at all, be it a link that leads nowhere.
+/// Whether \a name is anything at all, be it a link that leads nowhere. Throws when nobody knows.
 bool exists(int folder, const char* name);
 
-/// Whether \a name is a regular file and no link.
+/// Whether \a name is a regular file and no link. Throws when nobody knows.
 bool isRegular(int folder, const char* name);
 
 /// The names of all that is in \a folder, in no order.

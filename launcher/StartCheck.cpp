@@ -61,11 +61,6 @@ void setAside(const DataFolder& folder, const Speech& speech)
     }
     speech.note({Sentences::setAside, {folder.path() + "/copies/" + name}});
 }
-
-bool isDamage(const DatabaseError& error)
-{
-    return error.code() == SQLITE_CORRUPT || error.code() == SQLITE_NOTADB;
-}
 } // namespace
 
 void database(const DataFolder& folder, const Speech& speech)
@@ -98,15 +93,14 @@ bool copy(const DataFolder& folder, const Speech& speech)
 {
     const Moment moment = now();
     const Copies copies(folder.get());
-    if (!copies.isDueAtStart(moment)) {
-        return true;
-    }
     const Words notMade(Sentences::noDailyCopy, {folder.path()});
     try {
-        copies.make(moment, Backup::Pace::Full);
+        if (copies.isDueAtStart(moment)) {
+            copies.make(moment, Backup::Pace::Full);
+        }
         return true;
     } catch (const DatabaseError& error) {
-        if (isDamage(error)) {
+        if (error.isAboutContent()) {
             throw unusable(folder, Sentences::damaged);
         }
         speech.warn(notMade);

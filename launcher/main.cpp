@@ -90,12 +90,16 @@ int act(const Order& order, const std::string& data, const Places& places, const
     }
     DataFolder folder(data);
     folder.lock();
-    folder.close();
-    if (order.action == Action::Restore) {
+    try {
+        folder.close();
+        if (order.action == Action::Start) {
+            return start(order, folder, places, speech);
+        }
         Restore::run(folder, speech, order.copy);
         return 0;
+    } catch (const std::system_error& error) {
+        throw folder.unusable(error.code().message());
     }
-    return start(order, folder, places, speech);
 }
 
 /// What a program may count on, whoever starts it.
