@@ -68,17 +68,20 @@ Descriptor openRegular(int folder, const char* name, int flags)
 std::optional<std::string> read(int folder, const char* name, std::size_t limit)
 {
     const Descriptor file = openRegular(folder, name, O_RDONLY);
-    if (!file) {
+    struct stat found
+    { };
+    if (!file || fstat(file.get(), &found) != 0
+        || static_cast<std::size_t>(found.st_size) > limit) {
         return std::nullopt;
     }
-    std::string bytes(limit + 1, '\0');
+    std::string bytes(static_cast<std::size_t>(found.st_size), '\0');
     std::size_t size = 0;
     ssize_t got = 0;
-    while (
-        size <= limit && (got = ::read(file.get(), bytes.data() + size, bytes.size() - size)) > 0) {
+    while (size < bytes.size()
+        && (got = ::read(file.get(), bytes.data() + size, bytes.size() - size)) > 0) {
         size += static_cast<std::size_t>(got);
     }
-    if (got < 0 || size > limit) {
+    if (got < 0) {
         return std::nullopt;
     }
     bytes.resize(size);

@@ -52,7 +52,11 @@ bool TillOutput::pass()
     std::array<char, 65536> block{};
     const ssize_t size = read(end_.get(), block.data(), block.size());
     if (size <= 0) {
-        return size < 0 && (errno == EAGAIN || errno == EINTR);
+        const bool isLater = size < 0 && (errno == EAGAIN || errno == EINTR);
+        if (!isLater) {
+            lines_.flush();
+        }
+        return isLater;
     }
     const std::string_view bytes(block.data(), static_cast<std::size_t>(size));
     // What cannot be passed on is in the log.
