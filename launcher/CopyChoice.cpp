@@ -90,6 +90,7 @@ std::vector<Item> items(const Copies& copies)
     std::vector<std::string> known;
     std::vector<std::string> strangers;
     std::vector<std::string> old;
+    known.reserve(dated.size());
     for (const CopyShelf::Entry& entry : dated) {
         known.push_back(entry.name.stem);
     }

@@ -57,6 +57,10 @@ Answer filter(const std::vector<std::string>& command, const std::string& input)
     Descriptor written(ends[1]);
     const pid_t child = fork();
     if (child == 0) {
+        sigset_t none{};
+        sigemptyset(&none);
+        sigprocmask(SIG_SETMASK, &none, nullptr);
+        std::signal(SIGPIPE, SIG_DFL);
         dup2(source.get(), STDIN_FILENO);
         dup2(written.get(), STDOUT_FILENO);
         dup2(nowhere.get(), STDERR_FILENO);

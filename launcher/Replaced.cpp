@@ -49,7 +49,10 @@ Target::Target(const std::string& name)
             errno = ELOOP;
             SafeFile::fail(name.c_str());
         }
-        path = leadsTo.front() == '/' ? leadsTo : folderOf(path) + '/' + leadsTo;
+        if (leadsTo.front() != '/') {
+            leadsTo.insert(0, folderOf(path) + '/');
+        }
+        path = leadsTo;
     }
     folderPath = realFolder(path);
     base = path.substr(path.rfind('/') + 1);

@@ -129,8 +129,8 @@ inline constexpr Sentence whichCopy{
     "Quelle copie de la base remettre en place ?", "Which copy of the database shall be put back?"};
 inline constexpr Sentence noCopies{"Il n'y a aucune copie de la base dans « %1/copies ».",
     "There is no copy of the database in \"%1/copies\"."};
-inline constexpr Sentence noSuchCopy{"Il n'y a pas de copie « %1 » dans « %2/copies ».",
-    "There is no copy \"%1\" in \"%2/copies\"."};
+inline constexpr Sentence noSuchCopy{
+    "Il n'y a pas de copie « %1 » dans « %2/copies ».", R"(There is no copy "%1" in "%2/copies".)"};
 inline constexpr Sentence copyDamaged{
     "La copie « %1 » est endommagée ; la base n'a pas été changée.",
     "The copy \"%1\" is damaged; the database has not been changed."};

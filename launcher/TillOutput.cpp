@@ -19,8 +19,7 @@ Descriptor withoutWaiting(int descriptor)
 } // namespace
 
 TillOutput::TillOutput(Log& log, int onward)
-    : onward_(-1)
-    , lines_([&log](std::string_view line) { log.write(line); })
+    : lines_([&log](std::string_view line) { log.write(line); })
 {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) {

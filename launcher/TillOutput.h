@@ -28,6 +28,6 @@ private:
     Descriptor end_;
     Descriptor tillEnd_;
     Descriptor reopened_;
-    int onward_;
+    int onward_ = -1;
     Lines lines_;
 };

@@ -247,10 +247,10 @@ void Watch::copyEnded(int state)
         ? Words(Sentences::databaseUnusable, {folder_.path(), Sentences::damaged})
         : Words(Sentences::noDailyCopy, {folder_.path()});
     log_.write(say(speech_.language(), words));
-    if (isClosing_) {
+    // Nobody answers a box who is serving customers, or whose session ends.
+    if (isClosing_ && !isEnding_) {
         speech_.warn(words);
     } else {
-        // Nobody who is serving customers wants a box.
         speech_.note(words);
     }
 }

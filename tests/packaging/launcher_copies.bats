@@ -1,7 +1,7 @@
 #!/usr/bin/env bats
 # SPDX-License-Identifier: MIT
 # The launcher: a dated copy of the database at each day's first start.
-# shellcheck disable=SC2154
+# shellcheck disable=SC2154,SC2030,SC2031
 
 load support
 
@@ -145,4 +145,86 @@ Vendel-2026-03-05.db" ]
         "$BATS_TEST_TMPDIR/calls"
     [ "${lines[*]:0:3}" = 'file name folder' ]
     [ "${lines[-1]}" = till ]
+}
+
+# second_place: a folder that copies go to as well.
+second_place() {
+    stick=$BATS_TEST_TMPDIR/stick
+    mkdir "$stick"
+    run "$launcher" --copies-vers "$stick"
+    [ "$status" -eq 0 ]
+    [ "$output" = "Chaque copie ira aussi dans « $stick »." ]
+}
+
+@test "a copy goes to the second place too" {
+    second_place
+    "$launcher"
+    cmp "$data/copies/Vendel-2026-03-05.db" "$stick/Vendel-2026-03-05.db"
+}
+
+@test "a second place that is named from where one is is remembered from anywhere" {
+    mkdir "$BATS_TEST_TMPDIR/stick"
+    (cd "$BATS_TEST_TMPDIR" && "$launcher" --copies-vers stick)
+    [ "$(cat "$data/copies-vers")" = "$BATS_TEST_TMPDIR/stick" ]
+}
+
+@test "a second place can be changed while the till is open" {
+    open_till
+    second_place
+    close_till
+    [ -f "$stick/Vendel-2026-03-05.db" ]
+}
+
+@test "a second place can be forgotten" {
+    second_place
+    run "$launcher" --copies-vers -
+    [ "$status" -eq 0 ]
+    [ "$output" = "Les copies n'iront plus ailleurs." ]
+    "$launcher"
+    [ -z "$(ls -A "$stick")" ]
+}
+
+@test "a second place that is no folder is refused" {
+    touch "$BATS_TEST_TMPDIR/file"
+    for place in "$BATS_TEST_TMPDIR/nowhere" "$BATS_TEST_TMPDIR/file"; do
+        run "$launcher" --langue en --copies-vers "$place"
+        [ "$status" -eq 1 ]
+        [ "$output" = "The folder \"$place\" does not exist or cannot be written." ]
+    done
+    [ ! -e "$data/copies-vers" ]
+}
+
+@test "a second place that is away for a week is said at each start" {
+    second_place
+    "$launcher"
+    rmdir "$stick" 2>/dev/null || rm -r "$stick"
+    NOW='2026-03-11 09:00:00' run "$launcher"
+    [ -z "$output" ]
+    NOW='2026-03-12 09:00:00' run "$launcher"
+    [ "$status" -eq 0 ]
+    [ "$output" = "Aucune copie n'a atteint « $stick » depuis le 2026-03-05 : branchez-y le support, ou choisissez un autre dossier avec « vendel --copies-vers DOSSIER »." ]
+    mkdir "$stick"
+    NOW='2026-03-13 09:00:00' "$launcher"
+    NOW='2026-03-14 09:00:00' run "$launcher"
+    [ -z "$output" ]
+    [ -f "$stick/Vendel-2026-03-14.db" ]
+}
+
+@test "what was sold is copied when the till is closed" {
+    "$launcher"
+    TILL_DOES='sqlite3 Vendel.db "delete from Article"' "$launcher"
+    [ "$(sql "$data/copies/Vendel-2026-03-05-1407.db" 'select count(*) from Article')" = 0 ]
+    [ "$(sql "$data/copies/Vendel-2026-03-05.db" 'select count(*) > 0 from Article')" = 1 ]
+}
+
+@test "copies of the future do not push out todays" {
+    mkdir "$data/copies"
+    for day in $(seq -w 1 31); do
+        echo future >"$data/copies/Vendel-2099-01-$day.db"
+    done
+    "$launcher"
+    [ -f "$data/copies/Vendel-2026-03-05.db" ]
+    NOW='2026-03-06 09:00:00' "$launcher"
+    [ -f "$data/copies/Vendel-2026-03-05.db" ]
+    [ -f "$data/copies/Vendel-2026-03-06.db" ]
 }

@@ -55,13 +55,9 @@ calls() {
 
 # complete FOLDER: gives a kept database the journal that was kept with it, as a restoration does.
 complete() {
-    local kept=$1/vendel/copies/Vendel-remplacee-2*.db suffix
-    for suffix in journal wal; do
-        # The pattern must stay unquoted to match.
-        # shellcheck disable=SC2086
-        for journal in ${kept%.db}.$suffix; do
-            [ ! -e "$journal" ] || mv "$journal" "${journal%."$suffix"}.db-$suffix"
-        done
+    local journal
+    for journal in "$1"/vendel/copies/Vendel-remplacee-*.{journal,wal}; do
+        [ ! -e "$journal" ] || mv "$journal" "${journal%.*}.db-${journal##*.}"
     done
 }
 

@@ -109,8 +109,9 @@ damage() {
 # hold_database [STATEMENTS]: another program writes into the database until release_database.
 hold_database() {
     coproc sqlite3 -batch -init /dev/null "$data/Vendel.db"
-    printf '%s\n' 'pragma cache_size = 1;' 'begin exclusive;' "${1:-}" 'select 1;' >&"${COPROC[1]}"
-    read -r _ <&"${COPROC[0]}"
+    printf '%s\n' 'pragma cache_size = 1;' 'begin exclusive;' "${1:-}" "select 'held';" >&"${COPROC[1]}"
+    local said=
+    until [ "$said" = held ]; do read -r said <&"${COPROC[0]}"; done
 }
 
 release_database() {
