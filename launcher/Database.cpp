@@ -5,6 +5,7 @@
 #include "launcher/Journals.h"
 #include "launcher/TillSchema.h"
 
+#include <cstdlib>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -48,6 +49,13 @@ std::string_view text(sqlite3_stmt* statement, int column)
                             : std::string_view(reinterpret_cast<const char*>(found), size);
 }
 
+/// Where SQLite looks for the journals of \a name: beside the file that links lead to.
+std::string realPath(const std::string& name)
+{
+    const Handle<char, std::free> found(realpath(name.c_str(), nullptr));
+    return found ? found.get() : name;
+}
+
 /// Takes from what a database contains the means to act on its own.
 void harden(sqlite3* connection)
 {
@@ -79,10 +87,11 @@ DatabaseError::DatabaseError(const Sentence& reason, int code)
     , reason_(reason)
 { }
 
-Database::Database(const std::string& path, double seconds, Sharing sharing)
+Database::Database(const std::string& name, double seconds, Sharing sharing)
     : deadline_(std::make_unique<double>(steadySeconds() + seconds))
-    , hasWal_(Journals::hasWal(path))
 {
+    const std::string path = realPath(name);
+    hasWal_ = Journals::hasWal(path);
     if (!Journals::areSafe(path)) {
         throw DatabaseError(Sentences::foreignJournal);
     }

@@ -70,8 +70,8 @@ public:
         WithTill
     };
 
-    /// Opens the existing file \a path for at most \a seconds. Throws DatabaseError.
-    Database(const std::string& path, double seconds, Sharing sharing = Sharing::Alone);
+    /// Opens the existing file \a name for at most \a seconds. Throws DatabaseError.
+    Database(const std::string& name, double seconds, Sharing sharing = Sharing::Alone);
 
     /// Reads what the database consists of; a change that was cut off is undone first. Has to come
     /// before anything else. Throws DatabaseError.
@@ -104,7 +104,7 @@ private:
 
     std::unique_ptr<double> deadline_;
     Handle<sqlite3, sqlite3_close> connection_;
-    bool hasWal_;
+    bool hasWal_ = false;
 };
 
 /// Fails unless \a path is a sound database of the till, and leaves it with no journal. Throws

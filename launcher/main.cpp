@@ -17,6 +17,7 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 namespace {
 /// Where everything is, relative to this program, so that an installed tree can be moved.
@@ -105,7 +106,10 @@ int act(const Order& order, const std::string& data, const Places& places, const
 /// What a program may count on, whoever starts it.
 void prepare()
 {
+    constexpr mode_t othersMayNothing = 077;
     std::setlocale(LC_NUMERIC, "");
+    // The till's own files, too, are for its user alone.
+    umask(othersMayNothing);
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGCHLD, SIG_DFL);
     int descriptor = 0;

@@ -159,6 +159,17 @@ private slots:
         QVERIFY(QFile::exists(QString("Vendel.db-journal")));
     }
 
+    void theJournalsOfALinkAreWhereItLeads()
+    {
+        const ShopFolder shop;
+        QVERIFY(QDir().mkdir(QString("elsewhere")));
+        QVERIFY(QFile::rename(QString("Vendel.db"), QString("elsewhere/shop.db")));
+        QVERIFY(QFile::link(QString("elsewhere/shop.db"), QString("Vendel.db")));
+        QCOMPARE(ShopFolder::unsoundness("Vendel.db"), QString());
+        shop.write(QString("elsewhere/shop.db-journal"), superRecord("victim"));
+        QCOMPARE(ShopFolder::unsoundness("Vendel.db"), foreignJournal);
+    }
+
     void aJournalThatIsNoFileIsRefused_data()
     {
         QTest::addColumn<QByteArray>("name");
