@@ -90,8 +90,7 @@ std::string Copies::fingerprint() const
 {
     constexpr off_t changeCounter = 24;
     std::array<unsigned char, 4> counter{};
-    struct stat found
-    { };
+    SafeFile::Status found{};
     const Descriptor file(openat(folder_, database, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file || fstat(file.get(), &found) != 0 || !S_ISREG(found.st_mode)
         || pread(file.get(), counter.data(), counter.size(), changeCounter) < 0) {

@@ -43,8 +43,7 @@ std::string nameIn(std::string_view file)
 /// \a name with its size, when it is a file and no link.
 void append(std::vector<Item>& items, int shelf, const std::string& name)
 {
-    struct stat found
-    { };
+    SafeFile::Status found{};
     const std::string file = std::string(prefix) + name + std::string(suffix);
     if (fstatat(shelf, file.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(found.st_mode)) {
         items.push_back({name, readableSize(static_cast<unsigned long long>(found.st_size))});

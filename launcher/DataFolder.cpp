@@ -18,8 +18,7 @@ constexpr mode_t forUser = 0700;
 void closeFiles(int folder)
 {
     for (const std::string& name : SafeFile::names(folder)) {
-        struct stat found
-        { };
+        SafeFile::Status found{};
         if (fstatat(folder, name.c_str(), &found, AT_SYMLINK_NOFOLLOW) != 0
             || !S_ISREG(found.st_mode) || (found.st_mode & ~forUser & ALLPERMS) == 0) {
             continue;
@@ -58,8 +57,7 @@ DataFolder::DataFolder(std::string path)
     if (path_.empty()) {
         throw Refusal(Sentences::noHome);
     }
-    struct stat found
-    { };
+    SafeFile::Status found{};
     if (stat(path_.c_str(), &found) != 0) {
         make();
     }
@@ -109,8 +107,7 @@ void DataFolder::close()
     closeFiles(folder_.get());
     const Descriptor copies(
         openat(folder_.get(), "copies", O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    struct stat found
-    { };
+    SafeFile::Status found{};
     if (copies && fstat(copies.get(), &found) == 0) {
         fchmod(copies.get(), found.st_mode & forUser);
         closeFiles(copies.get());

@@ -36,8 +36,7 @@ void Log::write(std::string_view line)
 
 bool Log::open()
 {
-    struct stat found
-    { };
+    SafeFile::Status found{};
     file_ = SafeFile::openRegular(folder_, names[0], O_WRONLY | O_CREAT | O_APPEND);
     if (!file_ || fstat(file_.get(), &found) != 0) {
         file_.reset();

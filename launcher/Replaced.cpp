@@ -105,8 +105,7 @@ void Replaced::keep(const std::string& file, const std::string& name)
         return;
     }
     const Descriptor source = SafeFile::openRegular(folder, file.c_str(), O_RDONLY);
-    struct stat original
-    { };
+    SafeFile::Status original{};
     if (!source || fstat(source.get(), &original) != 0) {
         SafeFile::fail(file.c_str());
     }

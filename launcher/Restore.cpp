@@ -88,8 +88,7 @@ private:
     std::string name_;
     std::string base_;
     SafeFile::Temporary part_;
-    struct stat original_
-    { };
+    SafeFile::Status original_{};
 };
 
 Target findTarget(const DataFolder& folder)

@@ -16,7 +16,7 @@ namespace {
 constexpr mode_t userOnly = 0600;
 
 /// What \a name is. A disk that does not answer is not taken for a missing file.
-bool look(int folder, const char* name, struct stat& found)
+bool look(int folder, const char* name, Status& found)
 {
     if (fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) == 0) {
         return true;
@@ -56,8 +56,7 @@ Descriptor openRegular(int folder, const char* name, int flags)
 {
     constexpr int safely = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     Descriptor opened(openat(folder, name, flags | safely, userOnly));
-    struct stat found
-    { };
+    Status found{};
     if (opened && (fstat(opened.get(), &found) != 0 || !S_ISREG(found.st_mode))) {
         opened.reset();
         errno = EINVAL;
@@ -68,8 +67,7 @@ Descriptor openRegular(int folder, const char* name, int flags)
 std::optional<std::string> read(int folder, const char* name, std::size_t limit)
 {
     const Descriptor file = openRegular(folder, name, O_RDONLY);
-    struct stat found
-    { };
+    Status found{};
     if (!file || fstat(file.get(), &found) != 0
         || static_cast<std::size_t>(found.st_size) > limit) {
         return std::nullopt;
@@ -90,15 +88,13 @@ std::optional<std::string> read(int folder, const char* name, std::size_t limit)
 
 bool exists(int folder, const char* name)
 {
-    struct stat found
-    { };
+    Status found{};
     return look(folder, name, found);
 }
 
 bool isRegular(int folder, const char* name)
 {
-    struct stat found
-    { };
+    Status found{};
     return look(folder, name, found) && S_ISREG(found.st_mode);
 }
 
@@ -191,7 +187,7 @@ void Temporary::copyFrom(int source)
     }
 }
 
-void Temporary::setTimes(const struct stat& original)
+void Temporary::setTimes(const Status& original)
 {
     const std::array<timespec, 2> times{original.st_atim, original.st_mtim};
     if (futimens(file(), times.data()) != 0) {

@@ -14,6 +14,8 @@
 /// waited for, and a name has either its old file or the whole new one. Folders are descriptors,
 /// failures are std::system_error.
 namespace SafeFile {
+using Status = struct stat;
+
 /// Throws errno, which \a what caused.
 [[noreturn]] void fail(const char* what);
 
@@ -71,7 +73,7 @@ public:
     /// Appends what \a source has from its present place on.
     void copyFrom(int source);
     /// Takes over the times of \a original.
-    void setTimes(const struct stat& original);
+    void setTimes(const Status& original);
     void sync();
     /// Whether it still has its first name.
     bool isThere() const

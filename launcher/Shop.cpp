@@ -47,8 +47,7 @@ void provide(const DataFolder& folder, const std::string& name, const std::strin
 
 bool isLink(int folder, const char* name)
 {
-    struct stat found
-    { };
+    SafeFile::Status found{};
     return fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(found.st_mode);
 }
 

@@ -72,8 +72,7 @@ void database(const DataFolder& folder, const Speech& speech)
     if (!SafeFile::exists(folder.get(), databaseName)) {
         return;
     }
-    struct stat found
-    { };
+    SafeFile::Status found{};
     if (fstatat(folder.get(), databaseName, &found, 0) != 0 || !S_ISREG(found.st_mode)) {
         throw unusable(folder, Sentences::notFile);
     }

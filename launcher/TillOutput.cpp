@@ -29,8 +29,7 @@ TillOutput::TillOutput(Log& log, int onward)
     tillEnd_ = Descriptor(ends[1]);
     fcntl(end_.get(), F_SETFL, O_NONBLOCK);
 
-    struct stat found
-    { };
+    SafeFile::Status found{};
     if (fstat(onward, &found) == 0) {
         if (S_ISREG(found.st_mode)) {
             onward_ = onward;

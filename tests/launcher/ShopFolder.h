@@ -4,6 +4,7 @@
 #include "launcher/Database.h"
 #include "launcher/Descriptor.h"
 #include "launcher/Refusal.h"
+#include "launcher/SafeFile.h"
 #include "tests/support/Shop.h"
 
 #include <QDir>
@@ -52,8 +53,7 @@ public:
     }
     static mode_t mode(const char* file)
     {
-        struct stat found
-        { };
+        SafeFile::Status found{};
         return stat(file, &found) == 0 ? found.st_mode & ALLPERMS : 0;
     }
 
