@@ -11,6 +11,7 @@
 #include "launcher/Speech.h"
 
 #include <algorithm>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -77,11 +78,17 @@ public:
 private:
     void bringJournal(int shelf, const std::string& kept, const char* suffix) const
     {
-        if (const Descriptor source = SafeFile::openRegular(shelf, kept.c_str(), O_RDONLY)) {
-            SafeFile::Temporary part(target_.folder.get(), '.' + base_ + suffix);
-            part.copyFrom(source.get());
-            part.become((base_ + suffix).c_str(), SafeFile::Existing::Replace);
+        if (!SafeFile::exists(shelf, kept.c_str())) {
+            return;
         }
+        const Descriptor source = SafeFile::openRegular(shelf, kept.c_str(), O_RDONLY);
+        if (!source) {
+            SafeFile::fail(kept.c_str());
+        }
+        const std::string journal = base_ + suffix;
+        SafeFile::Temporary part(target_.folder.get(), journal);
+        part.copyFrom(source.get());
+        part.become(journal.c_str(), SafeFile::Existing::Replace);
     }
 
     const Target& target_;
