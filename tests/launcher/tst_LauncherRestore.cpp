@@ -59,11 +59,12 @@ void cutOff(const char* file, const char* sql)
     QVERIFY(tool.waitForFinished());
 }
 
-const char* const halfAChange = "pragma cache_size = 1; begin exclusive; insert into Historique "
-                                "(id, article, prix) with recursive "
-                                "n(i) as (select 1 union all select i + 1 from n where i < 5000) "
-                                "select i, 'x', 1 from n; update "
-                                "Article set prix = 99";
+/// The first change reaches the journal for good when the second needs room in memory.
+const char* const halfAChange = "pragma cache_size = 1; begin exclusive; update Article set prix = "
+                                "99; insert into Historique "
+                                "(id, article, prix) with recursive n(i) as (select 1 union all "
+                                "select i + 1 from n where i < "
+                                "5000) select i, 'x', 1 from n";
 } // namespace
 
 class TestLauncherRestore : public QObject
