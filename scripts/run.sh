@@ -39,7 +39,7 @@ if [ ! -e "$root/build/release/build.ninja" ]; then
     configure release -DVENDEL_TESTS=OFF
 fi
 say "Building the till (the first time takes a few minutes)"
-build release vendel vendel-artwork vendel-translation vendel-demo
+build release vendel vendel-launcher vendel-dialogue vendel-artwork vendel-translation vendel-demo
 
 if $demo; then
     XDG_DATA_HOME=$(mktemp -d)

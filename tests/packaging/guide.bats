@@ -28,17 +28,18 @@ boxTexts() {
         }' common/Messages.cpp
 }
 
-# launcherTexts: what the launcher says in French, in the pieces between its variables.
+# launcherTexts: what the launcher says in French, in the pieces between what it inserts.
 launcherTexts() {
     perl -0777 -ne '
-        while (/(?:\btext|(?:data|database)Unusable) "((?:[^"\\]|\\.)*)"/g) {
-            my $text = $1;
-            next if $text =~ /^Usage|^Copie$|^COPIE$/;
-            for my $piece (split /(?:\$\{[^}]*\}|\$\w+)(?:\/\$\w+)*/, $text) {
+        s/"\s*\n\s*"//g;
+        while (/Sentence (\w+)\s*\{\s*"((?:[^"\\]|\\.)*)"/g) {
+            my ($name, $text) = ($1, $2);
+            next if $name eq "usage";
+            for my $piece (split /%\d(?:\/[\w.]+)?/, $text) {
                 $piece =~ s/^\s+|\s+$//g;
                 print "$piece\n" if $piece =~ /\w{3}/;
             }
-        }' packaging/messages.sh packaging/database.sh packaging/restore.sh packaging/vendel.in
+        }' launcher/Sentences.h
 }
 
 # captions: what is written on the windows' buttons, menus, boxes to tick and fields. Labels that the till fills or that

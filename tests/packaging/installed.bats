@@ -24,6 +24,7 @@ size() {
     [ "$output" = "$(LC_ALL=C sort <<FILES
 ./bin/vendel
 $lib/vendel
+$lib/vendel-dialogue
 ./lib/udev/rules.d/60-vendel.rules
 ./share/applications/vendel.desktop
 ./share/doc/vendel/guide.fr.md
@@ -66,9 +67,6 @@ $lib/vendel
 ./share/vendel/AproposdeImage.png
 ./share/vendel/FormVendelTr_Us.qm
 ./share/vendel/Vendel.png
-./share/vendel/database.sh
-./share/vendel/messages.sh
-./share/vendel/restore.sh
 FILES
     )" ]
     [[ "$lib" == ./lib*/vendel ]]
@@ -168,21 +166,6 @@ FILES
     udevadm verify --resolve-names=never "$tree/lib/udev/rules.d/60-vendel.rules"
 }
 
-@test "shellcheck is content with the launcher" {
-    cd "$VENDEL_BUILD/packaging"
-    shellcheck --external-sources "$tree/bin/vendel" "$tree"/share/vendel/*.sh
-}
-
-@test "the launcher's shell is any POSIX shell" {
-    run head -n 1 "$tree/bin/vendel"
-    [ "$output" = '#!/bin/sh' ]
-    for shell in dash 'bash --posix'; do
-        for part in "$tree/bin/vendel" "$tree"/share/vendel/*.sh; do
-            $shell -n "$part"
-        done
-    done
-}
-
 @test "the till itself starts from the installed tree and makes its database" {
     export HOME=$BATS_TEST_TMPDIR QT_QPA_PLATFORM=offscreen
     unset DISPLAY WAYLAND_DISPLAY XDG_DATA_HOME
@@ -199,7 +182,7 @@ FILES
 }
 
 @test "the built tree's launcher starts the built till" {
-    grep -qx "program=\$here/../vendel" "$VENDEL_BUILD/packaging/vendel"
+    grep -qF ../vendel "$VENDEL_BUILD/packaging/vendel"
     [ -x "$VENDEL_BUILD/vendel" ]
     HOME=$BATS_TEST_TMPDIR run "$VENDEL_BUILD/packaging/vendel" --version
     [ "$output" = 'Vendel 1.0.0' ]

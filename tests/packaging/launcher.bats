@@ -32,6 +32,48 @@ setup() {
     [ "$(stat -c %a "$data")" = 700 ]
 }
 
+@test "what the till writes is its user's alone" {
+    TILL_DOES='touch made' "$launcher"
+    [ "$(stat -c %a "$data/made")" = 600 ]
+    [ "$(stat -c %a "$data/EnteteFormulaire.dat" "$data/Vendel.png" "$data/.verrou" | sort -u)" = 600 ]
+}
+
+@test "what others may read is closed to them at the next start" {
+    "$launcher"
+    chmod 755 "$data"
+    chmod 644 "$data/Vendel.png"
+    "$launcher"
+    [ "$(stat -c %a "$data")" = 700 ]
+    [ "$(stat -c %a "$data/Vendel.png")" = 600 ]
+}
+
+@test "a till that crashes starts again, and a second time within a minute not" {
+    TILL_DOES='kill -SEGV $$' run "$launcher"
+    [ "$status" -eq 139 ]
+    [ "$output" = "La caisse s'est arrêtée d'elle-même (signal 11) ; elle redémarre.
+La caisse s'est arrêtée deux fois d'elle-même en une minute (signal 11) ; ce qu'elle a dit est dans « $data/vendel.log »." ]
+    [ "$(grep -c arguments "$TILL_LOG")" -eq 2 ]
+}
+
+@test "what the till says goes on to the launcher's output and into the log" {
+    TILL_DOES='echo out; echo error >&2' run "$launcher"
+    [ "$(sort <<<"$output")" = "error
+out" ]
+    [ "$(cut -d ' ' -f 3 "$data/vendel.log" | sort)" = "error
+out" ]
+}
+
+@test "ending the launcher ends the till" {
+    open_till
+    program=$(pgrep -P "$till")
+    kill -TERM "$till"
+    status=0
+    wait "$till" || status=$?
+    [ "$status" -eq 143 ]
+    ! kill -0 "$program" 2>/dev/null || return 1
+    [ "$(grep -c arguments "$TILL_LOG")" -eq 1 ]
+}
+
 @test "XDG_DATA_HOME moves the data directory" {
     XDG_DATA_HOME="$BATS_TEST_TMPDIR/l'été à \"Nice\"" "$launcher"
     [ "$(head -n 1 "$TILL_LOG")" = "$BATS_TEST_TMPDIR/l'été à \"Nice\"/vendel" ]
@@ -66,7 +108,7 @@ setup() {
 }
 
 @test "a link to the launcher finds the till" {
-    ln -s "$launcher" "$BATS_TEST_TMPDIR/caisse"
+    ln -s "$installed" "$BATS_TEST_TMPDIR/caisse"
     "$BATS_TEST_TMPDIR/caisse"
     [ "$(head -n 1 "$TILL_LOG")" = "$data" ]
 }
@@ -82,7 +124,7 @@ setup() {
 
 @test "a till that was killed leaves no lock" {
     open_till
-    close_till
+    kill_till
     "$launcher"
     [ "$(grep -c arguments "$TILL_LOG")" -eq 2 ]
 }

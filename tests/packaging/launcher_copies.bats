@@ -1,7 +1,7 @@
 #!/usr/bin/env bats
 # SPDX-License-Identifier: MIT
 # The launcher: a dated copy of the database at each day's first start.
-# shellcheck disable=SC2154
+# shellcheck disable=SC2154,SC2030,SC2031
 
 load support
 
@@ -30,7 +30,7 @@ warning() {
     run "$launcher"
     [ "$status" -eq 0 ]
     [ -z "$output" ]
-    [ "$(ls -A "$data/copies")" = Vendel-2026-03-05.db ]
+    [ "$(ls "$data/copies")" = Vendel-2026-03-05.db ]
     [ "$(sql "$data/copies/Vendel-2026-03-05.db" .dump)" = "$(sql "$data/Vendel.db" .dump)" ]
 }
 
@@ -43,14 +43,15 @@ warning() {
     "$launcher"
     sql "$data/Vendel.db" 'delete from Article'
     NOW='2026-03-05 23:59:59' "$launcher"
-    [ "$(ls -A "$data/copies")" = Vendel-2026-03-05.db ]
+    [ "$(ls "$data/copies")" = "Vendel-2026-03-05-2359.db
+Vendel-2026-03-05.db" ]
     [ "$(sql "$data/copies/Vendel-2026-03-05.db" 'select count(*) > 0 from Article')" = 1 ]
 }
 
 @test "the next day has a copy of its own" {
     "$launcher"
     NOW='2026-03-06 00:00:00' "$launcher"
-    [ "$(ls -A "$data/copies")" = "Vendel-2026-03-05.db
+    [ "$(ls "$data/copies")" = "Vendel-2026-03-05.db
 Vendel-2026-03-06.db" ]
 }
 
@@ -74,7 +75,8 @@ Vendel-2026-03-06.db" ]
     echo part >"$data/copies/.Vendel.neuf"
     echo journal >"$data/copies/.Vendel.neuf-journal"
     "$launcher"
-    [ "$(ls -A "$data/copies")" = Vendel-2026-03-05.db ]
+    [ "$(ls -A "$data/copies")" = ".registre
+Vendel-2026-03-05.db" ]
     [ "$(sql "$data/copies/Vendel-2026-03-05.db" 'pragma integrity_check')" = ok ]
 }
 
@@ -115,44 +117,114 @@ Vendel-2026-03-06.db" ]
     [ -s "$TILL_LOG" ]
 }
 
-# backup_says ERROR: SQLite's shell, but for its backup, which ends with the error.
-backup_says() {
-    stand_in sqlite3 "case \"\$*\" in *.backup*) echo '$1' >&2; exit 1 ;; esac
-exec $(command -v sqlite3) \"\$@\""
-}
-
 @test "a copy that fails is no reason to call the database damaged" {
-    for error in 'Error: database or disk is full' 'Error: disk I/O error' \
-        'Error: database is locked' 'Error: unable to open database file'; do
+    for error in pwrite64:error=ENOSPC pwrite64:error=EIO openat:error=EACCES:when=2 \
+        fsync:error=EIO renameat2:error=EROFS; do
+        rm -rf "$data/copies"
         : >"$TILL_LOG"
-        backup_says "$error"
-        run "$launcher"
+        disturbed "$error" copies/.Vendel.neuf .Vendel.neuf
+        run "${disturbance[@]}" "$launcher"
         [ "$status" -eq 0 ]
-        [ "$output" = "$(warning)" ]
         [ -s "$TILL_LOG" ]
-        rm "$BATS_TEST_TMPDIR/stand-ins/sqlite3"
+        [ "$output" = "$(warning)" ]
     done
 }
 
-@test "a database that the backup finds damaged is said" {
-    backup_says 'Error: database disk image is malformed'
+@test "a database that was cut short is said" {
+    truncate -s 8192 "$data/Vendel.db"
     run "$launcher"
     [ "$status" -eq 1 ]
     [[ "$output" == *'inutilisable (elle est endommagée)'* ]]
     [ ! -s "$TILL_LOG" ]
 }
 
-@test "a copy is on the disk before it has its name" {
-    stand_in sync "[ -s \"\$1\" ] && ls copies >>'$BATS_TEST_TMPDIR/synced' && echo \"\$1\" >>'$BATS_TEST_TMPDIR/synced'"
-    "$launcher"
-    [ "$(cat "$BATS_TEST_TMPDIR/synced")" = copies/.Vendel.neuf ]
+@test "a copy and its name are on the disk before the till starts" {
+    strace -f -y -qq -o "$BATS_TEST_TMPDIR/calls" -e trace=fsync,renameat2,execve "$launcher"
+    run sed -nE '/Vendel\.neuf>\) = 0$/s/.*/file/p; /renameat2.*Vendel-2026-03-05\.db/s/.*/name/p
+        /fsync\([0-9]+<[^>]*\/copies>/s/.*/folder/p; /execve.*\/vendel\/vendel"/s/.*/till/p' \
+        "$BATS_TEST_TMPDIR/calls"
+    [ "${lines[*]:0:3}" = 'file name folder' ]
+    [ "${lines[-1]}" = till ]
 }
 
-@test "a user's own SQLite settings are not read" {
-    stand_in sqlite3 "case \"\$*\" in *'-init /dev/null'*) exec $(command -v sqlite3) \"\$@\" ;; esac
-exit 1"
-    run "$launcher"
+# second_place: a folder that copies go to as well.
+second_place() {
+    stick=$BATS_TEST_TMPDIR/stick
+    mkdir "$stick"
+    run "$launcher" --copies-vers "$stick"
     [ "$status" -eq 0 ]
+    [ "$output" = "Chaque copie ira aussi dans « $stick »." ]
+}
+
+@test "a copy goes to the second place too" {
+    second_place
+    "$launcher"
+    cmp "$data/copies/Vendel-2026-03-05.db" "$stick/Vendel-2026-03-05.db"
+}
+
+@test "a second place that is named from where one is is remembered from anywhere" {
+    mkdir "$BATS_TEST_TMPDIR/stick"
+    (cd "$BATS_TEST_TMPDIR" && "$launcher" --copies-vers stick)
+    [ "$(cat "$data/copies-vers")" = "$BATS_TEST_TMPDIR/stick" ]
+}
+
+@test "a second place can be changed while the till is open" {
+    open_till
+    second_place
+    close_till
+    [ -f "$stick/Vendel-2026-03-05.db" ]
+}
+
+@test "a second place can be forgotten" {
+    second_place
+    run "$launcher" --copies-vers -
+    [ "$status" -eq 0 ]
+    [ "$output" = "Les copies n'iront plus ailleurs." ]
+    "$launcher"
+    [ -z "$(ls -A "$stick")" ]
+}
+
+@test "a second place that is no folder is refused" {
+    touch "$BATS_TEST_TMPDIR/file"
+    for place in "$BATS_TEST_TMPDIR/nowhere" "$BATS_TEST_TMPDIR/file"; do
+        run "$launcher" --langue en --copies-vers "$place"
+        [ "$status" -eq 1 ]
+        [ "$output" = "The folder \"$place\" does not exist or cannot be written." ]
+    done
+    [ ! -e "$data/copies-vers" ]
+}
+
+@test "a second place that is away for a week is said at each start" {
+    second_place
+    "$launcher"
+    rmdir "$stick" 2>/dev/null || rm -r "$stick"
+    NOW='2026-03-11 09:00:00' run "$launcher"
     [ -z "$output" ]
-    [ "$(ls -A "$data/copies")" = Vendel-2026-03-05.db ]
+    NOW='2026-03-12 09:00:00' run "$launcher"
+    [ "$status" -eq 0 ]
+    [ "$output" = "Aucune copie n'a atteint « $stick » depuis le 2026-03-05 : branchez-y le support, ou choisissez un autre dossier avec « vendel --copies-vers DOSSIER »." ]
+    mkdir "$stick"
+    NOW='2026-03-13 09:00:00' "$launcher"
+    NOW='2026-03-14 09:00:00' run "$launcher"
+    [ -z "$output" ]
+    [ -f "$stick/Vendel-2026-03-14.db" ]
+}
+
+@test "what was sold is copied when the till is closed" {
+    "$launcher"
+    TILL_DOES='sqlite3 Vendel.db "delete from Article"' "$launcher"
+    [ "$(sql "$data/copies/Vendel-2026-03-05-1407.db" 'select count(*) from Article')" = 0 ]
+    [ "$(sql "$data/copies/Vendel-2026-03-05.db" 'select count(*) > 0 from Article')" = 1 ]
+}
+
+@test "copies of the future do not push out todays" {
+    mkdir "$data/copies"
+    for day in $(seq -w 1 31); do
+        echo future >"$data/copies/Vendel-2099-01-$day.db"
+    done
+    "$launcher"
+    [ -f "$data/copies/Vendel-2026-03-05.db" ]
+    NOW='2026-03-06 09:00:00' "$launcher"
+    [ -f "$data/copies/Vendel-2026-03-05.db" ]
+    [ -f "$data/copies/Vendel-2026-03-06.db" ]
 }

@@ -27,7 +27,7 @@ first_statements() {
 create table Article (id integer primary key autoincrement not null, article text collate nocase not null, prix numeric not null);
 create table ArticleStock (id integer primary key not null, article text collate nocase not null);
 create table Historique (id integer not null, article text collate nocase not null, prix numeric not null, date_heure text not null default(strftime('%Y-%m-%d %H:%M:%f','now','localtime')));
-create table DoseStock (idlig integer primary key not null, id integer not null, composition text collate nocase not null, dose numeric not null, unite text not null);
+create table DoseStock (idlig integer primary key not null, id integer not null, composition text collate nocase not null, dose numeric not null, unite text not null, constraint fk_dosestock foreign key (id) references ArticleStock (id) on delete cascade);
 create table Config (id integer primary key not null, param text collate nocase not null, valeur numeric not null);
 create table Ticket (idlig integer primary key not null, id integer not null, article text collate nocase not null, prix numeric not null);
 create index date_heure_index on Historique (date_heure);
@@ -197,11 +197,11 @@ SCHEMA
     hold_database
     local holder=$COPROC_PID
     (
-        until [ -e "$BATS_TEST_TMPDIR/asked" ]; do sleep 0.01; done
-        sleep 0.3
+        until grep -q Vendel.db <(readlink "/proc/$(pgrep -xf "$installed")"/fd/* 2>/dev/null); do
+            sleep 0.01
+        done
         kill -KILL "$holder"
     ) 3>&- &
-    stand_in sqlite3 "touch '$BATS_TEST_TMPDIR/asked'; exec $(command -v sqlite3) \"\$@\""
     run "$launcher"
     wait
     [ "$status" -eq 0 ]
@@ -213,4 +213,53 @@ SCHEMA
     mkdir "$data/Vendel.db"
     run "$launcher" --langue en
     [ "$output" = "The database \"$data/Vendel.db\" cannot be used (it is not a file); the copies are in \"$data/copies\" and \"vendel --restaurer\" puts one back." ]
+}
+
+@test "a database with something other than the till's tables is said, and runs nothing" {
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
+    sql "$data/Vendel.db" "create trigger theirs after insert on Historique begin
+        update Historique set prix = 0; end"
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "$(unusable "elle contient autre chose que les tables de la caisse")" ]
+    [ ! -s "$TILL_LOG" ]
+}
+
+@test "a rule that calls a program runs nothing" {
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
+    sql "$data/Vendel.db" "pragma ignore_check_constraints = on; drop table Ticket;
+        create table Ticket (idlig integer primary key not null, id integer not null,
+            article text collate nocase not null, prix numeric not null
+            check (edit('x', 'touch $BATS_TEST_TMPDIR/ran') is not null))" || true
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "$(unusable "elle contient autre chose que les tables de la caisse")" ]
+    [ ! -e "$BATS_TEST_TMPDIR/ran" ]
+}
+
+@test "a journal that names another file deletes nothing" {
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
+    echo precious >"$data/x"
+    {
+        printf '\xd9\xd5\x05\xf9\x20\xa1\x63\xd7'
+        head -c 504 /dev/zero
+        printf '\x40\x00\x00\x01x\x00\x00\x00\x01\x00\x00\x00\x78\xd9\xd5\x05\xf9\x20\xa1\x63\xd7'
+    } >"$data/Vendel.db-journal"
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "$(unusable "son journal n'est pas celui de la caisse")" ]
+    [ "$(cat "$data/x")" = precious ]
+}
+
+@test "another tool's log is brought in before the till starts" {
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data"
+    hold_database "rollback; pragma journal_mode = wal; delete from Ticket;
+        update Config set valeur = 17 where param = 'TVA';"
+    release_database
+    [ -s "$data/Vendel.db-wal" ]
+    run "$launcher"
+    [ "$status" -eq 0 ]
+    [ ! -e "$data/Vendel.db-wal" ]
+    [ "$(sql "$data/Vendel.db" "pragma journal_mode; select valeur from Config where param = 'TVA'")" = "delete
+17" ]
 }

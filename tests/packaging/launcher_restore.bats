@@ -50,21 +50,21 @@ copies" ]
     nothingElse
 }
 
-@test "copy and replaced database keep their rights and dates" {
+@test "copy and replaced database keep their dates and are their user's alone" {
     chmod 640 "$data/copies/Vendel-2026-03-03.db"
     touch -d '2026-03-03 09:00:00' "$data/copies/Vendel-2026-03-03.db"
     chmod 600 "$data/Vendel.db"
     touch -d '2026-03-05 12:00:00' "$data/Vendel.db"
     "$launcher" --restaurer 2026-03-03
-    [ "$(stat -c '%a %y' "$data/Vendel.db")" = '640 2026-03-03 09:00:00.000000000 +0100' ]
+    [ "$(stat -c '%a %y' "$data/Vendel.db")" = '600 2026-03-03 09:00:00.000000000 +0100' ]
     [ "$(stat -c '%a %y' "$data/copies/Vendel-remplacee-2026-03-05-140731.db")" = '600 2026-03-05 12:00:00.000000000 +0100' ]
 }
 
 @test "a copy is on the disk before it takes the database's place" {
-    stand_in sync "cp Vendel.db '$BATS_TEST_TMPDIR/then.db'; cp \"\$1\" '$BATS_TEST_TMPDIR/synced.db'"
-    "$launcher" --restaurer 2026-03-03
-    [ "$(price_in "$BATS_TEST_TMPDIR/synced.db")" = 3 ]
-    [ "$(price_in "$BATS_TEST_TMPDIR/then.db")" = 5 ]
+    strace -f -y -qq -o "$BATS_TEST_TMPDIR/calls" -e trace=fsync,renameat "$launcher" --restaurer 2026-03-03
+    run sed -nE '/fsync.*Vendel\.db\.neuf>/s/.*/file/p; /renameat\(.*"Vendel\.db"/s/.*/name/p
+        /fsync\([0-9]+<[^>]*share\/vendel>/s/.*/folder/p' "$BATS_TEST_TMPDIR/calls"
+    [ "${lines[*]: -3}" = 'file name folder' ]
 }
 
 @test "two restorations of one second keep both databases" {
@@ -213,9 +213,8 @@ on_terminal() {
 }
 
 @test "a database that cannot be put in its place is said" {
-    stand_in mv 'case "$*" in *"/Vendel.db") exit 1 ;; esac
-exec /bin/mv "$@"'
-    run "$launcher" --restaurer 2026-03-03
+    disturbed renameat:error=EIO Vendel.db
+    run "${disturbance[@]}" "$launcher" --restaurer 2026-03-03
     [ "$status" -eq 1 ]
     [ "$output" = "Le dossier de données « $data » est inutilisable (rien ne peut y être écrit) ; les copies de la base sont dans « $data/copies »." ]
     [ "$(price_in "$data/Vendel.db")" = 5 ]
@@ -223,9 +222,8 @@ exec /bin/mv "$@"'
 }
 
 @test "a replaced database that cannot be kept stays in its place" {
-    stand_in cp 'case "$*" in *-remplacee-*) exit 1 ;; esac
-exec /bin/cp "$@"'
-    run "$launcher" --restaurer 2026-03-03
+    disturbed write:error=ENOSPC copies/.Vendel.neuf
+    run "${disturbance[@]}" "$launcher" --restaurer 2026-03-03
     [ "$status" -eq 1 ]
     [ "$output" = "Le dossier de données « $data » est inutilisable (la base à remplacer ne peut pas y être gardée) ; les copies de la base sont dans « $data/copies »." ]
     [ "$(price_in "$data/Vendel.db")" = 5 ]

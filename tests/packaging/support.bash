@@ -17,22 +17,26 @@ STAND_IN
     chmod -R a+rX "$1"
 }
 
-# set_up_till: a home, a fixed day and no display; "data" is the data directory, "launcher" the
-# launcher.
+# set_up_till [DIRECTORY]: a home, a fixed day and no display; "data" is the data directory, "launcher" the
+# launcher installed there whose clock says $NOW.
 set_up_till() {
     export HOME=$BATS_TEST_TMPDIR/home
     export TILL_LOG=$BATS_TEST_TMPDIR/till.log
     export NOW='2026-03-05 14:07:31'
     data=$HOME/.local/share/vendel
-    launcher=$BATS_FILE_TMPDIR/tree/bin/vendel
+    installed=${1:-$BATS_FILE_TMPDIR/tree}/bin/vendel
     unset DISPLAY WAYLAND_DISPLAY XDG_DATA_HOME TILL_DOES
     mkdir -p "$HOME" "$BATS_TEST_TMPDIR/stand-ins"
     : >"$TILL_LOG"
-    stand_in date "exec $(command -v date) -d \"\$NOW\" \"\$@\""
+    launcher=$BATS_TEST_TMPDIR/stand-ins/vendel
+    stand_in vendel "LD_PRELOAD=$(find /usr/lib -name libfaketime.so.1)
+        FAKETIME=\$NOW DONT_FAKE_MONOTONIC=1 FAKETIME_DONT_FAKE_MONOTONIC=1 NO_FAKE_STAT=1
+        export LD_PRELOAD FAKETIME DONT_FAKE_MONOTONIC FAKETIME_DONT_FAKE_MONOTONIC NO_FAKE_STAT
+        exec '$installed' \"\$@\""
     PATH=$BATS_TEST_TMPDIR/stand-ins:$PATH
 }
 
-# stand_in COMMAND SCRIPT: replaces the command on the launcher's path.
+# stand_in COMMAND SCRIPT: a command ahead of all others on the path.
 stand_in() {
     printf '#!/bin/sh\n%s\n' "$2" >"$BATS_TEST_TMPDIR/stand-ins/$1"
     chmod +x "$BATS_TEST_TMPDIR/stand-ins/$1"
@@ -71,8 +75,28 @@ open_till() {
 }
 
 close_till() {
-    kill -KILL "$till"
+    kill -TERM "$till"
     wait "$till" 2>/dev/null || true
+}
+
+# kill_till: neither the launcher nor the till can do anything more.
+kill_till() {
+    local program
+    program=$(pgrep -P "$till")
+    kill -KILL "$till" "$program"
+    wait "$till" 2>/dev/null || true
+    while kill -0 "$program" 2>/dev/null; do sleep 0.01; done
+}
+
+# disturbed INJECTION PATH...: an strace command in front of the launcher, that makes the calls on these
+# files of the data directory fail.
+disturbed() {
+    local injection=$1 path
+    shift
+    disturbance=(strace -f -qq -o /dev/null -e "trace=${injection%%:*}" -e "inject=$injection")
+    for path in "$@"; do
+        disturbance+=(-P "$path" -P "$data/$path")
+    done
 }
 
 # damage FILE: overwrites the database's second half, where its rows are.
@@ -85,8 +109,9 @@ damage() {
 # hold_database [STATEMENTS]: another program writes into the database until release_database.
 hold_database() {
     coproc sqlite3 -batch -init /dev/null "$data/Vendel.db"
-    printf '%s\n' 'pragma cache_size = 1;' 'begin exclusive;' "${1:-}" 'select 1;' >&"${COPROC[1]}"
-    read -r _ <&"${COPROC[0]}"
+    printf '%s\n' 'pragma cache_size = 1;' 'begin exclusive;' "${1:-}" "select 'held';" >&"${COPROC[1]}"
+    local said=
+    until [ "$said" = held ]; do read -r said <&"${COPROC[0]}"; done
 }
 
 release_database() {

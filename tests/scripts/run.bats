@@ -106,7 +106,7 @@ stub_at() {
 @test "the first build leaves the tests out, a prepared one is left as it is" {
     run "$run_sh"
     called "cmake --preset release -DVENDEL_TESTS=OFF"
-    called "--target vendel vendel-artwork vendel-translation vendel-demo"
+    called "--target vendel vendel-launcher vendel-dialogue vendel-artwork vendel-translation vendel-demo"
     : >"$calls"
     run "$run_sh"
     not_called "--preset release -D"

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "launcher/Sentences.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+enum class Action
+{
+    Start,
+    Restore,
+    SecondPlace,
+    Help,
+    Version
+};
+
+/// What the command line asks for.
+struct Order
+{
+    Action action = Action::Start;
+    /// The language asked for, which is then remembered.
+    std::optional<Language> language;
+    /// The copy to put back; empty when it is still to be chosen.
+    std::string copy;
+    /// The folder that copies go to as well, "-" for none any more.
+    std::string folder;
+};
+
+/// A command line that is answered with the usage.
+struct BadUsage
+{
+    /// The language asked for before the mistake.
+    std::optional<Language> language;
+};
+
+/// The order in \a arguments, which do not include the command; throws BadUsage.
+Order parseOrder(const std::vector<std::string>& arguments);

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+/// Where the launcher's own things are installed.
+struct Places
+{
+    /// The till.
+    std::string program;
+    /// What shows boxes.
+    std::string dialogue;
+    /// The folder of the pictures and the translation.
+    std::string shared;
+};

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "launcher/DataFolder.h"
+#include "launcher/Order.h"
+#include "launcher/Places.h"
+#include "launcher/Refusal.h"
+#include "launcher/Restore.h"
+#include "launcher/SecondPlace.h"
+#include "launcher/Shop.h"
+#include "launcher/Speech.h"
+#include "launcher/StartCheck.h"
+#include "launcher/Watch.h"
+
+#include <clocale>
+#include <csignal>
+#include <filesystem>
+#include <iostream>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace {
+/// Where everything is, relative to this program, so that an installed tree can be moved.
+Places findPlaces()
+{
+    const std::string here = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
+    const std::string program = here + "/" + VENDEL_PROGRAM;
+    return {program, program + "-dialogue", here + "/" + VENDEL_SHARED};
+}
+
+const std::string& usage(Language language, const std::string& data)
+{
+    static std::string text;
+    text = say(language, {Sentences::usage, {data.empty() ? "~/.local/share/vendel" : data}});
+    return text;
+}
+
+int start(const Order& order, const DataFolder& folder, const Places& places, const Speech& speech)
+{
+    if (access(places.program.c_str(), X_OK) != 0) {
+        throw Refusal({Sentences::programMissing, {places.program}});
+    }
+    Shop::provideFiles(folder, places);
+    Shop::applyLanguage(folder, places, speech, order.language);
+    StartCheck::database(folder, speech);
+    const bool isCopied = StartCheck::copy(folder, speech);
+    StartCheck::secondPlace(folder, speech);
+    return Watch(folder, speech, places.program, !isCopied, {}).run();
+}
+
+/// Remembers where copies go as well. The till may be open meanwhile.
+void changeSecondPlace(const Order& order, const std::string& data, const Speech& speech)
+{
+    std::error_code none;
+    const std::string path
+        = order.folder == "-" ? "" : std::filesystem::canonical(order.folder, none).string();
+    const bool isFolder = !path.empty() && std::filesystem::is_directory(path, none)
+        && access(path.c_str(), W_OK | X_OK) == 0;
+    if (order.folder != "-" && !isFolder) {
+        throw Refusal({Sentences::noSuchFolder, {order.folder}});
+    }
+    DataFolder folder(data);
+    const SecondPlace place(folder.get());
+    try {
+        if (isFolder) {
+            place.remember(path, now());
+        } else {
+            place.forget();
+        }
+    } catch (const std::system_error&) {
+        throw folder.unusable(Sentences::notWritable);
+    }
+    speech.done(isFolder ? Words(Sentences::copiesGoTo, {path}) : Words(Sentences::copiesStay));
+}
+
+int act(const Order& order, const std::string& data, const Places& places, const Speech& speech)
+{
+    switch (order.action) {
+    case Action::Help:
+        std::cout << usage(speech.language(), data);
+        return 0;
+    case Action::Version:
+        std::cout << "Vendel " << VENDEL_VERSION << '\n';
+        return 0;
+    case Action::SecondPlace:
+        changeSecondPlace(order, data, speech);
+        return 0;
+    case Action::Start:
+    case Action::Restore:
+        break;
+    }
+    DataFolder folder(data);
+    folder.lock();
+    try {
+        folder.close();
+        if (order.action == Action::Start) {
+            return start(order, folder, places, speech);
+        }
+        Restore::run(folder, speech, order.copy);
+        return 0;
+    } catch (const std::system_error& error) {
+        throw folder.unusable(error.code().message());
+    }
+}
+
+/// What a program may count on, whoever starts it.
+void prepare()
+{
+    constexpr mode_t othersMayNothing = 077;
+    std::setlocale(LC_NUMERIC, "");
+    // The till's own files, too, are for its user alone.
+    umask(othersMayNothing);
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGCHLD, SIG_DFL);
+    int descriptor = 0;
+    do {
+        descriptor = open("/dev/null", O_RDWR | O_CLOEXEC);
+    } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
+    close(descriptor);
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    constexpr int badUsage = 2;
+    prepare();
+    const std::string data = DataFolder::find();
+    Order order;
+    try {
+        order = parseOrder({argv + 1, argv + argc});
+    } catch (const BadUsage& mistake) {
+        std::cerr << usage(mistake.language.value_or(DataFolder::language(data)), data);
+        return badUsage;
+    }
+    const Places places = findPlaces();
+    const Speech speech(order.language.value_or(DataFolder::language(data)), places.dialogue);
+    try {
+        return act(order, data, places, speech);
+    } catch (const Refusal& refusal) {
+        speech.error(refusal.words());
+        return refusal.status();
+    } catch (const std::exception& error) {
+        std::cerr << "vendel: " << error.what() << '\n';
+        return 1;
+    }
+}
