@@ -16,7 +16,8 @@ for argument in "$@"; do
     esac
 done
 
-# The tests of each preset in turn; "analysis" reads the sources that the release build compiles.
+# The tests of each preset in turn; "analysis" reads the sources that the release build compiles, and
+# runs the tests of it that take minutes.
 groups=(build run test)
 presets=(release)
 if $all; then

@@ -84,5 +84,7 @@ steps() {
     [ "$(ctest --preset release -N | grep -c ': tour$')" -eq 1 ]
     [ "$(ctest --preset analysis -N | grep -oE 'check-[a-z]+$' | sort | tr '\n' ' ')" = \
         "check-clazy check-cppcheck check-format check-shell check-tidy " ]
-    [ "$(ctest --preset analysis -N | grep -c '^ *Test *#')" -eq 6 ]
+    [ "$(ctest --preset release -N | grep -c ': launcher_every_fault$')" -eq 0 ]
+    [ "$(ctest --preset analysis -N | grep -c ': launcher_every_fault$')" -eq 1 ]
+    [ "$(ctest --preset analysis -N | grep -c '^ *Test *#')" -eq 7 ]
 }
