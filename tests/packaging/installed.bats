@@ -129,7 +129,7 @@ FILES
 @test "each option of the launcher is in both man pages" {
     for page in man1 fr/man1; do
         text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel.1.gz")
-        for option in --langue --restaurer --help --aide --version; do
+        for option in --langue --restaurer --copies-vers --help --aide --version; do
             grep -q -e "$option" <<<"$text"
         done
     done
