@@ -24,7 +24,7 @@ setup() {
 licence=SPDX-License-'Identifier: MIT'
 
 # well: a source that keeps every rule.
-well() { printf '// %s\nint answer()\n{\n    return 42;\n}\n' "$licence"; }
+well() { printf '// %s\nint answer() { return 42; }\n' "$licence"; }
 
 # badly: one that only clang-format complains about.
 badly() { printf '// %s\nint  question( ) { return 6*7; }\n' "$licence"; }
