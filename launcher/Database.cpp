@@ -60,6 +60,7 @@ std::string realPath(const std::string& name)
 void harden(sqlite3* connection)
 {
     constexpr int longestSql = 100000;
+    constexpr int longestText = 16 * 1024 * 1024;
     constexpr std::pair<int, int> settings[]{
         {SQLITE_DBCONFIG_DEFENSIVE, 1},
         {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
@@ -73,6 +74,7 @@ void harden(sqlite3* connection)
     }
     sqlite3_limit(connection, SQLITE_LIMIT_ATTACHED, 0);
     sqlite3_limit(connection, SQLITE_LIMIT_SQL_LENGTH, longestSql);
+    sqlite3_limit(connection, SQLITE_LIMIT_LENGTH, longestText);
     require(sqlite3_busy_timeout(connection, busyTimeoutMs));
 }
 } // namespace
@@ -142,6 +144,10 @@ Database::Schema Database::schema()
         found.isOnlyOwn = found.isOnlyOwn && TillSchema::isOwn(object);
         found.tables += TillSchema::isTillTable(object) ? 1 : 0;
     });
+    // Its header may ask for a later SQLite to be written to: no sale could be recorded.
+    if (sqlite3_db_readonly(connection_.get(), "main") != 0) {
+        throw DatabaseError(SQLITE_CORRUPT);
+    }
     return found;
 }
 

@@ -23,11 +23,9 @@ bool namesAnother(int journal)
 
 bool isSafe(const std::string& journal)
 {
-    if (!SafeFile::exists(AT_FDCWD, journal.c_str())) {
-        return true;
-    }
     const Descriptor file = SafeFile::openRegular(AT_FDCWD, journal.c_str(), O_RDONLY);
-    return file && !namesAnother(file.get());
+    // A till that sells deletes its journal at any moment, so what could not be opened may be gone.
+    return file ? !namesAnother(file.get()) : !SafeFile::exists(AT_FDCWD, journal.c_str());
 }
 } // namespace
 

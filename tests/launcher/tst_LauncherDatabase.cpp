@@ -136,6 +136,15 @@ private slots:
         QCOMPARE(ShopFolder::unsoundness("Vendel.db"), damaged);
     }
 
+    void aDatabaseThatOnlyALaterSqliteMayWriteToIsRefused()
+    {
+        const ShopFolder shop;
+        QByteArray bytes = shop.read("Vendel.db");
+        bytes[18] = 3;
+        shop.write("Vendel.db", bytes);
+        QCOMPARE(ShopFolder::unsoundness("Vendel.db"), damaged);
+    }
+
     void aDatabaseInUseIsSaid()
     {
         const ShopFolder shop;
