@@ -108,7 +108,7 @@ private slots:
         }
         workAndCopy(shop, noon);
         QCOMPARE(copyNames().size(), 48);
-        QCOMPARE(copyNames().first(), QString("Vendel-2026-03-05.db"));
+        QCOMPARE(copyNames().constFirst(), QString("Vendel-2026-03-05.db"));
         QCOMPARE(copyNames().at(1), QString("Vendel-2044-01-01.db"));
     }
 

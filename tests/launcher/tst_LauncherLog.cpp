@@ -16,7 +16,7 @@ private slots:
         Log log(shop.get());
         log.write("Write Error");
         log.write("");
-        const QRegularExpression lines(
+        static const QRegularExpression lines(
             QString("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d Write Error\n"
                     "\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d \n$"));
         QVERIFY(lines.match(QString::fromUtf8(shop.read(QString("vendel.log")))).hasMatch());

@@ -75,7 +75,7 @@ private slots:
         QCOMPARE(shop.restore(), QString());
         QCOMPARE(shop.price(), QByteArray("3"));
         QCOMPARE(shop.replaced().size(), 1);
-        QCOMPARE(shop.price("copies/" + shop.replaced().first()), QByteArray("5"));
+        QCOMPARE(shop.price("copies/" + shop.replaced().constFirst()), QByteArray("5"));
         QCOMPARE(ShopFolder::names(".", "*"), QStringList{QString("Vendel.db")});
     }
 
@@ -185,7 +185,7 @@ private slots:
         shop.write(QString("Vendel.db-journal"), QByteArray(600, 'y'));
         QCOMPARE(shop.restore(), QString());
         QCOMPARE(shop.price(), QByteArray("3"));
-        QCOMPARE(shop.read("copies/" + shop.replaced().first()), garbage);
+        QCOMPARE(shop.read("copies/" + shop.replaced().constFirst()), garbage);
         QCOMPARE(ShopFolder::names("."), QStringList{QString("Vendel.db")});
     }
 

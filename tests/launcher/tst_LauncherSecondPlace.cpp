@@ -68,7 +68,7 @@ private slots:
         QVERIFY(CopyWork(shop.get()).run(true, Backup::Pace::Full) == CopyWork::Result::Done);
         QCOMPARE(stick.copies(), ShopFolder::names("copies", "Vendel-*"));
         QCOMPARE(stick.copies().size(), 1);
-        const QByteArray copied = stick.folder.filePath(stick.copies().first()).toUtf8();
+        const QByteArray copied = stick.folder.filePath(stick.copies().constFirst()).toUtf8();
         QCOMPARE(ShopFolder::unsoundness(copied.constData()), QString());
         QCOMPARE(ShopFolder::mode(copied.constData()), mode_t(0600));
     }

@@ -169,7 +169,8 @@ private slots:
         const WatchedShop shop("exec ls -l /proc/self/fd >open");
         shop.watch();
         QStringList inherited;
-        for (const QString& line : QString::fromUtf8(shop.read(QString("open"))).split('\n')) {
+        const QStringList lines = QString::fromUtf8(shop.read(QString("open"))).split('\n');
+        for (const QString& line : lines) {
             const QString link = line.section(QString(" -> "), 0, 0).section(' ', -1);
             if (link.toInt() > STDERR_FILENO && !line.endsWith(QString("/fd"))) {
                 inherited.append(line.section(QString(" -> "), 1) + ' ' + link);

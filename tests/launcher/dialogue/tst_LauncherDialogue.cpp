@@ -17,7 +17,8 @@ const QStringList lines{
 QStringList buttons(const QWidget& window)
 {
     QStringList texts;
-    for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+    const auto found = window.findChildren<QPushButton*>();
+    for (const QPushButton* button : found) {
         texts.append(button->text());
     }
     texts.sort();
@@ -28,7 +29,8 @@ QStringList buttons(const QWidget& window)
 QStringList namelessControls(const QWidget& widget)
 {
     QStringList nameless;
-    for (QWidget* child : widget.findChildren<QWidget*>()) {
+    const auto children = widget.findChildren<QWidget*>();
+    for (QWidget* child : children) {
         QAccessibleInterface* shown = QAccessible::queryAccessibleInterface(child);
         const bool isControl = child->focusPolicy() != Qt::NoFocus && child->isVisible();
         if (isControl && shown->text(QAccessible::Name).isEmpty()) {
