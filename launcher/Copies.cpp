@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 
 #include <fcntl.h>
 
@@ -50,9 +51,7 @@ void Copies::make(const Moment& moment, Backup::Pace pace) const
     }
     SafeFile::Temporary part(copies.get(), CopyShelf::partName);
     Backup::copy(database, std::string(copiesName) + '/' + CopyShelf::partName, pace);
-    const std::string name = copies.freeName(moment);
-    part.become(name.c_str(), SafeFile::Existing::Keep);
-    copies.add(name, copied);
+    copies.add(part, copies.freeName(moment), copied);
 }
 
 CopyShelf Copies::shelf() const
@@ -61,13 +60,25 @@ CopyShelf Copies::shelf() const
     if (mkdirat(folder_, copiesName, userOnly) == 0) {
         SafeFile::sync(folder_);
     }
-    return CopyShelf(SafeFile::openFolder(folder_, copiesName));
+    return openShelf();
+}
+
+CopyShelf Copies::openShelf() const
+{
+    Descriptor opened = SafeFile::openFolder(folder_, copiesName);
+    SafeFile::Status found{};
+    if (fstat(opened.get(), &found) == 0 && found.st_uid != geteuid()) {
+        // Where somebody else could change the copies, none are made or taken.
+        errno = EPERM;
+        SafeFile::fail(copiesName);
+    }
+    return CopyShelf(std::move(opened));
 }
 
 std::vector<CopyShelf::Entry> Copies::entries() const
 {
-    Descriptor opened(openat(folder_, copiesName, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return opened ? CopyShelf(std::move(opened)).entries() : std::vector<CopyShelf::Entry>();
+    return SafeFile::exists(folder_, copiesName) ? openShelf().entries()
+                                                 : std::vector<CopyShelf::Entry>();
 }
 
 std::string Copies::freeStem(int shelf, const std::string& kind, const Moment& moment)

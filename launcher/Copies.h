@@ -24,7 +24,7 @@ public:
 
     /// The folder of the copies, made when it is missing. Throws std::system_error.
     CopyShelf shelf() const;
-    /// The dated copies, oldest first.
+    /// The dated copies, oldest first. Throws std::system_error.
     std::vector<CopyShelf::Entry> entries() const;
 
     /// A name in the folder of copies that is still free, of a database that was taken out of use
@@ -32,6 +32,7 @@ public:
     static std::string freeStem(int shelf, const std::string& kind, const Moment& moment);
 
 private:
+    CopyShelf openShelf() const;
     std::string fingerprint() const;
 
     int folder_;

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/CopyShelf.h"
 
-#include "launcher/SafeFile.h"
-
 #include <algorithm>
+#include <cerrno>
 #include <sstream>
 #include <unordered_map>
 
-namespace {
-constexpr const char* registerName = ".registre";
+#include <fcntl.h>
 
+namespace {
 /// What the register in \a folder says of each file.
 struct Known
 {
@@ -17,28 +16,49 @@ struct Known
     std::string fingerprint;
 };
 
-std::unordered_map<std::string, Known> readRegister(int folder)
+/// The bytes of the register \a name, none when it is no file of ours. One that a disk does not
+/// give back is not taken for none: the order of the copies would be lost with it.
+std::string bytesOf(int folder, const char* name)
 {
     constexpr std::size_t largest = 4194304;
+    SafeFile::Status found{};
+    const Descriptor file = SafeFile::openRegular(folder, name, O_RDONLY);
+    if (!file && errno == EIO) {
+        SafeFile::fail(name);
+    }
+    if (!file || fstat(file.get(), &found) != 0 || found.st_size > off_t(largest)) {
+        return {};
+    }
+    auto bytes = SafeFile::read(folder, name, largest);
+    if (!bytes) {
+        SafeFile::fail(name);
+    }
+    return *std::move(bytes);
+}
+
+std::unordered_map<std::string, Known> readRegister(int folder, const std::string& name)
+{
     std::unordered_map<std::string, Known> known;
-    std::istringstream lines(SafeFile::read(folder, registerName, largest).value_or(""));
+    std::istringstream lines(bytesOf(folder, name.c_str()));
     std::string line;
-    while (std::getline(lines, line)) {
+    for (std::size_t place = 0; std::getline(lines, line); ++place) {
         const std::size_t blank = std::min(line.find(' '), line.size());
         const std::string fingerprint = line.substr(std::min(blank + 1, line.size()));
-        known.insert_or_assign(line.substr(0, blank), Known{known.size(), fingerprint});
+        known.insert_or_assign(line.substr(0, blank), Known{place, fingerprint});
     }
     return known;
 }
 } // namespace
 
-CopyShelf::CopyShelf(Descriptor folder)
+CopyShelf::CopyShelf(Descriptor folder, std::string registerName, Strangers strangers)
     : folder_(std::move(folder))
+    , register_(std::move(registerName))
+    , strangers_(strangers)
 { }
 
 std::vector<CopyShelf::Entry> CopyShelf::entries() const
 {
-    auto known = readRegister(get());
+    auto known = readRegister(get(), register_);
     std::vector<Entry> strangers;
     std::vector<std::pair<std::size_t, Entry>> registered;
     for (const std::string& file : SafeFile::names(get())) {
@@ -47,10 +67,10 @@ std::vector<CopyShelf::Entry> CopyShelf::entries() const
             continue;
         }
         const auto found = known.find(file);
-        if (found == known.end()) {
-            strangers.push_back({*name, {}});
-        } else {
+        if (found != known.end()) {
             registered.emplace_back(found->second.place, Entry{*name, found->second.fingerprint});
+        } else if (strangers_ == Strangers::Ours) {
+            strangers.push_back({*name, {}});
         }
     }
     std::sort(strangers.begin(), strangers.end(),
@@ -72,25 +92,31 @@ std::string CopyShelf::freeName(const Moment& moment) const
     return copyFile(moment, count);
 }
 
-void CopyShelf::add(const std::string& file, const std::string& fingerprint)
+void CopyShelf::add(
+    SafeFile::Temporary& part, const std::string& file, const std::string& fingerprint)
 {
-    std::vector<Entry> all = entries();
-    const auto added = std::find_if(
-        all.begin(), all.end(), [&](const Entry& entry) { return entry.name.file() == file; });
-    if (added == all.end()) {
+    const auto name = CopyName::parse(file);
+    if (!name) {
         return;
     }
-    added->fingerprint = fingerprint;
-    std::rotate(added, added + 1, all.end());
-
+    // The register first: a copy that it did not know would count as the oldest.
+    remember(*name, fingerprint);
+    part.become(file.c_str(), SafeFile::Existing::Keep);
     std::vector<CopyName> names;
-    std::ostringstream lines;
-    for (const Entry& entry : all) {
+    for (const Entry& entry : entries()) {
         names.push_back(entry.name);
+    }
+    for (const CopyName& old : superfluous(names)) {
+        SafeFile::remove(get(), old.file().c_str());
+    }
+}
+
+void CopyShelf::remember(const CopyName& name, const std::string& fingerprint) const
+{
+    std::ostringstream lines;
+    for (const Entry& entry : entries()) {
         lines << entry.name.file() << ' ' << entry.fingerprint << '\n';
     }
-    SafeFile::write(get(), registerName, lines.str(), SafeFile::Existing::Replace);
-    for (const CopyName& name : superfluous(names)) {
-        SafeFile::remove(get(), name.file().c_str());
-    }
+    lines << name.file() << ' ' << fingerprint << '\n';
+    SafeFile::write(get(), register_.c_str(), lines.str(), SafeFile::Existing::Replace);
 }

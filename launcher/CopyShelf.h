@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/Descriptor.h"
 #include "launcher/CopyName.h"
-#include "launcher/Descriptor.h"
+#include "launcher/SafeFile.h"
 
 #include <string>
 #include <vector>
@@ -19,18 +20,28 @@ public:
         std::string fingerprint;
     };
 
-    /// The shelf in \a folder.
-    explicit CopyShelf(Descriptor folder);
+    /// What becomes of dated copies that the register does not know.
+    enum class Strangers
+    {
+        /// They are this shop's, and older than all that it knows, in the order of their names.
+        Ours,
+        /// They are another shop's.
+        Others
+    };
 
-    /// All dated copies, oldest first. Those that the register does not know come before all that
-    /// it does, in the order of their names.
+    /// The shelf in \a folder, whose register is the file \a registerName.
+    explicit CopyShelf(Descriptor folder, std::string registerName = ".registre",
+        Strangers strangers = Strangers::Ours);
+
+    /// All dated copies of the shop, oldest first. Throws std::system_error.
     std::vector<Entry> entries() const;
 
     /// A name that no file has, for a copy made at \a moment.
     std::string freeName(const Moment& moment) const;
 
-    /// Remembers that \a file is the newest copy, and removes those that need not be kept.
-    void add(const std::string& file, const std::string& fingerprint);
+    /// Gives the complete copy \a part the name \a file, remembers that it is the newest, and
+    /// removes those that need not be kept. Throws std::system_error.
+    void add(SafeFile::Temporary& part, const std::string& file, const std::string& fingerprint);
 
     int get() const { return folder_.get(); }
 
@@ -38,5 +49,9 @@ public:
     static constexpr const char* partName = ".Vendel.neuf";
 
 private:
+    void remember(const CopyName& name, const std::string& fingerprint) const;
+
     Descriptor folder_;
+    std::string register_;
+    Strangers strangers_;
 };

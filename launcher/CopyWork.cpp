@@ -4,7 +4,9 @@
 #include "launcher/Clock.h"
 #include "launcher/Database.h"
 
+#include <cerrno>
 #include <exception>
+#include <system_error>
 
 CopyWork::CopyWork(int folder)
     : copies_(folder)
@@ -20,23 +22,29 @@ bool CopyWork::isChanged() const noexcept
     }
 }
 
-CopyWork::Result CopyWork::run(bool makesCopy, Backup::Pace pace) const noexcept
+CopyWork::Made CopyWork::make(Backup::Pace pace) const noexcept
 {
-    Result result = Result::Done;
     try {
-        if (makesCopy) {
-            copies_.make(now(), pace);
-        }
+        copies_.make(now(), pace);
+        return Made::Done;
     } catch (const DatabaseError& error) {
-        result = error.isAboutContent() ? Result::Damaged : Result::Failed;
+        return !error.isAboutContent()    ? Made::Failed
+            : error.code() == SQLITE_AUTH ? Made::Foreign
+                                          : Made::Damaged;
     } catch (const std::exception&) {
-        result = Result::Failed;
+        return Made::Failed;
     }
+}
+
+int CopyWork::carry() const noexcept
+{
     try {
-        place_.carry(copies_, now());
+        return place_.carry(copies_, now()) ? 0 : isAway;
+    } catch (const std::system_error& error) {
+        // Without a folder any more, the stick was pulled out: it is away.
+        const int number = error.code().value();
+        return number == ENOENT || number == ENODEV ? isAway : number;
     } catch (const std::exception&) {
-        // The place is away: how long it has been is said at a start.
-        return result;
+        return ENOMEM;
     }
-    return result;
 }

@@ -5,27 +5,34 @@
 #include "launcher/Copies.h"
 #include "launcher/SecondPlace.h"
 
-/// What is done for the copies while the till runs, in a process of its own.
+/// What is done for the copies while the till runs, in processes of their own: their results are
+/// exit statuses.
 class CopyWork
 {
 public:
-    /// The exit statuses of that process; a process that was killed has another.
-    enum class Result
+    /// How making a copy ended; a process that was killed has another exit status.
+    enum class Made
     {
         Done = 0,
         Failed = 1,
-        Damaged = 2
+        Damaged = 2,
+        Foreign = 3
     };
+
+    /// carry() for a place that is away. Any other than this and 0 is the errno of a failure.
+    static constexpr int isAway = 255;
 
     /// For the shop in the data folder \a folder.
     explicit CopyWork(int folder);
 
     /// Whether a copy is due; also when nobody knows.
     bool isChanged() const noexcept;
-    bool hasSecondPlace() const { return !place_.path().empty(); }
+    /// The second place, empty for none.
+    std::string secondPlace() const { return place_.path(); }
 
-    /// Makes a copy if \a makesCopy, and brings the newest to the second place when it is there.
-    Result run(bool makesCopy, Backup::Pace pace) const noexcept;
+    Made make(Backup::Pace pace) const noexcept;
+    /// Brings the newest copy to the second place.
+    int carry() const noexcept;
 
 private:
     Copies copies_;

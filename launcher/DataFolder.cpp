@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/DataFolder.h"
 
+#include "launcher/Clock.h"
 #include "launcher/Refusal.h"
 #include "launcher/SafeFile.h"
 
+#include <array>
+#include <chrono>
 #include <cstdlib>
+#include <string_view>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -13,18 +18,34 @@
 namespace {
 constexpr const char* lockName = ".verrou";
 constexpr mode_t forUser = 0700;
+constexpr mode_t mayWrite = 0600;
 
-/// Every file directly in \a folder becomes its user's alone; what its user may do with it stays.
+constexpr std::string_view ending = "fin";
+
+/// Whether the launcher that holds the lock \a file has announced its end.
+bool isEnding(int file)
+{
+    std::array<char, ending.size()> found{};
+    return pread(file, found.data(), found.size(), 0) == ssize_t(found.size())
+        && std::string_view(found.data(), found.size()) == ending;
+}
+
+/// Every file directly in \a folder becomes its user's alone, who may write to it: one that came
+/// from a CD is read-only. A file that has a name elsewhere, too, gets no new rights.
 void closeFiles(int folder)
 {
     for (const std::string& name : SafeFile::names(folder)) {
         SafeFile::Status found{};
         if (fstatat(folder, name.c_str(), &found, AT_SYMLINK_NOFOLLOW) != 0
-            || !S_ISREG(found.st_mode) || (found.st_mode & ~forUser & ALLPERMS) == 0) {
+            || !S_ISREG(found.st_mode)) {
             continue;
         }
-        if (const Descriptor file = SafeFile::openRegular(folder, name.c_str(), O_RDONLY)) {
-            fchmod(file.get(), found.st_mode & forUser);
+        const mode_t rights
+            = found.st_nlink > 1 ? found.st_mode & forUser : (found.st_mode & forUser) | mayWrite;
+        if (rights != (found.st_mode & ALLPERMS)) {
+            // Neither reads the file, which may be forbidden, nor follows what took its place.
+            const Descriptor file(openat(folder, name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
+            chmod(("/proc/self/fd/" + std::to_string(file.get())).c_str(), rights);
         }
     }
 }
@@ -95,10 +116,25 @@ void DataFolder::lock()
     if (!lock_) {
         throw unusable(Sentences::notWritable);
     }
-    if (flock(lock_.get(), LOCK_EX | LOCK_NB) != 0) {
-        lock_.reset();
-        throw Refusal({Sentences::alreadyOpen, {path_}});
+    constexpr double longestEnd = 150;
+    constexpr std::chrono::milliseconds pause(20);
+    const double begun = steadySeconds();
+    while (flock(lock_.get(), LOCK_EX | LOCK_NB) != 0) {
+        if (!isEnding(lock_.get()) || steadySeconds() - begun > longestEnd) {
+            lock_.reset();
+            throw Refusal({Sentences::alreadyOpen, {path_}});
+        }
+        std::this_thread::sleep_for(pause);
     }
+    if (ftruncate(lock_.get(), 0) != 0) {
+        throw unusable(Sentences::notWritable);
+    }
+}
+
+void DataFolder::announceEnd() const
+{
+    // A start that does not learn of it says that the till is open, as it was a moment ago.
+    [[maybe_unused]] const ssize_t written = pwrite(lock_.get(), ending.data(), ending.size(), 0);
 }
 
 void DataFolder::close()
@@ -107,9 +143,8 @@ void DataFolder::close()
     closeFiles(folder_.get());
     const Descriptor copies(
         openat(folder_.get(), "copies", O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    SafeFile::Status found{};
-    if (copies && fstat(copies.get(), &found) == 0) {
-        fchmod(copies.get(), found.st_mode & forUser);
+    if (copies) {
+        fchmod(copies.get(), forUser);
         closeFiles(copies.get());
     }
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "launcher/Descriptor.h"
+#include "base/Descriptor.h"
 #include "launcher/Sentences.h"
 
 #include <string>
@@ -21,7 +21,12 @@ public:
     explicit DataFolder(std::string path);
 
     /// Keeps any other till away from the folder until the lock and all copies of it are closed.
+    /// Waits for a launcher whose till has ended and that makes its last copy. Throws Refusal.
     void lock();
+    /// Lets a next start wait for this launcher, which has little left to do.
+    void announceEnd() const;
+    /// Lets others in.
+    void unlock() { lock_.reset(); }
     /// Takes from all others what they might read here.
     void close();
 

@@ -3,6 +3,7 @@
 
 #include "launcher/Clock.h"
 #include "launcher/Journals.h"
+#include "launcher/Reasons.h"
 #include "launcher/TillSchema.h"
 
 #include <cstdlib>
@@ -13,26 +14,6 @@
 namespace {
 constexpr int busyTimeoutMs = 2000;
 constexpr int primaryCode = 0xff;
-
-Words reasonOf(int code)
-{
-    switch (code & primaryCode) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return Sentences::occupied;
-    case SQLITE_NOTADB:
-        return Sentences::notDatabase;
-    case SQLITE_CORRUPT:
-        return Sentences::damaged;
-    case SQLITE_READONLY:
-    case SQLITE_PERM:
-        return Sentences::notAccessible;
-    case SQLITE_INTERRUPT:
-        return Sentences::tooLong;
-    default:
-        return sqlite3_errstr(code);
-    }
-}
 
 void require(int code)
 {
@@ -81,7 +62,7 @@ void harden(sqlite3* connection)
 
 DatabaseError::DatabaseError(int code)
     : code_(code & primaryCode)
-    , reason_(reasonOf(code))
+    , reason_(Reasons::ofSqlite(code))
 { }
 
 DatabaseError::DatabaseError(const Sentence& reason, int code)

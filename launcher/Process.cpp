@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/Process.h"
 
-#include "launcher/Descriptor.h"
+#include "base/Descriptor.h"
 
 #include <array>
 #include <cerrno>

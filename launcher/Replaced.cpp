@@ -5,6 +5,7 @@
 #include "launcher/Copies.h"
 #include "launcher/Database.h"
 #include "launcher/Journals.h"
+#include "launcher/KeptJournals.h"
 #include "launcher/SafeFile.h"
 
 #include <cerrno>
@@ -67,10 +68,10 @@ Replaced::Replaced(const Target& target, int shelf)
     const std::string stem = Copies::freeStem(shelf_, "remplacee", now());
     isFile_ = SafeFile::isRegular(folder, target_.base.c_str());
     try {
-        keep(target_.base + "-journal", stem + ".journal");
-        keep(target_.base + "-wal", stem + ".wal");
+        keep(target_.base + "-journal", stem + ".journal", Kind::Journal);
+        keep(target_.base + "-wal", stem + ".wal", Kind::Journal);
         if (isFile_) {
-            keep(target_.base, stem + ".db");
+            keep(target_.base, stem + ".db", Kind::Database);
             name_ = stem + ".db";
         } else if (SafeFile::exists(folder, target_.base.c_str())) {
             SafeFile::moveNew(folder, target_.base.c_str(), shelf_, (stem + ".db").c_str());
@@ -95,7 +96,7 @@ void Replaced::discard() noexcept
     }
 }
 
-void Replaced::keep(const std::string& file, const std::string& name)
+void Replaced::keep(const std::string& file, const std::string& name, Kind kind)
 {
     const int folder = target_.folder.get();
     if (!SafeFile::isRegular(folder, file.c_str())) {
@@ -107,17 +108,40 @@ void Replaced::keep(const std::string& file, const std::string& name)
         SafeFile::fail(file.c_str());
     }
     SafeFile::Temporary part(shelf_, CopyShelf::partName);
-    part.copyFrom(source.get());
+    try {
+        part.copyFrom(source.get());
+    } catch (const std::system_error& error) {
+        if (error.code().value() != EIO || !keepUnread(file, name)) {
+            throw;
+        }
+        return;
+    }
     part.setTimes(original);
+    if (kind == Kind::Journal) {
+        KeptJournals::remember(shelf_, name, part.file());
+    }
     // It is there from its rename on, even when the folder then cannot be synced.
     kept_.push_back(name);
     part.become(name.c_str(), SafeFile::Existing::Keep);
 }
 
+/// Gives a file that the disk does not give back a second name: what can still be read of it is
+/// kept. False when the copies are on another disk, or this one knows no second names.
+bool Replaced::keepUnread(const std::string& file, const std::string& name)
+{
+    if (linkat(target_.folder.get(), file.c_str(), shelf_, name.c_str(), 0) != 0) {
+        return false;
+    }
+    kept_.push_back(name);
+    isUnread_ = true;
+    SafeFile::sync(shelf_);
+    return true;
+}
+
 void Replaced::settle()
 {
     const int folder = target_.folder.get();
-    if (isFile_ && !rollBack()) {
+    if (isFile_ && (isUnread_ || !rollBack())) {
         // The old file is no database without its journal, nor with it: both are kept.
         stays_ = true;
     }
@@ -152,10 +176,17 @@ bool Replaced::rollBack() const
         database.endWal();
         database.requireAlone();
     } catch (const DatabaseError& error) {
-        if (!error.isAboutContent()) {
+        switch (error.code()) {
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+        case SQLITE_IOERR:
+        case SQLITE_FULL:
+        case SQLITE_NOMEM:
+        case SQLITE_CANTOPEN:
             throw;
+        default:
+            return false;
         }
-        return false;
     }
     return true;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "launcher/Descriptor.h"
+#include "base/Descriptor.h"
 
 #include <string>
 #include <vector>
@@ -43,7 +43,14 @@ public:
     const std::string& name() const { return name_; }
 
 private:
-    void keep(const std::string& file, const std::string& name);
+    enum class Kind
+    {
+        Database,
+        Journal
+    };
+
+    void keep(const std::string& file, const std::string& name, Kind kind);
+    bool keepUnread(const std::string& file, const std::string& name);
     void discard() noexcept;
     bool rollBack() const;
 
@@ -53,4 +60,5 @@ private:
     std::vector<std::string> kept_;
     bool stays_ = false;
     bool isFile_ = false;
+    bool isUnread_ = false;
 };

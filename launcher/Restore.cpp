@@ -5,6 +5,7 @@
 #include "launcher/Database.h"
 #include "launcher/DataFolder.h"
 #include "launcher/Journals.h"
+#include "launcher/KeptJournals.h"
 #include "launcher/Refusal.h"
 #include "launcher/Replaced.h"
 #include "launcher/SafeFile.h"
@@ -76,6 +77,9 @@ private:
         if (!source) {
             SafeFile::fail(kept.c_str());
         }
+        if (!KeptJournals::isKnown(shelf, kept, source.get())) {
+            return;
+        }
         const std::string journal = base_ + suffix;
         SafeFile::Temporary part(target_.folder.get(), journal);
         part.copyFrom(source.get());
@@ -107,6 +111,8 @@ Refusal notRestored(const DataFolder& folder, const std::string& name, const Dat
         return Refusal({Sentences::copyDamaged, {name}});
     case SQLITE_AUTH:
     case SQLITE_INTERRUPT:
+    case SQLITE_NOMEM:
+    case SQLITE_BUSY:
         return Refusal({Sentences::copyRefused, {name, error.reason()}});
     default:
         return folder.unusable(Sentences::notWritable);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "launcher/Descriptor.h"
+#include "base/Descriptor.h"
 
 #include <optional>
 #include <string>

@@ -4,11 +4,84 @@
 #include "launcher/Copies.h"
 #include "launcher/SafeFile.h"
 
+#include <algorithm>
+#include <array>
+#include <iomanip>
+#include <sstream>
+
 #include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace {
 constexpr const char* pathName = "copies-vers";
 constexpr const char* reachedName = ".copies-vers-vu";
+
+const std::string registerPrefix = ".registre-";
+
+bool isMark(const std::string& text)
+{
+    return !text.empty() && text.find_first_not_of("0123456789abcdef") == std::string::npos;
+}
+
+/// What tells this shop's register from those of others.
+std::string newMark()
+{
+    std::array<unsigned char, 8> bytes{};
+    if (getentropy(bytes.data(), bytes.size()) != 0) {
+        SafeFile::fail("getentropy");
+    }
+    std::ostringstream mark;
+    for (const unsigned byte : bytes) {
+        mark << std::hex << std::setw(2) << std::setfill('0') << byte;
+    }
+    return mark.str();
+}
+
+void leaveRegister(const std::string& path, const std::string& name)
+{
+    try {
+        const Descriptor place = SafeFile::openFolder(AT_FDCWD, path.c_str());
+        if (!SafeFile::isRegular(place.get(), name.c_str())) {
+            SafeFile::write(place.get(), name.c_str(), "", SafeFile::Existing::Replace);
+        }
+    } catch (const std::system_error& error) {
+        throw SecondPlace::NotWritable(error.code());
+    }
+}
+
+off_t sizeOf(int folder, const std::string& file)
+{
+    SafeFile::Status found{};
+    return fstatat(folder, file.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0 ? found.st_size : -1;
+}
+
+/// Brings the copy \a newest from \a here to \a there, unless it is there as it is here.
+void bring(
+    const CopyShelf& here, const CopyShelf::Entry& newest, CopyShelf& there, const Moment& moment)
+{
+    const std::string file = newest.name.file();
+    const off_t size = sizeOf(here.get(), file);
+    const auto brought = there.entries();
+    const auto isIt = [&](const CopyShelf::Entry& entry) {
+        return entry.fingerprint == newest.fingerprint && entry.name.day == newest.name.day
+            && sizeOf(there.get(), entry.name.file()) == size
+            && (!newest.fingerprint.empty() || entry.name.file() == file);
+    };
+    if (std::any_of(brought.begin(), brought.end(), isIt)) {
+        return;
+    }
+    const Descriptor source = SafeFile::openRegular(here.get(), file.c_str(), O_RDONLY);
+    if (!source) {
+        SafeFile::fail(file.c_str());
+    }
+    // Another shop that shares the place may have a copy of the same day.
+    const bool isTaken = SafeFile::exists(there.get(), file.c_str());
+    SafeFile::Temporary part(there.get(), CopyShelf::partName);
+    part.copyFrom(source.get());
+    there.add(
+        part, isTaken ? there.freeName({newest.name.day, moment.time}) : file, newest.fingerprint);
+}
 
 void forgetFile(int folder, const char* name)
 {
@@ -24,8 +97,11 @@ SecondPlace::SecondPlace(int folder)
 
 void SecondPlace::remember(const std::string& path, const Moment& moment) const
 {
+    const std::string known = line(pathName, 1);
+    const std::string mark = isMark(known) ? known : newMark();
+    leaveRegister(path, registerPrefix + mark);
     SafeFile::write(folder_, reachedName, moment.day + '\n', SafeFile::Existing::Replace);
-    SafeFile::write(folder_, pathName, path + '\n', SafeFile::Existing::Replace);
+    SafeFile::write(folder_, pathName, path + '\n' + mark + '\n', SafeFile::Existing::Replace);
 }
 
 void SecondPlace::forget() const
@@ -49,35 +125,39 @@ bool SecondPlace::isLongAway(const Moment& moment) const
     return !path().empty() && daysBetween(lastReached(), moment.day) >= patience;
 }
 
-void SecondPlace::carry(const Copies& copies, const Moment& moment) const
+bool SecondPlace::carry(const Copies& copies, const Moment& moment) const
 {
-    const auto all = copies.entries();
     const std::string there = path();
-    if (there.empty() || all.empty()) {
-        return;
+    Descriptor place(open(there.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const std::string known = registerName();
+    if (!place || known.empty() || !SafeFile::isRegular(place.get(), known.c_str())) {
+        return false;
     }
-    CopyShelf shelf(SafeFile::openFolder(AT_FDCWD, there.c_str()));
-    const std::string file = all.back().name.file();
-    if (!SafeFile::exists(shelf.get(), file.c_str())) {
-        const CopyShelf here = copies.shelf();
-        const Descriptor source = SafeFile::openRegular(here.get(), file.c_str(), O_RDONLY);
-        if (!source) {
-            SafeFile::fail(file.c_str());
-        }
-        SafeFile::Temporary part(shelf.get(), CopyShelf::partName);
-        part.copyFrom(source.get());
-        part.become(file.c_str(), SafeFile::Existing::Keep);
-        shelf.add(file, all.back().fingerprint);
+    const CopyShelf here = copies.shelf();
+    // The launcher of an earlier till may still be at it.
+    if (flock(here.get(), LOCK_EX | LOCK_NB) != 0) {
+        return false;
+    }
+    const auto all = here.entries();
+    if (!all.empty()) {
+        CopyShelf shelf(std::move(place), known, CopyShelf::Strangers::Others);
+        bring(here, all.back(), shelf, moment);
     }
     SafeFile::write(folder_, reachedName, moment.day + '\n', SafeFile::Existing::Replace);
+    return true;
 }
 
-std::string SecondPlace::line(const char* name) const
+std::string SecondPlace::line(const char* name, int number) const
 {
     constexpr std::size_t longest = 8192;
-    std::string found = SafeFile::read(folder_, name, longest).value_or("");
-    if (found.ends_with('\n')) {
-        found.pop_back();
-    }
-    return found;
+    std::istringstream lines(SafeFile::read(folder_, name, longest).value_or(""));
+    std::string found;
+    for (int at = 0; at <= number && std::getline(lines, found); ++at) { }
+    return lines ? found : std::string();
+}
+
+std::string SecondPlace::registerName() const
+{
+    const std::string mark = line(pathName, 1);
+    return isMark(mark) ? registerPrefix + mark : std::string();
 }

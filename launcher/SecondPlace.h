@@ -4,18 +4,27 @@
 #include "launcher/Clock.h"
 
 #include <string>
+#include <system_error>
 
 class Copies;
 
 /// A folder, such as a stick or a share, that each copy goes to as well. It may be away at any
-/// time.
+/// time. It holds a register of its own by which the shop knows it: the empty folder that a stick
+/// leaves where it was is not taken for it, and several shops may share it.
 class SecondPlace
 {
 public:
     /// The one that the data folder \a folder remembers.
     explicit SecondPlace(int folder);
 
-    /// Remembers the existing folder \a path from \a moment on. Throws std::system_error.
+    /// That nothing can be written there.
+    struct NotWritable : std::system_error
+    {
+        using std::system_error::system_error;
+    };
+
+    /// Remembers the existing folder \a path from \a moment on, and leaves the shop's register
+    /// there. Throws NotWritable, or std::system_error about the data folder.
     void remember(const std::string& path, const Moment& moment) const;
     /// Remembers none any more. Throws std::system_error.
     void forget() const;
@@ -27,11 +36,13 @@ public:
     /// Whether it was not reached in the week before \a moment.
     bool isLongAway(const Moment& moment) const;
 
-    /// Brings the newest of \a copies there, unless it is there. Throws std::system_error.
-    void carry(const Copies& copies, const Moment& moment) const;
+    /// Brings the newest of \a copies there, unless it is there. False when the place is away.
+    /// Throws std::system_error.
+    bool carry(const Copies& copies, const Moment& moment) const;
 
 private:
-    std::string line(const char* name) const;
+    std::string line(const char* name, int number = 0) const;
+    std::string registerName() const;
 
     int folder_;
 };

@@ -94,6 +94,7 @@ inline constexpr Sentence databaseUnusable{
     "» et « vendel --restaurer » en remet une en place.",
     "The database \"%1/Vendel.db\" cannot be used (%2); the copies are in \"%1/copies\" and "
     "\"vendel --restaurer\" puts one back."};
+inline constexpr Sentence fileIsNone{"« %1 » n'est pas un fichier", "\"%1\" is not a file"};
 inline constexpr Sentence notFile{"ce n'est pas un fichier", "it is not a file"};
 inline constexpr Sentence notAccessible{
     "elle ne peut pas être lue et écrite", "it cannot be read and written"};
@@ -105,6 +106,12 @@ inline constexpr Sentence foreignJournal{
 inline constexpr Sentence occupied{"un autre programme l'occupe", "another program is using it"};
 inline constexpr Sentence notDatabase{"ce n'est pas une base de données", "it is not a database"};
 inline constexpr Sentence damaged{"elle est endommagée", "it is damaged"};
+inline constexpr Sentence diskFull{"le disque est plein", "the disk is full"};
+inline constexpr Sentence diskFails{
+    "le disque répond par des erreurs", "the disk answers with errors"};
+inline constexpr Sentence machineExhausted{
+    "la machine n'a plus assez de mémoire", "the machine is short of memory"};
+inline constexpr Sentence systemSays{"le système dit : « %1 »", "the system says \"%1\""};
 inline constexpr Sentence tooLong{"son contrôle prend trop de temps", "checking it takes too long"};
 inline constexpr Sentence setAside{
     "Une base de données inachevée et vide est mise de côté : « %1 ».",
@@ -115,6 +122,11 @@ inline constexpr Sentence noDailyCopy{
     "Today's copy of the database could not be made in \"%1/copies\"."};
 inline constexpr Sentence noSuchFolder{"Le dossier « %1 » n'existe pas ou ne peut pas être écrit.",
     "The folder \"%1\" does not exist or cannot be written."};
+inline constexpr Sentence folderOfData{
+    "Le dossier « %1 » est déjà celui de la caisse : une copie n'y serait pas à l'abri.",
+    "The folder \"%1\" is the till's own: a copy would not be safe there."};
+inline constexpr Sentence notCarried{"La copie de la base n'a pas pu être mise dans « %1 » (%2).",
+    "The copy of the database could not be put into \"%1\" (%2)."};
 inline constexpr Sentence copiesGoTo{
     "Chaque copie ira aussi dans « %1 ».", "Each copy will go to \"%1\" too."};
 inline constexpr Sentence copiesStay{
@@ -142,6 +154,8 @@ inline constexpr Sentence restored{
 inline constexpr Sentence replacedKept{
     " ; la base remplacée est gardée dans « %1 »", "; the replaced database is kept in \"%1\""};
 
+inline constexpr Sentence notStarted{
+    "La caisse ne peut pas être démarrée (%1).", "The till cannot be started (%1)."};
 inline constexpr Sentence startedAgain{
     "La caisse s'est arrêtée d'elle-même (signal %1) ; elle redémarre.",
     "The till ended by itself (signal %1); it starts again."};

@@ -26,9 +26,22 @@ void writeNew(int folder, const std::string& name, const Descriptor& source)
     part.become(name.c_str(), SafeFile::Existing::Keep);
 }
 
+/// Refuses what the till would wait for without end, such as a FIFO. It looks at pictures itself.
+void requireReadable(const DataFolder& folder, const std::string& name)
+{
+    SafeFile::Status found{};
+    if (fstatat(folder.get(), name.c_str(), &found, 0) == 0 && !S_ISREG(found.st_mode)
+        && !S_ISDIR(found.st_mode)) {
+        throw folder.unusable({Sentences::fileIsNone, {name}});
+    }
+}
+
 void provide(const DataFolder& folder, const std::string& name, const std::string& source)
 {
     if (SafeFile::exists(folder.get(), name.c_str())) {
+        if (source.empty()) {
+            requireReadable(folder, name);
+        }
         return;
     }
     Descriptor original;

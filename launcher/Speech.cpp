@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/Speech.h"
 
+#include "launcher/Outlet.h"
 #include "launcher/Process.h"
 
 #include <cstdlib>
@@ -33,7 +34,10 @@ void Speech::warn(const Words& words) const
     box("--avertissement", say(language_, words));
 }
 
-void Speech::note(const Words& words) const { std::cerr << say(language_, words) << std::endl; }
+void Speech::note(const Words& words) const
+{
+    Outlet(STDERR_FILENO).write(say(language_, words) + '\n');
+}
 
 void Speech::done(const Words& words) const
 {

@@ -100,7 +100,7 @@ bool copy(const DataFolder& folder, const Speech& speech)
         return true;
     } catch (const DatabaseError& error) {
         if (error.isAboutContent()) {
-            throw unusable(folder, Sentences::damaged);
+            throw unusable(folder, error.reason());
         }
         speech.warn(notMade);
     } catch (const std::system_error&) {

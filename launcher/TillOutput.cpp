@@ -9,17 +9,9 @@
 #include <fcntl.h>
 #include <poll.h>
 
-namespace {
-/// \a descriptor under another mode that never waits, which must not change for whoever shares it.
-Descriptor withoutWaiting(int descriptor)
-{
-    const std::string name = "/proc/self/fd/" + std::to_string(descriptor);
-    return Descriptor(open(name.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-}
-} // namespace
-
 TillOutput::TillOutput(Log& log, int onward)
-    : lines_([&log](std::string_view line) { log.write(line); })
+    : onward_(onward)
+    , lines_([&log](std::string_view line) { log.write(line); })
 {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) {
@@ -28,16 +20,6 @@ TillOutput::TillOutput(Log& log, int onward)
     end_ = Descriptor(ends[0]);
     tillEnd_ = Descriptor(ends[1]);
     fcntl(end_.get(), F_SETFL, O_NONBLOCK);
-
-    SafeFile::Status found{};
-    if (fstat(onward, &found) == 0) {
-        if (S_ISREG(found.st_mode)) {
-            onward_ = onward;
-        } else {
-            reopened_ = withoutWaiting(onward);
-            onward_ = reopened_.get();
-        }
-    }
 }
 
 Descriptor TillOutput::takeTillEnd() { return std::move(tillEnd_); }
@@ -55,7 +37,7 @@ bool TillOutput::pass()
     }
     const std::string_view bytes(block.data(), static_cast<std::size_t>(size));
     // What cannot be passed on is in the log.
-    [[maybe_unused]] const ssize_t passed = write(onward_, bytes.data(), bytes.size());
+    onward_.write(bytes);
     lines_.append(bytes);
     return true;
 }

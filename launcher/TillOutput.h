@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "launcher/Descriptor.h"
+#include "base/Descriptor.h"
 #include "launcher/Log.h"
+#include "launcher/Outlet.h"
 
 /// One of the till's streams: into the log, line by line, and on to where the launcher's own goes.
 /// A terminal or a pipe that takes nothing misses some of it, rather than hold up the till.
@@ -24,7 +25,6 @@ public:
 private:
     Descriptor end_;
     Descriptor tillEnd_;
-    Descriptor reopened_;
-    int onward_ = -1;
+    Outlet onward_;
     Lines lines_;
 };

@@ -5,54 +5,29 @@
 #include "launcher/CopyWork.h"
 #include "launcher/DataFolder.h"
 #include "launcher/Process.h"
+#include "launcher/Reasons.h"
 #include "launcher/Refusal.h"
 #include "launcher/SafeFile.h"
 #include "launcher/Speech.h"
 #include "launcher/TillOutput.h"
+#include "launcher/Timer.h"
 
 #include <array>
 #include <cerrno>
-#include <cmath>
 #include <limits>
+#include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/prctl.h>
 #include <sys/signalfd.h>
-#include <sys/timerfd.h>
 #include <sys/wait.h>
 
 namespace {
 /// The number that the till finds its lock under.
 constexpr int tillLock = 9;
-
-Descriptor makeTimer()
-{
-    Descriptor timer(timerfd_create(CLOCK_BOOTTIME, TFD_CLOEXEC | TFD_NONBLOCK));
-    if (!timer) {
-        SafeFile::fail("timerfd");
-    }
-    return timer;
-}
-
-timespec timeOf(double seconds)
-{
-    constexpr double nanoseconds = 1e9;
-    const double whole = std::floor(seconds);
-    return {static_cast<time_t>(whole), static_cast<long>((seconds - whole) * nanoseconds)};
-}
-
-void setTimer(const Descriptor& timer, double first, double then)
-{
-    const itimerspec times{timeOf(then), timeOf(first)};
-    timerfd_settime(timer.get(), 0, &times, nullptr);
-}
-
-bool hasRung(const Descriptor& timer)
-{
-    std::uint64_t times = 0;
-    return read(timer.get(), &times, sizeof times) == sizeof times;
-}
+/// The exit status of a process that could not become the till.
+constexpr int notRun = 126;
 
 /// Whether the process \a child has ended, and how.
 bool hasEnded(pid_t child, int& state)
@@ -61,16 +36,16 @@ bool hasEnded(pid_t child, int& state)
 }
 } // namespace
 
-Watch::Watch(const DataFolder& folder, const Speech& speech, std::string program,
-    bool isCopyFailureSaid, Times times)
+Watch::Watch(DataFolder& folder, const Speech& speech, std::string program, bool isCopyFailureSaid,
+    Times times)
     : folder_(folder)
     , speech_(speech)
     , program_(std::move(program))
-    , isCopyFailureSaid_(isCopyFailureSaid)
     , times_(times)
     , log_(folder.get())
-    , hours_(makeTimer())
-    , deadline_(makeTimer())
+    , hours_(Timer::make())
+    , deadline_(Timer::make())
+    , copyTrouble_{isCopyFailureSaid, std::nullopt}
     , lastCrash_(-std::numeric_limits<double>::infinity())
 {
     sigset_t watched{};
@@ -83,27 +58,41 @@ Watch::Watch(const DataFolder& folder, const Speech& speech, std::string program
     if (!signals_) {
         SafeFile::fail("signalfd");
     }
-    setTimer(hours_, times_.betweenCopies, times_.betweenCopies);
+    Timer::set(hours_, times_.betweenCopies, times_.betweenCopies);
 }
 
 Watch::~Watch() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
 
 int Watch::run()
 {
-    startTill();
-    startCopy(Occasion::Opening);
+    if (startTill()) {
+        startCarrying();
+    }
     while (till_ > 0) {
         waitForSomething();
     }
     makeLastCopy();
-    if (lastSignal_ != 0) {
-        throw Refusal(
-            {Sentences::endedTwice, {std::to_string(lastSignal_), folder_.path()}}, status_);
+    sayTrouble();
+    if (lastWords_) {
+        throw Refusal(*lastWords_, status_);
     }
     return status_;
 }
 
-void Watch::startTill()
+/// False when there can be no till: why is then in the last words.
+bool Watch::startTill()
+{
+    try {
+        forkTill();
+        return true;
+    } catch (const std::system_error& error) {
+        lastWords_ = Words(Sentences::notStarted, {Reasons::ofSystem(error.code().value())});
+        status_ = EXIT_FAILURE;
+        return false;
+    }
+}
+
+void Watch::forkTill()
 {
     output_ = std::make_unique<TillOutput>(log_, STDOUT_FILENO);
     errors_ = std::make_unique<TillOutput>(log_, STDERR_FILENO);
@@ -120,7 +109,6 @@ void Watch::startTill()
 
 void Watch::becomeTill(int output, int errors) const
 {
-    constexpr int notRun = 126;
     dup2(output, STDOUT_FILENO);
     dup2(errors, STDERR_FILENO);
     // The lock stays with the till, however the launcher ends.
@@ -137,27 +125,27 @@ void Watch::becomeTill(int output, int errors) const
 
 void Watch::waitForSomething()
 {
-    std::array<pollfd, 5> ready{{{signals_.get(), POLLIN, 0}, {hours_.get(), POLLIN, 0},
-        {deadline_.get(), POLLIN, 0}, {output_ ? output_->get() : -1, POLLIN, 0},
-        {errors_ ? errors_->get() : -1, POLLIN, 0}}};
+    std::array<pollfd, 7> ready{
+        {{output_ ? output_->get() : -1, POLLIN, 0}, {errors_ ? errors_->get() : -1, POLLIN, 0},
+            {signals_.get(), POLLIN, 0}, {hours_.get(), POLLIN, 0}, {deadline_.get(), POLLIN, 0},
+            {copying_.clock(), POLLIN, 0}, {carrying_.clock(), POLLIN, 0}}};
     if (poll(ready.data(), ready.size(), -1) < 0) {
         return;
     }
-    if (ready[3].revents != 0 && !output_->pass()) {
+    if (ready[0].revents != 0 && !output_->pass()) {
         output_.reset();
     }
-    if (ready[4].revents != 0 && !errors_->pass()) {
+    if (ready[1].revents != 0 && !errors_->pass()) {
         errors_.reset();
     }
-    if (hasRung(hours_)) {
+    if (Timer::hasRung(hours_)) {
         startCopy(Occasion::Hour);
     }
-    if (hasRung(deadline_)) {
-        const pid_t late = till_ > 0 ? till_ : copying_;
-        if (late > 0) {
-            kill(late, SIGKILL);
-        }
+    if (Timer::hasRung(deadline_) && till_ > 0) {
+        kill(till_, SIGKILL);
     }
+    copying_.lookAtClock();
+    carrying_.lookAtClock();
     readSignals();
 }
 
@@ -169,10 +157,13 @@ void Watch::readSignals()
             askToEnd();
         }
     }
-    int state = 0;
-    if (hasEnded(copying_, state)) {
-        copyEnded(state);
+    if (const auto status = copying_.ended()) {
+        copyEnded(*status);
     }
+    if (const auto status = carrying_.ended()) {
+        carryingEnded(*status);
+    }
+    int state = 0;
     if (hasEnded(till_, state)) {
         tillEnded(state);
     }
@@ -180,10 +171,10 @@ void Watch::readSignals()
 
 void Watch::askToEnd()
 {
-    if (!isEnding_ && till_ > 0) {
-        isEnding_ = true;
+    // Also while the last copy is made: then nobody is there any more to answer a box.
+    if (!std::exchange(isEnding_, true) && till_ > 0) {
         kill(till_, SIGTERM);
-        setTimer(deadline_, times_.ending, 0);
+        Timer::set(deadline_, times_.ending);
     }
 }
 
@@ -197,16 +188,20 @@ void Watch::tillEnded(int state)
         }
     }
     status_ = Process::exitStatus(state);
+    if (status_ == notRun) {
+        lastWords_ = Words(Sentences::notStarted, {program_});
+    }
     if (!WIFSIGNALED(state) || isEnding_) {
         return;
     }
+    const std::string signal = std::to_string(WTERMSIG(state));
     const double crash = steadySeconds();
     if (crash - lastCrash_ <= times_.crashWindow) {
-        lastSignal_ = WTERMSIG(state);
+        lastWords_ = Words(Sentences::endedTwice, {signal, folder_.path()});
         return;
     }
     lastCrash_ = crash;
-    const Words again(Sentences::startedAgain, {std::to_string(WTERMSIG(state))});
+    const Words again(Sentences::startedAgain, {signal});
     log_.write(say(speech_.language(), again));
     speech_.note(again);
     startTill();
@@ -214,53 +209,107 @@ void Watch::tillEnded(int state)
 
 void Watch::startCopy(Occasion occasion)
 {
-    if (copying_ > 0) {
-        return;
-    }
-    // A stick that hangs must not hold up the till's output, so another process waits for it.
     const CopyWork work(folder_.get());
-    const bool makesCopy = occasion != Occasion::Opening && work.isChanged();
-    if (!makesCopy && !work.hasSecondPlace()) {
+    if (copying_.isUnderWay()) {
         return;
     }
-    copying_ = fork();
-    if (copying_ == 0) {
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (!work.isChanged()) {
+        startCarrying();
+        return;
+    }
+    const bool isLast = occasion == Occasion::Closing;
+    const auto pace = isLast ? Backup::Pace::Full : Backup::Pace::Gentle;
+    const auto make = [this, &work, pace] {
         close(folder_.lockFile());
-        const auto pace = occasion == Occasion::Closing ? Backup::Pace::Full : Backup::Pace::Gentle;
-        _exit(static_cast<int>(work.run(makesCopy, pace)));
+        return static_cast<int>(work.make(pace));
+    };
+    if (!copying_.start(make, isLast ? times_.lastCopy : times_.copy)) {
+        copyEnded(static_cast<int>(CopyWork::Made::Failed));
     }
 }
 
-void Watch::copyEnded(int state)
+void Watch::startCarrying()
 {
-    copying_ = -1;
-    const auto result = static_cast<CopyWork::Result>(Process::exitStatus(state));
-    if (result == CopyWork::Result::Done || isCopyFailureSaid_) {
+    const CopyWork work(folder_.get());
+    if (carrying_.isUnderWay() || work.secondPlace().empty()) {
         return;
     }
-    isCopyFailureSaid_ = true;
-    const Words words = result == CopyWork::Result::Damaged
-        ? Words(Sentences::databaseUnusable, {folder_.path(), Sentences::damaged})
-        : Words(Sentences::noDailyCopy, {folder_.path()});
-    log_.write(say(speech_.language(), words));
-    // Nobody answers a box who is serving customers, or whose session ends.
-    if (isClosing_ && !isEnding_) {
-        speech_.warn(words);
-    } else {
+    const auto carry = [this, &work] {
+        close(folder_.lockFile());
+        return work.carry();
+    };
+    if (!carrying_.start(carry, isClosing_ ? times_.lastCopy : times_.copy)) {
+        carryingEnded(EAGAIN);
+    }
+}
+
+void Watch::copyEnded(int status)
+{
+    const auto made = static_cast<CopyWork::Made>(status);
+    if (made == CopyWork::Made::Done) {
+        copyTrouble_ = {};
+        startCarrying();
+        return;
+    }
+    const bool isUnusable = made == CopyWork::Made::Damaged || made == CopyWork::Made::Foreign;
+    note(copyTrouble_,
+        isUnusable ? Words(Sentences::databaseUnusable,
+            {folder_.path(),
+                made == CopyWork::Made::Damaged ? Sentences::damaged : Sentences::foreignContent})
+                   : Words(Sentences::noDailyCopy, {folder_.path()}));
+}
+
+void Watch::carryingEnded(int status)
+{
+    constexpr int mostErrors = 133;
+    if (status == 0) {
+        carryTrouble_ = {};
+    }
+    if (status == 0 || status == CopyWork::isAway) {
+        return;
+    }
+    // A medium that hangs had its process killed.
+    const int number = status <= mostErrors ? status : ETIMEDOUT;
+    note(carryTrouble_,
+        {Sentences::notCarried,
+            {CopyWork(folder_.get()).secondPlace(), Reasons::ofSystem(number)}});
+}
+
+void Watch::note(Trouble& trouble, const Words& words)
+{
+    if (!std::exchange(trouble.isKnown, true)) {
+        log_.write(say(speech_.language(), words));
         speech_.note(words);
+        trouble.unread = words;
+    }
+}
+
+/// Nobody answers a box who is serving customers, or whose session ends.
+void Watch::sayTrouble() const
+{
+    for (const Trouble* trouble : {&copyTrouble_, &carryTrouble_}) {
+        if (trouble->unread && !isEnding_) {
+            speech_.warn(*trouble->unread);
+        }
+    }
+}
+
+void Watch::await(Chore& chore)
+{
+    chore.limit(times_.lastCopy);
+    while (chore.isAwaited()) {
+        waitForSomething();
     }
 }
 
 void Watch::makeLastCopy()
 {
     isClosing_ = true;
-    setTimer(deadline_, times_.lastCopy, 0);
-    while (copying_ > 0) {
-        waitForSomething();
-    }
+    folder_.announceEnd();
+    await(copying_);
     startCopy(Occasion::Closing);
-    while (copying_ > 0) {
-        waitForSomething();
-    }
+    await(copying_);
+    // The till may start again while a slow medium is written to.
+    folder_.unlock();
+    await(carrying_);
 }

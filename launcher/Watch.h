@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "launcher/Chore.h"
 #include "launcher/Log.h"
+#include "launcher/Sentences.h"
 
 #include <csignal>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <sys/types.h>
@@ -27,14 +30,16 @@ public:
         double betweenCopies = 3600;
         /// What a till that is asked to end has for it.
         double ending = 5;
-        /// What the last copy may take.
+        /// What a copy may take while the till runs, here or in the second place.
+        double copy = 1800;
+        /// What each of the two may take when the till is closed.
         double lastCopy = 120;
     };
 
     /// For the till \a program. \a isCopyFailureSaid: whether the shopkeeper knows already that
     /// copies fail.
-    Watch(const DataFolder& folder, const Speech& speech, std::string program,
-        bool isCopyFailureSaid, Times times);
+    Watch(DataFolder& folder, const Speech& speech, std::string program, bool isCopyFailureSaid,
+        Times times);
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
     Watch(Watch&&) = delete;
@@ -49,39 +54,55 @@ public:
 private:
     enum class Occasion
     {
-        Opening,
         Hour,
         Closing
     };
 
-    void startTill();
+    bool startTill();
+    void forkTill();
     [[noreturn]] void becomeTill(int output, int errors) const;
     void waitForSomething();
     void readSignals();
     void askToEnd();
     void tillEnded(int state);
-    void startCopy(Occasion occasion);
-    void copyEnded(int state);
-    void makeLastCopy();
+    /// What goes wrong with the copies.
+    struct Trouble
+    {
+        /// It is noted once, until it has gone.
+        bool isKnown = false;
+        /// What is still to be said in a box, when nobody serves customers any more.
+        std::optional<Words> unread;
+    };
 
-    const DataFolder& folder_;
+    void startCopy(Occasion occasion);
+    void startCarrying();
+    void copyEnded(int status);
+    void carryingEnded(int status);
+    void note(Trouble& trouble, const Words& words);
+    void sayTrouble() const;
+    void makeLastCopy();
+    void await(Chore& chore);
+
+    DataFolder& folder_;
     const Speech& speech_;
     std::string program_;
-    bool isCopyFailureSaid_;
     Times times_;
     Log log_;
     sigset_t before_{};
     Descriptor signals_;
     Descriptor hours_;
     Descriptor deadline_;
+    Chore copying_;
+    Chore carrying_;
+    Trouble copyTrouble_;
+    Trouble carryTrouble_;
     std::unique_ptr<TillOutput> output_;
     std::unique_ptr<TillOutput> errors_;
     pid_t till_ = -1;
-    pid_t copying_ = -1;
     bool isEnding_ = false;
     bool isClosing_ = false;
     double lastCrash_;
     int status_ = 0;
-    /// The signal of the crash after which the till is not started again.
-    int lastSignal_ = 0;
+    /// Why the till is not started again.
+    std::optional<Words> lastWords_;
 };

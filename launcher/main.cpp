@@ -2,6 +2,7 @@
 #include "launcher/DataFolder.h"
 #include "launcher/Order.h"
 #include "launcher/Places.h"
+#include "launcher/Reasons.h"
 #include "launcher/Refusal.h"
 #include "launcher/Restore.h"
 #include "launcher/SecondPlace.h"
@@ -35,7 +36,7 @@ const std::string& usage(Language language, const std::string& data)
     return text;
 }
 
-int start(const Order& order, const DataFolder& folder, const Places& places, const Speech& speech)
+int start(const Order& order, DataFolder& folder, const Places& places, const Speech& speech)
 {
     if (access(places.program.c_str(), X_OK) != 0) {
         throw Refusal({Sentences::programMissing, {places.program}});
@@ -46,6 +47,11 @@ int start(const Order& order, const DataFolder& folder, const Places& places, co
     const bool isCopied = StartCheck::copy(folder, speech);
     StartCheck::secondPlace(folder, speech);
     return Watch(folder, speech, places.program, !isCopied, {}).run();
+}
+
+bool isWithin(const std::string& path, const std::string& folder)
+{
+    return (path + '/').starts_with(folder + '/');
 }
 
 /// Remembers where copies go as well. The till may be open meanwhile.
@@ -60,6 +66,9 @@ void changeSecondPlace(const Order& order, const std::string& data, const Speech
         throw Refusal({Sentences::noSuchFolder, {order.folder}});
     }
     DataFolder folder(data);
+    if (isFolder && isWithin(path, std::filesystem::canonical(data, none).string())) {
+        throw Refusal({Sentences::folderOfData, {path}});
+    }
     const SecondPlace place(folder.get());
     try {
         if (isFolder) {
@@ -67,6 +76,8 @@ void changeSecondPlace(const Order& order, const std::string& data, const Speech
         } else {
             place.forget();
         }
+    } catch (const SecondPlace::NotWritable&) {
+        throw Refusal({Sentences::noSuchFolder, {order.folder}});
     } catch (const std::system_error&) {
         throw folder.unusable(Sentences::notWritable);
     }
@@ -99,7 +110,7 @@ int act(const Order& order, const std::string& data, const Places& places, const
         Restore::run(folder, speech, order.copy);
         return 0;
     } catch (const std::system_error& error) {
-        throw folder.unusable(error.code().message());
+        throw folder.unusable(Reasons::ofSystem(error.code().value()));
     }
 }
 
@@ -114,7 +125,8 @@ void prepare()
     std::signal(SIGCHLD, SIG_DFL);
     int descriptor = 0;
     do {
-        descriptor = open("/dev/null", O_RDWR | O_CLOEXEC);
+        // The till inherits what fills a gap.
+        descriptor = open("/dev/null", O_RDWR); // NOLINT(android-cloexec-open)
     } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
     close(descriptor);
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "launcher/Database.h"
-#include "launcher/Descriptor.h"
+#include "base/Descriptor.h"
 #include "launcher/Refusal.h"
 #include "launcher/SafeFile.h"
 #include "tests/support/Shop.h"

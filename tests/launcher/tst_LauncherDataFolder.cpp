@@ -3,6 +3,9 @@
 #include "tests/launcher/ShopFolder.h"
 #include "tests/support/TestProgram.h"
 
+#include <chrono>
+#include <future>
+
 class TestLauncherDataFolder : public QObject
 {
     Q_OBJECT
@@ -64,6 +67,39 @@ private slots:
             second.lock();
         }),
             open);
+    }
+
+    void aStartWaitsForTheLastCopyOfTheTillBefore()
+    {
+        const ShopFolder shop;
+        DataFolder first(shop.name());
+        first.lock();
+        first.announceEnd();
+        auto starting = std::async(std::launch::async, [&] {
+            return refusal([&] {
+                DataFolder second(shop.name());
+                second.lock();
+            });
+        });
+        QVERIFY(starting.wait_for(std::chrono::milliseconds(100)) == std::future_status::timeout);
+        first.unlock();
+        QCOMPARE(starting.get(), QString());
+    }
+
+    void anEndThatWasAnnouncedIsNotTheNextTills()
+    {
+        const ShopFolder shop;
+        {
+            DataFolder first(shop.name());
+            first.lock();
+            first.announceEnd();
+        }
+        DataFolder second(shop.name());
+        second.lock();
+        QVERIFY(refusal([&] {
+            DataFolder third(shop.name());
+            third.lock();
+        }).contains(QString("already open")));
     }
 
     void aLockEndsWithItsOwner()

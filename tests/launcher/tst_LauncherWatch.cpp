@@ -2,10 +2,13 @@
 #include "launcher/Copies.h"
 #include "launcher/DataFolder.h"
 #include "launcher/Process.h"
+#include "launcher/SecondPlace.h"
 #include "launcher/Speech.h"
 #include "launcher/Watch.h"
 #include "tests/launcher/ShopFolder.h"
 #include "tests/support/TestProgram.h"
+
+#include <QTemporaryDir>
 
 #include <sys/wait.h>
 
@@ -27,6 +30,9 @@ public:
         write(QString("till"), "#!/bin/sh\necho start >>starts\n" + script + '\n');
         write(QString("refused"), {});
         chmod("till", 0700);
+        write(QString("dialogue"), "#!/bin/sh\necho \"$2 $1 $3\" >>boxes\n");
+        chmod("dialogue", 0700);
+        write(QString("boxes"), {});
     }
 
     /// Watches the till until it ends, in a process that has one thread only, as the launcher has.
@@ -47,6 +53,8 @@ public:
             read(QString("output"))};
     }
     int starts() const { return static_cast<int>(read(QString("starts")).count('\n')); }
+    /// A line for each box that was shown.
+    QByteArray boxes() const { return read(QString("boxes")); }
     QByteArray log() const { return read(QString("vendel.log")); }
 
 private:
@@ -55,7 +63,8 @@ private:
         try {
             DataFolder folder(name());
             folder.lock();
-            const Speech speech(Language::English, "/nowhere");
+            setenv("DISPLAY", ":nowhere", 1);
+            const Speech speech(Language::English, "./dialogue");
             return Watch(folder, speech, "./till", false, times).run();
         } catch (const Refusal& refusal) {
             write(QString("refused"), refusal.what());
@@ -210,19 +219,82 @@ private slots:
 
     void aFailedCopyIsSaidOnce()
     {
-        const WatchedShop shop(sale + "sleep 0.3");
+        const WatchedShop shop(
+            sale + "until grep -q 'could not be made' vendel.log; do sleep 0.02; done");
         shop.write(QString("copies"), "in the way");
         Watch::Times times;
         times.betweenCopies = 0.02;
         shop.watch(times);
         QCOMPARE(shop.log().count("could not be made"), 1);
+        QCOMPARE(shop.boxes(),
+            QByteArray("--avertissement --en Today's copy of the database could not be made in \""
+                + shop.path().toUtf8() + "/copies\".\n"));
+    }
+
+    void whoseSessionEndsIsShownNoBox()
+    {
+        const WatchedShop shop(sale + "kill -TERM $PPID\nexec sleep 60");
+        shop.write(QString("copies"), "in the way");
+        shop.watch();
+        QCOMPARE(shop.log().count("could not be made"), 1);
+        QCOMPARE(shop.boxes(), QByteArray());
+    }
+
+    void aFailureThatHasGoneIsNotShown()
+    {
+        const WatchedShop shop(sale
+            + "until grep -q 'could not be made' vendel.log; do sleep 0.02; done\nrm copies\n");
+        shop.write(QString("copies"), "in the way");
+        Watch::Times times;
+        times.betweenCopies = 0.02;
+        shop.watch(times);
+        QCOMPARE(ShopFolder::names("copies", "Vendel-*").size(), 1);
+        QCOMPARE(shop.boxes(), QByteArray());
+    }
+
+    void aForeignDatabaseIsNotCalledDamaged()
+    {
+        const WatchedShop shop(
+            "sqlite3 Vendel.db 'create view theirs as select 1; insert into Config (param, valeur) "
+            "values (1, 2)'");
+        shop.watch();
+        QVERIFY2(shop.boxes().contains(
+                     "cannot be used (it contains something other than the till's tables)"),
+            shop.boxes().constData());
+    }
+
+    void aSecondPlaceThatFailsIsSaid()
+    {
+        const QTemporaryDir stick;
+        const WatchedShop shop(sale);
+        SecondPlace(shop.get()).remember(stick.path().toStdString(), {"2026-03-05", "120000"});
+        // What is in the way of the copy cannot be removed as a file can.
+        QVERIFY(QDir(stick.path()).mkpath(QString(".Vendel.neuf/theirs")));
+        shop.watch();
+        QVERIFY2(shop.boxes().startsWith("--avertissement --en The copy of the database could not "
+                                         "be put into \""
+                     + stick.path().toUtf8() + "\" (the system says \""),
+            shop.boxes().constData());
+        QCOMPARE(ShopFolder::names("copies", "Vendel-*").size(), 1);
+    }
+
+    void eachCopyReachesTheSecondPlace()
+    {
+        const QTemporaryDir stick;
+        const WatchedShop shop(sale);
+        SecondPlace(shop.get()).remember(stick.path().toStdString(), {"2026-03-05", "120000"});
+        shop.watch();
+        QCOMPARE(QDir(stick.path()).entryList({QString("Vendel-*")}, QDir::Files).size(), 1);
+        QCOMPARE(shop.boxes(), QByteArray());
     }
 
     void aTillThatCannotRunIsSaid()
     {
         const WatchedShop shop("");
         shop.write(QString("till"), "");
-        QCOMPARE(shop.watch().status, 126);
+        const End end = shop.watch();
+        QCOMPARE(end.status, 126);
+        QCOMPARE(end.refused, QString("The till cannot be started (./till)."));
     }
 };
 

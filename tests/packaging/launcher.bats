@@ -302,3 +302,17 @@ PiedFormulaire.dat" ]
     [ "$status" -eq 1 ]
     [[ "$output" == 'Le programme « '*'/vendel/vendel » manque : Vendel est à réinstaller.' ]]
 }
+
+@test "a FIFO that the till would wait for is said" {
+    mkdir -p "$data"
+    mkfifo "$data/PiedFormulaire.dat"
+    run "$launcher"
+    [ "$status" -eq 1 ]
+    [ "$output" = "Le dossier de données « $data » est inutilisable (« PiedFormulaire.dat » n'est pas un fichier) ; les copies de la base sont dans « $data/copies »." ]
+    [ ! -s "$TILL_LOG" ]
+}
+
+@test "a till started without an input has one" {
+    TILL_DOES='[ -e /proc/self/fd/0 ] && echo input' run sh -c 'exec "$0" <&-' "$launcher"
+    [ "$output" = input ]
+}

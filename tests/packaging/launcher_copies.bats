@@ -107,14 +107,26 @@ Vendel-2026-03-05.db" ]
     [ -s "$TILL_LOG" ]
 }
 
-@test "copies that may not be written are said and the till starts" {
+@test "copies in a folder of somebody else are said and the till starts" {
+    [ "$(id -u)" -eq 0 ] || skip "only root can give a folder to somebody else"
     mkdir -p "$data/copies"
-    chmod a-w "$data/copies"
-    run as_user "$launcher"
-    chmod u+w "$data/copies"
+    as_user true
+    chown root: "$data/copies"
+    chmod a+rwx "$data/copies"
+    run setpriv --reuid nobody --regid nogroup --clear-groups "$launcher"
     [ "$status" -eq 0 ]
     [ "$output" = "$(warning)" ]
     [ -s "$TILL_LOG" ]
+    [ -z "$(ls -A "$data/copies")" ]
+}
+
+@test "copies that were made read-only are written again" {
+    mkdir -p "$data/copies"
+    chmod a-w "$data/copies"
+    run as_user "$launcher"
+    [ -z "$output" ]
+    [ -f "$data/copies/Vendel-2026-03-05.db" ]
+    [ "$(stat -c %a "$data/copies")" = 700 ]
 }
 
 @test "a copy that fails is no reason to call the database damaged" {
@@ -143,7 +155,7 @@ Vendel-2026-03-05.db" ]
     run sed -nE '/Vendel\.neuf>\) = 0$/s/.*/file/p; /renameat2.*Vendel-2026-03-05\.db/s/.*/name/p
         /fsync\([0-9]+<[^>]*\/copies>/s/.*/folder/p; /execve.*\/vendel\/vendel"/s/.*/till/p' \
         "$BATS_TEST_TMPDIR/calls"
-    [ "${lines[*]:0:3}" = 'file name folder' ]
+    [ "${lines[*]:0:4}" = 'folder file name folder' ]
     [ "${lines[-1]}" = till ]
 }
 
@@ -165,7 +177,7 @@ second_place() {
 @test "a second place that is named from where one is is remembered from anywhere" {
     mkdir "$BATS_TEST_TMPDIR/stick"
     (cd "$BATS_TEST_TMPDIR" && "$launcher" --copies-vers stick)
-    [ "$(cat "$data/copies-vers")" = "$BATS_TEST_TMPDIR/stick" ]
+    [ "$(head -n 1 "$data/copies-vers")" = "$BATS_TEST_TMPDIR/stick" ]
 }
 
 @test "a second place can be changed while the till is open" {
@@ -181,7 +193,25 @@ second_place() {
     [ "$status" -eq 0 ]
     [ "$output" = "Les copies n'iront plus ailleurs." ]
     "$launcher"
-    [ -z "$(ls -A "$stick")" ]
+    [ -z "$(ls "$stick")" ]
+}
+
+@test "the till's own folder is no second place" {
+    mkdir -p "$data/copies"
+    for place in "$data" "$data/copies"; do
+        run "$launcher" --copies-vers "$place"
+        [ "$status" -eq 1 ]
+        [ "$output" = "Le dossier « $place » est déjà celui de la caisse : une copie n'y serait pas à l'abri." ]
+    done
+    [ ! -e "$data/copies-vers" ]
+}
+
+@test "a second place that may not be written is refused" {
+    mkdir "$BATS_TEST_TMPDIR/stick"
+    as_user chmod a-w "$BATS_TEST_TMPDIR/stick"
+    run as_user "$launcher" --copies-vers "$BATS_TEST_TMPDIR/stick"
+    [ "$status" -eq 1 ]
+    [ "$output" = "Le dossier « $BATS_TEST_TMPDIR/stick » n'existe pas ou ne peut pas être écrit." ]
 }
 
 @test "a second place that is no folder is refused" {
@@ -197,13 +227,18 @@ second_place() {
 @test "a second place that is away for a week is said at each start" {
     second_place
     "$launcher"
-    rmdir "$stick" 2>/dev/null || rm -r "$stick"
+    mv "$stick" "$stick.out"
     NOW='2026-03-11 09:00:00' run "$launcher"
     [ -z "$output" ]
     NOW='2026-03-12 09:00:00' run "$launcher"
     [ "$status" -eq 0 ]
     [ "$output" = "Aucune copie n'a atteint « $stick » depuis le 2026-03-05 : branchez-y le support, ou choisissez un autre dossier avec « vendel --copies-vers DOSSIER »." ]
+    # The folder that a stick is mounted on is not the stick.
     mkdir "$stick"
+    NOW='2026-03-13 08:00:00' run "$launcher"
+    [[ "$output" == "Aucune copie n'a atteint"* ]]
+    rmdir "$stick"
+    mv "$stick.out" "$stick"
     NOW='2026-03-13 09:00:00' "$launcher"
     NOW='2026-03-14 09:00:00' run "$launcher"
     [ -z "$output" ]

@@ -249,3 +249,24 @@ Vendel-2026-03-04.db" ]
     run "$launcher" --langue en --restaurer 2026-03-03
     [ "$output" = "The copy \"2026-03-03\" is back in place; the replaced database is kept in \"$data/copies/Vendel-remplacee-2026-03-05-140731.db\"." ]
 }
+
+@test "a database on a bad sector is kept unread, and the copy takes its place" {
+    cp "$data/Vendel.db" "$BATS_TEST_TMPDIR/before"
+    disturbed read,pread64:error=EIO Vendel.db "$data/Vendel.db"
+    run "${disturbance[@]}" "$launcher" --restaurer 2026-03-03
+    [ "$status" -eq 0 ]
+    [ "$(price_in "$data/Vendel.db")" = 3 ]
+    cmp "$data/copies/Vendel-remplacee-2026-03-05-140731.db" "$BATS_TEST_TMPDIR/before"
+}
+
+@test "a journal that somebody put beside a replaced database is not taken" {
+    hold_database 'update Article set prix = 99; update Historique set prix = 99;'
+    release_database
+    [ -s "$data/Vendel.db-journal" ]
+    cp "$data/Vendel.db" "$data/copies/Vendel-remplacee-2026-01-01-120000.db"
+    cp "$data/Vendel.db-journal" "$data/copies/Vendel-remplacee-2026-01-01-120000.journal"
+    rm "$data/Vendel.db-journal" "$data/Vendel.db"
+    run "$launcher" --restaurer remplacee-2026-01-01-120000
+    # With the journal, the price would be 5 again.
+    [ ! -e "$data/Vendel.db" ] || [ "$(price_in "$data/Vendel.db")" = 99 ]
+}
