@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/EndSignals.h"
 #include "app/FormVendel.h"
 #include "widgets/Application.h"
 #include "widgets/Pictures.h"
@@ -13,9 +14,11 @@ int main(int argc, char* argv[])
 {
     // The reader of the till's output may exit; that must not end a sale.
     std::signal(SIGPIPE, SIG_IGN);
+    EndSignals endSignals;
     Application::setAttributes();
     QApplication application(argc, argv);
     Application::setUp(application);
+    endSignals.attach();
 
     FormVendel window;
     window.setWindowIcon(Pictures::read(QStringLiteral("Vendel.png")));

@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QRect>
 
+#include <csignal>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -82,6 +84,26 @@ private slots:
         shop.sql("update Config set valeur = 1 where param = 'Epson TM-T20II'");
         StartedTill till;
         QVERIFY(till.logs("Warning Epson to 1 (ON)\n"));
+    }
+
+    void endsAsItsWindowDoesWhenItIsAskedTo_data()
+    {
+        QTest::addColumn<int>("number");
+        QTest::newRow("TERM") << SIGTERM;
+        QTest::newRow("INT") << SIGINT;
+        QTest::newRow("HUP") << SIGHUP;
+    }
+
+    void endsAsItsWindowDoesWhenItIsAskedTo()
+    {
+        QFETCH(int, number);
+        const Shop shop;
+        StartedTill till;
+        QVERIFY(opens("Vendel"));
+        kill(static_cast<pid_t>(till.process.processId()), number);
+        QVERIFY(till.process.waitForFinished());
+        QCOMPARE(till.process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(till.process.exitCode(), 0);
     }
 
     void livesOnWhenNobodyReadsItsOutput()
