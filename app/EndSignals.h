@@ -7,8 +7,8 @@
 
 #include <optional>
 
-/// Lets a till that is asked to end, because the session ends or the launcher says so, finish what it
-/// is writing and close as if its window had been closed.
+/// Lets a till that is asked to end, because the session ends or the launcher says so, finish what
+/// it is writing and close as if its window had been closed.
 class EndSignals
 {
 public:

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "launcher/Database.h"
 #include "base/Descriptor.h"
+#include "launcher/Database.h"
 #include "launcher/Refusal.h"
 #include "launcher/SafeFile.h"
 #include "tests/support/Shop.h"
