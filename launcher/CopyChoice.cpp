@@ -69,6 +69,20 @@ std::string numbered(const std::vector<Item>& items, const std::string& typed)
     return number >= 1 && number <= items.size() ? items[number - 1].name : typed;
 }
 
+bool isAny(const std::vector<Item>& items, const std::string& name)
+{
+    return std::any_of(
+        items.begin(), items.end(), [&](const Item& item) { return item.name == name; });
+}
+
+/// What was typed without the control characters that an arrow key leaves.
+std::string shown(std::string typed)
+{
+    std::replace_if(
+        typed.begin(), typed.end(), [](char letter) { return letter >= 0 && letter < ' '; }, '?');
+    return typed;
+}
+
 std::string askOnTerminal(const std::vector<Item>& items, const Speech& speech)
 {
     constexpr int width = 6;
@@ -76,10 +90,19 @@ std::string askOnTerminal(const std::vector<Item>& items, const Speech& speech)
     for (const Item& item : items) {
         std::cout << std::setw(width) << ++number << '\t' << item.name << '\t' << item.size << '\n';
     }
-    std::cout << say(speech.language(), Sentences::whichCopy) << ' ' << std::flush;
-    std::string typed;
-    std::getline(std::cin, typed);
-    return std::cin.eof() ? std::string() : numbered(items, trimmed(typed));
+    for (;;) {
+        std::cout << say(speech.language(), Sentences::whichCopy) << ' ' << std::flush;
+        std::string typed;
+        std::getline(std::cin, typed);
+        if (!std::cin) {
+            return {};
+        }
+        const std::string name = numbered(items, trimmed(typed));
+        if (name.empty() || isAny(items, name)) {
+            return name;
+        }
+        speech.note({Sentences::noSuchChoice, {shown(name)}});
+    }
 }
 } // namespace
 

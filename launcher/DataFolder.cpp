@@ -5,10 +5,10 @@
 #include "launcher/Refusal.h"
 #include "launcher/SafeFile.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdlib>
-#include <string_view>
 #include <thread>
 
 #include <fcntl.h>
@@ -20,14 +20,14 @@ constexpr const char* lockName = ".verrou";
 constexpr mode_t forUser = 0700;
 constexpr mode_t mayWrite = 0600;
 
-constexpr std::string_view ending = "fin";
+constexpr const char* ending = "fin";
 
-/// Whether the launcher that holds the lock \a file has announced its end.
-bool isEnding(int file)
+/// What the launcher that holds the lock has announced in the file \a lock.
+std::string announced(int lock)
 {
-    std::array<char, ending.size()> found{};
-    return pread(file, found.data(), found.size(), 0) == ssize_t(found.size())
-        && std::string_view(found.data(), found.size()) == ending;
+    std::array<char, 32> found{};
+    const ssize_t size = pread(lock, found.data(), found.size(), 0);
+    return {found.data(), static_cast<std::size_t>(std::max(size, ssize_t(0)))};
 }
 
 /// Every file directly in \a folder becomes its user's alone, who may write to it: one that came
@@ -120,21 +120,26 @@ void DataFolder::lock()
     constexpr std::chrono::milliseconds pause(20);
     const double begun = steadySeconds();
     while (flock(lock_.get(), LOCK_EX | LOCK_NB) != 0) {
-        if (!isEnding(lock_.get()) || steadySeconds() - begun > longestEnd) {
+        const std::string state = announced(lock_.get());
+        if (state != ending || steadySeconds() - begun > longestEnd) {
             lock_.reset();
-            throw Refusal({Sentences::alreadyOpen, {path_}});
+            throw AlreadyOpen({Sentences::alreadyOpen, {path_}}, std::atoi(state.c_str()));
         }
         std::this_thread::sleep_for(pause);
     }
-    if (ftruncate(lock_.get(), 0) != 0) {
-        throw unusable(Sentences::notWritable);
-    }
+    announce({});
 }
 
-void DataFolder::announceEnd() const
+void DataFolder::announceTill(pid_t till) const { announce(std::to_string(till)); }
+
+void DataFolder::announceEnd() const { announce(ending); }
+
+/// A start that does not learn of it says that the till is open, which is true.
+void DataFolder::announce(const std::string& state) const
 {
-    // A start that does not learn of it says that the till is open, as it was a moment ago.
-    [[maybe_unused]] const ssize_t written = pwrite(lock_.get(), ending.data(), ending.size(), 0);
+    if (ftruncate(lock_.get(), 0) == 0) {
+        [[maybe_unused]] const ssize_t size = pwrite(lock_.get(), state.data(), state.size(), 0);
+    }
 }
 
 void DataFolder::close()

@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include <sys/types.h>
+
 class Refusal;
 
 /// The folder with all that belongs to one shop. It is its user's alone.
@@ -21,8 +23,11 @@ public:
     explicit DataFolder(std::string path);
 
     /// Keeps any other till away from the folder until the lock and all copies of it are closed.
-    /// Waits for a launcher whose till has ended and that makes its last copy. Throws Refusal.
+    /// Waits for a launcher whose till has ended and that makes its last copy. Throws AlreadyOpen
+    /// or another Refusal.
     void lock();
+    /// Lets a next start find the process \a till.
+    void announceTill(pid_t till) const;
     /// Lets a next start wait for this launcher, which has little left to do.
     void announceEnd() const;
     /// Lets others in.
@@ -41,6 +46,7 @@ public:
 
 private:
     void make() const;
+    void announce(const std::string& state) const;
 
     std::string path_;
     Descriptor folder_;

@@ -4,6 +4,9 @@
 #include "launcher/Sentences.h"
 
 #include <exception>
+#include <utility>
+
+#include <sys/types.h>
 
 /// Why the launcher does not go on: a sentence for the shopkeeper.
 class Refusal : public std::exception
@@ -22,4 +25,20 @@ public:
 private:
     Words words_;
     int status_;
+};
+
+/// That a till is open on the same data.
+class AlreadyOpen : public Refusal
+{
+public:
+    /// \a till is its process, 0 when nobody knows.
+    AlreadyOpen(Words words, pid_t till)
+        : Refusal(std::move(words))
+        , till_(till)
+    { }
+
+    pid_t till() const { return till_; }
+
+private:
+    pid_t till_;
 };

@@ -143,6 +143,9 @@ inline constexpr Sentence noCopies{"Il n'y a aucune copie de la base dans « %1/
     "There is no copy of the database in \"%1/copies\"."};
 inline constexpr Sentence noSuchCopy{
     "Il n'y a pas de copie « %1 » dans « %2/copies ».", R"(There is no copy "%1" in "%2/copies".)"};
+inline constexpr Sentence noSuchChoice{
+    "« %1 » n'est pas dans la liste : tapez un numéro, ou Entrée pour ne rien changer.",
+    "\"%1\" is not in the list: type a number, or Enter to change nothing."};
 inline constexpr Sentence copyDamaged{
     "La copie « %1 » est endommagée ; la base n'a pas été changée.",
     "The copy \"%1\" is damaged; the database has not been changed."};

@@ -65,6 +65,12 @@ std::optional<std::string> Speech::choose(const Words& question, const std::stri
     return answer.status == closed ? std::optional<std::string>("") : std::nullopt;
 }
 
+bool Speech::show(pid_t till) const
+{
+    return till > 0 && hasBoxes()
+        && Process::filter({dialogue_, "--montrer", std::to_string(till)}, {}).status == 0;
+}
+
 void Speech::box(const char* kind, const std::string& text) const
 {
     if (hasBoxes()) {

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include <sys/types.h>
+
 /// How the launcher speaks to the shopkeeper: on standard error, and in boxes where there is a
 /// display.
 class Speech
@@ -29,6 +31,9 @@ public:
     /// What is chosen of \a lines in a box that asks \a question, empty when it is closed; nothing
     /// when there is no box.
     std::optional<std::string> choose(const Words& question, const std::string& lines) const;
+
+    /// Brings the windows of the process \a till to the front; false where that cannot be done.
+    bool show(pid_t till) const;
 
 private:
     bool hasBoxes() const;

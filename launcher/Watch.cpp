@@ -105,6 +105,7 @@ void Watch::forkTill()
     if (till_ < 0) {
         SafeFile::fail("fork");
     }
+    folder_.announceTill(till_);
 }
 
 void Watch::becomeTill(int output, int errors) const

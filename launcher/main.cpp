@@ -148,6 +148,13 @@ int main(int argc, char* argv[])
     const Speech speech(order.language.value_or(DataFolder::language(data)), places.dialogue);
     try {
         return act(order, data, places, speech);
+    } catch (const AlreadyOpen& open) {
+        // What else was asked for is not done, and has to be said.
+        if (order.action == Action::Start && !order.language && speech.show(open.till())) {
+            return 0;
+        }
+        speech.error(open.words());
+        return open.status();
     } catch (const Refusal& refusal) {
         speech.error(refusal.words());
         return refusal.status();

@@ -28,12 +28,12 @@ CopyDialog::CopyDialog(const QString& question, const QStringList& lines, bool i
     fill(lines);
     list_->header()->setStretchLastSection(false);
     list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    connect(list_, &QTreeWidget::itemActivated, this, &QDialog::accept);
+    connect(list_, &QTreeWidget::itemActivated, this, &CopyDialog::accept);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setText(Wording::ok());
     buttons->button(QDialogButtonBox::Cancel)->setText(Wording::cancel(isEnglish));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::accepted, this, &CopyDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);
@@ -47,8 +47,15 @@ CopyDialog::CopyDialog(const QString& question, const QStringList& lines, bool i
 
 QString CopyDialog::chosen() const
 {
-    const QTreeWidgetItem* item = list_->currentItem();
-    return item == nullptr ? QString() : item->text(0);
+    const auto items = list_->selectedItems();
+    return items.isEmpty() ? QString() : items.first()->text(0);
+}
+
+void CopyDialog::accept()
+{
+    if (!chosen().isEmpty()) {
+        QDialog::accept();
+    }
 }
 
 void CopyDialog::fill(const QStringList& lines)

@@ -18,6 +18,9 @@ public:
     /// The chosen copy's name.
     QString chosen() const;
 
+    /// Stays open as long as none is chosen.
+    void accept() override;
+
 private:
     void fill(const QStringList& lines);
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/dialogue/CopyDialog.h"
+#include "launcher/dialogue/OpenTill.h"
 #include "launcher/dialogue/Wording.h"
 
 #include <QApplication>
@@ -51,6 +52,10 @@ int chooseCopy(const QString& question, bool isEnglish)
 
 int main(int argc, char* argv[])
 {
+    constexpr int withNumber = 3;
+    if (argc == withNumber && std::string(argv[1]) == "--montrer") {
+        return OpenTill::bringToFront(QByteArray(argv[2]).toInt()) ? 0 : 1;
+    }
     useUtf8();
     QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("vendel")));

@@ -110,11 +110,24 @@ $holds_lock"
 
 @test "a second till is told so while the first keeps its lock" {
     rm "$data"
+    dialogue '[ "$1" != --montrer ] || exit 1; printf "%s\n" "$@" >>"$SAID"'
     open_till
     run "$launcher"
     close_till
     [ "$status" -eq 1 ]
     grep -qxF "La caisse est déjà ouverte sur les données de « $data »." "$SAID"
+}
+
+@test "a second start shows the first one's till, and says nothing" {
+    rm "$data"
+    open_till
+    run "$launcher"
+    program=$(pgrep -P "$till")
+    close_till
+    [ "$status" -eq 0 ]
+    [ -z "$output" ]
+    [ "$(cat "$SAID")" = "--montrer
+$program" ]
 }
 
 @test "a message that waits for its answer holds no lock" {

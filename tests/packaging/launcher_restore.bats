@@ -112,10 +112,13 @@ on_terminal() {
     [ "$(price_in "$data/Vendel.db")" = 5 ]
 }
 
-@test "on a terminal a number without a copy is refused" {
-    on_terminal 3
-    [ "$status" -eq 1 ]
-    [[ "$output" == *"Il n'y a pas de copie « 3 » dans « $data/copies »."* ]]
+@test "on a terminal a number without a copy is answered, and asked for again" {
+    on_terminal $'3\n0\nabc\n2'
+    [ "$status" -eq 0 ]
+    for typed in 3 0 abc; do
+        [[ "$output" == *"« $typed » n'est pas dans la liste : tapez un numéro, ou Entrée pour ne rien changer."* ]]
+    done
+    [ "$(price_in "$data/Vendel.db")" = 3 ]
 }
 
 @test "a copy that is not there is refused" {

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 namespace {
 const QString question("Quelle copie de la base remettre en place ?");
 const QStringList lines{
@@ -86,6 +88,26 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    }
+
+    void okWithoutAChoiceAsksAgain()
+    {
+        CopyDialog dialog(question, lines, false);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        auto* list = dialog.findChild<QTreeWidget*>("copies");
+        const QPoint second = list->visualItemRect(list->topLevelItem(1)).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, second);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, second);
+        const auto found = dialog.findChildren<QPushButton*>();
+        const auto ok = std::find_if(found.begin(), found.end(),
+            [](const QPushButton* button) { return button->text() == QString("OK"); });
+        QTest::mouseClick(*ok, Qt::LeftButton);
+        QVERIFY(dialog.isVisible());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, second);
+        QTest::mouseClick(*ok, Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.chosen(), QString("2026-03-04"));
     }
 
     void everyControlHasAName()
