@@ -231,18 +231,23 @@ DatabaseLook DatabaseLook::at(int folder, bool isTillOpen, const Aside& aside, d
     return answer ? unpacked(*answer) : unchecked({}, Sentences::checkNotEnded);
 }
 
-void DatabaseLook::sweep(int shelf)
+void DatabaseLook::sweep(int shelf) noexcept
 {
     constexpr std::size_t longestNumber = 9;
-    for (const std::string& name : SafeFile::names(shelf)) {
-        if (!name.starts_with(prefix)) {
-            continue;
+    try {
+        for (const std::string& name : SafeFile::names(shelf)) {
+            if (!name.starts_with(prefix)) {
+                continue;
+            }
+            const std::size_t end = name.find_first_not_of("0123456789", prefix.size());
+            const std::string number = name.substr(prefix.size(), end - prefix.size());
+            const bool isNumber = !number.empty() && number.size() <= longestNumber;
+            if (isNumber && kill(std::stoi(number), 0) != 0 && errno == ESRCH) {
+                SafeFile::remove(shelf, name.c_str());
+            }
         }
-        const std::size_t end = name.find_first_not_of("0123456789", prefix.size());
-        const std::string number = name.substr(prefix.size(), end - prefix.size());
-        const bool isNumber = !number.empty() && number.size() <= longestNumber;
-        if (isNumber && kill(std::stoi(number), 0) != 0 && errno == ESRCH) {
-            SafeFile::remove(shelf, name.c_str());
-        }
+    } catch (const std::system_error&) {
+        // What cannot be listed is left for another time.
+        return;
     }
 }
