@@ -176,7 +176,8 @@ inline constexpr Sentence noRoomToCheck{"il n'y a pas assez de place sur le disq
     "there is not enough room on the disk for that"};
 inline constexpr Sentence checkNotEnded{
     "son contrôle n'a pas abouti", "checking it did not come to an end"};
-inline constexpr Sentence stateCopies{"Copies ici : %1, dont %2", "Copies here: %1, the last %2"};
+inline constexpr Sentence stateCopies{
+    "Copies ici : %1, en dernier %2", "Copies here: %1, the last %2"};
 inline constexpr Sentence stateNoCopies{"Copies ici : aucune", "Copies here: none"};
 inline constexpr Sentence stateCopiesUnreadable{
     "Copies ici : leur dossier ne peut pas être lu", "Copies here: their folder cannot be read"};

@@ -87,7 +87,7 @@ private slots:
             (QStringList{QString("Vendel 1.2.3, la caisse est fermée"),
                 "Dossier de données : « " + shop.path() + " »",
                 "Base de données : " + size + ", en bon état",
-                QString("Copies ici : 4, dont 2026-03-04-1830 (1.5K), 2026-03-04 (1.0K), "
+                QString("Copies ici : 4, en dernier 2026-03-04-1830 (1.5K), 2026-03-04 (1.0K), "
                         "2026-03-03 (2.0K)"),
                 "Second endroit des copies : « " + stick.path()
                     + " », atteint le 2026-03-04, dernière copie : 2026-03-04-1830",
