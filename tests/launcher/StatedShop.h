@@ -5,6 +5,7 @@
 #include "tests/launcher/ShopFolder.h"
 #include "tests/support/EmulatedPrinter.h"
 
+#include <QDateTime>
 #include <QDirIterator>
 #include <QStringList>
 
