@@ -50,6 +50,11 @@ const char* const halfAChange
     = "pragma cache_size = 1; begin exclusive; update Config set valeur = 1; insert into "
       "Historique (id, article, prix) with recursive n(i) as (select 1 union all select i + 1 from "
       "n where i < 5000) select i, 'x', 1 from n";
+/// The sales of some years: the copy of so much takes long enough to be noticed.
+const char* const years
+    = "pragma synchronous = off; insert into Historique (id, article, prix) with recursive n(i) as "
+      "(select 1 union all select i + 1 from n where i < 600000) select i, 'Thé à la menthe', 1 "
+      "from n";
 } // namespace
 
 class TestLauncherStateDatabase : public QObject
@@ -141,9 +146,10 @@ private slots:
     void aCheckThatTakesTooLongLeavesNothing()
     {
         const StatedShop shop(noPrinter);
+        shop.fill(years);
         shop.addCopy("2026-03-04", 1024);
         const QStringList before = shop.snapshot();
-        const State state = shop.state({.database = 0});
+        const State state = shop.state({.database = 0.15});
         QCOMPARE(StatedShop::english(state).at(2),
             QString("Database: of unknown size, not checked (checking it did not come to an end)"));
         QCOMPARE(StatedShop::french(state).at(2),
@@ -242,9 +248,7 @@ private slots:
     void anOpenTillNeverWaitsLong()
     {
         const StatedShop shop(noPrinter);
-        shop.fill(
-            "insert into Historique (id, article, prix) with recursive n(i) as (select 1 union "
-            "all select i + 1 from n where i < 200000) select i, 'Thé à la menthe', 1 from n");
+        shop.fill(years);
         shop.addCopy("2026-03-04", 1024);
         DataFolder folder(shop.name());
         folder.lock();
@@ -255,24 +259,28 @@ private slots:
         sqlite3_exec(opened, "pragma synchronous = off", nullptr, nullptr, nullptr);
         sqlite3_busy_timeout(opened, 2000);
 
-        QString found;
-        auto looking = std::async(std::launch::async, [&] { found = verdict(shop.state()); });
+        // A customer's articles, one after the other, at each of the looks.
+        constexpr int looks = 3;
+        constexpr int articles = 15;
+        constexpr std::chrono::milliseconds pause(40);
         std::vector<qint64> waits;
-        while (looking.wait_for(std::chrono::milliseconds(40)) == std::future_status::timeout) {
-            QElapsedTimer time;
-            time.start();
-            QCOMPARE(
-                sqlite3_exec(opened, "insert into Ticket (id, article, prix) values (1, 'a', 2)",
-                    nullptr, nullptr, nullptr),
-                SQLITE_OK);
-            waits.push_back(time.elapsed());
+        for (int look = 0; look < looks; ++look) {
+            auto looking = std::async(std::launch::async, [&] { return verdict(shop.state()); });
+            for (int article = 0; article < articles; ++article) {
+                looking.wait_for(pause);
+                QElapsedTimer time;
+                time.start();
+                QCOMPARE(sqlite3_exec(opened,
+                             "insert into Ticket (id, article, prix) values (1, 'a', 2)", nullptr,
+                             nullptr, nullptr),
+                    SQLITE_OK);
+                waits.push_back(time.elapsed());
+            }
+            QCOMPARE(looking.get(), QString("sound"));
         }
-        looking.get();
-        QCOMPARE(found, QString("sound"));
-        QVERIFY(waits.size() > 2);
         // A busy machine may once hold up anybody.
         std::sort(waits.begin(), waits.end());
-        QVERIFY2(waits[waits.size() - 2] <= 50, qPrintable(QString::number(waits.back())));
+        QVERIFY2(waits[waits.size() - 2] <= 50, qPrintable(QString::number(waits[waits.size() - 2])));
     }
 };
 
