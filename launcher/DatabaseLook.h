@@ -32,7 +32,7 @@ struct DatabaseLook
     /// gone afterwards.
     static DatabaseLook at(int folder, bool isTillOpen, const Aside& aside, double seconds);
 
-    /// Removes what a look that was killed has left in the folder of copies \a shelf, as far as
-    /// that can be done.
+    /// Removes what a look that was killed has left in the folder \a shelf, as far as that can be
+    /// done.
     static void sweep(int shelf) noexcept;
 };

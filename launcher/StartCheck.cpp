@@ -70,6 +70,8 @@ void database(const DataFolder& folder, const Speech& speech)
     for (const char* left : {"", "-journal", "-wal", "-shm"}) {
         SafeFile::remove(folder.get(), (std::string(databaseName) + ".neuf" + left).c_str());
     }
+    // What a look at the state that was killed may have left.
+    DatabaseLook::sweep(folder.get());
     if (const Descriptor shelf
         = Descriptor(openat(folder.get(), "copies", O_RDONLY | O_DIRECTORY | O_CLOEXEC))) {
         DatabaseLook::sweep(shelf.get());

@@ -15,6 +15,7 @@
 #include <cerrno>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 

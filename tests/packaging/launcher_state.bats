@@ -165,6 +165,15 @@ All is well." ]
 Vendel-2026-03-05.db' ]
 }
 
+@test "what a killed look left is gone after the next start" {
+    sh -c 'exit 0' &
+    ended=$!
+    wait "$ended"
+    touch "$data/copies/.Vendel.etat-$ended-journal" "$data/.Vendel.etat-$ended"
+    "$launcher"
+    [ -z "$(find "$data" -name '.Vendel.etat*')" ]
+}
+
 @test "the help names it" {
     run "$launcher" --aide
     [[ "$output" == *"vendel --etat"* ]]
