@@ -280,7 +280,8 @@ private slots:
         }
         // A busy machine may once hold up anybody.
         std::sort(waits.begin(), waits.end());
-        QVERIFY2(waits[waits.size() - 2] <= 50, qPrintable(QString::number(waits[waits.size() - 2])));
+        QVERIFY2(
+            waits[waits.size() - 2] <= 50, qPrintable(QString::number(waits[waits.size() - 2])));
     }
 };
 
