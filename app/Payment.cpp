@@ -9,10 +9,8 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 
 namespace {
-constexpr std::pair<int, int> receiptPrinter{0x04B8, 0x0E15};
 /// What the printer throws when it cannot be claimed; any other int is nothing to the cashier.
 constexpr int notConnected = -1;
 
@@ -44,7 +42,7 @@ Output output()
 bool printReceipt()
 {
     try {
-        Printer::initializePrinter(receiptPrinter);
+        Printer::initializePrinter(PrinterBus::receiptPrinter);
         Printer* printer = Printer::getPrinter();
         printer->raw(receiptBytes(Payment::receipt()));
         printer->cut();

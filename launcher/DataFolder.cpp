@@ -9,6 +9,9 @@
 #include <array>
 #include <chrono>
 #include <cstdlib>
+#include <fstream>
+#include <iomanip>
+#include <sstream>
 #include <thread>
 
 #include <fcntl.h>
@@ -49,6 +52,32 @@ void closeFiles(int folder)
         }
     }
 }
+/// The device of the open file \a file as the kernel names it in its list of locks, "fd:01". It is
+/// that of the mount: some file systems name another in a file's status.
+std::string deviceOf(int file)
+{
+    struct statx status = {};
+    if (statx(file, "", AT_EMPTY_PATH, STATX_MNT_ID, &status) != 0) {
+        return {};
+    }
+    std::ifstream mounts("/proc/self/mountinfo");
+    std::string line;
+    while (std::getline(mounts, line)) {
+        unsigned long long id = 0;
+        unsigned long long parent = 0;
+        unsigned major = 0;
+        unsigned minor = 0;
+        char colon = 0;
+        std::istringstream fields(line);
+        if (fields >> id >> parent >> major >> colon >> minor && id == status.stx_mnt_id) {
+            std::ostringstream device;
+            device << std::hex << std::setfill('0') << std::setw(2) << major << ':' << std::setw(2)
+                   << minor;
+            return device.str();
+        }
+    }
+    return {};
+}
 } // namespace
 
 std::string DataFolder::find()
@@ -70,6 +99,26 @@ Language DataFolder::language(const std::string& path)
     const Descriptor folder(open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
     const auto remembered = SafeFile::read(folder.get(), "langue", longest);
     return remembered && remembered->starts_with("en") ? Language::English : Language::French;
+}
+
+bool DataFolder::isLocked(int folder)
+{
+    const Descriptor file = SafeFile::openRegular(folder, lockName, O_RDONLY);
+    const std::string device = file ? deviceOf(file.get()) : std::string();
+    SafeFile::Status found{};
+    if (device.empty() || fstat(file.get(), &found) != 0) {
+        return false;
+    }
+    const std::string place = ' ' + device + ':' + std::to_string(found.st_ino) + ' ';
+    std::ifstream locks("/proc/locks");
+    std::string line;
+    while (std::getline(locks, line)) {
+        if (line.find(" FLOCK ") != std::string::npos && line.find(" WRITE ") != std::string::npos
+            && line.find(place) != std::string::npos) {
+            return true;
+        }
+    }
+    return false;
 }
 
 DataFolder::DataFolder(std::string path)

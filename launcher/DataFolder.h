@@ -19,6 +19,10 @@ public:
     /// The language that the shop in \a path remembers.
     static Language language(const std::string& path);
 
+    /// Whether a till holds the lock of the data folder \a folder. The lock is not touched: a till
+    /// that starts at this moment would find it taken.
+    static bool isLocked(int folder);
+
     /// Makes the folder when it is missing, and changes into it. Throws Refusal.
     explicit DataFolder(std::string path);
 

@@ -183,6 +183,16 @@ void Database::requireAlone()
     run("rollback", nullptr);
 }
 
+void Database::requireReadable() { run("pragma schema_version", nullptr); }
+
+bool Database::printsOnPaper()
+{
+    bool isOnPaper = false;
+    run("select valeur from Config where param like 'Epson TM-T20II'",
+        [&](sqlite3_stmt* row) { isOnPaper = sqlite3_column_int(row, 0) == 1; });
+    return isOnPaper;
+}
+
 void requireSound(const std::string& path)
 {
     constexpr double seconds = 120;

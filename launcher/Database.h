@@ -79,6 +79,13 @@ public:
     /// Fails when another program is using the database.
     void requireAlone();
 
+    /// Fails when another program does not let it be read.
+    void requireReadable();
+
+    /// Whether the till's setting is to print receipts on paper. Only for a schema of the till's
+    /// own.
+    bool printsOnPaper();
+
     /// SQLite's handle, for what has functions of its own.
     sqlite3* get() const { return connection_.get(); }
 

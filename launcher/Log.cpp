@@ -9,10 +9,6 @@
 
 #include <fcntl.h>
 
-namespace {
-constexpr const char* names[]{"vendel.log", "vendel.log.1", "vendel.log.2"};
-} // namespace
-
 Log::Log(int folder, std::size_t largest)
     : folder_(folder)
     , largest_(largest)

@@ -3,6 +3,7 @@
 
 #include "base/Descriptor.h"
 
+#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -12,6 +13,9 @@
 class Log
 {
 public:
+    /// Its files, the newest first.
+    static constexpr std::array<const char*, 3> names{"vendel.log", "vendel.log.1", "vendel.log.2"};
+
     /// The log in the folder \a folder, made at its first line.
     explicit Log(int folder, std::size_t largest = 1000000);
 

@@ -41,6 +41,8 @@ Order parseOrder(const std::vector<std::string>& arguments)
             order.action = Action::SecondPlace;
             order.folder = value;
             left.next();
+        } else if (*option == "--etat") {
+            order.action = Action::State;
         } else if (*option == "--aide" || *option == "--help" || *option == "-h") {
             order.action = Action::Help;
         } else if (*option == "--version") {

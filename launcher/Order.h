@@ -12,6 +12,7 @@ enum class Action
     Start,
     Restore,
     SecondPlace,
+    State,
     Help,
     Version
 };

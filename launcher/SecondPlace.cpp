@@ -125,12 +125,27 @@ bool SecondPlace::isLongAway(const Moment& moment) const
     return !path().empty() && daysBetween(lastReached(), moment.day) >= patience;
 }
 
-bool SecondPlace::carry(const Copies& copies, const Moment& moment) const
+std::optional<CopyShelf> SecondPlace::shelf() const
 {
     const std::string there = path();
     Descriptor place(open(there.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     const std::string known = registerName();
     if (!place || known.empty() || !SafeFile::isRegular(place.get(), known.c_str())) {
+        return std::nullopt;
+    }
+    return CopyShelf(std::move(place), known, CopyShelf::Strangers::Others);
+}
+
+std::optional<std::vector<CopyShelf::Entry>> SecondPlace::entries() const
+{
+    const auto there = shelf();
+    return there ? std::optional(there->entries()) : std::nullopt;
+}
+
+bool SecondPlace::carry(const Copies& copies, const Moment& moment) const
+{
+    auto there = shelf();
+    if (!there) {
         return false;
     }
     const CopyShelf here = copies.shelf();
@@ -140,8 +155,7 @@ bool SecondPlace::carry(const Copies& copies, const Moment& moment) const
     }
     const auto all = here.entries();
     if (!all.empty()) {
-        CopyShelf shelf(std::move(place), known, CopyShelf::Strangers::Others);
-        bring(here, all.back(), shelf, moment);
+        bring(here, all.back(), *there, moment);
     }
     SafeFile::write(folder_, reachedName, moment.day + '\n', SafeFile::Existing::Replace);
     return true;

@@ -2,9 +2,12 @@
 #pragma once
 
 #include "launcher/Clock.h"
+#include "launcher/CopyShelf.h"
 
+#include <optional>
 #include <string>
 #include <system_error>
+#include <vector>
 
 class Copies;
 
@@ -36,11 +39,16 @@ public:
     /// Whether it was not reached in the week before \a moment.
     bool isLongAway(const Moment& moment) const;
 
+    /// The shop's copies there, oldest first; nothing when the place is away. Throws
+    /// std::system_error.
+    std::optional<std::vector<CopyShelf::Entry>> entries() const;
+
     /// Brings the newest of \a copies there, unless it is there. False when the place is away.
     /// Throws std::system_error.
     bool carry(const Copies& copies, const Moment& moment) const;
 
 private:
+    std::optional<CopyShelf> shelf() const;
     std::string line(const char* name, int number = 0) const;
     std::string registerName() const;
 

@@ -41,6 +41,7 @@ inline constexpr Sentence usage{
     "Usage : vendel [--langue en|fr]\n"
     "        vendel --restaurer [COPIE]\n"
     "        vendel --copies-vers DOSSIER\n"
+    "        vendel --etat\n"
     "        vendel --aide | --version\n"
     "\n"
     "Démarre la caisse dans « %1 ».\n"
@@ -48,11 +49,13 @@ inline constexpr Sentence usage{
     "  --langue en|fr         démarre en anglais ou en français et s'en souvient\n"
     "  --restaurer [COPIE]    montre les copies de la base et en remet une en place\n"
     "  --copies-vers DOSSIER  garde aussi les copies dans ce dossier ; « - » l'oublie\n"
+    "  --etat                 dit l'état de la caisse, pour qui aide au téléphone\n"
     "  --aide                 montre ce texte\n"
     "  --version              montre la version\n",
     "Usage: vendel [--langue en|fr]\n"
     "       vendel --restaurer [COPY]\n"
     "       vendel --copies-vers FOLDER\n"
+    "       vendel --etat\n"
     "       vendel --help | --version\n"
     "\n"
     "Starts the till in \"%1\".\n"
@@ -60,6 +63,7 @@ inline constexpr Sentence usage{
     "  --langue en|fr        starts in English or French and remembers it\n"
     "  --restaurer [COPY]    shows the copies of the database and puts one back\n"
     "  --copies-vers FOLDER  keeps the copies in this folder too; \"-\" forgets it\n"
+    "  --etat                shows the state of the till, for whoever helps on the telephone\n"
     "  --help                shows this text\n"
     "  --version             shows the version\n"};
 
@@ -166,4 +170,74 @@ inline constexpr Sentence endedTwice{"La caisse s'est arrêtée deux fois d'elle
                                      "(signal %1) ; ce qu'elle a dit est dans « %2/vendel.log ».",
     "The till ended by itself twice within a minute (signal %1); what it said is in "
     "\"%2/vendel.log\"."};
+
+// What "vendel --etat" says.
+inline constexpr Sentence stateTillOpen{
+    "Vendel %1, la caisse est ouverte", "Vendel %1, the till is open"};
+inline constexpr Sentence stateTillClosed{
+    "Vendel %1, la caisse est fermée", "Vendel %1, the till is closed"};
+inline constexpr Sentence stateFolder{"Dossier de données : « %1 »", "Data directory: \"%1\""};
+inline constexpr Sentence stateFolderFault{
+    "Dossier de données : « %1 » (%2)", "Data directory: \"%1\" (%2)"};
+inline constexpr Sentence nothingYet{"il n'y a encore rien, la caisse n'a jamais démarré ici",
+    "there is nothing yet, the till has never been started here"};
+inline constexpr Sentence stateDatabaseSound{
+    "Base de données : %1, en bon état", "Database: %1, sound"};
+inline constexpr Sentence stateDatabaseMissing{"Base de données : aucune", "Database: none"};
+inline constexpr Sentence stateDatabaseUnusable{
+    "Base de données : %1, inutilisable (%2)", "Database: %1, cannot be used (%2)"};
+inline constexpr Sentence stateDatabaseUnchecked{
+    "Base de données : %1, pas contrôlée (%2)", "Database: %1, not checked (%2)"};
+inline constexpr Sentence unknownSize{"taille inconnue", "of unknown size"};
+inline constexpr Sentence noRoomToCheck{"il n'y a pas assez de place sur le disque pour cela",
+    "there is not enough room on the disk for that"};
+inline constexpr Sentence checkNotEnded{
+    "son contrôle n'a pas abouti", "checking it did not come to an end"};
+inline constexpr Sentence stateCopies{
+    "Copies ici : %1, en dernier %2", "Copies here: %1, the last %2"};
+inline constexpr Sentence stateNoCopies{"Copies ici : aucune", "Copies here: none"};
+inline constexpr Sentence stateCopiesUnreadable{
+    "Copies ici : leur dossier ne peut pas être lu", "Copies here: their folder cannot be read"};
+inline constexpr Sentence stateNoPlace{
+    "Second endroit des copies : aucun", "Second place of the copies: none"};
+inline constexpr Sentence statePlace{
+    "Second endroit des copies : « %1 », atteint le %2, dernière copie : %3",
+    "Second place of the copies: \"%1\", reached on %2, last copy: %3"};
+inline constexpr Sentence statePlaceAway{
+    "Second endroit des copies : « %1 », absent maintenant, atteint le %2",
+    "Second place of the copies: \"%1\", away now, reached on %2"};
+inline constexpr Sentence statePlaceUnreadable{
+    "Second endroit des copies : « copies-vers » ne peut pas être lu",
+    "Second place of the copies: \"copies-vers\" cannot be read"};
+inline constexpr Sentence noCopyThere{"aucune", "none"};
+inline constexpr Sentence stateNoTrouble{
+    "Ennuis dans le journal : aucun", "Trouble in the log: none"};
+inline constexpr Sentence stateTrouble{
+    "Derniers ennuis dans le journal :", "Last trouble in the log:"};
+inline constexpr Sentence stateLogUnreadable{
+    "Journal : il ne peut pas être lu", "Log: it cannot be read"};
+inline constexpr Sentence statePrinterReady{"Imprimante : branchée, et elle peut être ouverte",
+    "Printer: plugged in, and it may be opened"};
+inline constexpr Sentence statePrinterForbidden{
+    "Imprimante : branchée, mais cet utilisateur n'a pas le droit de l'ouvrir",
+    "Printer: plugged in, but this user may not open it"};
+inline constexpr Sentence statePrinterClosed{
+    "Imprimante : branchée, mais elle ne peut pas être ouverte (%1)",
+    "Printer: plugged in, but it cannot be opened (%1)"};
+inline constexpr Sentence statePrinterAbsent{
+    "Imprimante : absente du bus USB", "Printer: not on the USB bus"};
+inline constexpr Sentence statePrinterMissing{
+    "Imprimante : absente du bus USB, et les tickets s'impriment sur papier",
+    "Printer: not on the USB bus, and receipts are printed on paper"};
+inline constexpr Sentence stateNoBus{
+    "Imprimante : le bus USB ne peut pas être lu (%1)", "Printer: the USB bus cannot be read (%1)"};
+inline constexpr Sentence noAnswer{"pas de réponse", "no answer"};
+inline constexpr Sentence stateWell{"Tout va bien.", "All is well."};
+inline constexpr Sentence stateNeedsHand{"À voir : %1.", "To be looked at: %1."};
+inline constexpr Sentence topicFolder{"le dossier de données", "the data directory"};
+inline constexpr Sentence topicDatabase{"la base de données", "the database"};
+inline constexpr Sentence topicCopies{"les copies", "the copies"};
+inline constexpr Sentence topicPlace{"le second endroit", "the second place"};
+inline constexpr Sentence topicLog{"le journal", "the log"};
+inline constexpr Sentence topicPrinter{"l'imprimante", "the printer"};
 } // namespace Sentences

@@ -3,6 +3,7 @@
 
 #include "launcher/Copies.h"
 #include "launcher/Database.h"
+#include "launcher/DatabaseLook.h"
 #include "launcher/DataFolder.h"
 #include "launcher/Refusal.h"
 #include "launcher/SafeFile.h"
@@ -68,6 +69,12 @@ void database(const DataFolder& folder, const Speech& speech)
     // What a restoration that was cut off may have left.
     for (const char* left : {"", "-journal", "-wal", "-shm"}) {
         SafeFile::remove(folder.get(), (std::string(databaseName) + ".neuf" + left).c_str());
+    }
+    // What a look at the state that was killed may have left.
+    DatabaseLook::sweep(folder.get());
+    if (const Descriptor shelf
+        = Descriptor(openat(folder.get(), "copies", O_RDONLY | O_DIRECTORY | O_CLOEXEC))) {
+        DatabaseLook::sweep(shelf.get());
     }
     if (!SafeFile::exists(folder.get(), databaseName)) {
         return;

@@ -74,6 +74,7 @@ int Watch::run()
     makeLastCopy();
     sayTrouble();
     if (lastWords_) {
+        log_.write(say(speech_.language(), *lastWords_));
         throw Refusal(*lastWords_, status_);
     }
     return status_;

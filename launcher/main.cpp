@@ -9,6 +9,7 @@
 #include "launcher/Shop.h"
 #include "launcher/Speech.h"
 #include "launcher/StartCheck.h"
+#include "launcher/State.h"
 #include "launcher/Watch.h"
 
 #include <clocale>
@@ -84,6 +85,16 @@ void changeSecondPlace(const Order& order, const std::string& data, const Speech
     speech.done(isFolder ? Words(Sentences::copiesGoTo, {path}) : Words(Sentences::copiesStay));
 }
 
+/// Says how the shop is. It is read out on the telephone, so there is no box.
+int tellState(const std::string& data, const Speech& speech)
+{
+    const State state(VENDEL_VERSION, data, now(), {});
+    for (const Words& line : state.lines) {
+        std::cout << say(speech.language(), line) << '\n';
+    }
+    return state.status;
+}
+
 int act(const Order& order, const std::string& data, const Places& places, const Speech& speech)
 {
     switch (order.action) {
@@ -96,6 +107,8 @@ int act(const Order& order, const std::string& data, const Places& places, const
     case Action::SecondPlace:
         changeSecondPlace(order, data, speech);
         return 0;
+    case Action::State:
+        return tellState(data, speech);
     case Action::Start:
     case Action::Restore:
         break;

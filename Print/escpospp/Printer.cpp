@@ -20,10 +20,6 @@ constexpr unsigned noTimeLimit = 0;
 
 /// Writes \a line to standard output, at once.
 void report(std::string_view line) { std::cout << line << std::endl; }
-
-/// Also gives each device of the list back to the library; an open one stays with its handle.
-void endDeviceList(libusb_device** list) { libusb_free_device_list(list, 1); }
-using DeviceList = Handle<libusb_device*, endDeviceList>;
 } // namespace
 
 Printer* Printer::instance = nullptr;
@@ -121,21 +117,7 @@ void Printer::initializeContext()
 
 void Printer::openFirst(std::pair<int, int> ids)
 {
-    libusb_device** list = nullptr;
-    // A negative count means that the bus could not be read, and that there is no list.
-    const ssize_t count = libusb_get_device_list(context_.get(), &list);
-    const DeviceList owner(count < 0 ? nullptr : list);
-    for (ssize_t i = 0; i < count; ++i) {
-        libusb_device_descriptor descriptor{};
-        if (libusb_get_device_descriptor(list[i], &descriptor) == 0
-            && descriptor.idVendor == ids.first && descriptor.idProduct == ids.second) {
-            libusb_device_handle* handle = nullptr;
-            if (libusb_open(list[i], &handle) == 0) {
-                handle_.reset(handle);
-            }
-            break;
-        }
-    }
+    handle_ = PrinterBus::openFirst(context_.get(), ids).device;
     if (!handle_) {
         report("Cannot open device");
         throw -1;

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "base/Handle.h"
 #include "Print/escpospp/EscPos.h"
+#include "Print/escpospp/PrinterBus.h"
 
 #include <string>
 #include <utility>
-
-#include <libusb.h>
 
 /// The receipt printer on the USB bus: found by its ids, taken over from the system's driver, and
 /// kept until the process ends. Diagnostics go to standard output. For one thread only.
@@ -60,7 +58,7 @@ private:
     void claim();
 
     int imageMode_ = 0;
-    Handle<libusb_context, libusb_exit> context_;
-    Handle<libusb_device_handle, libusb_close> handle_;
+    PrinterBus::Context context_;
+    PrinterBus::Device handle_;
     bool writeFailed_ = false;
 };

@@ -48,6 +48,14 @@ private slots:
         QVERIFY(parseOrder({"--copies-vers", "-"}).action == Action::SecondPlace);
     }
 
+    void theStateIsAskedFor()
+    {
+        const Order order = parseOrder({"--etat", "--langue", "en"});
+        QVERIFY(order.action == Action::State);
+        QVERIFY(order.language == Language::English);
+        QVERIFY(isBad({"--etat", "caisse"}));
+    }
+
     void theLastActionCounts()
     {
         QVERIFY(parseOrder({"--aide", "--version"}).action == Action::Version);

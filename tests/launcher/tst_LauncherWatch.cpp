@@ -117,6 +117,7 @@ private slots:
             QString(
                 "The till ended by itself twice within a minute (signal 11); what it said is in \""
                 + shop.path() + "/vendel.log\"."));
+        QVERIFY(shop.log().contains(end.refused.toUtf8()));
         QCOMPARE(shop.starts(), 2);
     }
 
