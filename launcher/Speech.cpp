@@ -2,6 +2,7 @@
 #include "launcher/Speech.h"
 
 #include "launcher/Process.h"
+#include "launcher/TillSize.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -59,6 +60,16 @@ std::optional<std::string> Speech::choose(const Words& question, const std::stri
         return answer.output.substr(0, answer.output.find('\n'));
     }
     return answer.status == closed ? std::optional<std::string>("") : std::nullopt;
+}
+
+std::string Speech::screen() const
+{
+    if (!hasBoxes()) {
+        return {};
+    }
+    const auto answer
+        = Process::filter(command({"--ecran"}), {}, [] { TillSize::tellQt(TillSize::unscaled); });
+    return answer.status == 0 ? answer.output : std::string();
 }
 
 void Speech::box(const char* kind, const std::string& text) const

@@ -30,6 +30,10 @@ public:
     /// when there is no box.
     std::optional<std::string> choose(const Words& question, const std::string& lines) const;
 
+    /// Width and height that a window may take of the screen, in pixels, as the program that shows
+    /// boxes says them; empty when there is no screen.
+    std::string screen() const;
+
 private:
     bool hasBoxes() const;
     void box(const char* kind, const std::string& text) const;

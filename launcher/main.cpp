@@ -8,6 +8,7 @@
 #include "launcher/Shop.h"
 #include "launcher/Speech.h"
 #include "launcher/StartCheck.h"
+#include "launcher/TillSize.h"
 #include "launcher/Watch.h"
 
 #include <clocale>
@@ -42,6 +43,9 @@ int start(const Order& order, const DataFolder& folder, const Places& places, co
     }
     Shop::provideFiles(folder, places);
     Shop::applyLanguage(folder, places, speech, order.language);
+    if (order.size) {
+        order.size->remember(folder);
+    }
     StartCheck::database(folder, speech);
     const bool isCopied = StartCheck::copy(folder, speech);
     StartCheck::secondPlace(folder, speech);
@@ -93,6 +97,7 @@ int act(const Order& order, const std::string& data, const Places& places, const
     folder.lock();
     try {
         folder.close();
+        order.size.value_or(TillSize::remembered(folder.get())).apply(speech);
         if (order.action == Action::Start) {
             return start(order, folder, places, speech);
         }

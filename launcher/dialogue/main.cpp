@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include <clocale>
 #include <iostream>
@@ -35,6 +36,18 @@ int showBox(QMessageBox::Icon icon, const QString& text)
     return 0;
 }
 
+/// Says what a window may take of the screen, in pixels.
+int measureScreen()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) {
+        return 1;
+    }
+    const QSize room = screen->availableSize();
+    std::cout << room.width() << ' ' << room.height() << '\n';
+    return 0;
+}
+
 int chooseCopy(const QString& question, bool isEnglish)
 {
     const std::string input{std::istreambuf_iterator<char>(std::cin), {}};
@@ -61,6 +74,9 @@ int main(int argc, char* argv[])
     const bool isEnglish = kind == QLatin1String("--en");
     if (isEnglish) {
         kind = argument();
+    }
+    if (kind == QLatin1String("--ecran")) {
+        return measureScreen();
     }
     const QString text = argument();
     if (text.isEmpty()) {

@@ -3,6 +3,7 @@
 #include "launcher/DataFolder.h"
 #include "launcher/Process.h"
 #include "launcher/Speech.h"
+#include "launcher/TillSize.h"
 #include "launcher/Watch.h"
 #include "tests/launcher/ShopFolder.h"
 #include "tests/support/TestProgram.h"
@@ -56,6 +57,7 @@ private:
             DataFolder folder(name());
             folder.lock();
             const Speech speech(Language::English, "/nowhere");
+            TillSize::remembered(folder.get()).apply(speech);
             return Watch(folder, speech, "./till", false, times).run();
         } catch (const Refusal& refusal) {
             write(QString("refused"), refusal.what());
@@ -177,6 +179,14 @@ private slots:
             }
         }
         QCOMPARE(inherited, QStringList{shop.path() + "/.verrou 9"});
+    }
+
+    void theTillIsToldItsSize()
+    {
+        const WatchedShop shop("env | grep ^QT_SCALE_FACTOR= >size");
+        shop.write(QString("taille"), "150\n");
+        shop.watch();
+        QCOMPARE(shop.read(QString("size")), QByteArray("QT_SCALE_FACTOR=1.50\n"));
     }
 
     void aCopyIsMadeWhenTheTillIsClosed()
