@@ -2,10 +2,10 @@
 #include "app/FormVendel.h"
 #include "widgets/Application.h"
 #include "widgets/Pictures.h"
+#include "widgets/SmallScreen.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QScreen>
 
 #include <csignal>
 
@@ -16,10 +16,11 @@ int main(int argc, char* argv[])
     Application::setAttributes();
     QApplication application(argc, argv);
     Application::setUp(application);
+    const SmallScreen smallScreen(&application);
 
     FormVendel window;
     window.setWindowIcon(Pictures::read(QStringLiteral("Vendel.png")));
-    window.move(QGuiApplication::primaryScreen()->geometry().center() - window.rect().center());
+    smallScreen.centre(window);
     window.show();
     return QApplication::exec();
 }
