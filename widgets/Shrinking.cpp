@@ -6,9 +6,6 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QTableView>
-#include <QTextBlock>
-#include <QTextEdit>
-#include <QTextFrame>
 
 #include <cmath>
 #include <utility>
@@ -102,8 +99,6 @@ void Shrinking::shrinkContent(QWidget& widget) const
     if (auto* view = qobject_cast<QTableView*>(&widget)) {
         shrinkSections(*view->horizontalHeader());
         shrinkSections(*view->verticalHeader());
-    } else if (auto* edit = qobject_cast<QTextEdit*>(&widget)) {
-        shrinkDocument(*edit);
     } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
         button->setIconSize(shrunk(button->iconSize()));
     }
@@ -116,34 +111,6 @@ void Shrinking::shrinkSections(QHeaderView& header) const
             header.resizeSection(section, shrunk(header.sectionSize(section)));
         }
     }
-}
-
-/// What the text's own formats say; the rest follows the widget's font.
-void Shrinking::shrinkDocument(QTextEdit& edit) const
-{
-    std::vector<std::pair<QTextCursor, double>> parts;
-    for (QTextBlock block = edit.document()->begin(); block.isValid(); block = block.next()) {
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-            const QTextFragment fragment = part.fragment();
-            if (fragment.charFormat().fontPointSize() > 0) {
-                QTextCursor cursor(block);
-                cursor.setPosition(fragment.position());
-                cursor.setPosition(
-                    fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
-                parts.emplace_back(cursor, fragment.charFormat().fontPointSize());
-            }
-        }
-    }
-    for (auto& [cursor, pointSize] : parts) {
-        QTextCharFormat format;
-        format.setFontPointSize(pointSize * factor_);
-        cursor.mergeCharFormat(format);
-    }
-    edit.setTabStopDistance(edit.tabStopDistance() * factor_);
-    QTextFrameFormat frame = edit.document()->rootFrame()->frameFormat();
-    frame.setLeftMargin(std::floor(frame.leftMargin() * factor_));
-    frame.setRightMargin(std::floor(frame.rightMargin() * factor_));
-    edit.document()->rootFrame()->setFrameFormat(frame);
 }
 
 void Shrinking::shrinkDistances(QLayout& layout) const

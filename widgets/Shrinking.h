@@ -8,7 +8,6 @@
 class QBoxLayout;
 class QHeaderView;
 class QLayout;
-class QTextEdit;
 class QWidget;
 
 /// Everything in a window smaller by one factor: places, sizes, distances, letters. It is drawn at
@@ -33,7 +32,6 @@ private:
     void shrinkLimits(QWidget& widget) const;
     void shrinkContent(QWidget& widget) const;
     void shrinkSections(QHeaderView& header) const;
-    void shrinkDocument(QTextEdit& edit) const;
     void shrinkDistances(QLayout& layout) const;
     void shrinkSpacers(QBoxLayout& box) const;
 

@@ -73,7 +73,10 @@ void SmallScreen::fit(QWidget& window) const
         = std::min(double(room.width()) / needed.width(), double(room.height()) / needed.height());
     if (factor < 1) {
         Shrinking(factor).apply(window);
-    } else if (needed != window.size()) {
-        window.resize(window.size().boundedTo(room));
+    }
+    // What is larger than it has to be only gives some of that away.
+    const QSize fitting = window.size().boundedTo(room);
+    if (fitting != window.size()) {
+        window.resize(fitting);
     }
 }
