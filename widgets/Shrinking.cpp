@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QTableView>
@@ -35,7 +36,7 @@ void Shrinking::apply(QWidget& window) const
             shrinkLimits(*widget);
             shrinkContent(*widget);
             if (isPlacedByHand(*widget, window)) {
-                widget->setGeometry(shrunk(widget->geometry()));
+                place(*widget);
             }
         }
     }
@@ -63,6 +64,16 @@ QRect Shrinking::shrunk(const QRect& area) const
     const QPoint topLeft(shrunk(area.x()), shrunk(area.y()));
     return {
         topLeft, QPoint(shrunk(area.x() + area.width()) - 1, shrunk(area.y() + area.height()) - 1)};
+}
+
+void Shrinking::place(QWidget& widget) const
+{
+    QRect area = shrunk(widget.geometry());
+    if (const auto* box = qobject_cast<const QCheckBox*>(&widget)) {
+        // The style draws its square as large as ever.
+        area.setSize(area.size().expandedTo(box->minimumSizeHint()));
+    }
+    widget.setGeometry(area);
 }
 
 void Shrinking::shrinkFonts(QWidget& window) const

@@ -28,6 +28,7 @@ private:
     QSize shrunk(const QSize& size) const;
     QRect shrunk(const QRect& area) const;
 
+    void place(QWidget& widget) const;
     void shrinkFonts(QWidget& window) const;
     void shrinkLimits(QWidget& widget) const;
     void shrinkContent(QWidget& widget) const;

@@ -2,6 +2,7 @@
 #include "tests/support/TestProgram.h"
 #include "widgets/SmallScreen.h"
 
+#include <QCheckBox>
 #include <QDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -10,6 +11,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStandardItemModel>
+#include <QStyle>
 #include <QTableView>
 
 namespace {
@@ -151,6 +153,19 @@ private slots:
         window.button->setIconSize(QSize(32, 16));
         window.show();
         QCOMPARE(window.button->iconSize(), QSize(16, 8));
+    }
+
+    void aSquareToCheckStaysWhole()
+    {
+        // A tenth of the window.
+        const SmallScreen small(qApp, QSize(108, 338));
+        FixedWindow window;
+        QCheckBox box(&window);
+        box.setGeometry(100, 200, 30, 30);
+        window.show();
+        QCOMPARE(box.pos(), QPoint(10, 20));
+        QVERIFY(box.width() >= box.style()->pixelMetric(QStyle::PM_IndicatorWidth));
+        QVERIFY(box.height() >= box.style()->pixelMetric(QStyle::PM_IndicatorHeight));
     }
 
     void withoutItNothingChanges()
