@@ -35,9 +35,13 @@ void FormVendelTicket::fill()
 void FormVendelTicket::resizeEvent(QResizeEvent* event)
 {
     QDialog::resizeEvent(event);
+    // What the constructor could not fill may have no layout either.
+    if (!isFilled_) {
+        return;
+    }
     guarded("FormVendelTicket resizeEvent", [this] {
         layout()->activate();
-        if (isFilled_ && ui_->txt_Ticket->maximumViewportSize().width() != width_) {
+        if (ui_->txt_Ticket->maximumViewportSize().width() != width_) {
             ui_->txt_Ticket->clear();
             fill();
         }
