@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "app/FormVendelTicket.h"
+#include "app/Payment.h"
 #include "tests/support/TestProgram.h"
 #include "tests/translations/EveryWindow.h"
 #include "tests/translations/WindowTexts.h"
 #include "widgets/SmallScreen.h"
 
 #include <QTableView>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextEdit>
 #include <QTextLayout>
@@ -83,6 +86,23 @@ private slots:
         for (const QSize& screen : {countersScreen, smallestScreen, halvedScreen}) {
             const SmallScreen small(qApp, screen);
             QCOMPARE(clippedTexts(), QString());
+        }
+    }
+
+    void theReceiptsLinesStayWhole()
+    {
+        for (const QSize& screen : {halvedScreen, QSize(400, 300)}) {
+            const SmallScreen small(qApp, screen);
+            const NumberedShop shop;
+            FormVendelTicket window(Payment::receipt());
+            window.show();
+            const auto* sheet = window.findChild<QTextEdit*>();
+            QVERIFY(sheet->toPlainText().contains(QString(48, '-')));
+            const QTextDocument& receipt = *sheet->document();
+            for (auto line = receipt.begin(); line.isValid(); line = line.next()) {
+                QVERIFY2(line.layout()->lineCount() == 1, qPrintable(line.text()));
+            }
+            QVERIFY(receipt.size().width() <= sheet->viewport()->width());
         }
     }
 
