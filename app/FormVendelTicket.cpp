@@ -11,15 +11,39 @@
 FormVendelTicket::FormVendelTicket(const Receipt& receipt, QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelTicket>())
+    , receipt_(receipt)
 {
     guarded("FormVendelTicket Constructor", [&] {
         ui_->setupUi(this);
         translateCaptions(*this);
-        // The sheet is fitted to the window before the first show.
-        layout()->activate();
-        showReceipt(receipt, *ui_->txt_Ticket);
+        fill();
         isFilled_ = true;
     });
 }
 
 FormVendelTicket::~FormVendelTicket() = default;
+
+/// Fits the sheet to the window, which is shown only later.
+void FormVendelTicket::fill()
+{
+    layout()->activate();
+    width_ = ui_->txt_Ticket->maximumViewportSize().width();
+    showReceipt(receipt_, *ui_->txt_Ticket);
+}
+
+// On a small screen the window becomes smaller once more before it is shown.
+void FormVendelTicket::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    // What the constructor could not fill may have no layout either.
+    if (!isFilled_) {
+        return;
+    }
+    guarded("FormVendelTicket resizeEvent", [this] {
+        layout()->activate();
+        if (ui_->txt_Ticket->maximumViewportSize().width() != width_) {
+            ui_->txt_Ticket->clear();
+            fill();
+        }
+    });
+}

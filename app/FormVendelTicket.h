@@ -22,7 +22,15 @@ public:
     /// Whether the receipt could be shown.
     bool isFilled() const { return isFilled_; }
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void fill();
+
     std::unique_ptr<Ui_FormVendelTicket> ui_;
+    Receipt receipt_;
+    /// The width that the sheet is fitted to, in pixels.
+    int width_ = 0;
     bool isFilled_ = false;
 };

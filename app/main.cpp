@@ -3,10 +3,10 @@
 #include "app/FormVendel.h"
 #include "widgets/Application.h"
 #include "widgets/Pictures.h"
+#include "widgets/SmallScreen.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QScreen>
 
 #include <csignal>
 
@@ -19,10 +19,11 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     Application::setUp(application);
     endSignals.attach();
+    const SmallScreen smallScreen(&application);
 
     FormVendel window;
     window.setWindowIcon(Pictures::read(QStringLiteral("Vendel.png")));
-    window.move(QGuiApplication::primaryScreen()->geometry().center() - window.rect().center());
+    smallScreen.centre(window);
     window.show();
     return QApplication::exec();
 }

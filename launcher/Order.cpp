@@ -31,6 +31,9 @@ Order parseOrder(const std::vector<std::string>& arguments)
         if (*option == "--langue" && (value == "en" || value == "fr")) {
             order.language = value == "en" ? Language::English : Language::French;
             left.next();
+        } else if (*option == "--taille" && TillSize::parse(value)) {
+            order.size = TillSize::parse(value);
+            left.next();
         } else if (*option == "--restaurer") {
             order.action = Action::Restore;
             if (isValue(value)) {

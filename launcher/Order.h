@@ -2,6 +2,7 @@
 #pragma once
 
 #include "launcher/Sentences.h"
+#include "launcher/TillSize.h"
 
 #include <optional>
 #include <string>
@@ -23,6 +24,8 @@ struct Order
     Action action = Action::Start;
     /// The language asked for, which is then remembered.
     std::optional<Language> language;
+    /// The size asked for, which is then remembered.
+    std::optional<TillSize> size;
     /// The copy to put back; empty when it is still to be chosen.
     std::string copy;
     /// The folder that copies go to as well, "-" for none any more.

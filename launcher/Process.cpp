@@ -45,7 +45,7 @@ std::string readAll(int file)
 }
 } // namespace
 
-Answer filter(const std::vector<std::string>& command, const std::string& input)
+Answer filter(const std::vector<std::string>& command, const std::string& input, void (*prepare)())
 {
     const Descriptor source = fileOf(input);
     const Descriptor nowhere(open("/dev/null", O_RDWR | O_CLOEXEC));
@@ -64,6 +64,7 @@ Answer filter(const std::vector<std::string>& command, const std::string& input)
         dup2(source.get(), STDIN_FILENO);
         dup2(written.get(), STDOUT_FILENO);
         dup2(nowhere.get(), STDERR_FILENO);
+        prepare();
         become(command);
         _exit(notRun);
     }

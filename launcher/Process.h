@@ -13,8 +13,10 @@ struct Answer
     std::string output;
 };
 
-/// Runs \a command with \a input until it ends. What it says on standard error is nobody's.
-Answer filter(const std::vector<std::string>& command, const std::string& input);
+/// Runs \a command with \a input until it ends, in the environment that \a prepare leaves. What it
+/// says on standard error is nobody's.
+Answer filter(
+    const std::vector<std::string>& command, const std::string& input, void (*prepare)() = [] {});
 
 /// Replaces this process with \a command. Returns only when that is not possible.
 void become(const std::vector<std::string>& command);

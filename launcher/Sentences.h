@@ -38,7 +38,7 @@ const std::string& say(Language language, const Words& words);
 /// Every sentence of the launcher.
 namespace Sentences {
 inline constexpr Sentence usage{
-    "Usage : vendel [--langue en|fr]\n"
+    "Usage : vendel [--langue en|fr] [--taille TAILLE]\n"
     "        vendel --restaurer [COPIE]\n"
     "        vendel --copies-vers DOSSIER\n"
     "        vendel --etat\n"
@@ -47,12 +47,14 @@ inline constexpr Sentence usage{
     "Démarre la caisse dans « %1 ».\n"
     "\n"
     "  --langue en|fr         démarre en anglais ou en français et s'en souvient\n"
+    "  --taille TAILLE        démarre à cette taille et s'en souvient : 100 à 300 (pour cent),\n"
+    "                         ecran (aussi grand que possible) ou auto (celle du bureau)\n"
     "  --restaurer [COPIE]    montre les copies de la base et en remet une en place\n"
     "  --copies-vers DOSSIER  garde aussi les copies dans ce dossier ; « - » l'oublie\n"
     "  --etat                 dit l'état de la caisse, pour qui aide au téléphone\n"
     "  --aide                 montre ce texte\n"
     "  --version              montre la version\n",
-    "Usage: vendel [--langue en|fr]\n"
+    "Usage: vendel [--langue en|fr] [--taille SIZE]\n"
     "       vendel --restaurer [COPY]\n"
     "       vendel --copies-vers FOLDER\n"
     "       vendel --etat\n"
@@ -61,6 +63,8 @@ inline constexpr Sentence usage{
     "Starts the till in \"%1\".\n"
     "\n"
     "  --langue en|fr        starts in English or French and remembers it\n"
+    "  --taille SIZE         starts at this size and remembers it: 100 to 300 (per cent),\n"
+    "                        ecran (as large as possible) or auto (the desktop's own)\n"
     "  --restaurer [COPY]    shows the copies of the database and puts one back\n"
     "  --copies-vers FOLDER  keeps the copies in this folder too; \"-\" forgets it\n"
     "  --etat                shows the state of the till, for whoever helps on the telephone\n"

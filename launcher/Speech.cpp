@@ -3,6 +3,7 @@
 
 #include "launcher/Outlet.h"
 #include "launcher/Process.h"
+#include "launcher/TillSize.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -69,6 +70,16 @@ bool Speech::show(pid_t till) const
 {
     return till > 0 && hasBoxes()
         && Process::filter({dialogue_, "--montrer", std::to_string(till)}, {}).status == 0;
+}
+
+std::string Speech::screen() const
+{
+    if (!hasBoxes()) {
+        return {};
+    }
+    const auto answer
+        = Process::filter(command({"--ecran"}), {}, [] { TillSize::tellQt(TillSize::unscaled); });
+    return answer.status == 0 ? answer.output : std::string();
 }
 
 void Speech::box(const char* kind, const std::string& text) const

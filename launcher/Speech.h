@@ -34,6 +34,9 @@ public:
 
     /// Brings the windows of the process \a till to the front; false where that cannot be done.
     bool show(pid_t till) const;
+    /// Width and height that a window may take of the screen, in pixels, as the program that shows
+    /// boxes says them; empty when there is no screen.
+    std::string screen() const;
 
 private:
     bool hasBoxes() const;

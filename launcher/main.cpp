@@ -10,6 +10,7 @@
 #include "launcher/Speech.h"
 #include "launcher/StartCheck.h"
 #include "launcher/State.h"
+#include "launcher/TillSize.h"
 #include "launcher/Watch.h"
 
 #include <clocale>
@@ -44,6 +45,9 @@ int start(const Order& order, DataFolder& folder, const Places& places, const Sp
     }
     Shop::provideFiles(folder, places);
     Shop::applyLanguage(folder, places, speech, order.language);
+    if (order.size) {
+        order.size->remember(folder);
+    }
     StartCheck::database(folder, speech);
     const bool isCopied = StartCheck::copy(folder, speech);
     StartCheck::secondPlace(folder, speech);
@@ -117,6 +121,7 @@ int act(const Order& order, const std::string& data, const Places& places, const
     folder.lock();
     try {
         folder.close();
+        order.size.value_or(TillSize::remembered(folder.get())).apply(speech);
         if (order.action == Action::Start) {
             return start(order, folder, places, speech);
         }
@@ -163,7 +168,8 @@ int main(int argc, char* argv[])
         return act(order, data, places, speech);
     } catch (const AlreadyOpen& open) {
         // What else was asked for is not done, and has to be said.
-        if (order.action == Action::Start && !order.language && speech.show(open.till())) {
+        if (order.action == Action::Start && !order.language && !order.size
+            && speech.show(open.till())) {
             return 0;
         }
         speech.error(open.words());

@@ -34,7 +34,7 @@ fi
 if ! { mkdir -p "$out" && rm -f -- "$out"/*; } 2>/dev/null; then
     fail "cannot write into $out"
 fi
-start_display
+start_display 1366x768 "980,95 1210,121"
 
 for file in "$root"/scripts/tour.d/[0-9]*.sh; do
     station=$(basename "$file" .sh)

@@ -34,6 +34,7 @@ void Application::setAttributes()
     if (!qEnvironmentVariableIsSet("QT_FONT_DPI")) {
         qputenv("QT_FONT_DPI", "96");
     }
+    QtNames::useSharpPictures();
 }
 
 void Application::setUp(QApplication& application)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QMouseEvent>
 #include <QPointF>
@@ -15,6 +16,14 @@ inline QPointF position(const QMouseEvent& event)
     return event.localPos();
 #else
     return event.position();
+#endif
+}
+
+/// Has pictures on buttons and in boxes drawn with all the pixels that a large till has for them.
+inline void useSharpPictures()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
 }
 

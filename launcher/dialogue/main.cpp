@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include <clocale>
 #include <iostream>
@@ -33,6 +34,18 @@ int showBox(QMessageBox::Icon icon, const QString& text)
     box.setTextFormat(Qt::PlainText);
     box.addButton(Wording::ok(), QMessageBox::AcceptRole);
     box.exec();
+    return 0;
+}
+
+/// Says what a window may take of the screen, in pixels.
+int measureScreen()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) {
+        return 1;
+    }
+    const QSize room = screen->availableSize();
+    std::cout << room.width() << ' ' << room.height() << '\n';
     return 0;
 }
 
@@ -66,6 +79,9 @@ int main(int argc, char* argv[])
     const bool isEnglish = kind == QLatin1String("--en");
     if (isEnglish) {
         kind = argument();
+    }
+    if (kind == QLatin1String("--ecran")) {
+        return measureScreen();
     }
     const QString text = argument();
     if (text.isEmpty()) {

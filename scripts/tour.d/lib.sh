@@ -13,22 +13,30 @@ display_pid=""
 clean_up() {
     stop_till
     stop_printer
-    if [ -n "$display_pid" ]; then
-        kill "$display_pid" 2>/dev/null || true
-        wait "$display_pid" 2>/dev/null || true
-    fi
+    stop_display
     rm -rf -- "$work"
 }
 trap clean_up EXIT
 trap 'exit 1' HUP INT TERM
 
-# start_display: a private X server and session.
+stop_display() {
+    [ -n "$display_pid" ] || return 0
+    kill "$display_pid" 2>/dev/null || true
+    wait "$display_pid" 2>/dev/null || true
+    display_pid=""
+}
+
+# start_display SIZE CLOCK: a private X server and session, in place of the one before. CLOCK is the
+# rectangle in which the sales screen's clock is drawn there.
 start_display() {
-    mkdir -m 700 "$work/runtime"
+    stop_display
+    screen=$1 clock=$2
+    [ -d "$work/runtime" ] || mkdir -m 700 "$work/runtime"
+    rm -f "$work/display"
     export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 TZ=Europe/Paris XDG_RUNTIME_DIR="$work/runtime"
     unset WAYLAND_DISPLAY QT_STYLE_OVERRIDE QT_SCALE_FACTOR
     # A server that resets after its last client refuses the next one for a moment.
-    Xvfb -displayfd 3 -screen 0 1366x768x24 -dpi 96 -noreset -nolisten tcp \
+    Xvfb -displayfd 3 -screen 0 "${screen}x24" -dpi 96 -noreset -nolisten tcp \
         3>"$work/display" 2>"$work/display.log" &
     display_pid=$!
     await "a virtual display" test -s "$work/display"
@@ -177,7 +185,7 @@ leave() {
 screen_sum() {
     # The clock always changes.
     import -window root -depth 8 rgb:- \
-        | convert -size 1366x768 -depth 8 rgb:- -fill black -draw 'rectangle 980,95 1210,121' rgb:- \
+        | convert -size "$screen" -depth 8 rgb:- -fill black -draw "rectangle $clock" rgb:- \
         | md5sum
 }
 

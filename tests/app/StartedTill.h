@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 #include <QTest>
@@ -21,6 +22,18 @@ inline QString windowTitled(const QString& title)
     const QByteArray found
         = outputOf("xdotool", {"search", "--onlyvisible", "--name", '^' + title + '$'});
     return found.left(found.indexOf('\n')).trimmed();
+}
+
+/// Where the visible window with the given title is, empty when there is none.
+inline QRect geometry(const QString& title)
+{
+    const QByteArray text = outputOf("xdotool",
+        {"search", "--onlyvisible", "--name", '^' + title + '$', "getwindowgeometry", "--shell"});
+    const auto value = [&](const QByteArray& name) {
+        const auto start = text.indexOf('\n' + name + '=') + name.size() + 2;
+        return text.mid(start, text.indexOf('\n', start) - start).toInt();
+    };
+    return {value("X"), value("Y"), value("WIDTH"), value("HEIGHT")};
 }
 
 /// Waits until a window with \a title is on the screen; it has long on a busy machine.

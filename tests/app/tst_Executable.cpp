@@ -4,27 +4,12 @@
 #include "tests/support/TestProgram.h"
 
 #include <QImage>
-#include <QRect>
 
 #include <csignal>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-namespace {
-/// Where the visible window with the given title is, empty when there is none.
-QRect geometry(const QString& title)
-{
-    const QByteArray text = outputOf("xdotool",
-        {"search", "--onlyvisible", "--name", '^' + title + '$', "getwindowgeometry", "--shell"});
-    const auto value = [&](const QByteArray& name) {
-        const auto start = text.indexOf('\n' + name + '=') + name.size() + 2;
-        return text.mid(start, text.indexOf('\n', start) - start).toInt();
-    };
-    return {value("X"), value("Y"), value("WIDTH"), value("HEIGHT")};
-}
-} // namespace
 
 /// The program itself, started in a shop on a screen of 1366 x 768.
 class TestExecutable : public QObject

@@ -32,6 +32,17 @@ private slots:
         QVERIFY(parseOrder({"--langue", "fr"}).language == Language::French);
     }
 
+    void aSizeIsTaken()
+    {
+        const Order order = parseOrder({"--taille", "150", "--langue", "en"});
+        QVERIFY(order.action == Action::Start);
+        QVERIFY(order.size.has_value());
+        QVERIFY(order.language == Language::English);
+        QVERIFY(parseOrder({"--taille", "ecran"}).size.has_value());
+        QVERIFY(parseOrder({"--taille", "auto"}).size.has_value());
+        QVERIFY(!parseOrder({"--langue", "en"}).size);
+    }
+
     void aCopyMayBeNamed()
     {
         QCOMPARE(parseOrder({"--restaurer", "2026-03-05"}).copy, std::string("2026-03-05"));
@@ -67,6 +78,11 @@ private slots:
     {
         QVERIFY(isBad({"--langue"}));
         QVERIFY(isBad({"--langue", "de"}));
+        QVERIFY(isBad({"--taille"}));
+        QVERIFY(isBad({"--taille", "90"}));
+        QVERIFY(isBad({"--taille", "301"}));
+        QVERIFY(isBad({"--taille", "abc"}));
+        QVERIFY(isBad({"--taille", "--langue", "en"}));
         QVERIFY(isBad({"--restaurer", ""}));
         QVERIFY(isBad({"--copies-vers"}));
         QVERIFY(isBad({"--copies-vers", "--version"}));

@@ -4,6 +4,7 @@
 #include "launcher/Process.h"
 #include "launcher/SecondPlace.h"
 #include "launcher/Speech.h"
+#include "launcher/TillSize.h"
 #include "launcher/Watch.h"
 #include "tests/launcher/ShopFolder.h"
 #include "tests/support/TestProgram.h"
@@ -72,6 +73,7 @@ private:
             folder.lock();
             setenv("DISPLAY", ":nowhere", 1);
             const Speech speech(Language::English, "./dialogue");
+            TillSize::remembered(folder.get()).apply(speech);
             return Watch(folder, speech, "./till", false, times).run();
         } catch (const Refusal& refusal) {
             write(QString("refused"), refusal.what());
@@ -194,6 +196,14 @@ private slots:
             }
         }
         QCOMPARE(inherited, QStringList{shop.path() + "/.verrou 9"});
+    }
+
+    void theTillIsToldItsSize()
+    {
+        const WatchedShop shop("env | grep ^QT_SCALE_FACTOR= >size");
+        shop.write(QString("taille"), "150\n");
+        shop.watch();
+        QCOMPARE(shop.read(QString("size")), QByteArray("QT_SCALE_FACTOR=1.50\n"));
     }
 
     void aCopyIsMadeWhenTheTillIsClosed()

@@ -49,6 +49,7 @@ $lib/vendel-dialogue
 ./share/doc/vendel/images/recipe.png
 ./share/doc/vendel/images/sale.png
 ./share/doc/vendel/images/settings.png
+./share/doc/vendel/images/small-screen.png
 ./share/doc/vendel/images/stock-update.png
 ./share/doc/vendel/images/stock.png
 ./share/doc/vendel/images/total.png
@@ -129,7 +130,7 @@ FILES
 @test "each option of the launcher is in both man pages" {
     for page in man1 fr/man1; do
         text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel.1.gz")
-        for option in --langue --restaurer --copies-vers --help --aide --version; do
+        for option in --langue --taille --restaurer --copies-vers --help --aide --version; do
             grep -q -e "$option" <<<"$text"
         done
     done

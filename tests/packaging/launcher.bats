@@ -247,10 +247,42 @@ PiedFormulaire.dat" ]
     [ "$output" = "The till is already open on the data in \"$data\"." ]
 }
 
+@test "a size is given to the till and remembered, until it is the session's again" {
+    export TILL_DOES='echo "factor ${QT_SCALE_FACTOR-none}"'
+    run "$launcher" --taille 150
+    [ "$output" = 'factor 1.50' ]
+    run "$launcher"
+    [ "$output" = 'factor 1.50' ]
+    [ "$(stat -c %a "$data/taille")" = 600 ]
+    run "$launcher" --taille auto
+    [ "$output" = 'factor none' ]
+    QT_SCALE_FACTOR=2 run "$launcher"
+    [ "$output" = 'factor 2' ]
+}
+
+@test "a till as large as the screen starts where there is no screen to measure" {
+    export TILL_DOES='echo "factor ${QT_SCALE_FACTOR-none}"'
+    run "$launcher" --taille ecran
+    [ "$status" -eq 0 ]
+    [ "$output" = 'factor none' ]
+}
+
+@test "an unknown size shows the usage and starts nothing" {
+    for size in 90 301 abc ''; do
+        run "$launcher" --taille "$size"
+        [ "$status" -eq 2 ]
+        [ "${lines[0]}" = 'Usage : vendel [--langue en|fr] [--taille TAILLE]' ]
+    done
+    run "$launcher" --taille
+    [ "$status" -eq 2 ]
+    [ ! -e "$data" ]
+    [ ! -s "$TILL_LOG" ]
+}
+
 @test "an unknown language shows the usage and starts nothing" {
     run "$launcher" --langue de
     [ "$status" -eq 2 ]
-    [ "${lines[0]}" = 'Usage : vendel [--langue en|fr]' ]
+    [ "${lines[0]}" = 'Usage : vendel [--langue en|fr] [--taille TAILLE]' ]
     [ ! -e "$data" ]
     [ ! -s "$TILL_LOG" ]
 }
@@ -259,7 +291,7 @@ PiedFormulaire.dat" ]
     "$launcher" --langue en
     run "$launcher" --langue de
     [ "$status" -eq 2 ]
-    [ "${lines[0]}" = 'Usage: vendel [--langue en|fr]' ]
+    [ "${lines[0]}" = 'Usage: vendel [--langue en|fr] [--taille SIZE]' ]
 }
 
 @test "a language that is left out shows the usage" {
@@ -276,10 +308,10 @@ PiedFormulaire.dat" ]
 @test "help and version start nothing and make nothing" {
     run "$launcher" --aide
     [ "$status" -eq 0 ]
-    [ "${lines[0]}" = 'Usage : vendel [--langue en|fr]' ]
+    [ "${lines[0]}" = 'Usage : vendel [--langue en|fr] [--taille TAILLE]' ]
     run "$launcher" --langue en --help
     [ "$status" -eq 0 ]
-    [ "${lines[0]}" = 'Usage: vendel [--langue en|fr]' ]
+    [ "${lines[0]}" = 'Usage: vendel [--langue en|fr] [--taille SIZE]' ]
     run "$launcher" --version
     [ "$output" = 'Vendel 1.0.0' ]
     [ ! -e "$data" ]

@@ -51,6 +51,22 @@ $sentence" ]
     grep -qF 'it is not a directory' "$SAID"
 }
 
+@test "a till as large as the screen is made for the screen of each start" {
+    rm "$data"
+    export TILL_DOES='echo "factor $QT_SCALE_FACTOR"'
+    dialogue 'echo "$*" >>"$SAID"; echo 1920 1040'
+    run "$launcher" --taille ecran
+    [ "$output" = 'factor 1.55' ]
+    dialogue 'echo "$*" >>"$SAID"; echo 1366 768'
+    run "$launcher"
+    [ "$output" = 'factor 1.15' ]
+    [ "$(cat "$SAID")" = "--ecran
+--ecran" ]
+    run "$launcher" --taille 150
+    [ "$output" = 'factor 1.50' ]
+    [ "$(wc -l <"$SAID")" -eq 2 ]
+}
+
 @test "on Wayland alone there is a box too" {
     unset DISPLAY
     export WAYLAND_DISPLAY=wayland-0

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 #include "tests/translations/EveryWindow.h"
 #include "tests/translations/ShownTexts.h"
+#include "tests/translations/WindowTexts.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -21,23 +21,6 @@
 #include <memory>
 
 namespace {
-/// A shop whose names are numbers, so that every letter on the screen is the till's.
-class NumberedShop : public Shop
-{
-public:
-    NumberedShop()
-    {
-        fill("insert into Article values (1, '11', 2), (2, '12', 3), (3, '13', 3);"
-             "insert into ArticleStock (id, article) values (1, '11'), (2, '22'), (4, '14');"
-             "insert into DoseStock (id, composition, dose, unite) values (1, '31', 2, 'cl'), "
-             "(4, '32', 3, 'g');"
-             "insert into Historique values (1, '11', 2, '2019-05-04 12:00:00.000');"
-             "insert into Ticket (id, article, prix) values (1, '11', 2)");
-        write("EnteteFormulaire.dat", "1");
-        write("PiedFormulaire.dat", "2");
-    }
-};
-
 /// What is the same in both languages, and what no language changes.
 const QSet<QString> equalWords{"Ticket", "Menu", "Config", "Total", "TOTAL", "Vendel", "X", "Id",
     "Date", "Options", "Stock", "Composition", "Dose", "Conversion", "Purge", "cl", "g", "Epson",
@@ -52,48 +35,6 @@ QStringList wordsOf(const QString& text)
         words << matches.next().captured();
     }
     return words;
-}
-
-/// What the window of the running row shows.
-QVector<ShownText> textsOfRow()
-{
-    const NumberedShop shop;
-    QWidget opener;
-    auto texts = shownTexts(*openWindowOfRow(opener));
-    for (ShownText& text : texts) {
-        text.text.remove(shop.path());
-    }
-    return texts;
-}
-
-/// Takes the English away for a while.
-class InFrench
-{
-public:
-    InFrench()
-        : english_(qApp->findChildren<QTranslator*>().constLast())
-    {
-        QCoreApplication::removeTranslator(english_);
-    }
-    ~InFrench() { QCoreApplication::installTranslator(english_); }
-    Q_DISABLE_COPY_MOVE(InFrench)
-
-private:
-    QTranslator* english_;
-};
-
-/// The texts of the running row's window that lack room, one a line.
-QString clippedTexts()
-{
-    QStringList clipped;
-    const auto texts = textsOfRow();
-    for (const ShownText& text : texts) {
-        if (text.missing > 0) {
-            clipped << QString("%1: \"%2\" lacks %3 pixels")
-                           .arg(text.place, text.text, QString::number(text.missing));
-        }
-    }
-    return clipped.join('\n');
 }
 
 QStringList frenchWordsOfRow()

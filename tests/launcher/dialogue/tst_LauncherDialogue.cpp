@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -131,6 +132,17 @@ private slots:
     {
         QCOMPARE(Wording::breakable(QString::fromUtf8("dans « x » : a b ?")),
             QString::fromUtf8("dans «\u00a0x\u00a0»\u00a0: a b\u00a0?"));
+    }
+
+    void theProgramMeasuresTheScreen()
+    {
+        QProcess dialogue;
+        dialogue.start(QString(DIALOGUE), {QString("--ecran")});
+        QVERIFY(dialogue.waitForFinished());
+        QCOMPARE(dialogue.exitCode(), 0);
+        // Qt's screen without a display is 800 pixels wide; Qt 6 makes it higher than Qt 5.
+        const int height = QGuiApplication::primaryScreen()->availableSize().height();
+        QCOMPARE(dialogue.readAllStandardOutput(), "800 " + QByteArray::number(height) + '\n');
     }
 
     void theProgramRefusesWhatItDoesNotKnow()
