@@ -15,8 +15,6 @@
 #include "widgets/MessageBoxes.h"
 #include "widgets/OpenWindow.h"
 
-#include <QStandardItemModel>
-
 #include <utility>
 
 namespace {
@@ -72,9 +70,9 @@ const std::array<std::string, 2>& refusalOf(Period::Fault fault)
 FormVendelHistorique::FormVendelHistorique(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelHistorique>())
-    , modelSales_(new QStandardItemModel(this))
-    , modelDays_(new QStandardItemModel(this))
-    , modelGroups_(new QStandardItemModel(this))
+    , modelSales_(new ListModel(this))
+    , modelDays_(new ListModel(this))
+    , modelGroups_(new ListModel(this))
     , tips_(*this, texts, [](QPoint position, const QString& date) {
         return isOffTheCorner(position) && date != totalMark();
     })

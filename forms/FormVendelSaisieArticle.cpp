@@ -45,7 +45,7 @@ constexpr QPoint lengthTipOffset(400, 20);
 FormVendelSaisieArticle::FormVendelSaisieArticle(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieArticle>())
-    , model_(new QStandardItemModel(0, 4, this))
+    , model_(new ListModel(0, 4, this))
     , tips_(*this, texts, [](QPoint position, const QString&) { return isOffTheCorner(position); })
 {
     guarded("FormVendelSaisieArticle Constructor", [this] {
@@ -91,8 +91,9 @@ void FormVendelSaisieArticle::checkLength()
             texts(tooManyCharacters[1]));
         ui_->txt_Article->setText(ui_->txt_Article->text().remove(Tools::NbrChar, 1));
     } else {
-        showTip(*this, geometry().topLeft() + lengthTipOffset,
-            texts(lengthTip[0]) + QString::number(length));
+        const QString tip = texts(lengthTip[0]) + QString::number(length);
+        ui_->txt_Article->setAccessibleDescription(tip);
+        showTip(*this, geometry().topLeft() + lengthTipOffset, tip);
     }
 }
 

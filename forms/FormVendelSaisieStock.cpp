@@ -33,8 +33,8 @@ const auto& removalQuestion = Messages::Messages45;
 FormVendelSaisieStock::FormVendelSaisieStock(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieStock>())
-    , modelArticles_(new QStandardItemModel(0, 3, this))
-    , modelCompositions_(new QStandardItemModel(0, 5, this))
+    , modelArticles_(new ListModel(0, 3, this))
+    , modelCompositions_(new ListModel(0, 5, this))
     , tips_(*this, texts)
 {
     guarded("FormVendelSaisieStock Contructor", [this] {
@@ -191,14 +191,14 @@ void FormVendelSaisieStock::removeLine(const QModelIndex& index)
     Display_DoseStock(article);
 }
 
-void FormVendelSaisieStock::setUpArticles(QTableView& view, QStandardItemModel& model,
-    const Texts& context, std::span<const std::string> labels)
+void FormVendelSaisieStock::setUpArticles(
+    QTableView& view, ListModel& model, const Texts& context, std::span<const std::string> labels)
 {
     setUpList(view, model, context, labels, {50, 210, 110});
 }
 
-void FormVendelSaisieStock::setUpRecipe(QTableView& view, QStandardItemModel& model,
-    const Texts& context, std::span<const std::string> labels)
+void FormVendelSaisieStock::setUpRecipe(
+    QTableView& view, ListModel& model, const Texts& context, std::span<const std::string> labels)
 {
     setUpList(view, model, context, labels, {50, 50, 180, 90, 50}, {RecipeArticle});
 }

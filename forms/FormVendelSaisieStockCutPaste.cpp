@@ -31,8 +31,8 @@ const QLatin1String separator(", ");
 FormVendelSaisieStockCutPaste::FormVendelSaisieStockCutPaste(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieStockCutPaste>())
-    , modelArticles_(new QStandardItemModel(0, 3, this))
-    , modelCompositions_(new QStandardItemModel(0, 5, this))
+    , modelArticles_(new ListModel(0, 3, this))
+    , modelCompositions_(new ListModel(0, 5, this))
     , tips_(*this, texts)
 {
     guarded("FormVendelSaisieStockCutPaste Constructor", [this] {

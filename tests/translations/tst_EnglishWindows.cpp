@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/Shop.h"
 #include "tests/support/TestProgram.h"
 #include "tests/translations/EveryWindow.h"
+#include "tests/translations/NumberedShop.h"
 #include "tests/translations/ShownTexts.h"
 
 #include <QAccessible>
@@ -16,32 +16,14 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTextEdit>
-#include <QTranslator>
 
 #include <memory>
 
 namespace {
-/// A shop whose names are numbers, so that every letter on the screen is the till's.
-class NumberedShop : public Shop
-{
-public:
-    NumberedShop()
-    {
-        fill("insert into Article values (1, '11', 2), (2, '12', 3), (3, '13', 3);"
-             "insert into ArticleStock (id, article) values (1, '11'), (2, '22'), (4, '14');"
-             "insert into DoseStock (id, composition, dose, unite) values (1, '31', 2, 'cl'), "
-             "(4, '32', 3, 'g');"
-             "insert into Historique values (1, '11', 2, '2019-05-04 12:00:00.000');"
-             "insert into Ticket (id, article, prix) values (1, '11', 2)");
-        write("EnteteFormulaire.dat", "1");
-        write("PiedFormulaire.dat", "2");
-    }
-};
-
 /// What is the same in both languages, and what no language changes.
 const QSet<QString> equalWords{"Ticket", "Menu", "Config", "Total", "TOTAL", "Vendel", "X", "Id",
     "Date", "Options", "Stock", "Composition", "Dose", "Conversion", "Purge", "cl", "g", "Epson",
-    "TM", "T20II", "ON", "OFF", "OK", "Dialog", "Version", "MIT", "Page", "bar"};
+    "TM", "T20II", "ON", "OFF", "OK", "Dialog", "Version", "MIT", "Page", "Plus", "bar"};
 
 QStringList wordsOf(const QString& text)
 {
@@ -65,22 +47,6 @@ QVector<ShownText> textsOfRow()
     }
     return texts;
 }
-
-/// Takes the English away for a while.
-class InFrench
-{
-public:
-    InFrench()
-        : english_(qApp->findChildren<QTranslator*>().constLast())
-    {
-        QCoreApplication::removeTranslator(english_);
-    }
-    ~InFrench() { QCoreApplication::installTranslator(english_); }
-    Q_DISABLE_COPY_MOVE(InFrench)
-
-private:
-    QTranslator* english_;
-};
 
 /// The texts of the running row's window that lack room, one a line.
 QString clippedTexts()
