@@ -24,6 +24,7 @@
 #include "widgets/Lists.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/OpenWindow.h"
+#include "widgets/RowKeys.h"
 
 #include <QMouseEvent>
 #include <QShowEvent>
@@ -80,6 +81,10 @@ void FormVendel::setUpLists()
     SalesLists::setUpTicket(*ui_->tableView2, *modelTicket_);
     tips_.add({*ui_->tableView1, SalesLists::MenuArticle, addTip, tipOffset});
     tips_.add({*ui_->tableView2, SalesLists::TicketArticle, removeTip, tipOffset});
+    onRowKeys(*ui_->tableView1, [this](const QModelIndex& index) { on_tableView1_clicked(index); });
+    onRowKeys(*ui_->tableView2, [this](const QModelIndex& index) {
+        guarded("FormVendel on_tableView2_clicked", [&] { removeFromTicket(index); });
+    });
 }
 
 void FormVendel::showEvent(QShowEvent* event)

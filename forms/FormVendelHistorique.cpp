@@ -14,6 +14,7 @@
 #include "widgets/Lists.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/OpenWindow.h"
+#include "widgets/RowKeys.h"
 
 #include <utility>
 
@@ -94,6 +95,8 @@ void FormVendelHistorique::setUpLists()
     setUpList(*ui_->tableView1, *modelSales_, listTexts, saleLabels, {210, 100, 250});
     setUpList(*ui_->tableView2, *modelDays_, listTexts, dayLabels, {150});
     setUpList(*ui_->tableView3, *modelGroups_, listTexts, groupLabels, {50, 210, 100, 100});
+    onRowKeys(*ui_->tableView1, [this](const QModelIndex& index) { on_tableView1_clicked(index); });
+    onRowKeys(*ui_->tableView2, [this](const QModelIndex& index) { on_tableView2_clicked(index); });
 }
 
 bool FormVendelHistorique::eventFilter(QObject* watched, QEvent* event)

@@ -11,6 +11,7 @@
 #include "widgets/HoverTip.h"
 #include "widgets/Lists.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/RowKeys.h"
 
 namespace {
 enum Column
@@ -54,6 +55,10 @@ FormVendelSaisieArticle::FormVendelSaisieArticle(QWidget* parent)
         setUpList(
             *ui_->tableView, *model_, {"FormVendelMessages"}, labels, {50, 25, 210, 110}, {Id});
         tips_.add({*ui_->tableView, Name, articleTip, hoverTipOffset});
+        onRowKeys(*ui_->tableView, [this](const QModelIndex& index) {
+            ui_->tableView->setCurrentIndex(index);
+            on_tableView_doubleClicked(index);
+        });
         ui_->txt_Article->setFocus();
     });
 }

@@ -16,6 +16,7 @@
 #include "widgets/Marks.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/OpenWindow.h"
+#include "widgets/RowKeys.h"
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockMessages"};
@@ -58,9 +59,9 @@ void FormVendelSaisieStock::setUpLists()
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         [this] { on_tableViewSelection({}, {}); });
 
-    const auto compose = [this](const QModelIndex& index) { on_tableView1_doubleClicked(index); };
-    onKey(*ui_->tableView1, Qt::Key_Return, compose);
-    onKey(*ui_->tableView1, Qt::Key_Enter, compose);
+    onRowKeys(
+        *ui_->tableView1, [this](const QModelIndex& index) { on_tableView1_doubleClicked(index); });
+    onRowKeys(*ui_->tableView2, [this](const QModelIndex& index) { markOrRemoveLine(index); });
     onKey(*ui_->tableView2, Qt::Key_Delete,
         [this](const QModelIndex& index) { on_tableView2_doubleClicked(index); });
 }
@@ -189,6 +190,17 @@ void FormVendelSaisieStock::removeLine(const QModelIndex& index)
     const QString article = textAt(index, RecipeArticle);
     Recipes::remove(*line);
     Display_DoseStock(article);
+}
+
+/// As the first half of a double click does it, a key only marks a line that is not marked yet: the
+/// removal asks nothing.
+void FormVendelSaisieStock::markOrRemoveLine(const QModelIndex& index)
+{
+    if (selectedKey(*ui_->tableView2, index)) {
+        on_tableView2_doubleClicked(index);
+    } else {
+        ui_->tableView2->setCurrentIndex(index);
+    }
 }
 
 void FormVendelSaisieStock::setUpArticles(

@@ -12,6 +12,7 @@
 #include "widgets/Lists.h"
 #include "widgets/Marks.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/RowKeys.h"
 
 namespace {
 using Stock = FormVendelSaisieStock;
@@ -56,6 +57,9 @@ void FormVendelSaisieStockCutPaste::setUpLists()
     // A click on a row number marks its row after it has become the current one.
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         [this] { on_tableViewSelection({}, {}); });
+    for (QTableView* list : {ui_->tableView1, ui_->tableView2}) {
+        onRowKeys(*list, [list](const QModelIndex& index) { list->setCurrentIndex(index); });
+    }
 }
 
 void FormVendelSaisieStockCutPaste::fillTargets()
