@@ -42,14 +42,6 @@ private slots:
         }
     }
 
-    void theLettersOfANameAreCountedAloud()
-    {
-        OpenArticleEditor editor;
-        editor.type("txt_Article", "Cafe");
-        QCOMPARE(child<QLineEdit>(editor.window, "txt_Article").accessibleDescription(),
-            QString("Article Nbre caractères : 4"));
-    }
-
     void daysAndMomentsAreDatesOfThePeriod()
     {
         for (const auto key : rowKeys) {

@@ -5,6 +5,8 @@
 #include "widgets/Lists.h"
 #include "widgets/RowKeys.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QTableView>
 
 namespace {
@@ -38,6 +40,19 @@ struct List
     /// Moves the keyboard's frame to \a row and marks it.
     void goTo(int row) { view.setCurrentIndex(model.index(row, 0)); }
 };
+
+/// Return at \a moment, in ms.
+void pressAt(QTableView& view, ulong moment)
+{
+    qt_sendShortcutOverrideEvent(&view, moment, Qt::Key_Return, Qt::NoModifier);
+}
+
+void releaseAt(QTableView& view, ulong moment)
+{
+    QKeyEvent event(QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier);
+    event.setTimestamp(moment);
+    QApplication::sendEvent(&view, &event);
+}
 } // namespace
 
 /// What the mouse does to a row, a key does too.
@@ -82,6 +97,22 @@ private slots:
             QTest::keyRelease(&list.view, key);
         }
         QCOMPARE(list.acted, QStringList({"one", "one", "one"}));
+    }
+
+    void aKeyThatX11RepeatsActsOnce()
+    {
+        List list;
+        list.goTo(0);
+        pressAt(list.view, 1000);
+        for (const ulong moment : {1500, 1530, 1560}) {
+            releaseAt(list.view, moment);
+            pressAt(list.view, moment);
+        }
+        releaseAt(list.view, 1590);
+        QCOMPARE(list.acted, QStringList("one"));
+        pressAt(list.view, 1640);
+        releaseAt(list.view, 1700);
+        QCOMPARE(list.acted, QStringList({"one", "one"}));
     }
 
     void withoutACurrentRowNothingHappens()
