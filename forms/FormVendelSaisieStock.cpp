@@ -61,7 +61,7 @@ void FormVendelSaisieStock::setUpLists()
 
     onRowKeys(
         *ui_->tableView1, [this](const QModelIndex& index) { on_tableView1_doubleClicked(index); });
-    onRowKeys(*ui_->tableView2, [this](const QModelIndex& index) { markOrRemoveLine(index); });
+    // The removal asks nothing, so it has a key of its own.
     onKey(*ui_->tableView2, Qt::Key_Delete,
         [this](const QModelIndex& index) { on_tableView2_doubleClicked(index); });
 }
@@ -190,17 +190,6 @@ void FormVendelSaisieStock::removeLine(const QModelIndex& index)
     const QString article = textAt(index, RecipeArticle);
     Recipes::remove(*line);
     Display_DoseStock(article);
-}
-
-/// As the first half of a double click does it, a key only marks a line that is not marked yet: the
-/// removal asks nothing.
-void FormVendelSaisieStock::markOrRemoveLine(const QModelIndex& index)
-{
-    if (selectedKey(*ui_->tableView2, index)) {
-        on_tableView2_doubleClicked(index);
-    } else {
-        ui_->tableView2->setCurrentIndex(index);
-    }
 }
 
 void FormVendelSaisieStock::setUpArticles(

@@ -81,7 +81,6 @@ private:
     void composeRecipeOf(const QModelIndex& index);
     void removeArticle();
     void removeLine(const QModelIndex& index);
-    void markOrRemoveLine(const QModelIndex& index);
 
     std::unique_ptr<Ui_FormVendelSaisieStock> ui_;
     ListModel* modelArticles_;

@@ -72,23 +72,19 @@ void onKey(QTableView& view, Qt::Key key, RowAction action)
     const auto* held = new HeldKey(key, view);
     QObject::connect(
         shortcut, &QShortcut::activated, &view, [&view, held, run = std::move(action)] {
-            if (!held->isRepeating()) {
-                run(view.currentIndex());
+            const QModelIndex current = view.currentIndex();
+            if (current.isValid() && !held->isRepeating()) {
+                const int row = current.row();
+                const int column = current.column();
+                run(current);
+                returnTo(view, row, column);
             }
         });
 }
 
 void onRowKeys(QTableView& view, const RowAction& action)
 {
-    const auto act = [&view, action](const QModelIndex& index) {
-        if (index.isValid()) {
-            const int row = index.row();
-            const int column = index.column();
-            action(index);
-            returnTo(view, row, column);
-        }
-    };
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-        onKey(view, key, act);
+        onKey(view, key, action);
     }
 }

@@ -9,11 +9,10 @@ class QTableView;
 
 using RowAction = std::function<void(const QModelIndex&)>;
 
-/// Runs \a action with the current index of \a view when \a key is pressed in it; held down, the
-/// key acts once.
+/// Runs \a action with the current index of \a view when \a key is pressed in it and there is one;
+/// held down, the key acts once. When \a action fills the list again, the keyboard stays at its
+/// place in it, and nothing is marked there.
 void onKey(QTableView& view, Qt::Key key, RowAction action);
 
-/// Has Return, Enter and Space do \a action to the current row of \a view, as the mouse does it;
-/// held down, they act once. When \a action fills the list again, the keyboard stays at its place
-/// in it.
+/// The same for each of Return, Enter and Space, which do what the mouse does to a row.
 void onRowKeys(QTableView& view, const RowAction& action);
