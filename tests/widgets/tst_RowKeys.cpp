@@ -104,7 +104,7 @@ private slots:
         List list;
         list.goTo(0);
         pressAt(list.view, 1000);
-        for (const ulong moment : {1500, 1530, 1560}) {
+        for (const ulong moment : {1500UL, 1530UL, 1560UL}) {
             releaseAt(list.view, moment);
             pressAt(list.view, moment);
         }
