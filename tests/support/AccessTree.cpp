@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMetaEnum>
 #include <QRadioButton>
 #include <QSet>
 #include <QTest>
