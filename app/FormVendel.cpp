@@ -24,6 +24,7 @@
 #include "widgets/Lists.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/OpenWindow.h"
+#include "widgets/RowKeys.h"
 
 #include <QMouseEvent>
 #include <QShowEvent>
@@ -55,8 +56,8 @@ FormVendel::FormVendel(QWidget* parent)
     : QMainWindow(parent)
     , ui_(std::make_unique<Ui_FormVendel>())
     , clock_(this)
-    , modelMenu_(new QStandardItemModel(0, 4, this))
-    , modelTicket_(new QStandardItemModel(0, 4, this))
+    , modelMenu_(new ListModel(0, 4, this))
+    , modelTicket_(new ListModel(0, 4, this))
     , tips_(
           *this, texts, [this](QPoint, const QString&) { return ui_->chkbx_ToolTip->isChecked(); })
 {
@@ -65,10 +66,7 @@ FormVendel::FormVendel(QWidget* parent)
         translateCaptions(*this);
         connect(&clock_, &QTimer::timeout, this, &FormVendel::on_timeout);
         clock_.start(clockMs);
-        SalesLists::setUpMenu(*ui_->tableView1, *modelMenu_);
-        SalesLists::setUpTicket(*ui_->tableView2, *modelTicket_);
-        tips_.add({*ui_->tableView1, SalesLists::MenuArticle, addTip, tipOffset});
-        tips_.add({*ui_->tableView2, SalesLists::TicketArticle, removeTip, tipOffset});
+        setUpLists();
         // A key can uncheck the box while a tip is shown; a mouse press hides the tip anyway.
         connect(ui_->chkbx_ToolTip, &QCheckBox::toggled, this, &hideTip);
         Database::createIfMissing();
@@ -76,6 +74,18 @@ FormVendel::FormVendel(QWidget* parent)
 }
 
 FormVendel::~FormVendel() = default;
+
+void FormVendel::setUpLists()
+{
+    SalesLists::setUpMenu(*ui_->tableView1, *modelMenu_);
+    SalesLists::setUpTicket(*ui_->tableView2, *modelTicket_);
+    tips_.add({*ui_->tableView1, SalesLists::MenuArticle, addTip, tipOffset});
+    tips_.add({*ui_->tableView2, SalesLists::TicketArticle, removeTip, tipOffset});
+    onRowKeys(*ui_->tableView1, [this](const QModelIndex& index) { on_tableView1_clicked(index); });
+    onRowKeys(*ui_->tableView2, [this](const QModelIndex& index) {
+        guarded("FormVendel on_tableView2_clicked", [&] { removeFromTicket(index); });
+    });
+}
 
 void FormVendel::showEvent(QShowEvent* event)
 {

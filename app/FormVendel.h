@@ -2,10 +2,10 @@
 #pragma once
 
 #include "widgets/HoverTip.h"
+#include "widgets/ListModel.h"
 
 #include <QMainWindow>
 #include <QModelIndex>
-#include <QStandardItemModel>
 #include <QTimer>
 
 #include <memory>
@@ -65,6 +65,7 @@ private slots:
     void on_btn_Payer_clicked();
 
 private:
+    void setUpLists();
     void showSplash();
     void notePress(const QEvent& event);
 
@@ -80,8 +81,8 @@ private:
 
     std::unique_ptr<Ui_FormVendel> ui_;
     QTimer clock_;
-    QStandardItemModel* modelMenu_;
-    QStandardItemModel* modelTicket_;
+    ListModel* modelMenu_;
+    ListModel* modelTicket_;
     HoverTips tips_;
     /// Whether the last press on a list ended a double click, and came from the left button.
     bool isSecondPress_ = false;

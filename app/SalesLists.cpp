@@ -21,12 +21,12 @@ QStringList totalCells(const QString& label, const QString& amount)
 }
 } // namespace
 
-void SalesLists::setUpMenu(QTableView& view, QStandardItemModel& model)
+void SalesLists::setUpMenu(QTableView& view, ListModel& model)
 {
     setUpList(view, model, texts, menuLabels, {50, 25, 210, 110}, {MenuId});
 }
 
-void SalesLists::setUpTicket(QTableView& view, QStandardItemModel& model)
+void SalesLists::setUpTicket(QTableView& view, ListModel& model)
 {
     setUpList(view, model, texts, ticketLabels, {50, 50, 210, 110}, {TicketKey, TicketArticleId});
 }

@@ -5,6 +5,7 @@
 #include "store/Articles.h"
 #include "store/Ticket.h"
 
+class ListModel;
 class QStandardItemModel;
 class QTableView;
 
@@ -25,8 +26,8 @@ enum TicketColumn
 };
 
 /// Labels, widths and looks.
-void setUpMenu(QTableView& view, QStandardItemModel& model);
-void setUpTicket(QTableView& view, QStandardItemModel& model);
+void setUpMenu(QTableView& view, ListModel& model);
+void setUpTicket(QTableView& view, ListModel& model);
 
 /// Appends a row for each article, and for each line.
 void fillMenu(QTableView& view, QStandardItemModel& model, const std::vector<Article>& articles);

@@ -199,3 +199,13 @@ const Messages::Entry<1> Messages::Messages170{""};
 const Messages::Entry<2> Messages::Messages171{"Le texte n'a pas pu être enregistré", "Sauvegarde"};
 const Messages::Entry<2> Messages::Messages172{
     "La vente n'est pas enregistrée\nLe ticket est gardé", "Payer"};
+const Messages::Entry<1> Messages::Messages173{"Virgule"};
+const Messages::Entry<1> Messages::Messages174{"Plus"};
+const Messages::Entry<1> Messages::Messages175{"Moins"};
+const Messages::Entry<1> Messages::Messages176{"Ventes par article"};
+const Messages::Entry<1> Messages::Messages177{"Remplaçant"};
+const Messages::Entry<1> Messages::Messages178{"Consommation par article"};
+const Messages::Entry<1> Messages::Messages179{"MAJ TVA"};
+const Messages::Entry<1> Messages::Messages180{"MAJ Epson TM-T20II"};
+const Messages::Entry<1> Messages::Messages181{"MAJ Formulaire Impression Ticket"};
+const Messages::Entry<1> Messages::Messages182{"Numéro"};

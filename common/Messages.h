@@ -178,4 +178,14 @@ public:
     static const Entry<1> Messages170;
     static const Entry<2> Messages171;
     static const Entry<2> Messages172;
+    static const Entry<1> Messages173;
+    static const Entry<1> Messages174;
+    static const Entry<1> Messages175;
+    static const Entry<1> Messages176;
+    static const Entry<1> Messages177;
+    static const Entry<1> Messages178;
+    static const Entry<1> Messages179;
+    static const Entry<1> Messages180;
+    static const Entry<1> Messages181;
+    static const Entry<1> Messages182;
 };

@@ -14,8 +14,7 @@
 #include "widgets/Lists.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/OpenWindow.h"
-
-#include <QStandardItemModel>
+#include "widgets/RowKeys.h"
 
 #include <utility>
 
@@ -72,9 +71,9 @@ const std::array<std::string, 2>& refusalOf(Period::Fault fault)
 FormVendelHistorique::FormVendelHistorique(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelHistorique>())
-    , modelSales_(new QStandardItemModel(this))
-    , modelDays_(new QStandardItemModel(this))
-    , modelGroups_(new QStandardItemModel(this))
+    , modelSales_(new ListModel(this))
+    , modelDays_(new ListModel(this))
+    , modelGroups_(new ListModel(this))
     , tips_(*this, texts, [](QPoint position, const QString& date) {
         return isOffTheCorner(position) && date != totalMark();
     })
@@ -96,6 +95,8 @@ void FormVendelHistorique::setUpLists()
     setUpList(*ui_->tableView1, *modelSales_, listTexts, saleLabels, {210, 100, 250});
     setUpList(*ui_->tableView2, *modelDays_, listTexts, dayLabels, {150});
     setUpList(*ui_->tableView3, *modelGroups_, listTexts, groupLabels, {50, 210, 100, 100});
+    onRowKeys(*ui_->tableView1, [this](const QModelIndex& index) { on_tableView1_clicked(index); });
+    onRowKeys(*ui_->tableView2, [this](const QModelIndex& index) { on_tableView2_clicked(index); });
 }
 
 bool FormVendelHistorique::eventFilter(QObject* watched, QEvent* event)

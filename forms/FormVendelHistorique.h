@@ -3,6 +3,7 @@
 
 #include "store/History.h"
 #include "widgets/HoverTip.h"
+#include "widgets/ListModel.h"
 
 #include <QDialog>
 #include <QPoint>
@@ -13,7 +14,6 @@
 #include <string>
 
 class QModelIndex;
-class QStandardItemModel;
 class QTableView;
 class Ui_FormVendelHistorique;
 
@@ -70,8 +70,8 @@ private:
     void pickDate(const QModelIndex& cell);
 
     std::unique_ptr<Ui_FormVendelHistorique> ui_;
-    QStandardItemModel* modelSales_;
-    QStandardItemModel* modelDays_;
-    QStandardItemModel* modelGroups_;
+    ListModel* modelSales_;
+    ListModel* modelDays_;
+    ListModel* modelGroups_;
     HoverTips tips_;
 };

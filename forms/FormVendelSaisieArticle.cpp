@@ -11,6 +11,7 @@
 #include "widgets/HoverTip.h"
 #include "widgets/Lists.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/RowKeys.h"
 
 namespace {
 enum Column
@@ -45,7 +46,7 @@ constexpr QPoint lengthTipOffset(400, 20);
 FormVendelSaisieArticle::FormVendelSaisieArticle(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieArticle>())
-    , model_(new QStandardItemModel(0, 4, this))
+    , model_(new ListModel(0, 4, this))
     , tips_(*this, texts, [](QPoint position, const QString&) { return isOffTheCorner(position); })
 {
     guarded("FormVendelSaisieArticle Constructor", [this] {
@@ -54,6 +55,10 @@ FormVendelSaisieArticle::FormVendelSaisieArticle(QWidget* parent)
         setUpList(
             *ui_->tableView, *model_, {"FormVendelMessages"}, labels, {50, 25, 210, 110}, {Id});
         tips_.add({*ui_->tableView, Name, articleTip, hoverTipOffset});
+        onRowKeys(*ui_->tableView, [this](const QModelIndex& index) {
+            ui_->tableView->setCurrentIndex(index);
+            on_tableView_doubleClicked(index);
+        });
         ui_->txt_Article->setFocus();
     });
 }
@@ -91,8 +96,9 @@ void FormVendelSaisieArticle::checkLength()
             texts(tooManyCharacters[1]));
         ui_->txt_Article->setText(ui_->txt_Article->text().remove(Tools::NbrChar, 1));
     } else {
-        showTip(*this, geometry().topLeft() + lengthTipOffset,
-            texts(lengthTip[0]) + QString::number(length));
+        const QString tip = texts(lengthTip[0]) + QString::number(length);
+        ui_->txt_Article->setAccessibleDescription(tip);
+        showTip(*this, geometry().topLeft() + lengthTipOffset, tip);
     }
 }
 

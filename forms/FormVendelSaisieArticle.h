@@ -3,10 +3,10 @@
 
 #include "store/Articles.h"
 #include "widgets/HoverTip.h"
+#include "widgets/ListModel.h"
 
 #include <QDialog>
 #include <QModelIndex>
-#include <QStandardItemModel>
 
 #include <array>
 #include <memory>
@@ -56,6 +56,6 @@ private:
     QString currentCell(int column) const;
 
     std::unique_ptr<Ui_FormVendelSaisieArticle> ui_;
-    QStandardItemModel* model_;
+    ListModel* model_;
     HoverTips tips_;
 };

@@ -16,6 +16,7 @@
 #include "widgets/Marks.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/OpenWindow.h"
+#include "widgets/RowKeys.h"
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockMessages"};
@@ -33,8 +34,8 @@ const auto& removalQuestion = Messages::Messages45;
 FormVendelSaisieStock::FormVendelSaisieStock(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieStock>())
-    , modelArticles_(new QStandardItemModel(0, 3, this))
-    , modelCompositions_(new QStandardItemModel(0, 5, this))
+    , modelArticles_(new ListModel(0, 3, this))
+    , modelCompositions_(new ListModel(0, 5, this))
     , tips_(*this, texts)
 {
     guarded("FormVendelSaisieStock Contructor", [this] {
@@ -58,9 +59,9 @@ void FormVendelSaisieStock::setUpLists()
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         [this] { on_tableViewSelection({}, {}); });
 
-    const auto compose = [this](const QModelIndex& index) { on_tableView1_doubleClicked(index); };
-    onKey(*ui_->tableView1, Qt::Key_Return, compose);
-    onKey(*ui_->tableView1, Qt::Key_Enter, compose);
+    onRowKeys(
+        *ui_->tableView1, [this](const QModelIndex& index) { on_tableView1_doubleClicked(index); });
+    // The removal asks nothing, so it has a key of its own.
     onKey(*ui_->tableView2, Qt::Key_Delete,
         [this](const QModelIndex& index) { on_tableView2_doubleClicked(index); });
 }
@@ -191,14 +192,14 @@ void FormVendelSaisieStock::removeLine(const QModelIndex& index)
     Display_DoseStock(article);
 }
 
-void FormVendelSaisieStock::setUpArticles(QTableView& view, QStandardItemModel& model,
-    const Texts& context, std::span<const std::string> labels)
+void FormVendelSaisieStock::setUpArticles(
+    QTableView& view, ListModel& model, const Texts& context, std::span<const std::string> labels)
 {
     setUpList(view, model, context, labels, {50, 210, 110});
 }
 
-void FormVendelSaisieStock::setUpRecipe(QTableView& view, QStandardItemModel& model,
-    const Texts& context, std::span<const std::string> labels)
+void FormVendelSaisieStock::setUpRecipe(
+    QTableView& view, ListModel& model, const Texts& context, std::span<const std::string> labels)
 {
     setUpList(view, model, context, labels, {50, 50, 180, 90, 50}, {RecipeArticle});
 }

@@ -4,10 +4,10 @@
 #include "common/Texts.h"
 #include "store/StockArticles.h"
 #include "widgets/HoverTip.h"
+#include "widgets/ListModel.h"
 
 #include <QDialog>
 #include <QModelIndex>
-#include <QStandardItemModel>
 
 #include <memory>
 #include <span>
@@ -52,9 +52,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     /// The two lists, here and in the transfer window: columns, widths and looks.
-    static void setUpArticles(QTableView& view, QStandardItemModel& model, const Texts& context,
+    static void setUpArticles(QTableView& view, ListModel& model, const Texts& context,
         std::span<const std::string> labels);
-    static void setUpRecipe(QTableView& view, QStandardItemModel& model, const Texts& context,
+    static void setUpRecipe(QTableView& view, ListModel& model, const Texts& context,
         std::span<const std::string> labels);
 
     /// Appends \a articles, all of the given \a validity.
@@ -83,7 +83,7 @@ private:
     void removeLine(const QModelIndex& index);
 
     std::unique_ptr<Ui_FormVendelSaisieStock> ui_;
-    QStandardItemModel* modelArticles_;
-    QStandardItemModel* modelCompositions_;
+    ListModel* modelArticles_;
+    ListModel* modelCompositions_;
     HoverTips tips_;
 };

@@ -12,6 +12,7 @@
 #include "widgets/Lists.h"
 #include "widgets/Marks.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/RowKeys.h"
 
 namespace {
 using Stock = FormVendelSaisieStock;
@@ -31,8 +32,8 @@ const QLatin1String separator(", ");
 FormVendelSaisieStockCutPaste::FormVendelSaisieStockCutPaste(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieStockCutPaste>())
-    , modelArticles_(new QStandardItemModel(0, 3, this))
-    , modelCompositions_(new QStandardItemModel(0, 5, this))
+    , modelArticles_(new ListModel(0, 3, this))
+    , modelCompositions_(new ListModel(0, 5, this))
     , tips_(*this, texts)
 {
     guarded("FormVendelSaisieStockCutPaste Constructor", [this] {
@@ -56,6 +57,9 @@ void FormVendelSaisieStockCutPaste::setUpLists()
     // A click on a row number marks its row after it has become the current one.
     connect(ui_->tableView1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         [this] { on_tableViewSelection({}, {}); });
+    for (QTableView* list : {ui_->tableView1, ui_->tableView2}) {
+        onRowKeys(*list, [list](const QModelIndex& index) { list->setCurrentIndex(index); });
+    }
 }
 
 void FormVendelSaisieStockCutPaste::fillTargets()

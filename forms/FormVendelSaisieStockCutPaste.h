@@ -2,10 +2,10 @@
 #pragma once
 
 #include "widgets/HoverTip.h"
+#include "widgets/ListModel.h"
 
 #include <QDialog>
 #include <QModelIndex>
-#include <QStandardItemModel>
 
 #include <memory>
 
@@ -43,7 +43,7 @@ private:
     void moveLine();
 
     std::unique_ptr<Ui_FormVendelSaisieStockCutPaste> ui_;
-    QStandardItemModel* modelArticles_;
-    QStandardItemModel* modelCompositions_;
+    ListModel* modelArticles_;
+    ListModel* modelCompositions_;
     HoverTips tips_;
 };

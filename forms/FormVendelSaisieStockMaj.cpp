@@ -21,7 +21,7 @@ const auto& nothingToUpdate = Messages::Messages44;
 FormVendelSaisieStockMaj::FormVendelSaisieStockMaj(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui_FormVendelSaisieStockMaj>())
-    , model_(new QStandardItemModel(0, 3, this))
+    , model_(new ListModel(0, 3, this))
 {
     guarded("FormVendelSaisieStockMaj Constructor", [this] {
         ui_->setupUi(this);

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "widgets/ListModel.h"
+
 #include <QDialog>
-#include <QStandardItemModel>
 
 #include <memory>
 
@@ -27,5 +28,5 @@ private:
     void synchronise();
 
     std::unique_ptr<Ui_FormVendelSaisieStockMaj> ui_;
-    QStandardItemModel* model_;
+    ListModel* model_;
 };

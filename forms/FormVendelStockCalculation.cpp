@@ -65,8 +65,8 @@ FormVendelStockCalculation::FormVendelStockCalculation(
     , ui_(std::make_unique<Ui_FormVendelStockCalculation>())
     , date1_(date1)
     , date2_(date2)
-    , modelDetails_(new QStandardItemModel(0, 5, this))
-    , modelTotals_(new QStandardItemModel(0, 5, this))
+    , modelDetails_(new ListModel(0, 5, this))
+    , modelTotals_(new ListModel(0, 5, this))
 {
     guarded("FormVendelStockCalculation Constructor", [this] {
         ui_->setupUi(this);

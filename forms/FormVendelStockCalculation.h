@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "widgets/ListModel.h"
+
 #include <QDialog>
-#include <QStandardItemModel>
 
 #include <memory>
 
@@ -31,6 +32,6 @@ private:
     std::unique_ptr<Ui_FormVendelStockCalculation> ui_;
     QString date1_;
     QString date2_;
-    QStandardItemModel* modelDetails_;
-    QStandardItemModel* modelTotals_;
+    ListModel* modelDetails_;
+    ListModel* modelTotals_;
 };

@@ -664,6 +664,46 @@ Le ticket est gardé</source>
         <translation>The sale is not recorded
 The ticket is kept</translation>
     </message>
+    <message>
+        <source>Virgule</source>
+        <translation>Decimal point</translation>
+    </message>
+    <message>
+        <source>Plus</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Moins</source>
+        <translation>Minus</translation>
+    </message>
+    <message>
+        <source>Ventes par article</source>
+        <translation>Sales by item</translation>
+    </message>
+    <message>
+        <source>Remplaçant</source>
+        <translation>Replacement</translation>
+    </message>
+    <message>
+        <source>Consommation par article</source>
+        <translation>Consumption by item</translation>
+    </message>
+    <message>
+        <source>MAJ TVA</source>
+        <translation>Update VAT</translation>
+    </message>
+    <message>
+        <source>MAJ Epson TM-T20II</source>
+        <translation>Update Epson TM-T20II</translation>
+    </message>
+    <message>
+        <source>MAJ Formulaire Impression Ticket</source>
+        <translation>Update Receipt Form</translation>
+    </message>
+    <message>
+        <source>Numéro</source>
+        <translation>Number</translation>
+    </message>
 </context>
 <context>
     <name>FormVendel</name>

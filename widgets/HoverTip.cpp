@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/HoverTip.h"
 
+#include "widgets/Lists.h"
 #include "widgets/QtNames.h"
 
 #include <QAbstractItemView>
@@ -95,10 +96,33 @@ HoverTips::HoverTips(QWidget& window, const Texts& texts, IsWanted isWanted)
     , isWanted_(std::move(isWanted))
 { }
 
+HoverTips::~HoverTips()
+{
+    for (const auto& model : explained_) {
+        if (model != nullptr) {
+            model->explain({});
+        }
+    }
+}
+
 void HoverTips::add(const HoverTip& tip)
 {
     watchMouse(tip.view, window_);
     tips_.push_back(tip);
+    if (auto* model = dynamic_cast<ListModel*>(tip.view.model())) {
+        model->explain([this, tip](const QModelIndex& cell) { return explanation(tip, cell); });
+        explained_.emplace_back(model);
+    }
+}
+
+/// What \a tip shows over \a cell, the longest name whole.
+QString HoverTips::explanation(const HoverTip& tip, const QModelIndex& cell) const
+{
+    constexpr QPoint withinTheList(1, 1);
+    const QString text = textAt(cell, tip.column);
+    return text.isEmpty() || !isWanted_(withinTheList, text)
+        ? QString()
+        : texts_(tip.message[0]) + text + texts_(tip.message[1]);
 }
 
 void HoverTips::show(const QObject* watched, const QEvent* event) const

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "common/Texts.h"
+#include "widgets/ListModel.h"
 
 #include <QPoint>
+#include <QPointer>
 #include <QString>
 
 #include <array>
@@ -46,7 +48,8 @@ struct HoverTip
     std::optional<QPoint> offset;
 };
 
-/// The tips over the lists of a window, which calls show() in its event filter.
+/// The tips over the lists of a window, which calls show() in its event filter. A screen reader
+/// hears them with the cells of a list that has a ListModel.
 class HoverTips
 {
 public:
@@ -56,6 +59,11 @@ public:
     HoverTips(
         QWidget& window, const Texts& texts,
         IsWanted isWanted = [](QPoint, const QString&) { return true; });
+    ~HoverTips();
+    HoverTips(const HoverTips&) = delete;
+    HoverTips& operator=(const HoverTips&) = delete;
+    HoverTips(HoverTips&&) = delete;
+    HoverTips& operator=(HoverTips&&) = delete;
 
     /// Adds a tip and has its list report mouse moves to the window.
     void add(const HoverTip& tip);
@@ -65,10 +73,13 @@ public:
     void show(const QObject* watched, const QEvent* event) const;
 
 private:
+    QString explanation(const HoverTip& tip, const QModelIndex& cell) const;
+
     QWidget& window_;
     Texts texts_;
     IsWanted isWanted_;
     std::vector<HoverTip> tips_;
+    std::vector<QPointer<ListModel>> explained_;
 };
 
 /// Whether \a position is not the top left pixel of a list, over which some lists show no tip.

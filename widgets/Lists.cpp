@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/Lists.h"
 
+#include "common/Messages.h"
+#include "widgets/ListModel.h"
+
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QSet>
@@ -28,6 +31,15 @@ public:
     }
 };
 
+/// The word for a \a label that is only a sign, empty for a word.
+QString spokenLabel(const std::string& label, const Texts& texts)
+{
+    if (label == "#") {
+        return texts(Messages::Messages182[0]);
+    }
+    return label == "X" ? texts(Messages::Messages26[1]) : QString();
+}
+
 void setUpHeaders(QTableView& view)
 {
     view.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft);
@@ -42,7 +54,7 @@ void setUpHeaders(QTableView& view)
 }
 } // namespace
 
-void setUpList(QTableView& view, QStandardItemModel& model, const Texts& texts,
+void setUpList(QTableView& view, ListModel& model, const Texts& texts,
     std::span<const std::string> labels, std::initializer_list<int> widths,
     std::initializer_list<int> hidden)
 {
@@ -52,8 +64,11 @@ void setUpList(QTableView& view, QStandardItemModel& model, const Texts& texts,
     }
     model.setColumnCount(static_cast<int>(captions.size()));
     model.setHorizontalHeaderLabels(captions);
-    for (int label = 0; label < captions.size(); ++label) {
-        model.horizontalHeaderItem(label)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    int section = 0;
+    for (const std::string& label : labels) {
+        QStandardItem& header = *model.horizontalHeaderItem(section++);
+        header.setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        header.setAccessibleText(spokenLabel(label, texts));
     }
 
     view.setModel(&model);
@@ -73,6 +88,7 @@ void setUpList(QTableView& view, QStandardItemModel& model, const Texts& texts,
     }
     for (const int hiddenColumn : hidden) {
         view.setColumnHidden(hiddenColumn, true);
+        model.keepQuietAbout(hiddenColumn);
     }
 }
 

@@ -11,12 +11,14 @@
 #include <string>
 #include <vector>
 
+class ListModel;
 class QStandardItemModel;
 class QTableView;
 
 /// Shows \a model in \a view as every list of the till looks: translated column \a labels, column
-/// \a widths in pixels, the \a hidden columns, alternating colours, no editing.
-void setUpList(QTableView& view, QStandardItemModel& model, const Texts& texts,
+/// \a widths in pixels, the \a hidden columns, alternating colours, no editing. A screen reader
+/// hears words for labels that are signs.
+void setUpList(QTableView& view, ListModel& model, const Texts& texts,
     std::span<const std::string> labels, std::initializer_list<int> widths,
     std::initializer_list<int> hidden = {});
 

@@ -5,10 +5,7 @@
 
 #include <QItemSelectionModel>
 #include <QSet>
-#include <QShortcut>
 #include <QTableView>
-
-#include <utility>
 
 std::optional<QString> selectedKey(const QTableView& view, const QModelIndex& index)
 {
@@ -40,13 +37,4 @@ std::optional<QModelIndex> chosenRow(const QTableView& view)
         return std::nullopt;
     }
     return selection.currentIndex();
-}
-
-void onKey(QTableView& view, Qt::Key key, std::function<void(const QModelIndex&)> action)
-{
-    auto* shortcut = new QShortcut(QKeySequence(key), &view);
-    shortcut->setContext(Qt::WidgetShortcut);
-    shortcut->setAutoRepeat(false);
-    QObject::connect(shortcut, &QShortcut::activated, &view,
-        [&view, run = std::move(action)] { run(view.currentIndex()); });
 }

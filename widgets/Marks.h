@@ -4,7 +4,6 @@
 #include <QModelIndex>
 #include <QString>
 
-#include <functional>
 #include <optional>
 
 class QTableView;
@@ -19,7 +18,3 @@ std::optional<QString> markedKey(const QTableView& view);
 /// The row that a button acts on: the current one, however many are selected; nothing when none is
 /// selected.
 std::optional<QModelIndex> chosenRow(const QTableView& view);
-
-/// Runs \a action with the current index of \a view when \a key is pressed in it; held down, the
-/// key acts once.
-void onKey(QTableView& view, Qt::Key key, std::function<void(const QModelIndex&)> action);

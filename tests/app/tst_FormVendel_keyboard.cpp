@@ -5,7 +5,9 @@
 #include "tests/support/Widgets.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableView>
 
@@ -22,7 +24,8 @@ struct Keyboard : OpenTill
 };
 } // namespace
 
-/// The sales screen without a mouse: Tab and Space work as everywhere, and no key sells.
+/// The sales screen without a mouse: Tab and Space work as everywhere, and a row's key does what a
+/// click on it does.
 class TestFormVendelKeyboard : public QObject
 {
     Q_OBJECT
@@ -39,23 +42,106 @@ private slots:
                     "chkbx_ToolTip"));
     }
 
-    void returnSellsNothing()
+    void returnPressesNoButton()
     {
         Keyboard till;
         const AnswerBox box;
         till.field().setText("5");
         for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
             QTest::keyClick(&till.field(), key);
-            for (const auto* name : {"tableView1", "tableView2"}) {
-                QTableView& view = till.list(name);
-                view.setCurrentIndex(view.model()->index(0, 2));
-                QTest::keyClick(&view, key);
-            }
             QTest::keyClick(&till.button("btn_Payer"), key);
         }
         QCOMPARE(till.ticket(), QStringList({"Thé 1", "Vin 3"}));
         QCOMPARE(till.field().text(), QString("5"));
         QVERIFY(!box.wasShown());
+    }
+
+    void aKeySellsTheCurrentArticleOnce()
+    {
+        Keyboard till;
+        QTableView& menu = till.list("tableView1");
+        menu.setFocus(Qt::TabFocusReason);
+        QTest::keyClick(&menu, Qt::Key_Return);
+        QTest::keyClick(&menu, Qt::Key_Down);
+        QTest::keyClick(&menu, Qt::Key_Space);
+        QTest::keyClick(&menu, Qt::Key_Enter);
+        QCOMPARE(till.ticket(), QStringList({"Thé 1", "Vin 3", "Thé 1", "Vin 3", "Vin 3"}));
+        QCOMPARE(till.names("tableView2"), QString("Thé|Vin|Thé|Vin|Vin"));
+        QVERIFY(menu.hasFocus());
+    }
+
+    void aHeldKeySellsOneAndTakesOneOff()
+    {
+        Keyboard till;
+        for (const auto* name : {"tableView1", "tableView2"}) {
+            QTableView& list = till.list(name);
+            list.setFocus();
+            list.setCurrentIndex(list.model()->index(0, 2));
+            QTest::keyPress(&list, Qt::Key_Return);
+            for (int time = 0; time < 5; ++time) {
+                constexpr bool isRepeat = true;
+                qt_sendShortcutOverrideEvent(
+                    &list, 0, Qt::Key_Return, Qt::NoModifier, QString(), isRepeat);
+            }
+            QTest::keyRelease(&list, Qt::Key_Return);
+        }
+        QCOMPARE(till.ticket(), QStringList({"Vin 3", "Thé 1"}));
+    }
+
+    void aKeyTakesTheCurrentLineOffTheTicket()
+    {
+        Keyboard till;
+        QTableView& ticket = till.list("tableView2");
+        ticket.setFocus(Qt::TabFocusReason);
+        QTest::keyClick(&ticket, Qt::Key_Down);
+        QTest::keyClick(&ticket, Qt::Key_Space);
+        QCOMPARE(till.ticket(), QStringList("Thé 1"));
+        QTest::keyClick(&ticket, Qt::Key_Return);
+        QCOMPARE(till.ticket(), QStringList());
+        const AnswerBox box;
+        QTest::keyClick(&ticket, Qt::Key_Return);
+        QVERIFY(!box.wasShown());
+    }
+
+    void aKeyOnATotalTakesTheTotalsAway()
+    {
+        Keyboard till;
+        click(till.window, "btn_Total_Ticket");
+        QTableView& ticket = till.list("tableView2");
+        ticket.setFocus();
+        ticket.setCurrentIndex(ticket.model()->index(4, 2));
+        QTest::keyClick(&ticket, Qt::Key_Return);
+        QCOMPARE(till.names("tableView2"), QString("Thé|Vin"));
+        QCOMPARE(ticket.currentIndex().row(), 1);
+    }
+
+    void aSaleNeedsNoMouse()
+    {
+        Keyboard till;
+        till.setSwitch("0");
+        const auto press = [](Qt::Key key, int times = 1) {
+            for (int time = 0; time < times; ++time) {
+                QTest::keyClick(QApplication::focusWidget(), key);
+            }
+        };
+        till.list("tableView1").setFocus(Qt::TabFocusReason);
+        press(Qt::Key_Down);
+        press(Qt::Key_Return);
+        press(Qt::Key_Tab);
+        press(Qt::Key_Space);
+        press(Qt::Key_Tab, 6);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString("btn_Total_Ticket"));
+        press(Qt::Key_Space);
+        press(Qt::Key_Tab, 14);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString("btn_Payer"));
+        press(Qt::Key_Space);
+        QCOMPARE(till.history().size(), 2);
+        QCOMPARE(till.ticket(), QStringList());
+        const QPointer<FormVendelTicket> receipt = till.receipt();
+        QVERIFY(receipt != nullptr);
+        QTRY_VERIFY(receipt->isActiveWindow());
+        press(Qt::Key_Escape);
+        QTRY_VERIFY(receipt == nullptr);
     }
 
     void spacePressesTheButton()

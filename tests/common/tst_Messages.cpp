@@ -148,7 +148,12 @@ struct Catalogue : Messages
         {Messages167, {"Calcul Stock"}}, {Messages168, {"Afficher"}},
         {Messages169, {"Pèriode du", "au"}}, {Messages170, {""}},
         {Messages171, {"Le texte n'a pas pu être enregistré", "Sauvegarde"}},
-        {Messages172, {"La vente n'est pas enregistrée\nLe ticket est gardé", "Payer"}}};
+        {Messages172, {"La vente n'est pas enregistrée\nLe ticket est gardé", "Payer"}},
+        {Messages173, {"Virgule"}}, {Messages174, {"Plus"}}, {Messages175, {"Moins"}},
+        {Messages176, {"Ventes par article"}}, {Messages177, {"Remplaçant"}},
+        {Messages178, {"Consommation par article"}}, {Messages179, {"MAJ TVA"}},
+        {Messages180, {"MAJ Epson TM-T20II"}}, {Messages181, {"MAJ Formulaire Impression Ticket"}},
+        {Messages182, {"Numéro"}}};
 };
 } // namespace
 
@@ -160,7 +165,7 @@ private slots:
     void everyTextIsShownAsItIsWritten()
     {
         const Catalogue catalogue;
-        QCOMPARE(catalogue.rows.size(), std::size_t{165});
+        QCOMPARE(catalogue.rows.size(), std::size_t{175});
         for (const Row& row : catalogue.rows) {
             QVERIFY2(row.texts == row.shown, row.shown.front().c_str());
         }

@@ -144,6 +144,14 @@ private slots:
         QCOMPARE(editor.text("txt_Article"), QString("ABCDEFGHIJKLMNO"));
         QCOMPARE(editor.text("txt_Montant"), QString("3.00"));
     }
+
+    void theLettersOfANameAreCountedAloud()
+    {
+        OpenArticleEditor editor;
+        editor.type("txt_Article", "Cafe");
+        QCOMPARE(child<QLineEdit>(editor.window, "txt_Article").accessibleDescription(),
+            QString("Article Nbre caractères : 4"));
+    }
 };
 
 VENDEL_TEST(TestFormVendelSaisieArticleFields)

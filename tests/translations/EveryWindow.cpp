@@ -87,3 +87,13 @@ std::unique_ptr<QWidget> openWindowOfRow(QWidget& opener)
     }
     return window;
 }
+
+std::unique_ptr<QWidget> makeWindow(const QString& name)
+{
+    for (const EveryWindow& window : windows()) {
+        if (window.name == name) {
+            return window.make(nullptr);
+        }
+    }
+    qFatal("no window %s", qPrintable(name));
+}

@@ -27,3 +27,6 @@ const EveryWindow& windowOfRow();
 
 /// Opens the window of the running row above \a opener, its lists filled and its clock set.
 std::unique_ptr<QWidget> openWindowOfRow(QWidget& opener);
+
+/// The window of the class \a name, not shown.
+std::unique_ptr<QWidget> makeWindow(const QString& name);

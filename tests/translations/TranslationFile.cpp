@@ -98,7 +98,8 @@ QVector<TranslatedText> readTranslation(const QString& path)
 
 QVector<TranslatedText> readCaptions(const QString& path)
 {
-    static const QSet<QString> captions{QString("text"), QString("title"), QString("windowTitle")};
+    static const QSet<QString> captions{QString("text"), QString("title"), QString("windowTitle"),
+        QString("accessibleName"), QString("accessibleDescription")};
     QXmlStreamReader xml(readFile(path));
     QVector<TranslatedText> texts;
     QString form;

@@ -20,7 +20,7 @@ struct TranslatedText
 QVector<TranslatedText> readTranslation(const QString& path);
 
 /// The captions in the form \a path (.ui) with its class as their context: titles and texts of
-/// windows, labels, buttons, groups, menus and actions.
+/// windows, labels, buttons, groups, menus and actions, and what a screen reader says.
 QVector<TranslatedText> readCaptions(const QString& path);
 
 /// All texts of the catalogue, read from its source file \a path, so that none can be left out.

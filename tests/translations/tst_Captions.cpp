@@ -30,12 +30,15 @@ template <class Widget> QStringList textsOf(const QWidget& window, QString (Widg
     return texts;
 }
 
-/// All texts of the form: labels, buttons, groups, menus and their entries.
+/// All texts of the form: labels, buttons, groups, menus and their entries, names for screen
+/// readers.
 QStringList captions(const QWidget& window)
 {
     QStringList texts = QStringList(window.windowTitle()) + textsOf(window, &QLabel::text)
         + textsOf(window, &QAbstractButton::text) + textsOf(window, &QGroupBox::title)
-        + textsOf(window, &QAction::text);
+        + textsOf(window, &QAction::text) + QStringList(window.accessibleName())
+        + textsOf(window, &QWidget::accessibleName)
+        + textsOf(window, &QWidget::accessibleDescription);
     texts.removeAll("");
     return texts;
 }

@@ -16,7 +16,6 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTextEdit>
-#include <QTranslator>
 
 #include <memory>
 
@@ -24,7 +23,7 @@ namespace {
 /// What is the same in both languages, and what no language changes.
 const QSet<QString> equalWords{"Ticket", "Menu", "Config", "Total", "TOTAL", "Vendel", "X", "Id",
     "Date", "Options", "Stock", "Composition", "Dose", "Conversion", "Purge", "cl", "g", "Epson",
-    "TM", "T20II", "ON", "OFF", "OK", "Dialog", "Version", "MIT", "Page", "bar"};
+    "TM", "T20II", "ON", "OFF", "OK", "Dialog", "Version", "MIT", "Page", "Plus", "bar"};
 
 QStringList wordsOf(const QString& text)
 {

@@ -27,8 +27,8 @@ const QStringList qtContexts{"QAbstractSpinBox", "QAccessibleActionInterface", "
 /// Words of the till in French that are the same in English, or that no language changes.
 const QSet<QString> equalWords{"Click", "Composition", "composition", "Config", "Conversion",
     "Date", "date", "Dialog", "Dose", "dose", "Epson", "Id", "id", "II", "MIT", "Menu", "menu",
-    "OFF", "ON", "Options", "Page", "Purge", "Stock", "TM", "TOTAL", "Ticket", "ticket", "Total",
-    "Vendel", "Version", "cl", "list", "MM", "dd", "yyyy", "titre"};
+    "OFF", "ON", "Options", "Page", "Plus", "Purge", "Stock", "TM", "TOTAL", "Ticket", "ticket",
+    "Total", "Vendel", "Version", "cl", "list", "MM", "dd", "yyyy", "titre"};
 
 const QString source = VENDEL_SOURCE "/";
 

@@ -3,12 +3,12 @@
 #include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 #include "widgets/HoverTip.h"
+#include "widgets/ListModel.h"
 #include "widgets/Lists.h"
 
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QStandardItemModel>
 #include <QTableView>
 #include <QTextDocument>
 #include <QToolTip>
@@ -17,7 +17,7 @@ namespace {
 /// A list of two articles, the second with a long name.
 struct List : QTableView
 {
-    QStandardItemModel model;
+    ListModel model;
 
     List()
     {

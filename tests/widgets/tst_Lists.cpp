@@ -2,10 +2,10 @@
 #include "common/Messages.h"
 #include "tests/support/ListLook.h"
 #include "tests/support/TestProgram.h"
+#include "widgets/ListModel.h"
 #include "widgets/Lists.h"
 
 #include <QHeaderView>
-#include <QStandardItemModel>
 #include <QTableView>
 
 namespace {
@@ -15,7 +15,7 @@ constexpr Texts texts{"FormVendelMessages"};
 struct List
 {
     QTableView view;
-    QStandardItemModel model;
+    ListModel model;
 
     explicit List(const std::vector<QStringList>& rows = {})
     {
@@ -58,7 +58,7 @@ private slots:
     void aNarrowColumnKeepsItsWidth()
     {
         QTableView view;
-        QStandardItemModel model;
+        ListModel model;
         setUpList(view, model, texts, Messages::Messages127, {11});
         QCOMPARE(view.columnWidth(0), 11);
         QCOMPARE(view.horizontalHeader()->minimumSectionSize(), 10);

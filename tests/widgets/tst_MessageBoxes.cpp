@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common/Messages.h"
+#include "tests/support/AccessTree.h"
 #include "tests/support/AnswerBox.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/Translation.h"
@@ -36,6 +37,30 @@ private slots:
         QCOMPARE(box.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
         QCOMPARE(box.parent(), &window_);
         QCOMPARE(box.format(), Qt::PlainText);
+    }
+
+    void aScreenReaderHasANameForANoticeAndItsButton()
+    {
+        const AnswerBox box(QMessageBox::Ok, [](QMessageBox& shown) {
+            QCOMPARE(namelessControls(shown), QStringList());
+            QCOMPARE(spokenName(shown), QString("+/-"));
+            QCOMPARE(spokenName(*shown.button(QMessageBox::Ok)), QString("OK"));
+            QCOMPARE(controlsOutOfReach(shown), QStringList());
+        });
+        notice(&window_, texts, Messages::Messages12);
+        QVERIFY(box.wasShown());
+    }
+
+    void aScreenReaderHasANameForAQuestionAndItsButtons()
+    {
+        const AnswerBox box(QMessageBox::No, [](QMessageBox& shown) {
+            QCOMPARE(namelessControls(shown), QStringList());
+            QCOMPARE(ambiguousNames(shown), QStringList());
+            QCOMPARE(spokenName(*shown.button(QMessageBox::Yes)), QString("Oui"));
+            QCOMPARE(controlsOutOfReach(shown), QStringList());
+        });
+        QVERIFY(!confirm(&window_, "Voulez-vous ?", "Supprimer"));
+        QVERIFY(box.wasShown());
     }
 
     void aNoticeFillsInTheNumber()
