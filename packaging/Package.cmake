@@ -24,7 +24,8 @@ It keeps the history of sales, and computes the stock consumed from the
 recipes of what was sold. Its launcher keeps a checked copy of the data for
 each day.
 
-The screen is French, or English.")
+The screen is French, or English. It suits screens of 1280 x 720 pixels and
+more; smaller ones show the windows smaller.")
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
