@@ -4,12 +4,15 @@
 # --test, tries it: in an otherwise empty system, or in an emulator.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
+# The folders whose tests need no display and little time in an emulator.
+emulated=(common db store Print widgets launcher)
 usage="usage: scripts/package.sh [--architecture ARCHITECTURE] [--test]
   --architecture   this machine's own, which it is without the option, or arm64
   --test           this machine's own architecture: installs the package in a clean Debian, starts the
                    till there and removes it again; takes some minutes, and is skipped where the
-                   machine does not allow it. Another architecture: runs the tests of common, db,
-                   store and Print, and the package's till, in an emulator"
+                   machine does not allow it. Another architecture: runs the tests of
+                   common, db, store, Print, widgets and launcher, and the package's till, in
+                   an emulator"
 
 own=$(dpkg --print-architecture 2>/dev/null || true)
 architecture=$own
@@ -82,8 +85,8 @@ try_in_emulator() {
     "$root/scripts/sysroot.sh" "$architecture" "$package"
     say "Building the tests"
     configure_package -DVENDEL_TESTS=ON -DVENDEL_TESTS_OF_CODE_ONLY=ON
-    build_package --target tests_common tests_db tests_store tests_Print
-    for folder in common db store Print packaging; do
+    build_package --target "${emulated[@]/#/tests_}"
+    for folder in "${emulated[@]}" packaging; do
         ctest --test-dir "$tree/tests/$folder" -j "$(nproc)" --no-tests=error --output-on-failure \
             || fail "the tests of $folder failed"
     done

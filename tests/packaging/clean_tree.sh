@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # clean_tree.sh PACKAGE: installs the package into an otherwise empty Debian system, starts the till
-# there on a virtual display, closes it, puts its copy back, and removes the package again. Ends with 77, and says why,
-# where the machine does not allow it. The packages come from where this machine's own apt has them.
+# there on a virtual display, closes it, puts its copy back, and removes the package again. Ends with
+# 77, and says why, where the machine does not allow it. The packages come from where this machine's
+# own apt has them.
 set -euo pipefail
 
 package=$(readlink -f "$1")
