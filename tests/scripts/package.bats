@@ -91,9 +91,11 @@ sysroot_is_there() {
     run "$package" --architecture arm64 --test
     [ "$status" -eq 0 ]
     called "install --simulate $tree/build/package-arm64/vendel_1.0.0-1_test.deb"
-    called "--target tests_common tests_db tests_store tests_Print tests_widgets tests_launcher"
+    called "--target tests_common tests_db tests_store tests_Print tests_widgets tests_launcher tests_app"
     [ "$(sed -nE 's|^ctest --test-dir .*/tests/([A-Za-z]+) .*|\1|p' "$calls" | tr '\n' ' ')" = \
-        "common db store Print widgets launcher packaging " ]
+        "common db store Print widgets launcher app packaging " ]
+    called "tests/store --tests-regex . "
+    called "tests/app --tests-regex ^(TicketTotals|Payment|Receipt) "
 }
 
 @test "a failed test in the emulator fails the package" {
