@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # The Debian package, made by scripts/package.sh.
 option(VENDEL_PACKAGE "Install what only the Debian package needs" OFF)
+set(VENDEL_ARCHITECTURE "" CACHE STRING "The package's architecture, as Debian calls it")
 if(NOT VENDEL_PACKAGE)
   return()
 endif()
@@ -36,6 +37,10 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+if(CMAKE_CROSSCOMPILING)
+  set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE ${VENDEL_ARCHITECTURE})
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_SYSROOT}/usr/${CMAKE_INSTALL_LIBDIR})
+endif()
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/postinst)
 # Read or run by name, and so not found among the libraries.

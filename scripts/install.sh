@@ -12,6 +12,7 @@ declare -A packages=(
     [lint]="git shellcheck clang-format clang-tidy clazy cppcheck reuse"
     [package]="dpkg-dev file lintian"
     [package-test]="debootstrap sqlite3 xdotool xvfb"
+    [arm64]="g++-aarch64-linux-gnu qemu-user"
     [qt6]="qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
         qt6-translations-l10n libgl-dev"
     [bench]="libbenchmark-dev jq bsdextrautils"
@@ -19,7 +20,7 @@ declare -A packages=(
     [fuzz]="clang libclang-rt-dev"
 )
 usage="usage: scripts/install.sh [--list] GROUP...
-  groups: build run test lint qt6 package package-test bench coverage fuzz"
+  groups: build run test lint qt6 package package-test arm64 bench coverage fuzz"
 
 list=false
 wanted=()

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# clean_tree.sh PACKAGE: installs the package into an otherwise empty Debian system, starts
-# the till there on a virtual display, and removes the package again. Ends with 77, and says why,
-# where the machine does not allow it. The packages come from where this machine's own apt has them.
+# clean_tree.sh PACKAGE: installs the package into an otherwise empty Debian system, starts the till
+# there on a virtual display, closes it, puts its copy back, and removes the package again. Ends with
+# 77, and says why, where the machine does not allow it. The packages come from where this machine's
+# own apt has them.
 set -euo pipefail
 
 package=$(readlink -f "$1")
@@ -37,7 +38,9 @@ work=$(mktemp -d)
 tree=$work/tree
 display=
 till=
+second=
 clean_up() {
+    [ -z "$second" ] || kill "$second" 2>/dev/null || true
     [ -z "$till" ] || kill "$till" 2>/dev/null || true
     [ -z "$display" ] || kill "$display" 2>/dev/null || true
     wait || true
@@ -88,31 +91,49 @@ until [ -s "$work/display" ]; do
 done
 DISPLAY=:$(cat "$work/display")
 export DISPLAY
-as_shop() {
-    chroot --userspec=shop:shop "$tree" env -i HOME=/home/shop PATH=/usr/bin:/bin \
-        LC_ALL=C.UTF-8 DISPLAY="$DISPLAY" "$@"
-}
-as_shop vendel >"$work/till.log" 2>&1 &
+as_shop=(chroot --userspec=shop:shop "$tree" env -i HOME=/home/shop PATH=/usr/bin:/bin
+    LC_ALL=C.UTF-8 DISPLAY="$DISPLAY")
+"${as_shop[@]}" vendel >"$work/till.log" 2>&1 &
 till=$!
 data=$tree/home/shop/.local/share/vendel
-deadline=$((SECONDS + 60))
-until xdotool search --onlyvisible --name '^Vendel$' >/dev/null 2>&1; do
-    if ! kill -0 "$till" 2>/dev/null || [ $SECONDS -ge $deadline ]; then
-        cat "$work/till.log"
-        fail "the till shows no window"
-    fi
-    sleep 0.1
-done
+# shows PROCESS LOG WHAT SEARCH...: waits until the process, or one of its own, shows such a window.
+shows() {
+    local process=$1 log=$2 what=$3 deadline=$((SECONDS + 60))
+    shift 3
+    until xdotool search --onlyvisible "$@" >/dev/null 2>&1; do
+        if ! kill -0 "$process" 2>/dev/null || [ $SECONDS -ge $deadline ]; then
+            cat "$log"
+            fail "$what shows no window"
+        fi
+        sleep 0.1
+    done
+}
+shows "$till" "$work/till.log" "the till" --name '^Vendel$'
 [ "$(sqlite3 -readonly "$data/Vendel.db" 'select count(*) from Config')" = 2 ] \
     || fail "the till made no database"
 for file in EnteteFormulaire.dat PiedFormulaire.dat Vendel.png AproposdeImage.png; do
     [ -e "$data/$file" ] || fail "the data directory lacks $file"
 done
 ! grep -i -e 'could not' -e 'cannot' "$work/till.log" || fail "the till complained"
-as_shop env -u DISPLAY vendel 2>"$work/second.log" && fail "a second till started"
+"${as_shop[@]}" vendel 2>"$work/second.log" &
+second=$!
+shows "$second" "$work/second.log" "the second till" --class vendel-dialogue
+xdotool search --onlyvisible --class vendel-dialogue windowfocus --sync
+xdotool key Return
+timeout 60 tail --pid="$second" -f /dev/null || fail "the box of the second till stays"
+! wait "$second" || fail "a second till started"
+second=
 grep -q 'déjà ouverte' "$work/second.log" || fail "the second till said something else"
+
+echo "Closing it and putting its copy back"
 kill "$till"
+wait "$till" || true
 till=
+copy=$("${as_shop[@]}" env -u DISPLAY vendel --restaurer </dev/null | head -n 1 | cut -f 1)
+[ -n "$copy" ] || fail "closing the till left no copy"
+"${as_shop[@]}" env -u DISPLAY vendel --restaurer "$copy" >"$work/restored.log" 2>&1 \
+    || { cat "$work/restored.log" && fail "the copy could not be put back"; }
+grep -q 'est remise en place' "$work/restored.log" || fail "restoring said something else"
 
 echo "Removing it"
 in_tree dpkg --purge vendel >"$work/purge.log" 2>&1 || fail "the package could not be removed"
