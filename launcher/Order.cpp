@@ -43,6 +43,8 @@ Order parseOrder(const std::vector<std::string>& arguments)
             left.next();
         } else if (*option == "--aide" || *option == "--help" || *option == "-h") {
             order.action = Action::Help;
+        } else if (*option == "--guide") {
+            order.action = Action::Guide;
         } else if (*option == "--version") {
             order.action = Action::Version;
         } else {

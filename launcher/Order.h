@@ -13,6 +13,7 @@ enum class Action
     Restore,
     SecondPlace,
     Help,
+    Guide,
     Version
 };
 
