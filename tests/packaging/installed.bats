@@ -51,6 +51,7 @@ $lib/vendel-dialogue
 ./share/doc/vendel/images/settings.png
 ./share/doc/vendel/images/stock-update.png
 ./share/doc/vendel/images/stock.png
+./share/doc/vendel/images/total-without-tax.png
 ./share/doc/vendel/images/total.png
 ./share/icons/hicolor/128x128/apps/vendel.png
 ./share/icons/hicolor/16x16/apps/vendel.png
