@@ -111,6 +111,8 @@ done
 ! grep -i -e 'could not' -e 'cannot' "$work/till.log" || fail "the till complained"
 as_shop env -u DISPLAY vendel 2>"$work/second.log" && fail "a second till started"
 grep -q 'déjà ouverte' "$work/second.log" || fail "the second till said something else"
+[ "$(as_shop env -u DISPLAY vendel --guide 2>/dev/null)" = /usr/share/doc/vendel/guide.fr.html ] \
+    || fail "the guide is not there"
 kill "$till"
 till=
 
