@@ -48,6 +48,8 @@ Order parseOrder(const std::vector<std::string>& arguments)
             order.action = Action::State;
         } else if (*option == "--aide" || *option == "--help" || *option == "-h") {
             order.action = Action::Help;
+        } else if (*option == "--guide") {
+            order.action = Action::Guide;
         } else if (*option == "--version") {
             order.action = Action::Version;
         } else {

@@ -15,6 +15,7 @@ enum class Action
     SecondPlace,
     State,
     Help,
+    Guide,
     Version
 };
 

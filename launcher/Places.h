@@ -12,4 +12,6 @@ struct Places
     std::string dialogue;
     /// The folder of the pictures and the translation.
     std::string shared;
+    /// The guide, a page for the browser.
+    std::string guide;
 };

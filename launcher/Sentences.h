@@ -42,7 +42,7 @@ inline constexpr Sentence usage{
     "        vendel --restaurer [COPIE]\n"
     "        vendel --copies-vers DOSSIER\n"
     "        vendel --etat\n"
-    "        vendel --aide | --version\n"
+    "        vendel --aide | --guide | --version\n"
     "\n"
     "Démarre la caisse dans « %1 ».\n"
     "\n"
@@ -53,12 +53,13 @@ inline constexpr Sentence usage{
     "  --copies-vers DOSSIER  garde aussi les copies dans ce dossier ; « - » l'oublie\n"
     "  --etat                 dit l'état de la caisse, pour qui aide au téléphone\n"
     "  --aide                 montre ce texte\n"
+    "  --guide                ouvre le guide de la caisse dans le navigateur\n"
     "  --version              montre la version\n",
     "Usage: vendel [--langue en|fr] [--taille SIZE]\n"
     "       vendel --restaurer [COPY]\n"
     "       vendel --copies-vers FOLDER\n"
     "       vendel --etat\n"
-    "       vendel --help | --version\n"
+    "       vendel --help | --guide | --version\n"
     "\n"
     "Starts the till in \"%1\".\n"
     "\n"
@@ -69,6 +70,7 @@ inline constexpr Sentence usage{
     "  --copies-vers FOLDER  keeps the copies in this folder too; \"-\" forgets it\n"
     "  --etat                shows the state of the till, for whoever helps on the telephone\n"
     "  --help                shows this text\n"
+    "  --guide               opens the guide, which is French, in the browser\n"
     "  --version             shows the version\n"};
 
 inline constexpr Sentence noHome{
@@ -80,6 +82,12 @@ inline constexpr Sentence programMissing{"Le programme « %1 » manque : Vendel 
     "The program \"%1\" is missing: Vendel has to be installed again."};
 inline constexpr Sentence noTranslation{
     "La traduction anglaise n'est pas installée.", "The English translation is not installed."};
+
+inline constexpr Sentence guideMissing{"Le guide « %1 » manque : Vendel est à réinstaller.",
+    "The guide \"%1\" is missing: Vendel has to be installed again."};
+inline constexpr Sentence guideNotShown{
+    "Aucun navigateur ne s'est ouvert ; le guide est dans le fichier « %1 ».",
+    "No browser has opened; the guide is in the file \"%1\"."};
 
 inline constexpr Sentence dataUnusable{"Le dossier de données « %1 » est inutilisable (%2) ; les "
                                        "copies de la base sont dans « %1/copies ».",

@@ -23,6 +23,8 @@ Speech::Speech(Language language, std::string dialogue)
     , dialogue_(std::move(dialogue))
 { }
 
+bool Speech::hasDisplay() { return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY"); }
+
 void Speech::error(const Words& words) const
 {
     note(words);
@@ -48,10 +50,7 @@ void Speech::done(const Words& words) const
     }
 }
 
-bool Speech::hasBoxes() const
-{
-    return (isSet("DISPLAY") || isSet("WAYLAND_DISPLAY")) && access(dialogue_.c_str(), X_OK) == 0;
-}
+bool Speech::hasBoxes() const { return hasDisplay() && access(dialogue_.c_str(), X_OK) == 0; }
 
 std::optional<std::string> Speech::choose(const Words& question, const std::string& lines) const
 {

@@ -17,6 +17,9 @@ public:
     /// \a dialogue is the program that shows boxes.
     Speech(Language language, std::string dialogue);
 
+    /// Whether this user has a display at all.
+    static bool hasDisplay();
+
     Language language() const { return language_; }
 
     /// Says what ended the launcher, in a box too.

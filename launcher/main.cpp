@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/DataFolder.h"
+#include "launcher/Guide.h"
 #include "launcher/Order.h"
 #include "launcher/Places.h"
 #include "launcher/Reasons.h"
@@ -28,7 +29,9 @@ Places findPlaces()
 {
     const std::string here = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
     const std::string program = here + "/" + VENDEL_PROGRAM;
-    return {program, program + "-dialogue", here + "/" + VENDEL_SHARED};
+    const std::filesystem::path guide(here + "/" + VENDEL_GUIDE);
+    return {program, program + "-dialogue", here + "/" + VENDEL_SHARED,
+        guide.lexically_normal().string()};
 }
 
 const std::string& usage(Language language, const std::string& data)
@@ -105,6 +108,9 @@ int act(const Order& order, const std::string& data, const Places& places, const
     case Action::Help:
         std::cout << usage(speech.language(), data);
         return 0;
+    case Action::Guide:
+        Guide::open(places.guide, speech);
+        return 0;
     case Action::Version:
         std::cout << "Vendel " << VENDEL_VERSION << '\n';
         return 0;
@@ -135,10 +141,7 @@ int act(const Order& order, const std::string& data, const Places& places, const
 /// What a program may count on, whoever starts it.
 void prepare()
 {
-    constexpr mode_t othersMayNothing = 077;
     std::setlocale(LC_NUMERIC, "");
-    // The till's own files, too, are for its user alone.
-    umask(othersMayNothing);
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGCHLD, SIG_DFL);
     int descriptor = 0;
@@ -161,6 +164,11 @@ int main(int argc, char* argv[])
     } catch (const BadUsage& mistake) {
         std::cerr << usage(mistake.language.value_or(DataFolder::language(data)), data);
         return badUsage;
+    }
+    if (order.action != Action::Guide) {
+        // The till's own files, too, are for its user alone; what a browser saves is not.
+        constexpr mode_t othersMayNothing = 077;
+        umask(othersMayNothing);
     }
     const Places places = findPlaces();
     const Speech speech(order.language.value_or(DataFolder::language(data)), places.dialogue);

@@ -45,5 +45,5 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/postinst)
 # Read or run by name, and so not found among the libraries.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-  "fonts-crosextra-carlito, fonts-inconsolata, qttranslations5-l10n")
+  "fonts-crosextra-carlito, fonts-inconsolata, qttranslations5-l10n, xdg-utils")
 include(CPack)

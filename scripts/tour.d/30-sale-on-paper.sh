@@ -17,6 +17,9 @@ await_box Payer
 expect "what is said" "$(seen box Payer)" "Imprimante non connectée"
 answer Payer OK no-printer
 expect "the ticket" "$(ask "select count(*) from Ticket")" 1
+await_list FormVendel tableView2 0
+press FormVendel btn_Ticket
+await_list FormVendel tableView2 1
 press FormVendel btn_Effacer_Ticket
 await_rows "the ticket is empty" "select count(*) from Ticket" 0
 stop_till

@@ -67,6 +67,14 @@ private slots:
         QVERIFY(isBad({"--etat", "caisse"}));
     }
 
+    void theGuideIsAskedFor()
+    {
+        QVERIFY(parseOrder({"--guide"}).action == Action::Guide);
+        QVERIFY(parseOrder({"--guide", "--langue", "en"}).language == Language::English);
+        QVERIFY(parseOrder({"--guide", "--version"}).action == Action::Version);
+        QVERIFY(isBad({"--guide", "fr"}));
+    }
+
     void theLastActionCounts()
     {
         QVERIFY(parseOrder({"--aide", "--version"}).action == Action::Version);

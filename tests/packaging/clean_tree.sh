@@ -124,6 +124,8 @@ timeout 60 tail --pid="$second" -f /dev/null || fail "the box of the second till
 ! wait "$second" || fail "a second till started"
 second=
 grep -q 'déjà ouverte' "$work/second.log" || fail "the second till said something else"
+[ "$("${as_shop[@]}" env -u DISPLAY vendel --guide 2>/dev/null)" = /usr/share/doc/vendel/guide.fr.html ] \
+    || fail "the guide is not there"
 
 echo "Closing it and putting its copy back"
 kill "$till"

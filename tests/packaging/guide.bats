@@ -1,10 +1,11 @@
 #!/usr/bin/env bats
 # SPDX-License-Identifier: MIT
-# The guide explains all that the till says, and its pictures are there.
+# The guide explains all that the till says, and its pictures are there, in the page for the browser too.
 
 setup() {
     cd "$VENDEL_SOURCE" || return
     guide=docs/guide.fr.md
+    page=$VENDEL_BUILD/packaging/guide/guide.fr.html
 }
 
 # Entries of the catalogue with several texts that are no boxes: headings of lists and columns, tips
@@ -126,4 +127,56 @@ pictures() {
             }
         done < <(grep -oE '\]\(#[^)]*\)' "$document" | sed -E 's/^\]\(#|\)$//g')
     done
+}
+
+# values ATTRIBUTE: what it is set to in the page, one value a line.
+values() {
+    perl -CSD -0777 -ne 'print "$1\n" while /\s'"$1"'="([^"]*)"/gs' "$page"
+}
+
+# words: the page's text without its tags, its style and what is to be typed.
+words() {
+    perl -CSD -0777 -pe 's{<(style|pre|code)\b.*?</\1>}{}gs; s/<!--.*?-->//gs; s/<[^>]*>//gs' "$page"
+}
+
+@test "every link in the page leads somewhere" {
+    [ "$(values href | wc -l)" -ge 60 ]
+    while read -r link; do
+        [[ "$link" == '#'* ]] && values id | grep -qxF -- "${link#?}" || {
+            echo "the page leads nowhere: $link"
+            false
+        }
+    done < <(values href)
+    [ -z "$(values id | sort | uniq -d)" ]
+}
+
+@test "every picture of the guide is in the page and beside it" {
+    [ "$(values src)" = "$(pictures "$guide")" ]
+    while read -r picture; do
+        [ -f "${page%/*}/$picture" ]
+    done < <(values src)
+    [ "$(values alt | grep -c .)" -eq "$(values src | wc -l)" ]
+}
+
+@test "every chapter is in the page's table of contents, which is there once" {
+    contents=$(perl -CSD -0777 -ne 'print m{<nav.*?</nav>}gs' "$page")
+    while read -r anchor; do
+        [ "$(grep -cF "href=\"#$anchor\"" <<<"$contents")" -eq 1 ]
+    done < <(perl -CSD -ne 'print "$1\n" if /<h[23] id="([^"]*)"/' "$page")
+    run perl -CSD -0777 -ne 'print m{<main>(.*?)<h2}s' "$page"
+    [[ "$output" == *'Guide de la caisse Vendel'* ]]
+    [[ "$output" != *'<li>'* ]]
+}
+
+@test "no Markdown is left in the page" {
+    text=$(words)
+    [[ "$text" == *'Pressez «'* ]]
+    run grep -nE '\*\*|`|\]\(|^ *#|^ *\||^ *(-|[0-9]+\.) |\$[a-z-]+\$' <<<"$text"
+    [ -z "$output" ]
+}
+
+@test "quotation marks stay with their words at the end of a line" {
+    [ "$(words | grep -c '«')" -ge 100 ]
+    run grep -nP '«(?!\x{a0})|(?<!\x{a0})»' < <(words)
+    [ -z "$output" ]
 }

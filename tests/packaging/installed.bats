@@ -27,7 +27,7 @@ $lib/vendel
 $lib/vendel-dialogue
 ./lib/udev/rules.d/60-vendel.rules
 ./share/applications/vendel.desktop
-./share/doc/vendel/guide.fr.md
+./share/doc/vendel/guide.fr.html
 ./share/doc/vendel/images/about.png
 ./share/doc/vendel/images/article-removal.png
 ./share/doc/vendel/images/article-search.png
@@ -52,6 +52,7 @@ $lib/vendel-dialogue
 ./share/doc/vendel/images/small-screen.png
 ./share/doc/vendel/images/stock-update.png
 ./share/doc/vendel/images/stock.png
+./share/doc/vendel/images/total-without-tax.png
 ./share/doc/vendel/images/total.png
 ./share/icons/hicolor/128x128/apps/vendel.png
 ./share/icons/hicolor/16x16/apps/vendel.png
@@ -130,7 +131,7 @@ FILES
 @test "each option of the launcher is in both man pages" {
     for page in man1 fr/man1; do
         text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel.1.gz")
-        for option in --langue --taille --restaurer --copies-vers --help --aide --version; do
+        for option in --langue --taille --restaurer --copies-vers --etat --help --aide --guide --version; do
             grep -q -e "$option" <<<"$text"
         done
     done
