@@ -97,7 +97,7 @@ std::string askOnTerminal(const std::vector<Item>& items, const Speech& speech)
         if (!std::cin) {
             return {};
         }
-        const std::string name = numbered(items, trimmed(typed));
+        std::string name = numbered(items, trimmed(typed));
         if (name.empty() || isAny(items, name)) {
             return name;
         }

@@ -17,7 +17,7 @@ namespace {
 constexpr const char* pathName = "copies-vers";
 constexpr const char* reachedName = ".copies-vers-vu";
 
-const std::string registerPrefix = ".registre-";
+constexpr const char* registerPrefix = ".registre-";
 
 bool isMark(const std::string& text)
 {
