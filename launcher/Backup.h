@@ -16,4 +16,7 @@ enum class Pace
 /// Copies the database \a source into the empty file \a target, which then has no journal and has
 /// been found sound. Neither is synced. Throws DatabaseError.
 void copy(const std::string& source, const std::string& target, Pace pace);
+
+/// The same, but nobody has checked \a target yet.
+void bring(const std::string& source, const std::string& target, Pace pace);
 } // namespace Backup

@@ -9,6 +9,9 @@
 #include <fcntl.h>
 
 namespace {
+/// What the register says of a copy that somebody put on the shelf.
+constexpr const char* stranger = "?";
+
 /// What the register in \a folder says of each file.
 struct Known
 {
@@ -50,6 +53,8 @@ std::unordered_map<std::string, Known> readRegister(int folder, const std::strin
 }
 } // namespace
 
+bool CopyShelf::Entry::isOurs() const { return fingerprint != stranger; }
+
 CopyShelf::CopyShelf(Descriptor folder, std::string registerName, Strangers strangers)
     : folder_(std::move(folder))
     , register_(std::move(registerName))
@@ -70,7 +75,7 @@ std::vector<CopyShelf::Entry> CopyShelf::entries() const
         if (found != known.end()) {
             registered.emplace_back(found->second.place, Entry{*name, found->second.fingerprint});
         } else if (strangers_ == Strangers::Ours) {
-            strangers.push_back({*name, {}});
+            strangers.push_back({*name, known.empty() ? "" : stranger});
         }
     }
     std::sort(strangers.begin(), strangers.end(),
@@ -104,7 +109,10 @@ void CopyShelf::add(
     part.become(file.c_str(), SafeFile::Existing::Keep);
     std::vector<CopyName> names;
     for (const Entry& entry : entries()) {
-        names.push_back(entry.name);
+        // What somebody put here goes only when somebody removes it.
+        if (entry.isOurs()) {
+            names.push_back(entry.name);
+        }
     }
     for (const CopyName& old : superfluous(names)) {
         SafeFile::remove(get(), old.file().c_str());

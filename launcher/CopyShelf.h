@@ -18,6 +18,9 @@ public:
         CopyName name;
         /// What the database looked like when it was copied; empty when nobody remembers.
         std::string fingerprint;
+
+        /// Whether it was not put here by somebody while a register was kept.
+        bool isOurs() const;
     };
 
     /// What becomes of dated copies that the register does not know.

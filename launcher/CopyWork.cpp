@@ -28,7 +28,9 @@ CopyWork::Made CopyWork::make(Backup::Pace pace) const noexcept
         copies_.make(now(), pace);
         return Made::Done;
     } catch (const DatabaseError& error) {
-        return !error.isAboutContent()    ? Made::Failed
+        const bool isTillBusy = pace == Backup::Pace::Gentle && error.code() == SQLITE_BUSY;
+        return isTillBusy                 ? Made::Later
+            : !error.isAboutContent()     ? Made::Failed
             : error.code() == SQLITE_AUTH ? Made::Foreign
                                           : Made::Damaged;
     } catch (const std::exception&) {

@@ -16,7 +16,9 @@ public:
         Done = 0,
         Failed = 1,
         Damaged = 2,
-        Foreign = 3
+        Foreign = 3,
+        /// The till changes too much at present.
+        Later = 4
     };
 
     /// carry() for a place that is away. Any other than this and 0 is the errno of a failure.

@@ -33,6 +33,16 @@ std::string announced(int lock)
     return {found.data(), static_cast<std::size_t>(std::max(size, ssize_t(0)))};
 }
 
+/// Gives a folder of this user, and no link to one, back to its user.
+void openOwnFolder(int parent, const char* name)
+{
+    SafeFile::Status found{};
+    const Descriptor folder(openat(parent, name, O_PATH | O_NOFOLLOW | O_CLOEXEC));
+    if (folder && fstat(folder.get(), &found) == 0 && S_ISDIR(found.st_mode)) {
+        chmod(("/proc/self/fd/" + std::to_string(folder.get())).c_str(), forUser);
+    }
+}
+
 /// Every file directly in \a folder becomes its user's alone, who may write to it: one that came
 /// from a CD is read-only. A file that has a name elsewhere, too, gets no new rights.
 void closeFiles(int folder)
@@ -195,10 +205,10 @@ void DataFolder::close()
 {
     fchmod(folder_.get(), forUser);
     closeFiles(folder_.get());
+    openOwnFolder(folder_.get(), "copies");
     const Descriptor copies(
         openat(folder_.get(), "copies", O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     if (copies) {
-        fchmod(copies.get(), forUser);
         closeFiles(copies.get());
     }
 }

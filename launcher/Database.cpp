@@ -42,6 +42,7 @@ void harden(sqlite3* connection)
 {
     constexpr int longestSql = 100000;
     constexpr int longestText = 16 * 1024 * 1024;
+    constexpr sqlite3_int64 mostMemory = 64 * 1024 * 1024;
     constexpr std::pair<int, int> settings[]{
         {SQLITE_DBCONFIG_DEFENSIVE, 1},
         {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
@@ -53,6 +54,8 @@ void harden(sqlite3* connection)
     for (const auto& [setting, value] : settings) {
         require(sqlite3_db_config(connection, setting, value, nullptr));
     }
+    // A till's schema needs a few kilobytes; a hostile one would take the machine's memory.
+    sqlite3_hard_heap_limit64(mostMemory);
     sqlite3_limit(connection, SQLITE_LIMIT_ATTACHED, 0);
     sqlite3_limit(connection, SQLITE_LIMIT_SQL_LENGTH, longestSql);
     sqlite3_limit(connection, SQLITE_LIMIT_LENGTH, longestText);
@@ -125,9 +128,10 @@ Database::Schema Database::schema()
         found.isOnlyOwn = found.isOnlyOwn && TillSchema::isOwn(object);
         found.tables += TillSchema::isTillTable(object) ? 1 : 0;
     });
-    // Its header may ask for a later SQLite to be written to: no sale could be recorded.
     if (sqlite3_db_readonly(connection_.get(), "main") != 0) {
-        throw DatabaseError(SQLITE_CORRUPT);
+        // Its header may ask for a later SQLite to be written to: no sale could be recorded.
+        const char* path = sqlite3_db_filename(connection_.get(), "main");
+        throw DatabaseError(Journals::isOfLaterSqlite(path) ? SQLITE_CORRUPT : SQLITE_READONLY);
     }
     return found;
 }

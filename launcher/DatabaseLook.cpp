@@ -5,6 +5,7 @@
 #include "launcher/Backup.h"
 #include "launcher/CopyChoice.h"
 #include "launcher/Database.h"
+#include "launcher/FileClaim.h"
 #include "launcher/Journals.h"
 #include "launcher/SafeFile.h"
 
@@ -129,6 +130,8 @@ bool readsOnPaper(const std::string& copy)
 bool check(const CheckedCopy& copy, bool isTillOpen)
 {
     constexpr double seconds = 10;
+    constexpr double claimSeconds = 2;
+    const FileClaim claim(AT_FDCWD, FileClaim::Purpose::Look, claimSeconds);
     const std::string database = std::filesystem::canonical(databaseName).string();
     const bool hasJournal = SafeFile::exists(AT_FDCWD, (database + "-journal").c_str());
     // The journal of a till at work is its own: SQLite sees that it is in use, and waits for it.
@@ -139,7 +142,8 @@ bool check(const CheckedCopy& copy, bool isTillOpen)
     }
     Database(databaseName, seconds, Database::Sharing::WithTill).requireReadable();
     const SafeFile::Temporary part(copy.shelf(), copy.name());
-    Backup::copy(databaseName, copy.path(), Backup::Pace::Gentle);
+    Backup::bring(databaseName, copy.path(), Backup::Pace::Gentle);
+    requireSound(copy.path());
     return readsOnPaper(copy.path());
 }
 

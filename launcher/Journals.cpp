@@ -27,6 +27,18 @@ bool isSafe(const std::string& journal)
     // A till that sells deletes its journal at any moment, so what could not be opened may be gone.
     return file ? !namesAnother(file.get()) : !SafeFile::exists(AT_FDCWD, journal.c_str());
 }
+
+constexpr unsigned char walVersion = 2;
+
+/// What SQLite needs to write and to read \a database, as its header says; 0 when nobody knows.
+std::array<unsigned char, 2> versionsIn(const std::string& database)
+{
+    constexpr off_t place = 18;
+    std::array<unsigned char, 2> found{};
+    const Descriptor file(open(database.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const bool isRead = file && pread(file.get(), found.data(), found.size(), place) == 2;
+    return isRead ? found : std::array<unsigned char, 2>{};
+}
 } // namespace
 
 bool areSafe(const std::string& database)
@@ -41,12 +53,10 @@ bool areSafe(const std::string& database)
 
 bool hasWal(const std::string& database)
 {
-    constexpr off_t versions = 18;
-    constexpr char walVersion = 2;
-    std::array<char, 2> found{};
-    const Descriptor file(open(database.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    const bool isRead = file && pread(file.get(), found.data(), found.size(), versions) == 2;
-    return (isRead && (found[0] == walVersion || found[1] == walVersion))
+    const auto versions = versionsIn(database);
+    return versions[0] == walVersion || versions[1] == walVersion
         || SafeFile::exists(AT_FDCWD, (database + "-wal").c_str());
 }
+
+bool isOfLaterSqlite(const std::string& database) { return versionsIn(database)[0] > walVersion; }
 } // namespace Journals

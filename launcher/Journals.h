@@ -15,4 +15,7 @@ bool areSafe(const std::string& database);
 
 /// Whether the last changes of \a database may be in a write-ahead log.
 bool hasWal(const std::string& database);
+
+/// Whether only a later SQLite may write to \a database.
+bool isOfLaterSqlite(const std::string& database);
 } // namespace Journals

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -13,10 +14,14 @@ struct Answer
     std::string output;
 };
 
-/// Runs \a command with \a input until it ends, in the environment that \a prepare leaves. What it
-/// says on standard error is nobody's.
+/// How long a program may take, in seconds, that nobody has to answer.
+constexpr double shortly = 10;
+
+/// Runs \a command with \a input until it ends or \a seconds have passed, in the environment that
+/// \a prepare leaves. What it says on standard error is nobody's.
 Answer filter(
-    const std::vector<std::string>& command, const std::string& input, void (*prepare)() = [] {});
+    const std::vector<std::string>& command, const std::string& input,
+    double seconds = std::numeric_limits<double>::infinity(), void (*prepare)() = [] {});
 
 /// Replaces this process with \a command. Returns only when that is not possible.
 void become(const std::vector<std::string>& command);

@@ -4,6 +4,7 @@
 #include "launcher/CopyChoice.h"
 #include "launcher/Database.h"
 #include "launcher/DataFolder.h"
+#include "launcher/FileClaim.h"
 #include "launcher/Journals.h"
 #include "launcher/KeptJournals.h"
 #include "launcher/Refusal.h"
@@ -136,6 +137,17 @@ std::unique_ptr<Newcomer> bring(
     }
 }
 
+/// Whoever looks at the database is done within this time.
+FileClaim claimFile(const DataFolder& folder)
+{
+    constexpr double seconds = 90;
+    try {
+        return {folder.get(), FileClaim::Purpose::Replace, seconds};
+    } catch (const DatabaseError& error) {
+        throw Refusal({Sentences::databaseUnusable, {folder.path(), error.reason()}});
+    }
+}
+
 std::unique_ptr<Replaced> keep(const DataFolder& folder, const Target& target, int shelf)
 {
     try {
@@ -170,7 +182,7 @@ bool isName(const std::string& name)
 }
 } // namespace
 
-void run(const DataFolder& folder, const Speech& speech, std::string name)
+void run(DataFolder& folder, const Speech& speech, std::string name)
 {
     const Copies copies(folder.get());
     const auto items = CopyChoice::items(copies);
@@ -178,7 +190,9 @@ void run(const DataFolder& folder, const Speech& speech, std::string name)
         throw Refusal({Sentences::noCopies, {folder.path()}});
     }
     if (name.empty()) {
+        folder.unlock();
         name = CopyChoice::ask(items, speech);
+        folder.lock();
     }
     if (name.empty()) {
         return;
@@ -189,6 +203,7 @@ void run(const DataFolder& folder, const Speech& speech, std::string name)
     }
     const Target target = findTarget(folder);
     const auto copy = bring(folder, target, name, shelf.get());
+    const FileClaim claim = claimFile(folder);
     const auto old = keep(folder, target, shelf.get());
     exchange(folder, *copy, *old);
     Words kept("");

@@ -9,6 +9,7 @@ class Speech;
 /// Putting a copy of the database back. Wherever it is cut off, the till finds a sound database:
 /// the old one or the copy.
 namespace Restore {
-/// Puts the copy \a name back, or the one that is chosen when it is empty. Throws Refusal.
-void run(const DataFolder& folder, const Speech& speech, std::string name);
+/// Puts the copy \a name back, or the one that is chosen when it is empty: while that is asked, the
+/// locked \a folder is unlocked, and a till may start. Throws Refusal.
+void run(DataFolder& folder, const Speech& speech, std::string name);
 } // namespace Restore

@@ -54,7 +54,11 @@ Descriptor openRegular(int folder, const char* name, int flags)
     constexpr int safely = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     Descriptor opened(openat(folder, name, flags | safely, userOnly));
     Status found{};
-    if (opened && (fstat(opened.get(), &found) != 0 || !S_ISREG(found.st_mode))) {
+    // A second name may be that of somebody's file elsewhere.
+    const bool isWritten = (flags & O_ACCMODE) != O_RDONLY;
+    if (opened
+        && (fstat(opened.get(), &found) != 0 || !S_ISREG(found.st_mode)
+            || (isWritten && found.st_nlink > 1))) {
         opened.reset();
         errno = EINVAL;
     }

@@ -66,7 +66,7 @@ void bring(
     const auto isIt = [&](const CopyShelf::Entry& entry) {
         return entry.fingerprint == newest.fingerprint && entry.name.day == newest.name.day
             && sizeOf(there.get(), entry.name.file()) == size
-            && (!newest.fingerprint.empty() || entry.name.file() == file);
+            && ((newest.isOurs() && !newest.fingerprint.empty()) || entry.name.file() == file);
     };
     if (std::any_of(brought.begin(), brought.end(), isIt)) {
         return;

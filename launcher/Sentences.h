@@ -111,6 +111,11 @@ inline constexpr Sentence databaseUnusable{
     "The database \"%1/Vendel.db\" cannot be used (%2); the copies are in \"%1/copies\" and "
     "\"vendel --restaurer\" puts one back."};
 inline constexpr Sentence fileIsNone{"« %1 » n'est pas un fichier", "\"%1\" is not a file"};
+inline constexpr Sentence databaseMissing{
+    "La base de données manque : la caisse en commence une vide. Les copies sont dans « %1/copies » et "
+    "« vendel --restaurer » en remet une en place.",
+    "The database is missing: the till begins an empty one. The copies are in \"%1/copies\" and "
+    "\"vendel --restaurer\" puts one back."};
 inline constexpr Sentence notFile{"ce n'est pas un fichier", "it is not a file"};
 inline constexpr Sentence notAccessible{
     "elle ne peut pas être lue et écrite", "it cannot be read and written"};

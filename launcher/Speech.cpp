@@ -68,7 +68,9 @@ std::optional<std::string> Speech::choose(const Words& question, const std::stri
 bool Speech::show(pid_t till) const
 {
     return till > 0 && hasBoxes()
-        && Process::filter({dialogue_, "--montrer", std::to_string(till)}, {}).status == 0;
+        && Process::filter({dialogue_, "--montrer", std::to_string(till)}, {}, Process::shortly)
+               .status
+        == 0;
 }
 
 std::string Speech::screen() const
@@ -76,8 +78,8 @@ std::string Speech::screen() const
     if (!hasBoxes()) {
         return {};
     }
-    const auto answer
-        = Process::filter(command({"--ecran"}), {}, [] { TillSize::tellQt(TillSize::unscaled); });
+    const auto answer = Process::filter(
+        command({"--ecran"}), {}, Process::shortly, [] { TillSize::tellQt(TillSize::unscaled); });
     return answer.status == 0 ? answer.output : std::string();
 }
 

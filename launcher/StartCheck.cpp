@@ -5,6 +5,8 @@
 #include "launcher/Database.h"
 #include "launcher/DatabaseLook.h"
 #include "launcher/DataFolder.h"
+#include "launcher/FileClaim.h"
+#include "launcher/Log.h"
 #include "launcher/Refusal.h"
 #include "launcher/SafeFile.h"
 #include "launcher/SecondPlace.h"
@@ -22,6 +24,13 @@ constexpr const char* databaseName = "Vendel.db";
 Refusal unusable(const DataFolder& folder, const Words& reason)
 {
     return Refusal({Sentences::databaseUnusable, {folder.path(), reason}});
+}
+
+/// A warning is also for whoever looks at the shop's state later.
+void warn(const DataFolder& folder, const Speech& speech, const Words& words)
+{
+    Log(folder.get()).write(say(speech.language(), words));
+    speech.warn(words);
 }
 
 enum class Verdict
@@ -54,6 +63,8 @@ void setAside(const DataFolder& folder, const Speech& speech)
 {
     std::string name;
     try {
+        constexpr double seconds = 90;
+        const FileClaim claim(folder.get(), FileClaim::Purpose::Replace, seconds);
         const CopyShelf shelf = Copies(folder.get()).shelf();
         name = Copies::freeStem(shelf.get(), "inachevee", now()) + ".db";
         SafeFile::moveNew(folder.get(), databaseName, shelf.get(), name.c_str());
@@ -77,6 +88,9 @@ void database(const DataFolder& folder, const Speech& speech)
         DatabaseLook::sweep(shelf.get());
     }
     if (!SafeFile::exists(folder.get(), databaseName)) {
+        if (!Copies(folder.get()).entries().empty()) {
+            warn(folder, speech, {Sentences::databaseMissing, {folder.path()}});
+        }
         return;
     }
     SafeFile::Status found{};
@@ -109,9 +123,9 @@ bool copy(const DataFolder& folder, const Speech& speech)
         if (error.isAboutContent()) {
             throw unusable(folder, error.reason());
         }
-        speech.warn(notMade);
+        warn(folder, speech, notMade);
     } catch (const std::system_error&) {
-        speech.warn(notMade);
+        warn(folder, speech, notMade);
     }
     return false;
 }
@@ -120,7 +134,7 @@ void secondPlace(const DataFolder& folder, const Speech& speech)
 {
     const SecondPlace place(folder.get());
     if (place.isLongAway(now())) {
-        speech.warn({Sentences::notReachedFor, {place.path(), place.lastReached()}});
+        warn(folder, speech, {Sentences::notReachedFor, {place.path(), place.lastReached()}});
     }
 }
 } // namespace StartCheck

@@ -169,6 +169,10 @@ void Look::lookAtCopies()
         }
         if (!all.empty()) {
             say({Sentences::stateCopies, {std::to_string(all.size()), newest}});
+            const bool isOld = daysBetween(all.back().name.day, moment_.day) > 1;
+            if (isOld && Copies(folder_.get()).isChanged()) {
+                needsHand(Sentences::topicCopies);
+            }
             return;
         }
         say(Sentences::stateNoCopies);

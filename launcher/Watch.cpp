@@ -28,6 +28,8 @@ namespace {
 constexpr int tillLock = 9;
 /// The exit status of a process that could not become the till.
 constexpr int notRun = 126;
+/// That of a process that a disk does not let go of.
+constexpr int neverEnded = 128 + SIGKILL;
 
 /// Whether the process \a child has ended, and how.
 bool hasEnded(pid_t child, int& state)
@@ -72,6 +74,8 @@ int Watch::run()
         waitForSomething();
     }
     makeLastCopy();
+    // Whoever ends the launcher while it only shows a box ends the box, too.
+    sigprocmask(SIG_SETMASK, &before_, nullptr);
     sayTrouble();
     if (lastWords_) {
         log_.write(say(speech_.language(), *lastWords_));
@@ -253,6 +257,10 @@ void Watch::copyEnded(int status)
         startCarrying();
         return;
     }
+    if (made == CopyWork::Made::Later) {
+        // It is made an hour later, or when the till is closed.
+        return;
+    }
     const bool isUnusable = made == CopyWork::Made::Damaged || made == CopyWork::Made::Foreign;
     note(copyTrouble_,
         isUnusable ? Words(Sentences::databaseUnusable,
@@ -311,7 +319,13 @@ void Watch::makeLastCopy()
     await(copying_);
     startCopy(Occasion::Closing);
     await(copying_);
+    if (copying_.isUnderWay()) {
+        copyEnded(neverEnded);
+    }
     // The till may start again while a slow medium is written to.
     folder_.unlock();
     await(carrying_);
+    if (carrying_.isUnderWay()) {
+        carryingEnded(neverEnded);
+    }
 }

@@ -68,8 +68,8 @@ void changeSecondPlace(const Order& order, const std::string& data, const Speech
     std::error_code none;
     const std::string path
         = order.folder == "-" ? "" : std::filesystem::canonical(order.folder, none).string();
-    const bool isFolder = !path.empty() && std::filesystem::is_directory(path, none)
-        && access(path.c_str(), W_OK | X_OK) == 0;
+    const bool isFolder = !path.empty() && path.find('\n') == std::string::npos
+        && std::filesystem::is_directory(path, none) && access(path.c_str(), W_OK | X_OK) == 0;
     if (order.folder != "-" && !isFolder) {
         throw Refusal({Sentences::noSuchFolder, {order.folder}});
     }

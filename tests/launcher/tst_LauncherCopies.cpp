@@ -145,6 +145,21 @@ private slots:
         QVERIFY(Copies(shop.get()).isChanged());
     }
 
+    void aCopyThatSomebodyPutThereStays()
+    {
+        const ShopFolder shop;
+        for (int day = 1; day <= 31; ++day) {
+            const QString date = QString("2026-01-%1").arg(day, 2, 10, QLatin1Char('0'));
+            workAndCopy(shop, {date.toStdString(), "090000"});
+        }
+        shop.write(QString("copies/Vendel-2025-12-24.db"), "from a stick");
+        workAndCopy(shop, {"2026-02-01", "090000"});
+        workAndCopy(shop, {"2026-02-02", "090000"});
+        QVERIFY(QFile::exists(QString("copies/Vendel-2025-12-24.db")));
+        QVERIFY(!QFile::exists(QString("copies/Vendel-2026-01-03.db")));
+        QVERIFY(QFile::exists(QString("copies/Vendel-2026-01-04.db")));
+    }
+
     void onlyFilesWithOurNamesGo()
     {
         const ShopFolder shop;

@@ -145,6 +145,24 @@ private slots:
         QCOMPARE(ShopFolder::unsoundness("Vendel.db"), damaged);
     }
 
+    void aSchemaThatWouldTakeTheMachinesMemoryIsRefused()
+    {
+        const ShopFolder shop;
+        QByteArray sql = "pragma page_size = 65536; create table wide (c0";
+        for (int column = 1; column < 1900; ++column) {
+            sql += ",c" + QByteArray::number(column);
+        }
+        sql += ");pragma writable_schema = on;"
+               "insert into sqlite_schema with recursive n(i) as (select 1 union all select i + 1 "
+               "from n where i < 3000) select type, name || i, tbl_name || i, rootpage, "
+               "replace(sql, 'wide', 'wide' || i) from sqlite_schema, n where name = 'wide'";
+        ShopFolder::foreign("wide.db", sql.constData());
+        sqlite3_int64 before = sqlite3_memory_highwater(1);
+        before = sqlite3_memory_used();
+        QVERIFY(!ShopFolder::unsoundness("wide.db").isEmpty());
+        QVERIFY(sqlite3_memory_highwater(0) - before <= 64 * 1024 * 1024);
+    }
+
     void aDatabaseInUseIsSaid()
     {
         const ShopFolder shop;

@@ -32,7 +32,7 @@ public:
     {
         const CapturedOutput output;
         return refusal([&] {
-            const DataFolder folder(this->name());
+            DataFolder folder(this->name());
             Restore::run(folder, Speech(Language::English, "/nowhere"), name);
         });
     }

@@ -12,6 +12,16 @@ class TestLauncherSafeFile : public QObject
     Q_OBJECT
 
 private slots:
+    void aFileWithASecondNameIsOnlyRead()
+    {
+        const ShopFolder shop;
+        shop.write(QString("precious"), "theirs");
+        QCOMPARE(link("precious", "planted"), 0);
+        QVERIFY(SafeFile::openRegular(shop.get(), "planted", O_RDONLY));
+        QVERIFY(!SafeFile::openRegular(shop.get(), "planted", O_RDWR));
+        QVERIFY(!SafeFile::openRegular(shop.get(), "planted", O_WRONLY | O_APPEND));
+    }
+
     void whatIsWrittenIsReadForItsUserAlone()
     {
         const ShopFolder shop;

@@ -248,6 +248,18 @@ private slots:
         QCOMPARE(longAgo.status, 1);
     }
 
+    void changesThatWereNotCopiedForDaysAreTrouble()
+    {
+        const StatedShop shop(noPrinter);
+        shop.addCopy("2026-03-04", 1024);
+        QCOMPARE(shop.state().status, 0);
+        QVERIFY(QFile::remove(QString("copies/Vendel-2026-03-04.db")));
+        shop.addCopy("2026-03-03", 1024);
+        const State state = shop.state();
+        QCOMPARE(StatedShop::french(state).constLast(), QString("À voir : les copies."));
+        QCOMPARE(state.status, 1);
+    }
+
     void anEmptySecondPlaceHasNoCopy()
     {
         const StatedShop shop(noPrinter);

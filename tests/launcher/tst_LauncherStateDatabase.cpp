@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/Copies.h"
 #include "launcher/DataFolder.h"
+#include "launcher/FileClaim.h"
 #include "tests/launcher/StatedShop.h"
 #include "tests/support/TestProgram.h"
 
@@ -140,6 +141,16 @@ private slots:
         const State state = shop.state();
         QCOMPARE(verdict(state), QString("not checked (another program is using it)"));
         QCOMPARE(french(state), QString("pas contrôlée (un autre programme l'occupe)"));
+        QCOMPARE(state.status, 1);
+    }
+
+    void aDatabaseThatIsBeingReplacedIsNotOpened()
+    {
+        const StatedShop shop(noPrinter);
+        shop.addCopy("2026-03-04", 1024);
+        const FileClaim claim(shop.get(), FileClaim::Purpose::Replace, 0);
+        const State state = shop.state();
+        QCOMPARE(verdict(state), QString("not checked (another program is using it)"));
         QCOMPARE(state.status, 1);
     }
 

@@ -11,6 +11,8 @@
 
 #include <QTemporaryDir>
 
+#include <csignal>
+
 #include <sys/wait.h>
 
 /// Only a build that counts the lines it runs has it: a process that ends early has to ask.
@@ -44,6 +46,8 @@ public:
     {
         const pid_t launcher = fork();
         if (launcher == 0) {
+            // The test program has a handler of its own for it.
+            std::signal(SIGTERM, SIG_DFL);
             const int output = open("output", O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
             dup2(output, STDOUT_FILENO);
             dup2(output, STDERR_FILENO);
@@ -256,6 +260,14 @@ private slots:
         shop.watch();
         QCOMPARE(shop.log().count("could not be made"), 1);
         QCOMPARE(shop.boxes(), QByteArray());
+    }
+
+    void whoEndsTheLauncherEndsItAtItsBoxToo()
+    {
+        const WatchedShop shop(sale);
+        shop.write(QString("copies"), "in the way");
+        shop.write(QString("dialogue"), "#!/bin/sh\nkill -TERM $PPID\nexec sleep 60\n");
+        QCOMPARE(shop.watch().status, 143);
     }
 
     void aFailureThatHasGoneIsNotShown()

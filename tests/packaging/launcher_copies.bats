@@ -263,3 +263,33 @@ second_place() {
     [ -f "$data/copies/Vendel-2026-03-05.db" ]
     [ -f "$data/copies/Vendel-2026-03-06.db" ]
 }
+
+@test "a disk that does not give the copy back says nothing against the database" {
+    for number in 6 12 20; do
+        rm -rf "$data/copies"
+        : >"$TILL_LOG"
+        disturbed "pread64:error=EIO:when=$number+" copies/.Vendel.neuf
+        run "${disturbance[@]}" "$launcher"
+        [ "$status" -eq 0 ]
+        [ -s "$TILL_LOG" ]
+        [ "$output" = "$(warning)" ]
+    done
+}
+
+@test "a warning is in the log too, and a name with a line break is no second place" {
+    touch "$data/copies"
+    "$launcher" 2>/dev/null
+    grep -qF "$(warning)" "$data/vendel.log"
+    mkdir "$BATS_TEST_TMPDIR/two"$'\n'"lines"
+    run "$launcher" --copies-vers "$BATS_TEST_TMPDIR/two"$'\n'"lines"
+    [ "$status" -eq 1 ]
+    [ ! -e "$data/copies-vers" ]
+}
+
+@test "a database that is gone is said when there are copies" {
+    "$launcher"
+    rm "$data/Vendel.db"
+    run "$launcher"
+    [ "$status" -eq 0 ]
+    [ "$output" = "La base de données manque : la caisse en commence une vide. Les copies sont dans « $data/copies » et « vendel --restaurer » en remet une en place." ]
+}

@@ -146,6 +146,23 @@ $holds_lock"
 $program" ]
 }
 
+@test "a list of copies that waits for its answer keeps no till from starting" {
+    rm "$data"
+    mkdir -p "$data/copies"
+    cp "$BATS_FILE_TMPDIR/shop/Vendel.db" "$data/copies/Vendel-2026-03-01.db"
+    dialogue "flock -n '$data/.verrou' sh -c 'echo free' >>\"\$SAID\"; exit 1"
+    run "$launcher" --restaurer </dev/null
+    [ "$status" -eq 0 ]
+    [ "$(cat "$SAID")" = free ]
+}
+
+@test "a program for boxes that hangs does not hold up a start" {
+    rm "$data"
+    dialogue '[ "$1" = --ecran ] && exec sleep 60; exit 1'
+    run timeout 30 "$launcher" --taille ecran
+    [ "$status" -eq 0 ]
+}
+
 @test "a message that waits for its answer holds no lock" {
     rm "$data"
     mkdir -p "$data/Vendel.db"
