@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "launcher/Copies.h"
+#include "launcher/CopyChoice.h"
+
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -7,6 +10,7 @@
 #include <string>
 
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -14,6 +18,8 @@
 namespace {
 constexpr const char* reportName = "report";
 constexpr double largestMegabytes = 8;
+constexpr std::size_t copiesInList = 10000;
+constexpr double listLimitMs = 1000;
 
 double monotonicSeconds()
 {
@@ -62,8 +68,9 @@ void run(const std::string& program, const char* argument)
 }
 
 /// From a command to the first line of the till that it starts.
-void reach(benchmark::State& state, const std::string& program)
+void reach(benchmark::State& state, const std::string& program, const std::string& folder)
 {
+    std::filesystem::current_path(folder);
     constexpr double limitMs = 15;
     double most = 0;
     for ([[maybe_unused]] auto _ : state) {
@@ -82,6 +89,44 @@ void reach(benchmark::State& state, const std::string& program)
         state.SetLabel("launcher " + std::to_string(most).substr(0, 3) + " MB");
     }
 }
+/// The copies in \a folder as nothing but files.
+void listNames(benchmark::State& state, const std::string& folder)
+{
+    std::filesystem::current_path(folder);
+    for ([[maybe_unused]] auto _ : state) {
+        std::size_t regular = 0;
+        for (const auto& entry : std::filesystem::directory_iterator("copies")) {
+            regular += entry.symlink_status().type() == std::filesystem::file_type::regular ? 1 : 0;
+        }
+        check(regular == copiesInList, "ten thousand files");
+    }
+    state.counters["limit_ms"] = listLimitMs;
+}
+
+/// The copies in \a folder as they are offered to be put back.
+void listCopies(benchmark::State& state, const std::string& folder)
+{
+    std::filesystem::current_path(folder);
+    const Descriptor shop(open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    for ([[maybe_unused]] auto _ : state) {
+        check(CopyChoice::items(Copies(shop.get())).size() == copiesInList, "every copy");
+    }
+    state.counters["limit_ms"] = listLimitMs;
+}
+
+/// Makes a data folder with ten thousand copies.
+void makeManyCopies(const std::string& folder)
+{
+    constexpr int minutesOfADay = 1440;
+    std::filesystem::create_directories(folder + "/copies");
+    for (int minute = 0; minute < int(copiesInList); ++minute) {
+        const int time = minute % minutesOfADay / 60 * 100 + minute % 60;
+        const std::string digits = std::to_string(10000 + time).substr(1);
+        std::ofstream(folder + "/copies/Vendel-2026-01-0"
+            + std::to_string(minute / minutesOfADay + 1) + '-' + digits + ".db")
+            << 'x';
+    }
+}
 } // namespace
 
 int main(int argc, char* argv[])
@@ -94,21 +139,26 @@ int main(int argc, char* argv[])
     check(mkdtemp(base.data()) != nullptr, "a temporary directory");
     const std::string folder = base + "/vendel";
     run(VENDEL_BENCH_DEMO, folder.c_str());
-    std::filesystem::current_path(folder);
     setenv("XDG_DATA_HOME", base.c_str(), 1);
     setenv("VENDEL_BENCH_TILL", "1", 1);
     // The day's first start makes a copy; an ordinary one has nothing to copy.
     run(VENDEL_BENCH_LAUNCHER, nullptr);
 
-    benchmark::RegisterBenchmark("start_by_launcher/floor", reach, self)
+    benchmark::RegisterBenchmark("start_by_launcher/floor", reach, self, folder)
         ->Unit(benchmark::kMillisecond)
         ->UseManualTime()
         ->Iterations(20);
     benchmark::RegisterBenchmark(
-        "start_by_launcher/program", reach, std::string(VENDEL_BENCH_LAUNCHER))
+        "start_by_launcher/program", reach, std::string(VENDEL_BENCH_LAUNCHER), folder)
         ->Unit(benchmark::kMillisecond)
         ->UseManualTime()
         ->Iterations(20);
+    const std::string many = base + "/many";
+    makeManyCopies(many);
+    benchmark::RegisterBenchmark("list_of_10000_copies/floor", listNames, many)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("list_of_10000_copies/program", listCopies, many)
+        ->Unit(benchmark::kMillisecond);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     std::filesystem::remove_all(base);
