@@ -26,7 +26,7 @@ find "$root/build/coverage" -name '*.gcda' -delete
 say "Testing the preset coverage"
 (cd "$root" && ctest --preset coverage --quiet) || fail "there are failed tests"
 
-folders=(app forms widgets common store db base Print launcher)
+folders=(app forms widgets common store db base Print)
 cd "$root/build/coverage"
 gcovr --root "$root" "${folders[@]/#/--filter=$root/}" --exclude-throw-branches \
     --exclude-unreachable-branches --print-summary --fail-under-line "$least" \

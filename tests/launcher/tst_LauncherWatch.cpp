@@ -15,9 +15,6 @@
 
 #include <sys/wait.h>
 
-/// Only a build that counts the lines it runs has it: a process that ends early has to ask.
-extern "C" [[gnu::weak]] void __gcov_dump();
-
 namespace {
 /// How watching a till ended.
 struct End
@@ -53,11 +50,7 @@ public:
             dup2(output, STDERR_FILENO);
             // What the test has open is not the launcher's.
             close_range(STDERR_FILENO + 1, ~0U, 0);
-            const int status = watchHere(times);
-            if (__gcov_dump != nullptr) {
-                __gcov_dump();
-            }
-            _exit(status);
+            _exit(watchHere(times));
         }
         int state = 0;
         waitpid(launcher, &state, 0);
