@@ -25,6 +25,8 @@ const QList<Way> waysOut{
 const QList<Way> waysToAFile{{"the footer", [](OpenReceiptTexts& editor) { editor.showFooter(); }},
     {"the same file again", [](OpenReceiptTexts& editor) { editor.showHeader(); }}};
 
+const QList<Way> ways = waysOut + waysToAFile;
+
 /// What is said on \a way, and \a answer pressed then.
 QStringList saidOn(
     const Way& way, OpenReceiptTexts& editor, QMessageBox::StandardButton answer = QMessageBox::No)
@@ -43,7 +45,7 @@ class TestFormVendelFormulaireTicketUnsaved : public QObject
 private slots:
     void noKeepsTheTextOnTheScreen()
     {
-        for (const Way& way : waysOut + waysToAFile) {
+        for (const Way& way : ways) {
             OpenReceiptTexts editor;
             editor.typeAtEnd(" et Anne");
             QCOMPARE(saidOn(way, editor), asked);
@@ -91,7 +93,7 @@ private slots:
 
     void anUnchangedTextAsksNothing()
     {
-        for (const Way& way : waysOut + waysToAFile) {
+        for (const Way& way : ways) {
             for (const QByteArray& header : {QByteArray("Chez Paul"), QByteArray("<b>Paul</b>\r\n"),
                      QByteArray(), QByteArray("")}) {
                 OpenReceiptTexts editor(header);
@@ -104,7 +106,7 @@ private slots:
 
     void aSavedTextAsksNothing()
     {
-        for (const Way& way : waysOut + waysToAFile) {
+        for (const Way& way : ways) {
             OpenReceiptTexts editor;
             editor.typeAtEnd(" et Anne");
             editor.saveHeader();
