@@ -26,6 +26,7 @@
 #include "widgets/OpenWindow.h"
 #include "widgets/RowKeys.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QShowEvent>
 
@@ -50,6 +51,10 @@ const auto& saleNotRecorded = Messages::Messages172;
 constexpr int clockMs = 100;
 constexpr QPoint tipOffset(150, 130);
 constexpr auto payerSlot = "FormVendel on_btn_Payer_clicked";
+
+/// Where window managers keep the splash above the window only if the window was shown before it:
+/// behind it, the splash would take all clicks and not be seen.
+bool isOnX11() { return QGuiApplication::platformName() == QLatin1String("xcb"); }
 } // namespace
 
 FormVendel::FormVendel(QWidget* parent)
@@ -64,11 +69,13 @@ FormVendel::FormVendel(QWidget* parent)
     guarded("FormVendel Constructor", [this] {
         ui_->setupUi(this);
         translateCaptions(*this);
+        setWindowFlag(Qt::WindowMaximizeButtonHint, false);
         connect(&clock_, &QTimer::timeout, this, &FormVendel::on_timeout);
         clock_.start(clockMs);
         setUpLists();
         // A key can uncheck the box while a tip is shown; a mouse press hides the tip anyway.
         connect(ui_->chkbx_ToolTip, &QCheckBox::toggled, this, &hideTip);
+        ui_->txt_montant->setFocus();
         Database::createIfMissing();
     });
 }
@@ -87,6 +94,15 @@ void FormVendel::setUpLists()
     });
 }
 
+void FormVendel::setVisible(bool visible)
+{
+    const bool opens = visible && !isVisible() && isOnX11();
+    QMainWindow::setVisible(visible);
+    if (opens) {
+        guarded("FormVendel showEvent", [this] { showSplash(); });
+    }
+}
+
 void FormVendel::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
@@ -94,7 +110,9 @@ void FormVendel::showEvent(QShowEvent* event)
         return;
     }
     guarded("FormVendel showEvent", [this] {
-        showSplash();
+        if (!isOnX11()) {
+            showSplash();
+        }
         for (const QString& value : Settings::printerSwitches()) {
             if (std::stoi(value.toStdString()) == 1) {
                 qDebug("Warning Epson to 1 (ON)");
@@ -289,7 +307,10 @@ void FormVendel::on_btn_11_clicked()
 
 void FormVendel::on_btn_12_clicked()
 {
-    guarded("on_btn_12_clicked", [this] { operator_more_or_less(ui_->txt_montant->text()); });
+    guarded("on_btn_12_clicked", [this] {
+        operator_more_or_less(ui_->txt_montant->text());
+        goToEmptyAmount();
+    });
 }
 
 void FormVendel::on_btn_13_clicked()
@@ -297,12 +318,24 @@ void FormVendel::on_btn_13_clicked()
     guarded("on_btn_13_clicked", [this] {
         operator_more_or_less(QLatin1Char('-') + ui_->txt_montant->text());
         ui_->txt_montant->setText(ui_->txt_montant->text().mid(1));
+        goToEmptyAmount();
     });
 }
 
 void FormVendel::on_btn_Effacer_Saisie_clicked()
 {
-    guarded("on_btn_Effacer_Saisie_clicked", [this] { ui_->txt_montant->clear(); });
+    guarded("on_btn_Effacer_Saisie_clicked", [this] {
+        ui_->txt_montant->clear();
+        goToEmptyAmount();
+    });
+}
+
+/// Whoever is left without an amount types the next one.
+void FormVendel::goToEmptyAmount()
+{
+    if (ui_->txt_montant->text().isEmpty()) {
+        ui_->txt_montant->setFocus();
+    }
 }
 
 void FormVendel::typeDigit(const char* slot, int digit)

@@ -29,6 +29,8 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    void setVisible(bool visible) override;
+
 protected:
     void showEvent(QShowEvent* event) override;
 
@@ -77,6 +79,7 @@ private:
     void putOnTicket(const QString& amount);
     void typeDigit(const char* slot, int digit);
     void type(const QString& text);
+    void goToEmptyAmount();
     void pay();
 
     std::unique_ptr<Ui_FormVendel> ui_;

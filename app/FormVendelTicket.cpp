@@ -6,7 +6,10 @@
 #include "ui_FormVendelTicket.h"
 #include "widgets/Captions.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QLayout>
+#include <QScrollBar>
+#include <QShowEvent>
 
 FormVendelTicket::FormVendelTicket(const Receipt& receipt, QWidget* parent)
     : QDialog(parent)
@@ -29,6 +32,23 @@ void FormVendelTicket::fill()
     layout()->activate();
     width_ = ui_->txt_Ticket->maximumViewportSize().width();
     showReceipt(receipt_, *ui_->txt_Ticket);
+}
+
+/// Shows the end, where the total is; a receipt that fits does not move.
+void FormVendelTicket::scrollToEnd()
+{
+    // Qt lays out a long text bit by bit: its size is known once all of it is.
+    ui_->txt_Ticket->document()->documentLayout()->documentSize();
+    QScrollBar& bar = *ui_->txt_Ticket->verticalScrollBar();
+    bar.setValue(bar.maximum());
+}
+
+void FormVendelTicket::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (isFilled_ && !event->spontaneous()) {
+        guarded("FormVendelTicket showEvent", [this] { scrollToEnd(); });
+    }
 }
 
 // On a small screen the window becomes smaller once more before it is shown.

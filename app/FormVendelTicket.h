@@ -9,7 +9,7 @@
 
 class Ui_FormVendelTicket;
 
-/// The receipt on the screen.
+/// The receipt on the screen, opened at its end when it is longer than the window.
 class FormVendelTicket : public QDialog
 {
     Q_OBJECT
@@ -24,9 +24,11 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void fill();
+    void scrollToEnd();
 
     std::unique_ptr<Ui_FormVendelTicket> ui_;
     Receipt receipt_;

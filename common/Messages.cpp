@@ -209,3 +209,5 @@ const Messages::Entry<1> Messages::Messages179{"MAJ TVA"};
 const Messages::Entry<1> Messages::Messages180{"MAJ Epson TM-T20II"};
 const Messages::Entry<1> Messages::Messages181{"MAJ Formulaire Impression Ticket"};
 const Messages::Entry<1> Messages::Messages182{"Numéro"};
+const Messages::Entry<2> Messages::Messages183{
+    "Le texte n'est pas sauvegardé\nL'abandonner ?", "Sauvegarde"};

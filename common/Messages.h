@@ -188,4 +188,5 @@ public:
     static const Entry<1> Messages180;
     static const Entry<1> Messages181;
     static const Entry<1> Messages182;
+    static const Entry<2> Messages183;
 };

@@ -14,6 +14,7 @@ const auto& headerLabel = Messages::Messages59;
 const auto& footerLabel = Messages::Messages60;
 const auto& saveQuestion = Messages::Messages61;
 const auto& notSaved = Messages::Messages171;
+const auto& unsavedQuestion = Messages::Messages183;
 } // namespace
 
 FormVendelFormulaireTicket::FormVendelFormulaireTicket(QWidget* parent)
@@ -29,6 +30,23 @@ FormVendelFormulaireTicket::FormVendelFormulaireTicket(QWidget* parent)
 
 FormVendelFormulaireTicket::~FormVendelFormulaireTicket() = default;
 
+// Escape and the window's cross both end here.
+void FormVendelFormulaireTicket::reject()
+{
+    bool mayClose = true;
+    guarded("FormVendelFormulaireTicket reject", [&] { mayClose = mayDropText(); });
+    if (mayClose) {
+        QDialog::reject();
+    }
+}
+
+/// Whether no text would be lost, or the user gives it up.
+bool FormVendelFormulaireTicket::mayDropText()
+{
+    return ui_->txt_Form->toPlainText() == savedText_
+        || confirm(this, texts(unsavedQuestion[0]), texts(unsavedQuestion[1]), Preset::No);
+}
+
 void FormVendelFormulaireTicket::on_actionEntete_Page_triggered()
 {
     guarded("FormVendelFormulaireTicket on_actionEntete_Page_triggered",
@@ -43,10 +61,15 @@ void FormVendelFormulaireTicket::on_actionPied_Page_triggered()
 
 void FormVendelFormulaireTicket::showFile(const QString& file, const std::string& label)
 {
+    if (!mayDropText()) {
+        return;
+    }
     ui_->txt_Form->clear();
+    savedText_.clear();
     ui_->lbl_Formulaire->setText(texts(label));
     if (const auto text = ReceiptFiles::read(file)) {
         ui_->txt_Form->setText(*text);
+        savedText_ = ui_->txt_Form->toPlainText();
     }
 }
 
@@ -65,7 +88,13 @@ void FormVendelFormulaireTicket::save(const QString& file)
     if (!confirm(this, texts(saveQuestion[0]), texts(saveQuestion[1]))) {
         return;
     }
-    if (!ReceiptFiles::replace(file, ui_->txt_Form->toPlainText())) {
+    const QString text = ui_->txt_Form->toPlainText();
+    if (!ReceiptFiles::replace(file, text)) {
         notice(this, texts, notSaved);
+        return;
+    }
+    // A file that is not there was not made either.
+    if (ReceiptFiles::read(file)) {
+        savedText_ = text;
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QString>
 
 #include <memory>
 #include <string>
@@ -9,7 +10,8 @@
 class Ui_FormVendelFormulaireTicket;
 
 /// The editor of the two texts that frame a receipt. Either button saves what is on the screen,
-/// whichever text was shown, and only into a file that is there already.
+/// whichever text was shown, and only into a file that is there already. A text that is not saved
+/// is given up only after a question.
 class FormVendelFormulaireTicket : public QDialog
 {
     Q_OBJECT
@@ -18,6 +20,8 @@ class FormVendelFormulaireTicket : public QDialog
 public:
     explicit FormVendelFormulaireTicket(QWidget* parent = nullptr);
     ~FormVendelFormulaireTicket() override;
+
+    void reject() override;
 
 private slots:
     void on_actionEntete_Page_triggered();
@@ -28,6 +32,9 @@ private slots:
 private:
     void showFile(const QString& file, const std::string& label);
     void save(const QString& file);
+    bool mayDropText();
 
     std::unique_ptr<Ui_FormVendelFormulaireTicket> ui_;
+    /// What was shown last out of a file, or saved into one.
+    QString savedText_;
 };

@@ -269,7 +269,7 @@ void FormVendelHistorique::purge()
     const auto& question = purgeQuestion;
     if (!confirm(this,
             texts(question[0]) + period.typedFirst() + texts(question[1]) + period.typedSecond(),
-            texts(question[2]))) {
+            texts(question[2]), Preset::No)) {
         return;
     }
     History::purge(period);

@@ -105,6 +105,8 @@ void FormVendelSaisieArticle::checkLength()
 void FormVendelSaisieArticle::on_btn_Effacer_Saisie_clicked()
 {
     guarded("FormVendelSaisieArticle on_btn_Effacer_Saisie_clicked", [this] {
+        // A change of the focus would take away the tip that counts the letters.
+        goToFirstField();
         ui_->txt_Article->setText(QString());
         ui_->txt_Montant->setText(QString());
     });
@@ -174,7 +176,10 @@ void FormVendelSaisieArticle::search()
 
 void FormVendelSaisieArticle::on_btn_Ajouter_clicked()
 {
-    guarded("FormVendelSaisieArticle on_btn_Ajouter_clicked", [this] { add(); });
+    guarded("FormVendelSaisieArticle on_btn_Ajouter_clicked", [this] {
+        add();
+        goToFirstField();
+    });
 }
 
 void FormVendelSaisieArticle::add()
@@ -206,7 +211,7 @@ void FormVendelSaisieArticle::removeCurrent()
         notice(this, texts, noArticleToRemove);
         return;
     }
-    if (!confirm(this, texts, removalQuestion, currentCell(Name))) {
+    if (!confirm(this, texts, removalQuestion, currentCell(Name), Preset::No)) {
         return;
     }
     Articles::remove(currentCell(Id));
@@ -242,6 +247,13 @@ void FormVendelSaisieArticle::renameCurrent()
     Articles::change(currentCell(Id), article, price);
     clearList(*model_);
     Display();
+}
+
+/// The next article is typed over this one.
+void FormVendelSaisieArticle::goToFirstField()
+{
+    ui_->txt_Article->setFocus();
+    ui_->txt_Article->selectAll();
 }
 
 void FormVendelSaisieArticle::trimFields()

@@ -52,6 +52,7 @@ private:
     void add();
     void removeCurrent();
     void renameCurrent();
+    void goToFirstField();
     void trimFields();
     QString currentCell(int column) const;
 

@@ -133,7 +133,7 @@ void FormVendelSaisieStock::removeArticle()
     const QString id = textAt(*row, ArticleId);
     const QString name
         = textAt(*row, ArticleName) + QLatin1String(", ") + textAt(*row, ArticleValidity);
-    if (confirm(this, texts, removalQuestion, name) && StockArticles::remove(id)) {
+    if (confirm(this, texts, removalQuestion, name, Preset::No) && StockArticles::remove(id)) {
         Clear_List();
         Display(true);
     }

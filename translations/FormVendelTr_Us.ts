@@ -659,6 +659,12 @@ Paste</translation>
         <translation>The text could not be saved</translation>
     </message>
     <message>
+        <source>Le texte n&apos;est pas sauvegardé
+L&apos;abandonner ?</source>
+        <translation>The text is not saved
+Discard it?</translation>
+    </message>
+    <message>
         <source>La vente n&apos;est pas enregistrée
 Le ticket est gardé</source>
         <translation>The sale is not recorded

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/Application.h"
 
+#include "widgets/ButtonFrame.h"
+#include "widgets/ButtonKeys.h"
 #include "widgets/QtNames.h"
 #include "widgets/ShopTranslation.h"
 
@@ -48,4 +50,7 @@ void Application::setUp(QApplication& application)
     // The shop's translation comes second, because Qt asks the last one first.
     installQtTranslation(application);
     installShopTranslation(application);
+
+    new ButtonKeys(&application);
+    new ButtonFrame(&application);
 }

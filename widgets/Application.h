@@ -9,6 +9,7 @@ namespace Application {
 void setAttributes();
 
 /// Gives \a application the till's typeface, Qt's French texts and the translation of the working
-/// directory, "FormVendelTr_Us". A missing file is no error.
+/// directory, "FormVendelTr_Us", and its buttons their keys and the frame of the one that has the
+/// focus. A missing file is no error.
 void setUp(QApplication& application);
 } // namespace Application

@@ -16,10 +16,20 @@ void notice(
 /// Shows a notice whose \a text is composed by the caller under \a title, both translated already.
 void notice(QWidget* parent, const QString& text, const QString& title);
 
+/// The button of a question that has the focus when it opens.
+enum class Preset
+{
+    /// Qt's choice.
+    First,
+    /// For what cannot be undone: a stray key then does no harm.
+    No
+};
+
 /// Asks the composed \a text under \a title with the buttons Yes and No; returns whether the answer
 /// is Yes. A box that is sent away unanswered counts as No.
-bool confirm(QWidget* parent, const QString& text, const QString& title);
+bool confirm(
+    QWidget* parent, const QString& text, const QString& title, Preset preset = Preset::First);
 
 /// Asks the question \a message (head, tail, title) around \a name.
 bool confirm(QWidget* parent, const Texts& texts, const std::array<std::string, 3>& message,
-    const QString& name);
+    const QString& name, Preset preset = Preset::First);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/RowKeys.h"
 
+#include "widgets/HeldKey.h"
+
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QShortcut>
@@ -10,46 +12,34 @@
 #include <utility>
 
 namespace {
-/// Whether a press of a key is the keyboard's own repetition. X11 repeats a held key as a release
-/// and a press at the same time, and Qt does not always see that the two belong together.
-class HeldKey : public QObject
+/// Whether the last press of a key in a list is one that the keyboard repeats.
+class LastPress : public QObject
 {
 public:
-    HeldKey(Qt::Key key, QTableView& view)
+    LastPress(Qt::Key key, QTableView& view)
         : QObject(&view)
         , key_(key)
     {
         view.installEventFilter(this);
     }
 
-    bool isRepeating() const { return isRepeating_; }
+    bool isRepeated() const { return isRepeated_; }
 
     bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {
-        const bool isRelease = event->type() == QEvent::KeyRelease;
-        if (isRelease || event->type() == QEvent::ShortcutOverride) {
+        if (event->type() == QEvent::KeyRelease || event->type() == QEvent::ShortcutOverride) {
             const auto& key = static_cast<const QKeyEvent&>(*event);
             if (key.key() == key_) {
-                note(key.timestamp(), isRelease);
+                isRepeated_ = held_.repeats(key);
             }
         }
         return false;
     }
 
 private:
-    void note(quint64 moment, bool isRelease)
-    {
-        // No finger is up for as short as that.
-        constexpr quint64 shortestMs = 10;
-        isRepeating_ = !isRelease && moment != 0 && moment - released_ < shortestMs;
-        if (isRelease) {
-            released_ = moment;
-        }
-    }
-
     Qt::Key key_;
-    quint64 released_ = 0;
-    bool isRepeating_ = false;
+    HeldKey held_;
+    bool isRepeated_ = false;
 };
 
 /// Moves the keyboard's frame of a list that was filled again back to \a row, or to the last one;
@@ -69,11 +59,11 @@ void onKey(QTableView& view, Qt::Key key, RowAction action)
     auto* shortcut = new QShortcut(QKeySequence(key), &view);
     shortcut->setContext(Qt::WidgetShortcut);
     shortcut->setAutoRepeat(false);
-    const auto* held = new HeldKey(key, view);
+    const auto* press = new LastPress(key, view);
     QObject::connect(
-        shortcut, &QShortcut::activated, &view, [&view, held, run = std::move(action)] {
+        shortcut, &QShortcut::activated, &view, [&view, press, run = std::move(action)] {
             const QModelIndex current = view.currentIndex();
-            if (current.isValid() && !held->isRepeating()) {
+            if (current.isValid() && !press->isRepeated()) {
                 const int row = current.row();
                 const int column = current.column();
                 run(current);

@@ -7,13 +7,18 @@
 #include "tests/support/TestProgram.h"
 #include "tests/support/Widgets.h"
 #include "widgets/OpenWindow.h"
+#include "widgets/SmallScreen.h"
 
 #include <QFontInfo>
 #include <QPointer>
 #include <QScrollBar>
+#include <QShowEvent>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTextLayout>
+#include <QtTest/qtestspontaneevent.h>
+
+#include <optional>
 
 namespace {
 /// A shop with a receipt that shows what receipts have: a title, two articles, tax and a footer.
@@ -55,6 +60,13 @@ struct ShownReceipt
             block = block.next();
         }
         return block;
+    }
+
+    /// Whether the first line that begins with \a start is seen whole.
+    bool isInView(const QString& start) const
+    {
+        QTextCursor cursor(line(start));
+        return edit.viewport()->rect().contains(edit.cursorRect(cursor));
     }
 
     QFont font(const QString& start) const
@@ -174,13 +186,71 @@ private slots:
         const ShownReceipt receipt;
         QVERIFY(receipt.edit.verticalScrollBar()->isVisible());
         QVERIFY(receipt.edit.verticalScrollBar()->maximum() > 0);
-        // It is read from the top.
-        QCOMPARE(receipt.edit.verticalScrollBar()->value(), 0);
+        // Its total is at its end.
+        QCOMPARE(
+            receipt.edit.verticalScrollBar()->value(), receipt.edit.verticalScrollBar()->maximum());
+        QVERIFY(receipt.isInView("->  TOTAL"));
         for (const QString& start : {QString(line48), QString(48, '-')}) {
             QCOMPARE(receipt.line(start).layout()->lineCount(), 1);
             QVERIFY(receipt.line(start).layout()->position().x() >= 0);
             QVERIFY(right(receipt.line(start)) <= receipt.edit.viewport()->width());
         }
+    }
+
+    void aLongReceiptIsOpenedAtItsEnd_data()
+    {
+        QTest::addColumn<int>("lines");
+        QTest::addColumn<QSize>("screen");
+        QTest::newRow("forty lines") << 40 << QSize();
+        QTest::newRow("forty lines on a small screen") << 40 << QSize(400, 300);
+        QTest::newRow("more lines than Qt lays out at once") << 5000 << QSize();
+        QTest::newRow("the same on a small screen") << 5000 << QSize(400, 300);
+    }
+
+    void aLongReceiptIsOpenedAtItsEnd()
+    {
+        QFETCH(const int, lines);
+        QFETCH(const QSize, screen);
+        const TicketShop shop;
+        writeHeader(shop, QByteArray("12 rue X\n").repeated(lines));
+        std::optional<SmallScreen> small;
+        if (!screen.isEmpty()) {
+            small.emplace(qApp, screen);
+        }
+        const ShownReceipt receipt;
+        QCOMPARE(receipt.window.width() < 477, small.has_value());
+        const QScrollBar& bar = *receipt.edit.verticalScrollBar();
+        QVERIFY(bar.maximum() > lines);
+        QCOMPARE(bar.value(), bar.maximum());
+        QVERIFY(receipt.isInView("->  TOTAL"));
+        QVERIFY(receipt.isInView("              Merci"));
+        // It stays there.
+        QCoreApplication::processEvents();
+        QCOMPARE(bar.value(), bar.maximum());
+    }
+
+    void aReceiptThatFitsIsNotMoved()
+    {
+        const Shop shop;
+        putOnTicket(shop, "Eau", "1");
+        const ShownReceipt receipt;
+        QCOMPARE(receipt.edit.verticalScrollBar()->maximum(), 0);
+        QCOMPARE(receipt.edit.verticalScrollBar()->value(), 0);
+        QVERIFY(receipt.isInView("Produit"));
+        QVERIFY(receipt.isInView("->  TOTAL"));
+    }
+
+    void whoScrollsUpStaysThere()
+    {
+        const TicketShop shop;
+        writeHeader(shop, QByteArray("12 rue X\n").repeated(40));
+        ShownReceipt receipt;
+        receipt.edit.verticalScrollBar()->setValue(0);
+        // A show from the desktop, out of the task bar say.
+        QShowEvent restored;
+        QSpontaneKeyEvent::setSpontaneous(&restored);
+        qApp->notify(&receipt.window, &restored);
+        QCOMPARE(receipt.edit.verticalScrollBar()->value(), 0);
     }
 
     void nothingIsWiderThanTheWindow()

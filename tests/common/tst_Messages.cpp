@@ -153,7 +153,8 @@ struct Catalogue : Messages
         {Messages176, {"Ventes par article"}}, {Messages177, {"Remplaçant"}},
         {Messages178, {"Consommation par article"}}, {Messages179, {"MAJ TVA"}},
         {Messages180, {"MAJ Epson TM-T20II"}}, {Messages181, {"MAJ Formulaire Impression Ticket"}},
-        {Messages182, {"Numéro"}}};
+        {Messages182, {"Numéro"}},
+        {Messages183, {"Le texte n'est pas sauvegardé\nL'abandonner ?", "Sauvegarde"}}};
 };
 } // namespace
 
@@ -165,7 +166,7 @@ private slots:
     void everyTextIsShownAsItIsWritten()
     {
         const Catalogue catalogue;
-        QCOMPARE(catalogue.rows.size(), std::size_t{175});
+        QCOMPARE(catalogue.rows.size(), std::size_t{176});
         for (const Row& row : catalogue.rows) {
             QVERIFY2(row.texts == row.shown, row.shown.front().c_str());
         }

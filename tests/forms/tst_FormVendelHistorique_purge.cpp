@@ -34,6 +34,17 @@ private slots:
         QCOMPARE(history.now(), history.atFirst);
     }
 
+    void aStrayKeyKeepsTheSales()
+    {
+        ListedHistory history;
+        const AnswerBox box(QMessageBox::Yes, [](QMessageBox& question) {
+            QTest::keyClick(question.defaultButton(), Qt::Key_Return);
+        });
+        click(history.window, "btn_Clear");
+        QVERIFY(box.isQuestionOf(history.window));
+        QCOMPARE(history.now(), history.atFirst);
+    }
+
     void yesEmptiesTheListsBeforeItReports()
     {
         OpenHistory history(

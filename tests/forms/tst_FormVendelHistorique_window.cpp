@@ -114,13 +114,13 @@ private slots:
         QVERIFY(!history.window.isVisible());
     }
 
-    void tabGoesFromTheDatesToTheLists()
+    void tabGoesFromTheDatesToTheListsAndToThePurge()
     {
         OpenHistory history;
         QCOMPARE(tabOrder(history.window),
-            QStringList({"txt_First_Date", "txt_Second_Date", "btn_Del_Seizure", "rb_First_Date",
-                "btn_Show_Date", "btn_View_Historical", "btn_Total", "btn_Clear", "tableView1",
-                "tableView2", "tableView3"}));
+            QStringList({"txt_First_Date", "txt_Second_Date", "btn_View_Historical", "btn_Total",
+                "btn_Show_Date", "rb_First_Date", "tableView1", "tableView2", "tableView3",
+                "btn_Del_Seizure", "btn_Clear"}));
     }
 
     void aTranslationOfTheCatalogueChangesIt()

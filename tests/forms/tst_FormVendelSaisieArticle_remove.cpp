@@ -38,15 +38,17 @@ private slots:
         QCOMPARE(editor.names().size(), 2);
     }
 
-    void escapeKeepsTheArticle()
+    void aStrayKeyKeepsTheArticle()
     {
-        ListedMenu editor("('Cafe', 1)");
-        editor.select(0);
-        const AnswerBox box(QMessageBox::NoButton,
-            [](QMessageBox& question) { QTest::keyClick(&question, Qt::Key_Escape); });
-        click(editor.window, "btn_Supprimer");
-        QVERIFY(box.wasShown());
-        QCOMPARE(editor.stored(), QString("1 Cafe 1"));
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space}) {
+            ListedMenu editor("('Cafe', 1)");
+            editor.select(0);
+            const AnswerBox box(QMessageBox::Yes,
+                [key](QMessageBox& question) { QTest::keyClick(question.defaultButton(), key); });
+            click(editor.window, "btn_Supprimer");
+            QVERIFY(box.wasShown());
+            QCOMPARE(editor.stored(), QString("1 Cafe 1"));
+        }
     }
 
     void yesRemovesTheCurrentRowOnly()

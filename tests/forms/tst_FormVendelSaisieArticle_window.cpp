@@ -113,13 +113,14 @@ private slots:
         QCOMPARE(amountLabel.buddy(), &child<QWidget>(window, "txt_Montant"));
     }
 
-    void tabFollowsTheEye()
+    void tabFollowsTheWork()
     {
         ListedMenu editor("('Cafe', 1), ('The', 2)");
         child<QLineEdit>(editor.window, "txt_Article").setFocus();
         QCOMPARE(tabOrder(editor.window),
-            QStringList({"txt_Article", "txt_Montant", "btn_Effacer_Saisie", "btn_Afficher",
-                "btn_Ajouter", "btn_Supprimer", "btn_Renommer", "btn_Rechercher", "tableView"}));
+            QStringList(
+                {"txt_Article", "txt_Montant", "btn_Ajouter", "btn_Renommer", "btn_Rechercher",
+                    "btn_Afficher", "tableView", "btn_Effacer_Saisie", "btn_Supprimer"}));
     }
 
     void returnPressesNoButtonAndEscapeCloses()

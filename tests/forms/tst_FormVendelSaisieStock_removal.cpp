@@ -43,6 +43,18 @@ private slots:
         QCOMPARE(rowCount(at.window, "tableView2"), 1);
     }
 
+    void aStrayKeyKeepsTheArticle()
+    {
+        OpenStock at;
+        at.mark(0);
+        const AnswerBox box(QMessageBox::Yes, [](QMessageBox& question) {
+            QTest::keyClick(question.defaultButton(), Qt::Key_Return);
+        });
+        click(at.window, "btn_Remove");
+        QVERIFY(box.isQuestionOf(at.window));
+        QCOMPARE(at.articles(), QString("1,2,3"));
+    }
+
     void yesRemovesTheArticleWithItsLines()
     {
         OpenStock at;

@@ -34,21 +34,23 @@ QString focused()
     return widget != nullptr ? widget->objectName() : QString();
 }
 
-/// Presses the button that has the focus, and Return in the boxes that follow as soon as they take
+/// Presses the button that has the focus, and \a keys in the boxes that follow as soon as they take
 /// keys; what they say.
-QStringList pressButton()
+QStringList pressButton(const QList<Qt::Key>& keys = {Qt::Key_Return})
 {
     QStringList said;
     QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&said] {
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box != nullptr && box->focusWidget() != nullptr) {
             said << box->text();
-            QTest::keyClick(box->focusWidget(), Qt::Key_Return);
+            for (const Qt::Key key : keys) {
+                QTest::keyClick(box->focusWidget(), key);
+            }
         }
     });
     timer.start(1);
-    press(Qt::Key_Space);
+    press(Qt::Key_Return);
     return said;
 }
 
@@ -58,9 +60,9 @@ struct ListedArticles : OpenArticleEditor
     ListedArticles()
         : OpenArticleEditor("('Cafe', 1), ('The', 2), ('Vin', 3)")
     {
-        press(Qt::Key_Tab, 3);
-        press(Qt::Key_Space);
         press(Qt::Key_Tab, 5);
+        press(Qt::Key_Return);
+        press(Qt::Key_Tab);
     }
 };
 } // namespace
@@ -75,11 +77,33 @@ private slots:
     {
         OpenArticleEditor editor("('Cafe', 1)");
         typeArticle("Vin", "3,5");
-        press(Qt::Key_Tab, 3);
+        press(Qt::Key_Tab);
         QCOMPARE(focused(), QString("btn_Ajouter"));
-        press(Qt::Key_Space);
+        press(Qt::Key_Return);
         QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 Vin 3.5"));
         QCOMPARE(editor.names(), QStringList({"Cafe", "Vin"}));
+    }
+
+    void theNextArticleIsTypedOverTheLastOne()
+    {
+        OpenArticleEditor editor;
+        for (const char* name : {"Vin", "The"}) {
+            QCOMPARE(focused(), QString("txt_Article"));
+            typeArticle(name, "3");
+            press(Qt::Key_Tab);
+            press(Qt::Key_Enter);
+        }
+        QCOMPARE(editor.stored(), QString("1 Vin 3; 2 The 3"));
+    }
+
+    void anArticleThatIsRefusedIsTypedAgain()
+    {
+        OpenArticleEditor editor;
+        typeArticle("Vin", "trois");
+        press(Qt::Key_Tab);
+        QCOMPARE(pressButton().size(), 1);
+        QCOMPARE(editor.window.focusWidget()->objectName(), QString("txt_Article"));
+        QCOMPARE(editor.stored(), QString());
     }
 
     void anArticleIsRenamed()
@@ -87,9 +111,9 @@ private slots:
         ListedArticles editor;
         QCOMPARE(focused(), QString("tableView"));
         press(Qt::Key_Down);
-        press(Qt::Key_Tab);
+        press(Qt::Key_Tab, 3);
         typeArticle("The vert", "2,5");
-        press(Qt::Key_Tab, 5);
+        press(Qt::Key_Tab, 2);
         QCOMPARE(focused(), QString("btn_Renommer"));
         QCOMPARE(pressButton(), QStringList("Voulez-vous renommer : The ..."));
         QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The vert 2.5; 3 Vin 3"));
@@ -99,9 +123,14 @@ private slots:
     {
         ListedArticles editor;
         press(Qt::Key_Down, 2);
-        press(Qt::Key_Backtab, 3);
+        press(Qt::Key_Tab, 2);
         QCOMPARE(focused(), QString("btn_Supprimer"));
-        QCOMPARE(pressButton(), QStringList("Voulez-vous supprimer : Vin ..."));
+        const QStringList question("Voulez-vous supprimer : Vin ...");
+        QCOMPARE(pressButton(), question);
+        QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2; 3 Vin 3"));
+        editor.window.activateWindow();
+        QTRY_COMPARE(focused(), QString("btn_Supprimer"));
+        QCOMPARE(pressButton({Qt::Key_Backtab, Qt::Key_Return}), question);
         QCOMPARE(editor.stored(), QString("1 Cafe 1; 2 The 2"));
     }
 
@@ -109,7 +138,7 @@ private slots:
     {
         OpenArticleEditor editor("('Cafe', 1), ('The', 2)");
         type("th");
-        press(Qt::Key_Backtab, 2);
+        press(Qt::Key_Tab, 4);
         QCOMPARE(focused(), QString("btn_Rechercher"));
         press(Qt::Key_Space);
         QCOMPARE(editor.names(), QStringList("The"));
@@ -121,11 +150,12 @@ private slots:
     {
         OpenArticleEditor editor;
         typeArticle("Vin", "3");
-        press(Qt::Key_Tab);
+        press(Qt::Key_Backtab, 3);
         QCOMPARE(focused(), QString("btn_Effacer_Saisie"));
         press(Qt::Key_Space);
         QCOMPARE(editor.text("txt_Article"), QString());
         QCOMPARE(editor.text("txt_Montant"), QString());
+        QCOMPARE(focused(), QString("txt_Article"));
     }
 
     void aRateIsTypedOverTheOldOne()

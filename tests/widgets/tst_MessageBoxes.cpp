@@ -115,6 +115,24 @@ private slots:
         QCOMPARE(box.parent(), &window_);
     }
 
+    void noMayHaveTheFocusOfAQuestion()
+    {
+        const auto press = [](Qt::Key key, bool isComposed) {
+            const AnswerBox box(QMessageBox::Yes, [key](QMessageBox& shown) {
+                QVERIFY(shown.defaultButton() == shown.button(QMessageBox::No));
+                QVERIFY(shown.focusWidget() == shown.defaultButton());
+                QTest::keyClick(shown.defaultButton(), key);
+            });
+            QWidget window;
+            return isComposed ? confirm(&window, "Purger ?", "Purger", Preset::No)
+                              : confirm(&window, texts, Messages::Messages16, "Thé", Preset::No);
+        };
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            QVERIFY(!press(key, true));
+            QVERIFY(!press(key, false));
+        }
+    }
+
     void aQuestionStandsAroundTheName_data()
     {
         QTest::addColumn<QString>("said");

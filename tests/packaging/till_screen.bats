@@ -1,0 +1,81 @@
+#!/usr/bin/env bats
+# SPDX-License-Identifier: MIT
+# The till's windows as a window manager treats them, with a real mouse and real keys.
+# shellcheck disable=SC2154
+
+load support
+load screen
+
+setup() {
+    shop=$BATS_TEST_TMPDIR/shop
+    sample_shop "$shop"
+    cd "$shop" || return
+    open_screen
+    manage_screen
+    background "$VENDEL_BUILD/vendel"
+    within is_shown Vendel
+    within is_shown Dialog
+}
+
+teardown() {
+    close_screen
+}
+
+# stack: the names of all windows, from the lowest to the highest.
+stack() {
+    local id
+    for id in $(xprop -root _NET_CLIENT_LIST_STACKING | grep -o '0x[0-9a-f]*'); do
+        xdotool getwindowname "$id"
+    done | paste -sd ' '
+}
+
+is_stacked() { [ "$(stack)" = "$1" ]; }
+
+# go_to_the_amount: the sales screen once its splash is sent away.
+go_to_the_amount() {
+    within is_active Dialog
+    xdotool key Escape
+    within is_active Vendel
+}
+
+# records COUNT TABLE: whether the table has as many rows.
+records() { [ "$(sql Vendel.db "select count(*) from $2")" = "$1" ]; }
+
+@test "a click beside the splash leaves it above the sales screen, and below other programs" {
+    within is_stacked 'Vendel Dialog'
+    background xev -name Another -geometry 400x300+0+0
+    within is_shown Another
+    xdotool search --name '^Another$' windowactivate
+    within is_stacked "Vendel Dialog Another"
+    xdotool mousemove 300 680 click 1
+    within is_stacked "Another Vendel Dialog"
+    within is_gone Dialog
+}
+
+@test "a sale needs no mouse" {
+    go_to_the_amount
+    sold=$(sql Vendel.db "select count(*) from Historique")
+    xdotool type --delay 20 '2,5'
+    xdotool key Tab Return
+    within records 1 Ticket
+    xdotool key Tab Tab Return Tab Return
+    within is_shown 'Impression Ticket'
+    records "$((sold + 1))" Historique
+    within is_active 'Impression Ticket'
+    xdotool key Escape
+    within is_gone 'Impression Ticket'
+    within is_active Vendel
+    # The amount is still there, "Payer" has the focus: back to "+".
+    xdotool key shift+Tab shift+Tab shift+Tab Return
+    within records 1 Ticket
+}
+
+@test "the sales screen offers to be minimized and closed, but not maximized" {
+    window=$(xdotool search --onlyvisible --name '^Vendel$')
+    actions=$(xprop -id "$window" _NET_WM_ALLOWED_ACTIONS)
+    grep -q _NET_WM_ACTION_MINIMIZE <<<"$actions"
+    grep -q _NET_WM_ACTION_CLOSE <<<"$actions"
+    [[ $actions != *MAXIMIZE* ]]
+    # Functions: resize, move, minimize and close; decorations: border, handle, title, menu, minimize.
+    xprop -id "$window" _MOTIF_WM_HINTS | grep -qF '= 0x3, 0x2e, 0x3e, 0x0, 0x0'
+}
