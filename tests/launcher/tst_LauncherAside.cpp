@@ -3,8 +3,6 @@
 #include "tests/launcher/ShopFolder.h"
 #include "tests/support/TestProgram.h"
 
-#include <QElapsedTimer>
-
 #include <csignal>
 #include <stdexcept>
 
@@ -26,15 +24,11 @@ private slots:
     void whatHangsIsGivenUp()
     {
         const Aside aside;
-        QElapsedTimer time;
-        time.start();
         const auto answer = aside.run(0.05, [] {
             pause();
             return std::string("late");
         });
         QVERIFY(!answer);
-        QVERIFY(time.elapsed() >= 50);
-        QVERIFY(time.elapsed() < 5000);
         QCOMPARE(waitpid(-1, nullptr, WNOHANG), pid_t(-1));
     }
 

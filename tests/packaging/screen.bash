@@ -4,7 +4,8 @@
 
 # open_screen: a screen without a window manager, and nothing on it yet.
 open_screen() {
-    exec {screen}< <(exec Xvfb -displayfd 1 -screen 0 1366x768x24 -nolisten tcp 2>/dev/null 3>&-)
+    # One that began anew when its last client leaves would cut off whoever comes meanwhile.
+    exec {screen}< <(exec Xvfb -displayfd 1 -screen 0 1366x768x24 -noreset -nolisten tcp 2>/dev/null 3>&-)
     xvfb=$!
     read -r number <&"$screen"
     export DISPLAY=:$number
