@@ -42,7 +42,7 @@ void harden(sqlite3* connection)
 {
     constexpr int longestSql = 100000;
     constexpr int longestText = 16 * 1024 * 1024;
-    constexpr sqlite3_int64 mostMemory = 64 * 1024 * 1024;
+    constexpr sqlite3_int64 mostMemory = 67108864;
     constexpr std::pair<int, int> settings[]{
         {SQLITE_DBCONFIG_DEFENSIVE, 1},
         {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},

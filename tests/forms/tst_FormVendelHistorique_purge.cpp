@@ -3,6 +3,8 @@
 #include "tests/support/AnswerBox.h"
 #include "tests/support/TestProgram.h"
 
+#include <QPushButton>
+
 namespace {
 /// Purges what is asked for. Returns each box, behind the number of sales, days and groups that
 /// are listed under it.

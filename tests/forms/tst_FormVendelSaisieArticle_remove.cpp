@@ -5,6 +5,8 @@
 #include "tests/support/Captured.h"
 #include "tests/support/TestProgram.h"
 
+#include <QPushButton>
+
 class TestFormVendelSaisieArticleRemove : public QObject
 {
     Q_OBJECT

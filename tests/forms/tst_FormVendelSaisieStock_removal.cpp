@@ -5,6 +5,8 @@
 #include "tests/support/ListLook.h"
 #include "tests/support/TestProgram.h"
 
+#include <QPushButton>
+
 /// Removing articles and lines of recipes in the stock editor.
 class TestFormVendelSaisieStockRemoval : public QObject
 {

@@ -26,7 +26,7 @@ AnswerBox AnswerBox::agreeing(Look look) { return {QMessageBox::Yes, std::move(l
 void AnswerBox::watch()
 {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr || !box->isVisible()) {
+    if (isLooking_ || box == nullptr || !box->isVisible()) {
         return;
     }
     titles_ << box->windowTitle();
@@ -42,7 +42,9 @@ void AnswerBox::watch()
     icon_ = box->icon();
     buttons_ = box->standardButtons();
     parent_ = box->parent();
+    isLooking_ = true;
     look_(*box);
+    isLooking_ = false;
     if (!box->isVisible()) {
         return;
     }

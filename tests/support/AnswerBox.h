@@ -58,6 +58,8 @@ private:
     bool agrees_ = false;
     QTimer timer_;
     int shown_ = 0;
+    /// A look may wait for something.
+    bool isLooking_ = false;
     QString title_;
     QString text_;
     QStringList titles_;

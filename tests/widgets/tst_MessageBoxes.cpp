@@ -42,6 +42,7 @@ private slots:
     void aScreenReaderHasANameForANoticeAndItsButton()
     {
         const AnswerBox box(QMessageBox::Ok, [](QMessageBox& shown) {
+            QVERIFY(QTest::qWaitForWindowActive(&shown));
             QCOMPARE(namelessControls(shown), QStringList());
             QCOMPARE(spokenName(shown), QString("+/-"));
             QCOMPARE(spokenName(*shown.button(QMessageBox::Ok)), QString("OK"));
@@ -54,6 +55,7 @@ private slots:
     void aScreenReaderHasANameForAQuestionAndItsButtons()
     {
         const AnswerBox box(QMessageBox::No, [](QMessageBox& shown) {
+            QVERIFY(QTest::qWaitForWindowActive(&shown));
             QCOMPARE(namelessControls(shown), QStringList());
             QCOMPARE(ambiguousNames(shown), QStringList());
             QCOMPARE(spokenName(*shown.button(QMessageBox::Yes)), QString("Oui"));
