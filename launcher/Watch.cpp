@@ -327,5 +327,9 @@ void Watch::makeLastCopy()
     await(carrying_);
     if (carrying_.isUnderWay()) {
         carryingEnded(neverEnded);
+        return;
     }
+    // What was under way may have been an earlier copy.
+    startCarrying();
+    await(carrying_);
 }

@@ -301,6 +301,19 @@ private slots:
         QCOMPARE(ShopFolder::names("copies", "Vendel-*").size(), 1);
     }
 
+    void theLastCopyFollowsOneThatWasStillUnderWay()
+    {
+        const QTemporaryDir stick;
+        const WatchedShop shop(sale);
+        SecondPlace(shop.get()).remember(stick.path().toStdString(), {"2026-03-05", "120000"});
+        Copies(shop.get()).make({"2026-03-05", "120000"}, Backup::Pace::Full);
+        shop.watch();
+        QStringList made = ShopFolder::names("copies", "Vendel-*");
+        QCOMPARE(made.size(), 2);
+        made.removeOne(QString("Vendel-2026-03-05.db"));
+        QVERIFY(QDir(stick.path()).exists(made.constFirst()));
+    }
+
     void eachCopyReachesTheSecondPlace()
     {
         const QTemporaryDir stick;
