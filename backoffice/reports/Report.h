@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backoffice/sales/SalesSource.h"
+
+#include <QLocale>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+#include <vector>
+
+/// What a column's cells are, and so how they are written and aligned. A cell without a value is an
+/// invalid QVariant.
+enum class CellKind
+{
+    /// QString.
+    Text,
+    /// QDate.
+    Day,
+    /// QDate, of which only month and year count.
+    Month,
+    /// int, an hour from 0 to 23.
+    Hour,
+    /// qint64.
+    Count,
+    /// qint64, an Amount.
+    Money,
+    /// double, 12.5 for 12.5 %.
+    Percent,
+    /// double.
+    Quantity
+};
+
+struct Column
+{
+    QString title;
+    CellKind kind = CellKind::Text;
+};
+
+/// Figures in rows and columns, for the screen, paper and a spreadsheet alike.
+struct Table
+{
+    QString title;
+    std::vector<Column> columns;
+    std::vector<std::vector<QVariant>> rows;
+};
+
+/// One figure that is shown by itself.
+struct KeyFigure
+{
+    QString title;
+    QVariant value;
+    CellKind kind = CellKind::Text;
+    /// Is shown behind the value: a day's takings behind the best day.
+    QString remark;
+};
+
+/// Bars, and beside them a line to compare them with; an empty line is none. All have a value for
+/// each category.
+struct BarChart
+{
+    QString title;
+    /// Under the axis, as short as they have to be.
+    std::vector<QString> categories;
+    /// Under the mouse: the category in full.
+    std::vector<QString> categoryNames;
+    struct Values
+    {
+        QString name;
+        std::vector<double> values;
+    };
+    /// Several are drawn side by side.
+    std::vector<Values> bars;
+    std::optional<Values> line;
+    CellKind kind = CellKind::Money;
+    /// Lying bars suit long names.
+    bool isHorizontal = false;
+};
+
+/// A field of cells, darker where there is more.
+struct HeatMap
+{
+    QString title;
+    std::vector<QString> rows;
+    std::vector<QString> columns;
+    /// One for each row and column, row by row.
+    std::vector<double> values;
+    CellKind kind = CellKind::Money;
+};
+
+/// One page of the back office: what the window shows, what is printed and what is written to
+/// files.
+struct Report
+{
+    QString title;
+    /// The period in words, and what else the reader has to know.
+    QString subtitle;
+    std::vector<KeyFigure> figures;
+    std::vector<BarChart> charts;
+    std::optional<HeatMap> heatMap;
+    /// The first is the one that a CSV file gets.
+    std::vector<Table> tables;
+    /// Under everything else.
+    std::vector<QString> notes;
+};
+
+/// The pages.
+enum class Page
+{
+    Sales,
+    Articles,
+    Hours,
+    Uses,
+    Closing
+};
+
+/// What a page is to be about.
+struct ReportOrder
+{
+    Page page = Page::Sales;
+    DayRange range;
+    /// In per cent; the configured one if there is none.
+    std::optional<double> taxRate;
+    enum class Ranking
+    {
+        Takings,
+        Lines
+    };
+    /// What makes an article the best.
+    Ranking ranking = Ranking::Takings;
+    /// Days after this one have not happened yet.
+    QDate today;
+    /// Writes the dates, weekdays and numbers in titles, notes and categories.
+    QLocale locale;
+};
+
+/// Reads from \a source what \a order asks for. The closing is about the last day of the range.
+/// Throws SalesError and ReadingStopped.
+Report makeReport(const ReportOrder& order, SalesSource& source, const Reading& reading);
