@@ -13,7 +13,7 @@ set(may_app "app|forms|widgets|store|common|Print|base|ui_")
 set(may_demo "demo|store")
 # Of the printer, the launcher only looks whether it is there.
 set(may_launcher "launcher|base|sqlite3|Print/escpospp/PrinterBus.h")
-set(may_backoffice "backoffice|launcher|store|common|base|csv")
+set(may_backoffice "backoffice|launcher|store|common|base|csv|widgets/QtNames.h")
 set(may_bench "backoffice|bench|base|launcher|app|forms|widgets|store|common|db|Print|sqlite3")
 
 # Tests may include what their folder may, and what tests share.
