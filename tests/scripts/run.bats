@@ -40,6 +40,8 @@ make_build() {
         exit ${TILL_STATUS-0}')" "$tree/build/release/packaging/vendel"
     mv "$(stub_at vendel-demo 'mkdir -p "$1"; echo shop >"$1/Vendel.db"')" \
         "$tree/build/release/demo/vendel-demo"
+    mv "$(stub_at vendel-gestion 'echo "back office $XDG_DATA_HOME" >>"$calls"')" \
+        "$tree/build/release/vendel-gestion"
 }
 
 stub_at() {
@@ -69,13 +71,13 @@ stub_at() {
     run "$run_sh" --fast
     [ "$status" -eq 2 ]
     [ "${lines[0]}" = 'run.sh: unknown option "--fast"' ]
-    [ "${lines[1]}" = "usage: scripts/run.sh [--demo]" ]
+    [ "${lines[1]}" = "usage: scripts/run.sh [--demo] [--gestion]" ]
 }
 
 @test "help is no error" {
     run "$run_sh" --help
     [ "$status" -eq 0 ]
-    [ "${lines[0]}" = "usage: scripts/run.sh [--demo]" ]
+    [ "${lines[0]}" = "usage: scripts/run.sh [--demo] [--gestion]" ]
 }
 
 @test "the launcher starts the till in the user's data directory" {
@@ -103,10 +105,22 @@ stub_at() {
     [ ! -e "$till_data" ]
 }
 
+@test "the back office starts in place of the till, in the shop or in the sample shop" {
+    run "$run_sh" --gestion
+    [ "$status" -eq 0 ]
+    [ "${lines[-1]}" = "Starting the back office; its data is in $till_data" ]
+    called "back office $XDG_DATA_HOME"
+    not_called "data $XDG_DATA_HOME"
+    run "$run_sh" --demo --gestion
+    [ "${lines[-1]}" = "Starting the back office in a throw-away copy of the sample shop" ]
+    called "back office $TMPDIR/"
+    [ -z "$(ls "$TMPDIR")" ]
+}
+
 @test "the first build leaves the tests out, a prepared one is left as it is" {
     run "$run_sh"
     called "cmake --preset release -DVENDEL_TESTS=OFF"
-    called "--target vendel vendel-launcher vendel-dialogue vendel-artwork vendel-translation vendel-demo"
+    called "--target vendel vendel-launcher vendel-dialogue vendel-artwork vendel-translation vendel-demo vendel-gestion"
     : >"$calls"
     run "$run_sh"
     not_called "--preset release -D"
