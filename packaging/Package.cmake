@@ -25,6 +25,9 @@ It keeps the history of sales, and computes the stock consumed from the
 recipes of what was sold. Its launcher keeps a checked copy of the data for
 each day.
 
+Its back office shows the sales by hour, day, month and article, writes them
+for the accountant, and takes over a menu from a spreadsheet.
+
 The screen is French, or English. It suits screens of 1280 x 720 pixels and
 more; smaller ones show the windows smaller.")
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
@@ -45,5 +48,5 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/postinst)
 # Read or run by name, and so not found among the libraries.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-  "fonts-crosextra-carlito, fonts-inconsolata, qttranslations5-l10n, xdg-utils")
+  "fonts-crosextra-carlito, fonts-inconsolata, libqt5sql5-sqlite, qttranslations5-l10n, xdg-utils")
 include(CPack)

@@ -23,9 +23,11 @@ size() {
     lib=$(cd "$tree" && dirname "$(find . -path '*/vendel/vendel')")
     [ "$output" = "$(LC_ALL=C sort <<FILES
 ./bin/vendel
+./bin/vendel-gestion
 $lib/vendel
 $lib/vendel-dialogue
 ./lib/udev/rules.d/60-vendel.rules
+./share/applications/vendel-gestion.desktop
 ./share/applications/vendel.desktop
 ./share/doc/vendel/guide.fr.html
 ./share/doc/vendel/images/about.png
@@ -54,16 +56,27 @@ $lib/vendel-dialogue
 ./share/doc/vendel/images/stock.png
 ./share/doc/vendel/images/total-without-tax.png
 ./share/doc/vendel/images/total.png
+./share/icons/hicolor/128x128/apps/vendel-gestion.png
 ./share/icons/hicolor/128x128/apps/vendel.png
+./share/icons/hicolor/16x16/apps/vendel-gestion.png
 ./share/icons/hicolor/16x16/apps/vendel.png
+./share/icons/hicolor/22x22/apps/vendel-gestion.png
 ./share/icons/hicolor/22x22/apps/vendel.png
+./share/icons/hicolor/24x24/apps/vendel-gestion.png
 ./share/icons/hicolor/24x24/apps/vendel.png
+./share/icons/hicolor/256x256/apps/vendel-gestion.png
 ./share/icons/hicolor/256x256/apps/vendel.png
+./share/icons/hicolor/32x32/apps/vendel-gestion.png
 ./share/icons/hicolor/32x32/apps/vendel.png
+./share/icons/hicolor/48x48/apps/vendel-gestion.png
 ./share/icons/hicolor/48x48/apps/vendel.png
+./share/icons/hicolor/64x64/apps/vendel-gestion.png
 ./share/icons/hicolor/64x64/apps/vendel.png
+./share/icons/hicolor/scalable/apps/vendel-gestion.svg
 ./share/icons/hicolor/scalable/apps/vendel.svg
+./share/man/fr/man1/vendel-gestion.1.gz
 ./share/man/fr/man1/vendel.1.gz
+./share/man/man1/vendel-gestion.1.gz
 ./share/man/man1/vendel.1.gz
 ./share/metainfo/io.vendel.vendel.metainfo.xml
 ./share/vendel/AproposdeImage.png
@@ -75,7 +88,7 @@ FILES
 }
 
 @test "icons and pictures have their sizes" {
-    for icon in "$tree"/share/icons/hicolor/*/apps/vendel.png; do
+    for icon in "$tree"/share/icons/hicolor/*/apps/vendel*.png; do
         side=$(basename "$(dirname "$(dirname "$icon")")")
         [ "$(size "$icon")" = "${side%x*} ${side#*x}" ]
     done
@@ -84,27 +97,28 @@ FILES
 }
 
 @test "desktop-file-validate is content" {
-    run desktop-file-validate "$tree/share/applications/vendel.desktop"
+    run desktop-file-validate "$tree"/share/applications/*.desktop
     [ "$status" -eq 0 ]
     [ -z "$output" ]
 }
 
-@test "every name and comment of the desktop entry is there in French and English" {
-    entry=$tree/share/applications/vendel.desktop
-    for key in Name GenericName Comment Keywords; do
-        count=$(grep -c "^$key=" "$entry")
-        [ "$count" -ge 1 ]
-        [ "$(grep -c "^$key\[en\]=" "$entry")" -eq "$count" ]
-        [ "$(grep -c "^$key\[fr\]=" "$entry")" -eq "$count" ]
+@test "every name and comment of the desktop entries is there in French and English" {
+    for entry in "$tree"/share/applications/*.desktop; do
+        for key in Name GenericName Comment Keywords; do
+            count=$(grep -c "^$key=" "$entry")
+            [ "$count" -ge 1 ]
+            [ "$(grep -c "^$key\[en\]=" "$entry")" -eq "$count" ]
+            [ "$(grep -c "^$key\[fr\]=" "$entry")" -eq "$count" ]
+        done
     done
 }
 
-@test "the desktop entry calls the launcher with options that it knows" {
+@test "the desktop entries call the programs with options that they know" {
     export HOME=$BATS_TEST_TMPDIR
     while read -r -a command; do
         run "$tree/bin/${command[0]}" "${command[@]:1}" --version
         [ "$status" -eq 0 ]
-    done < <(sed -n 's/^Exec=//p' "$tree/share/applications/vendel.desktop")
+    done < <(sed -n 's/^Exec=//p' "$tree"/share/applications/*.desktop)
 }
 
 @test "appstreamcli is content" {
@@ -118,14 +132,34 @@ FILES
         "$tree/share/metainfo/io.vendel.vendel.metainfo.xml"
 }
 
-@test "man is content with both pages" {
-    for page in man1 fr/man1; do
-        MANROFFSEQ='' MANWIDTH=80 run man --warnings -E UTF-8 -l -Tutf8 -Z \
-            "$tree/share/man/$page/vendel.1.gz"
+@test "man is content with all pages" {
+    for page in "$tree"/share/man/{man1,fr/man1}/*.1.gz; do
+        MANROFFSEQ='' MANWIDTH=80 run man --warnings -E UTF-8 -l -Tutf8 -Z "$page"
         [ "$status" -eq 0 ]
-        [ -z "$(MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z \
-            "$tree/share/man/$page/vendel.1.gz" 2>&1 >/dev/null)" ]
+        [ -z "$(MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$page" \
+            2>&1 >/dev/null)" ]
     done
+}
+
+@test "each option of the back office is in both man pages, and in its help" {
+    export HOME=$BATS_TEST_TMPDIR
+    help=$("$tree/bin/vendel-gestion" --help)
+    for page in man1 fr/man1; do
+        text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel-gestion.1.gz")
+        for option in --dossier --langue --ventes --articles --heures --consommation --cloture --du --au \
+            --taux --csv-format --csv --pdf --png --aide --version; do
+            grep -q -e "$option" <<<"$text"
+            grep -q -e "$option" <<<"$help"
+        done
+    done
+}
+
+@test "only the back office has Qt Charts, whose licence is another" {
+    for program in "$tree/bin/vendel" "$tree"/lib*/vendel/vendel{,-dialogue} \
+        "$tree"/lib/*/vendel/vendel{,-dialogue}; do
+        [ ! -e "$program" ] || ! ldd "$program" | grep -q Charts
+    done
+    ldd "$tree/bin/vendel-gestion" | grep -q Charts
 }
 
 @test "each option of the launcher is in both man pages" {
