@@ -127,6 +127,17 @@ grep -q 'déjà ouverte' "$work/second.log" || fail "the second till said someth
 [ "$("${as_shop[@]}" env -u DISPLAY vendel --guide 2>/dev/null)" = /usr/share/doc/vendel/guide.fr.html ] \
     || fail "the guide is not there"
 
+echo "Looking at its sales"
+"${as_shop[@]}" env -u DISPLAY vendel-gestion --ventes --du 2026-01-01 --au 2026-01-31 --csv - \
+    >"$work/sales.csv" || fail "the back office reads no sales"
+[ "$(wc -l <"$work/sales.csv")" = 32 ] || fail "the back office wrote something else"
+"${as_shop[@]}" vendel-gestion >"$work/gestion.log" 2>&1 &
+second=$!
+shows "$second" "$work/gestion.log" "the back office" --name '^Vendel – Gestion$'
+kill "$second"
+wait "$second" || true
+second=
+
 echo "Closing it and putting its copy back"
 kill "$till"
 wait "$till" || true
