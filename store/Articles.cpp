@@ -45,8 +45,18 @@ std::vector<Article> Articles::like(const QString& term)
 
 void Articles::add(const QString& name, const QString& price)
 {
-    Rows::load(QLatin1String("insert into Article (article, prix) values (") + Rows::quoted(name)
-        + QLatin1String(", ") + price + QLatin1Char(')'));
+    Rows::load(adding(name, price));
+}
+
+QString Articles::adding(const QString& name, const QString& price)
+{
+    return QLatin1String("insert into Article (article, prix) values (") + Rows::quoted(name)
+        + QLatin1String(", ") + price + QLatin1Char(')');
+}
+
+QString Articles::pricing(const QString& id, const QString& price)
+{
+    return QLatin1String("update Article set prix = ") + price + QLatin1String(" where id = ") + id;
 }
 
 void Articles::change(const QString& id, const QString& name, const QString& price)
