@@ -65,8 +65,8 @@ struct BarChart
     std::vector<QString> categories;
     /// Under the mouse: the category in full.
     std::vector<QString> categoryNames;
-    /// Values as the cells of the kind are: money is an Amount. Where the line has no value, because
-    /// the period before has no such day, it is not a number.
+    /// Values as the cells of the kind are: money is an Amount. Where the line has no value,
+    /// because the period before has no such day, it is not a number.
     struct Values
     {
         QString name;
