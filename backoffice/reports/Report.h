@@ -103,6 +103,8 @@ struct Report
     std::vector<Table> tables;
     /// Under everything else.
     std::vector<QString> notes;
+    /// On paper it has one sheet, as small as it has to be written.
+    bool isOnePage = false;
 };
 
 /// The pages.
