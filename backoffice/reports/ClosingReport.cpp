@@ -143,5 +143,6 @@ Report Pages::closing(const ReportOrder& order, SalesSource& source, const Readi
     report.figures = figures(day, order.taxRate ? *order.taxRate : source.taxRate(), order.locale);
     addTables(report, day);
     report.notes = notes();
+    report.isOnePage = true;
     return report;
 }

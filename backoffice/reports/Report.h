@@ -107,6 +107,8 @@ struct Report
     std::optional<Table> whole;
     /// Under everything else.
     std::vector<QString> notes;
+    /// On paper it has one sheet, as small as it has to be written.
+    bool isOnePage = false;
 
     /// The table for a CSV file.
     const Table& file() const { return whole ? *whole : tables.front(); }
