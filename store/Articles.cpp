@@ -43,10 +43,7 @@ std::vector<Article> Articles::like(const QString& term)
         + QLatin1String(" order by article asc")));
 }
 
-void Articles::add(const QString& name, const QString& price)
-{
-    Rows::load(adding(name, price));
-}
+void Articles::add(const QString& name, const QString& price) { Rows::load(adding(name, price)); }
 
 QString Articles::adding(const QString& name, const QString& price)
 {

@@ -22,8 +22,7 @@ QString contents(Snapshot::Part part)
 
 std::optional<Snapshot> Snapshot::of(Part part)
 {
-    const QLatin1String lines(
-        part == Part::Menu ? "" : " + (select count(*) from DoseStock)");
+    const QLatin1String lines(part == Part::Menu ? "" : " + (select count(*) from DoseStock)");
     const DbRows rows = Rows::load(QLatin1String("select (select count(*) from Article)") + lines
         + QLatin1String(", ") + contents(part));
     if (rows.empty()) {
@@ -42,7 +41,8 @@ Snapshot::Snapshot(Part part, std::size_t rows, QString text)
 std::string Snapshot::requireUnchanged() const
 {
     // An article has a name: without one, SQLite refuses the row that a change would add.
-    const QString statement = QLatin1String("insert into Article (article, prix) select null, 0 where ")
+    const QString statement
+        = QLatin1String("insert into Article (article, prix) select null, 0 where ")
         + contents(part_) + QLatin1String(" <> ") + Rows::quoted(text_);
     return statement.toStdString();
 }
