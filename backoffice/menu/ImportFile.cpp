@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 struct Sentences
@@ -63,19 +64,35 @@ std::size_t fit(const QByteArray& text, char separator, ImportKind kind)
     }
 }
 
+/// Whether \a separator is in the first record of \a text at all.
+bool parts(const QByteArray& text, char separator)
+{
+    try {
+        return CsvRows::of(text, separator, 1).at(0).fields.size() > 1;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
 /// The separator of \a text. Where several fit, a comma is the decimal mark and not the separator.
 char separatorOf(const QByteArray& text, ImportKind kind)
 {
-    char best = ';';
+    constexpr std::array<char, 3> separators{';', '\t', ','};
+    const char* best = nullptr;
     std::size_t mostFitting = 0;
-    for (const char separator : {';', '\t', ','}) {
+    for (const char& separator : separators) {
         const std::size_t fitting = fit(text, separator, kind);
         if (fitting > mostFitting) {
             mostFitting = fitting;
-            best = separator;
+            best = &separator;
         }
     }
-    return best;
+    if (best != nullptr) {
+        return *best;
+    }
+    const auto* const found = std::find_if(separators.begin(), separators.end(),
+        [&](char separator) { return parts(text, separator); });
+    return found == separators.end() ? separators.front() : *found;
 }
 
 /// Takes off the line by which spreadsheets agree on a separator, which comes first.

@@ -112,11 +112,11 @@ std::optional<QString> Plans::numberFault(const ImportLine& line, const QString&
     case WrittenNumber::Kind::TwoMeanings:
         return Sentences::tr("%1 : mille ou virgule ? Écrivez deux décimales").arg(column);
     case WrittenNumber::Kind::TooLong:
-        return Sentences::tr("%1 : trop de chiffres").arg(column);
+        return Sentences::tr("%1 : trop de chiffres").arg(column);
     case WrittenNumber::Kind::None:
         break;
     }
-    return Sentences::tr("%1 : pas un nombre").arg(column);
+    return Sentences::tr("%1 : pas un nombre").arg(column);
 }
 
 std::optional<QString> Plans::widthFault(const ImportLine& line)
