@@ -66,7 +66,7 @@ private slots:
                          "Café;Sel;-1;g\n"
                          "Thé;Miel;3;g\n"
                          "Thé;Eau;20;l\n"
-                         "Thé;Eau;20;cl;x\n"),
+                         "Thé;Lait;20;cl;x\n"),
             (QStringList{"2 refused L'article n'est pas sur le menu",
                 "3 refused L'article est plusieurs fois sur le menu",
                 "4 refused Pas de composition", "5 refused Dose\u00a0: pas un nombre",
