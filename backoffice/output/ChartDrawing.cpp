@@ -103,6 +103,9 @@ void ChartDrawing::addLine()
     double x = 0;
     for (const double value : chart_.line->values) {
         const QPointF point(x++, drawn(value, chart_.kind));
+        if (std::isnan(value)) {
+            continue;
+        }
         line->append(point);
         points->append(point);
     }
@@ -268,6 +271,9 @@ QString ChartDrawing::tip(QPointF point) const
     QStringList lines{
         chart_.categoryNames.size() > at ? chart_.categoryNames.at(at) : chart_.categories.at(at)};
     const auto add = [&](const BarChart::Values& values) {
+        if (std::isnan(values.values.at(at))) {
+            return;
+        }
         const QString value = formatDrawn(values.values.at(at), chart_.kind, locale_);
         lines += values.name.isEmpty() ? value : tr("%1\u00a0: %2").arg(values.name, value);
     };
