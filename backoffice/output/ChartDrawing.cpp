@@ -60,6 +60,10 @@ ChartDrawing::ChartDrawing(BarChart chart, const QLocale& locale, const Ink& ink
     legend()->setFont(ink_.font);
     legend()->setLabelColor(ink_.text);
     legend()->setVisible(chart_.bars.size() + (chart_.line ? 1 : 0) > 1);
+    if (chart_.categories.empty()) {
+        setTitle(chart_.title + QLatin1Char('\n') + tr("Aucune vente"));
+        return;
+    }
     addBars();
     addLine();
     addAxes();
