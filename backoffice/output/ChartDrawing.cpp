@@ -103,11 +103,11 @@ void ChartDrawing::addLine()
     double x = 0;
     for (const double value : chart_.line->values) {
         const QPointF point(x++, drawn(value, chart_.kind));
-        // A day that the period before does not have leaves a gap.
-        if (!std::isnan(value)) {
-            line->append(point);
-            points->append(point);
+        if (std::isnan(value)) {
+            continue;
         }
+        line->append(point);
+        points->append(point);
     }
     constexpr double width = 1.6;
     line->setPen(QPen(ink_.line(), width, Qt::DashLine));
