@@ -115,6 +115,12 @@ void Session::say(const QString& sentence)
     std::cerr << "vendel-gestion: " << plainText(sentence.toStdString(), longest) << '\n';
 }
 
+CsvFormat Session::csvFormat() const
+{
+    const QLocale system = QLocale::system();
+    return CsvFormat::of(system.language() == QLocale::C ? locale_ : system);
+}
+
 QString Session::noHome()
 {
     return Text::tr("Aucun dossier personnel n'est connu pour les données de la caisse : "

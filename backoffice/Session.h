@@ -27,6 +27,8 @@ public:
     const QString& folder() const { return folder_; }
     /// How dates and numbers are written: as on the system, if it speaks the program's language.
     const QLocale& locale() const { return locale_; }
+    /// What the system's spreadsheets expect, whatever language the program speaks.
+    CsvFormat csvFormat() const;
 
     static QString noHome();
     QString usage() const;

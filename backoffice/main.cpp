@@ -35,17 +35,17 @@ int fail(int status, const QString& sentence)
     return status;
 }
 
-QByteArray fileOf(const Order& order, const Report& report, const QLocale& locale)
+QByteArray fileOf(const Order& order, const Report& report, const Session& session)
 {
     switch (order.kind) {
     case Order::Kind::Pdf:
-        return pdf(report, locale);
+        return pdf(report, session.locale());
     case Order::Kind::Png:
-        return png(report, locale);
+        return png(report, session.locale());
     case Order::Kind::Csv:
         break;
     }
-    return csv(report.file(), order.csvFormat.value_or(CsvFormat::of(QLocale::system())));
+    return csv(report.file(), order.csvFormat.value_or(session.csvFormat()));
 }
 
 int writeFile(const Order& order, const Session& session)
@@ -58,7 +58,7 @@ int writeFile(const Order& order, const Session& session)
     wanted.today = QDate::currentDate();
     wanted.locale = session.locale();
     const Report report = makeReport(wanted, source, {});
-    OutputFile::write(order.file, fileOf(order, report, session.locale()));
+    OutputFile::write(order.file, fileOf(order, report, session));
     return 0;
 }
 
