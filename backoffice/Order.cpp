@@ -8,31 +8,30 @@
 
 namespace {
 namespace Mistakes {
-constexpr const char* unknown
-    = QT_TRANSLATE_NOOP("BadOrder", "L'option « %1 » n'existe pas.");
-constexpr const char* noValue = QT_TRANSLATE_NOOP("BadOrder", "L'option « %1 » attend une valeur.");
+constexpr const char* unknown = QT_TRANSLATE_NOOP("BadOrder", "L'option « %1 » n'existe pas.");
+constexpr const char* noValue = QT_TRANSLATE_NOOP("BadOrder", "L'option « %1 » attend une valeur.");
 constexpr const char* needlessValue
-    = QT_TRANSLATE_NOOP("BadOrder", "L'option « %1 » n'attend pas de valeur.");
-constexpr const char* noDate = QT_TRANSLATE_NOOP(
-    "BadOrder", "« %1 » n'est pas une date : elle s'écrit comme 2026-11-30.");
+    = QT_TRANSLATE_NOOP("BadOrder", "L'option « %1 » n'attend pas de valeur.");
+constexpr const char* noDate
+    = QT_TRANSLATE_NOOP("BadOrder", "« %1 » n'est pas une date : elle s'écrit comme 2026-11-30.");
 constexpr const char* wrongOrder
     = QT_TRANSLATE_NOOP("BadOrder", "Le premier jour demandé est après le dernier, %1.");
 constexpr const char* noRate
-    = QT_TRANSLATE_NOOP("BadOrder", "« %1 » n'est pas un taux de 0 à 100 pour cent.");
+    = QT_TRANSLATE_NOOP("BadOrder", "« %1 » n'est pas un taux de 0 à 100 pour cent.");
 constexpr const char* noLanguage = QT_TRANSLATE_NOOP(
-    "BadOrder", "« %1 » n'est pas une langue de ce programme : il y a « fr » et « en ».");
-constexpr const char* noFormat = QT_TRANSLATE_NOOP(
-    "BadOrder", "« %1 » n'est pas un format de CSV : il y a « fr » et « en ».");
+    "BadOrder", "« %1 » n'est pas une langue de ce programme : il y a « fr » et « en ».");
+constexpr const char* noFormat
+    = QT_TRANSLATE_NOOP("BadOrder", "« %1 » n'est pas un format de CSV : il y a « fr » et « en ».");
 constexpr const char* secondPage
-    = QT_TRANSLATE_NOOP("BadOrder", "Une seule page peut être demandée : « %1 » est de trop.");
+    = QT_TRANSLATE_NOOP("BadOrder", "Une seule page peut être demandée : « %1 » est de trop.");
 constexpr const char* secondFile
-    = QT_TRANSLATE_NOOP("BadOrder", "Un seul fichier peut être demandé : « %1 » est de trop.");
+    = QT_TRANSLATE_NOOP("BadOrder", "Un seul fichier peut être demandé : « %1 » est de trop.");
 constexpr const char* noPage = QT_TRANSLATE_NOOP("BadOrder",
-    "« %1 » demande une page : --ventes, --articles, --heures, --consommation ou --cloture.");
+    "« %1 » demande une page : --ventes, --articles, --heures, --consommation ou --cloture.");
 constexpr const char* noFile
-    = QT_TRANSLATE_NOOP("BadOrder", "« %1 » demande un fichier : --csv, --pdf ou --png.");
+    = QT_TRANSLATE_NOOP("BadOrder", "« %1 » demande un fichier : --csv, --pdf ou --png.");
 constexpr const char* noDay
-    = QT_TRANSLATE_NOOP("BadOrder", "« %1 » demande un premier jour : --du 2026-11-30.");
+    = QT_TRANSLATE_NOOP("BadOrder", "« %1 » demande un premier jour : --du 2026-11-30.");
 } // namespace Mistakes
 
 constexpr QLatin1String languageOption("--langue");
@@ -65,8 +64,7 @@ std::optional<Language> languageNamed(const QString& name)
 QDate dateOf(const QString& text)
 {
     constexpr int size = 10;
-    const QDate date
-        = text.size() == size ? QDate::fromString(text, Qt::ISODate) : QDate();
+    const QDate date = text.size() == size ? QDate::fromString(text, Qt::ISODate) : QDate();
     if (!date.isValid()) {
         throw BadOrder(Mistakes::noDate, text);
     }
@@ -77,7 +75,8 @@ double rateOf(const QString& text)
 {
     constexpr double all = 100;
     bool isNumber = false;
-    const double rate = QString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
+    const double rate
+        = QString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
     if (!isNumber || !(rate >= 0 && rate <= all)) {
         throw BadOrder(Mistakes::noRate, text);
     }
@@ -114,7 +113,8 @@ public:
 
     QString value()
     {
-        const bool isNext = !value_ && !rest_.isEmpty() && !rest_.at(0).startsWith(QLatin1String("--"));
+        const bool isNext
+            = !value_ && !rest_.isEmpty() && !rest_.at(0).startsWith(QLatin1String("--"));
         const QString value = isNext ? rest_.takeFirst() : value_.value_or(QString());
         if (value.isEmpty()) {
             throw BadOrder(Mistakes::noValue, name_);

@@ -24,7 +24,7 @@ struct Text
 {
     throw OutputError(path == QLatin1String("-")
             ? Text::tr("La sortie standard ne peut pas être écrite (%1).").arg(reason)
-            : Text::tr("Le fichier « %1 » ne peut pas être écrit (%2).").arg(path, reason));
+            : Text::tr("Le fichier « %1 » ne peut pas être écrit (%2).").arg(path, reason));
 }
 
 [[noreturn]] void failWith(const QString& path, int error)
@@ -73,9 +73,8 @@ void writeToDevice(const QString& path, const QByteArray& bytes)
 void replace(const QString& path, const QByteArray& bytes)
 {
     QSaveFile file(path);
-    const auto failLast = [&] {
-        errno != 0 ? failWith(path, errno) : fail(path, file.errorString());
-    };
+    const auto failLast
+        = [&] { errno != 0 ? failWith(path, errno) : fail(path, file.errorString()); };
     errno = 0;
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush()) {
         failLast();

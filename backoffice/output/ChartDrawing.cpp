@@ -60,6 +60,10 @@ ChartDrawing::ChartDrawing(BarChart chart, const QLocale& locale, const Ink& ink
     legend()->setFont(ink_.font);
     legend()->setLabelColor(ink_.text);
     legend()->setVisible(chart_.bars.size() + (chart_.line ? 1 : 0) > 1);
+    if (chart_.categories.empty()) {
+        setTitle(chart_.title + QLatin1Char('\n') + tr("Aucune vente"));
+        return;
+    }
     addBars();
     addLine();
     addAxes();
@@ -103,11 +107,11 @@ void ChartDrawing::addLine()
     double x = 0;
     for (const double value : chart_.line->values) {
         const QPointF point(x++, drawn(value, chart_.kind));
-        // A day that the period before does not have leaves a gap.
-        if (!std::isnan(value)) {
-            line->append(point);
-            points->append(point);
+        if (std::isnan(value)) {
+            continue;
         }
+        line->append(point);
+        points->append(point);
     }
     constexpr double width = 1.6;
     line->setPen(QPen(ink_.line(), width, Qt::DashLine));

@@ -34,8 +34,9 @@ Extent extentOf(const BarChart& chart)
     Extent extent{0, 0};
     const auto take = [&](const BarChart::Values& values) {
         for (const double value : values.values) {
-            extent.least = std::min(extent.least, drawn(value, chart.kind));
-            extent.most = std::max(extent.most, drawn(value, chart.kind));
+            // fmin and fmax pass over what is not a number.
+            extent.least = std::fmin(extent.least, drawn(value, chart.kind));
+            extent.most = std::fmax(extent.most, drawn(value, chart.kind));
         }
     };
     std::for_each(chart.bars.begin(), chart.bars.end(), take);
