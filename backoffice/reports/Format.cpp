@@ -1,17 +1,40 @@
 // SPDX-License-Identifier: MIT
 #include "backoffice/reports/Format.h"
 
+#include <cmath>
+
 namespace {
+bool isEnglish(const QLocale& locale) { return locale.language() == QLocale::English; }
+
 QString money(Amount amount, const QLocale& locale)
 {
     constexpr double centsInAUnit = 100;
     return locale.toString(static_cast<double>(cents(amount)) / centsInAUnit, 'f', 2)
-        + QStringLiteral(" €");
+        + QStringLiteral(" €");
 }
 
 QString month(QDate day, const QLocale& locale)
 {
     return locale.standaloneMonthName(day.month()) + QLatin1Char(' ') + QString::number(day.year());
+}
+
+QString hour(int number, const QLocale& locale)
+{
+    return QString::number(number)
+        + (isEnglish(locale) ? QStringLiteral(":00") : QStringLiteral(" h"));
+}
+
+QString withPercent(const QString& number, const QLocale& locale)
+{
+    return number + (isEnglish(locale) ? QStringLiteral("%") : QStringLiteral(" %"));
+}
+
+QString percent(double value, const QLocale& locale)
+{
+    // What rounds to zero has no sign.
+    constexpr double tenths = 10;
+    const double rounded = std::round(value * tenths) / tenths;
+    return withPercent(locale.toString(rounded == 0 ? 0 : rounded, 'f', 1), locale);
 }
 } // namespace
 
@@ -28,15 +51,20 @@ QString format(const QVariant& value, CellKind kind, const QLocale& locale)
     case CellKind::Month:
         return month(value.toDate(), locale);
     case CellKind::Hour:
-        return QString::number(value.toInt()) + QStringLiteral(" h");
+        return hour(value.toInt(), locale);
     case CellKind::Count:
         return locale.toString(value.toLongLong());
     case CellKind::Money:
         return money(value.toLongLong(), locale);
     case CellKind::Percent:
-        return locale.toString(value.toDouble(), 'f', 1) + QStringLiteral(" %");
+        return percent(value.toDouble(), locale);
     case CellKind::Quantity:
         return locale.toString(value.toDouble(), 'f', 2);
     }
     return value.toString();
+}
+
+QString percentInShort(double rate, const QLocale& locale)
+{
+    return withPercent(locale.toString(rate, 'f', QLocale::FloatingPointShortest), locale);
 }

@@ -65,6 +65,8 @@ struct BarChart
     std::vector<QString> categories;
     /// Under the mouse: the category in full.
     std::vector<QString> categoryNames;
+    /// Values as the cells of the kind are: money is an Amount. Where the line has no value,
+    /// because the period before has no such day, it is not a number.
     struct Values
     {
         QString name;
@@ -84,7 +86,7 @@ struct HeatMap
     QString title;
     std::vector<QString> rows;
     std::vector<QString> columns;
-    /// One for each row and column, row by row.
+    /// One for each row and column, row by row, as the cells of the kind are: money is an Amount.
     std::vector<double> values;
     CellKind kind = CellKind::Money;
 };
@@ -101,8 +103,15 @@ struct Report
     std::optional<HeatMap> heatMap;
     /// The first is the one that a CSV file gets.
     std::vector<Table> tables;
+    /// What a CSV file gets instead, where the first table sums up what a page has no room for.
+    std::optional<Table> whole;
     /// Under everything else.
     std::vector<QString> notes;
+    /// On paper it has one sheet, as small as it has to be written.
+    bool isOnePage = false;
+
+    /// The table for a CSV file.
+    const Table& file() const { return whole ? *whole : tables.front(); }
 };
 
 /// The pages.

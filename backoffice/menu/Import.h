@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backoffice/menu/ImportPlan.h"
+
+#include <QCoreApplication>
+
+#include <atomic>
+
+/// The import of a file into the shop whose data folder is the working directory.
+class Import
+{
+    Q_DECLARE_TR_FUNCTIONS(Import)
+
+public:
+    /// For the data folder \a folder; \a program makes the copy (see CopyProcess). Numbers in
+    /// remarks are written as \a locale does.
+    Import(QString folder, QString program, QLocale locale);
+
+    /// What importing \a file would do. Throws ImportError.
+    ImportPlan plan(const ImportFile& file) const;
+
+    struct Result
+    {
+        enum class End
+        {
+            /// All of the plan is done.
+            Done,
+            /// The menu or the recipes are no longer what the plan was made for: nothing is
+            /// changed.
+            Outdated,
+            /// Stopped before anything was changed.
+            Stopped
+        };
+
+        End end = End::Done;
+        /// What was done, or the plan as it would be now.
+        ImportPlan plan;
+        /// The file of the copy in the folder of copies, if one was made.
+        QString copy;
+    };
+
+    /// Makes a checked copy, then does all of \a plan for \a file, or nothing. Ends early when
+    /// \a isStopped is set before the copy is complete. Throws ImportError: nothing is changed
+    /// then.
+    Result carryOut(
+        const ImportFile& file, const ImportPlan& plan, const std::atomic<bool>& isStopped) const;
+
+private:
+    void requireDatabase() const;
+    QString copy(const std::atomic<bool>& isStopped) const;
+
+    QString folder_;
+    QString program_;
+    QLocale locale_;
+};

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "backoffice/output/ChartView.h"
+
+#include <QMouseEvent>
+#include <QToolTip>
+
+#include <memory>
+
+ChartView::ChartView(QLocale locale, QWidget* parent)
+    : QChartView(parent)
+    , locale_(std::move(locale))
+{
+    setRenderHint(QPainter::Antialiasing);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::NoFocus);
+    setFrameShape(QFrame::StyledPanel);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ChartView::setBars(const BarChart& chart)
+{
+    bars_ = chart;
+    setAccessibleName(chart.title);
+    draw();
+}
+
+void ChartView::draw()
+{
+    const std::unique_ptr<QChart> before(chart());
+    drawing_ = new ChartDrawing(bars_, locale_, Ink::onScreen(palette(), font()));
+    setChart(drawing_);
+    setBackgroundBrush(palette().base());
+    constexpr int leastLines = 11;
+    setMinimumHeight(
+        bars_.isHorizontal ? qRound(drawing_->heightFor(0)) : fontMetrics().height() * leastLines);
+}
+
+void ChartView::mouseMoveEvent(QMouseEvent* event)
+{
+    QChartView::mouseMoveEvent(event);
+    if (drawing_ == nullptr) {
+        return;
+    }
+    const QPointF point = drawing_->mapFromScene(mapToScene(event->pos()));
+    const QString tip = drawing_->tip(point);
+    if (tip.isEmpty()) {
+        QToolTip::hideText();
+    } else {
+        QToolTip::showText(viewport()->mapToGlobal(event->pos()), tip, viewport());
+    }
+}
+
+void ChartView::changeEvent(QEvent* event)
+{
+    QChartView::changeEvent(event);
+    const bool isLook
+        = event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
+    if (isLook && drawing_ != nullptr) {
+        draw();
+    }
+}

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "backoffice/output/HeatMapView.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+
+HeatMapView::HeatMapView(QLocale locale, QWidget* parent)
+    : QFrame(parent)
+    , locale_(std::move(locale))
+{
+    setFrameShape(QFrame::StyledPanel);
+    setMouseTracking(true);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void HeatMapView::setMap(const HeatMap& map)
+{
+    map_ = map;
+    setAccessibleName(map.title);
+    constexpr int leastInLines = 2;
+    constexpr int around = 8;
+    setMinimumHeight(
+        fontMetrics().height() * (leastInLines * static_cast<int>(map.rows.size()) + around));
+    update();
+}
+
+HeatMapDrawing HeatMapView::drawing() const
+{
+    const int edge = fontMetrics().height();
+    const QRectF room = contentsRect().adjusted(edge, edge, -edge, -edge);
+    // Fields that are much higher than wide are hard to compare.
+    const double highest = HeatMapDrawing::heightFor(room.width(), map_, font()) * 1.5;
+    const QRectF place(room.left(), room.top(), room.width(), std::min(room.height(), highest));
+    return {map_, locale_, Ink::onScreen(palette(), font()), place};
+}
+
+void HeatMapView::paintEvent(QPaintEvent* event)
+{
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    drawing().draw(painter);
+}
+
+void HeatMapView::mouseMoveEvent(QMouseEvent* event)
+{
+    QFrame::mouseMoveEvent(event);
+    const QString tip = drawing().tip(event->pos());
+    if (tip.isEmpty()) {
+        QToolTip::hideText();
+    } else {
+        QToolTip::showText(mapToGlobal(event->pos()), tip, this);
+    }
+}

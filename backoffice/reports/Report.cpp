@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "backoffice/reports/Report.h"
+
+#include "backoffice/reports/Pages.h"
+
+Report makeReport(const ReportOrder& order, SalesSource& source, const Reading& reading)
+{
+    switch (order.page) {
+    case Page::Articles:
+        return Pages::articles(order, source, reading);
+    case Page::Hours:
+        return Pages::hours(order, source, reading);
+    case Page::Uses:
+        return Pages::uses(order, source, reading);
+    case Page::Closing:
+        return Pages::closing(order, source, reading);
+    case Page::Sales:
+        break;
+    }
+    return Pages::sales(order, source, reading);
+}
