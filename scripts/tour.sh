@@ -25,7 +25,7 @@ if ! $built; then
     "$root/scripts/install.sh" build run test
     say "Building the till and the emulated printer"
     configure release
-    build release vendel vendel-demo vendel-artwork emulated-printer escpos-page tour-eye
+    build release vendel vendel-gestion vendel-demo vendel-artwork emulated-printer escpos-page tour-eye
 fi
 
 . "$root/scripts/tour.d/lib.sh"

@@ -217,6 +217,16 @@ start_till() {
     await_window FormVendel
 }
 
+# start_gestion DIRECTORY: the same with the back office on that shop.
+start_gestion() {
+    shop=$1
+    rm -f "$work/eye"
+    VENDEL_TOUR_EYE="$work/eye" LD_PRELOAD="$build/tests/scripts/libtour-eye.so" \
+        "$build/vendel-gestion" --dossier "$shop" >>"$out/till.log" 2>&1 &
+    till_pid=$!
+    await_window MainWindow
+}
+
 # The splash closes itself after five seconds; the cashier need not wait for it.
 dismiss_splash() {
     await_window FormVendelStart

@@ -1,0 +1,37 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash disable=SC2034,SC2154
+# The owner's evening: last year's pages in the back office, and a day's closing.
+
+start_display 1366x768 "0,0 0,0"
+start_gestion "$(new_shop gestion)"
+year=$(($(date +%Y) - 1))
+
+pick MainWindow period "L'année dernière"
+await_text MainWindow subtitle "Année $year"
+takings=$(ask "select printf('%.2f', sum(prix)) from Historique where date_heure like '$year%'")
+# digits WORDS: without blanks, units and marks.
+digits() { tr -cd 0-9 <<<"$1"; }
+shows_takings() {
+    local value
+    while IFS= read -r value; do
+        [ "$(digits "$value")" != "$(digits "$takings")" ] || return 0
+    done < <(awk -F '\t' '$1 == "widget" && $3 == "value" { print $5 }' "$work/eye")
+    return 1
+}
+await "the year's takings, $takings" shows_takings
+picture gestion-ventes
+
+# page NUMBER TITLE PICTURE
+page() {
+    xdotool key "ctrl+$1"
+    await "the page $2" page_shows "$2"
+    picture "$3"
+}
+page_shows() { awk -F '\t' -v title="$1" '$1 == "widget" && $3 == "title" && $5 == title { found = 1 }
+    END { exit !found }' "$work/eye"; }
+page 2 Articles gestion-articles
+page 3 Heures gestion-heures
+page 4 Consommation gestion-consommation
+pick MainWindow period Hier
+page 5 Clôture gestion-cloture
+stop_till
