@@ -65,9 +65,6 @@ QRectF HeatMapDrawing::field(std::size_t row, std::size_t column) const
 
 void HeatMapDrawing::draw(QPainter& painter) const
 {
-    if (map_.rows.empty() || map_.columns.empty()) {
-        return;
-    }
     painter.save();
     QFont title = ink_.font;
     title.setBold(true);
@@ -75,9 +72,13 @@ void HeatMapDrawing::draw(QPainter& painter) const
     painter.setPen(ink_.text);
     painter.drawText(place_, Qt::AlignHCenter | Qt::AlignTop, map_.title);
     painter.setFont(ink_.font);
-    drawNames(painter);
-    drawFields(painter);
-    drawScale(painter);
+    if (map_.rows.empty() || map_.columns.empty()) {
+        painter.drawText(place_, Qt::AlignCenter, say("Aucune vente"));
+    } else {
+        drawNames(painter);
+        drawFields(painter);
+        drawScale(painter);
+    }
     painter.restore();
 }
 

@@ -173,6 +173,7 @@ void PaperComposer::addFigures(const std::vector<KeyFigure>& figures)
     QRectF row;
     for (std::size_t at = 0; at < figures.size(); ++at) {
         if (at % inARow == 0) {
+            skip(at > 0 ? space / 2 : 0);
             row = take(height);
         }
         const KeyFigure figure = figures.at(at);

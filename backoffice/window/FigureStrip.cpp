@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace {
 constexpr std::array parts{"caption", "value", "remark"};
@@ -16,6 +17,24 @@ constexpr std::array parts{"caption", "value", "remark"};
 QLabel& part(QWidget& card, const char* name)
 {
     return *card.findChild<QLabel*>(QLatin1String(name));
+}
+/// How many columns cards of \a widths may have within \a room.
+int columnsFor(const std::vector<int>& widths, int room)
+{
+    const std::size_t count = widths.size();
+    std::size_t columns = count;
+    for (; columns > 1; --columns) {
+        std::vector<int> widest(columns, 0);
+        for (std::size_t at = 0; at < count; ++at) {
+            widest.at(at % columns) = std::max(widest.at(at % columns), widths.at(at));
+        }
+        if (std::accumulate(widest.begin(), widest.end(), 0) <= room) {
+            break;
+        }
+    }
+    // Lines of equal length: 4 and 3 rather than 6 and 1.
+    const std::size_t lines = columns == 0 ? 1 : (count + columns - 1) / columns;
+    return static_cast<int>((count + lines - 1) / lines);
 }
 } // namespace
 
@@ -94,27 +113,19 @@ void FigureStrip::resizeEvent(QResizeEvent* event)
 
 void FigureStrip::arrange()
 {
-    int widest = 1;
-    int count = 0;
+    std::vector<int> widths;
     for (const QWidget* card : cards_) {
         if (!card->isHidden()) {
-            widest = std::max(widest, card->sizeHint().width());
-            ++count;
+            widths.push_back(card->sizeHint().width() + grid_->spacing());
         }
     }
-    if (count == 0) {
-        return;
-    }
-    const int fitting
-        = std::clamp((width() + grid_->spacing()) / (widest + grid_->spacing()), 1, count);
-    // Lines of equal length: 4 and 3 rather than 6 and 1.
-    const int lines = (count + fitting - 1) / fitting;
-    const int columns = (count + lines - 1) / lines;
-    if (columns == columns_) {
+    const int count = static_cast<int>(widths.size());
+    const int columns = columnsFor(widths, width());
+    if (count == 0 || columns == columns_) {
         return;
     }
     for (int column = 0; column < grid_->columnCount(); ++column) {
-        grid_->setColumnStretch(column, column < columns ? 1 : 0);
+        grid_->setColumnStretch(column, 0);
     }
     columns_ = columns;
     int at = 0;

@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QDoubleSpinBox>
 #include <QProgressBar>
+#include <QScreen>
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QTabWidget>
@@ -32,7 +33,6 @@ MainWindow::MainWindow(WindowSetup setup)
     buildPages();
     buildFileMenu();
     buildViewMenu();
-    buildStatus();
     restorePlace();
 
     patience_.setSingleShot(true);
@@ -152,7 +152,9 @@ void MainWindow::restorePlace()
 {
     const QSettings settings(QStringLiteral("Vendel"), QStringLiteral("Gestion"));
     constexpr QSize usual(1180, 700);
-    resize(usual);
+    // What a window manager draws around a window.
+    constexpr QSize frame(10, 40);
+    resize(usual.boundedTo(screen()->availableSize() - frame));
     restoreGeometry(settings.value(QStringLiteral("window")).toByteArray());
 }
 

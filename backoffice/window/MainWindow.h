@@ -10,6 +10,7 @@
 #include <array>
 
 class PeriodBar;
+class QBoxLayout;
 class QDoubleSpinBox;
 class QLabel;
 class QProgressBar;
@@ -47,7 +48,7 @@ private:
     void buildViewMenu();
     void buildTop();
     void buildPages();
-    void buildStatus();
+    void addProgress(QBoxLayout& line);
     void restorePlace();
 
     ReportPage& page() const;

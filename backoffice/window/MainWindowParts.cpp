@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QProgressBar>
-#include <QStatusBar>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -24,6 +23,7 @@ void MainWindow::buildTop()
     connect(period_, &PeriodBar::chosen, this, &MainWindow::readPage);
     line->addWidget(period_);
     line->addStretch();
+    addProgress(*line);
     auto* caption = new QLabel(tr("&TVA"), whole);
     taxRate_ = new QDoubleSpinBox(whole);
     taxRate_->setObjectName(QStringLiteral("taxRate"));
@@ -104,21 +104,22 @@ void MainWindow::buildViewMenu()
     connect(search, &QAction::triggered, this, [this] { page().startSearch(); });
 }
 
-void MainWindow::buildStatus()
+void MainWindow::addProgress(QBoxLayout& line)
 {
     progress_ = new QProgressBar(this);
     progress_->setObjectName(QStringLiteral("progress"));
     progress_->setAccessibleName(tr("Avancement de la lecture"));
     progress_->setTextVisible(false);
-    constexpr int width = 220;
+    constexpr int width = 140;
     progress_->setFixedWidth(width);
     stop_ = new QToolButton(this);
     stop_->setObjectName(QStringLiteral("stop"));
     stop_->setText(tr("Arrêter"));
     stop_->setShortcut(QKeySequence(Qt::Key_Escape));
     connect(stop_, &QToolButton::clicked, this, &MainWindow::stopReading);
-    statusBar()->addPermanentWidget(progress_);
-    statusBar()->addPermanentWidget(stop_);
+    line.addWidget(progress_);
+    line.addWidget(stop_);
+    line.addSpacing(line.spacing());
     progress_->hide();
     stop_->hide();
 }

@@ -21,6 +21,8 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace {
 bool isAbout(const ReportOrder& one, const ReportOrder& other)
@@ -101,14 +103,17 @@ QWidget* ReportPage::buildReport()
     charts_->setFrameShape(QFrame::NoFrame);
     charts_->setFocusPolicy(Qt::NoFocus);
     charts_->setWidgetResizable(true);
+    charts_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    constexpr int narrowest = 380;
+    charts_->setMinimumWidth(narrowest);
     auto* inside = new QWidget;
     chartColumn_ = new QVBoxLayout(inside);
     chartColumn_->setContentsMargins(0, 0, 0, 0);
     charts_->setWidget(inside);
     splitter_->addWidget(charts_);
     splitter_->addWidget(buildTables());
-    splitter_->setStretchFactor(0, 3);
-    splitter_->setStretchFactor(1, 2);
+    splitter_->setStretchFactor(0, 1);
+    splitter_->setStretchFactor(1, 1);
     column->addWidget(splitter_, 1);
     notes_ = new QLabel(panel);
     notes_->setObjectName(QStringLiteral("notes"));
@@ -187,6 +192,12 @@ void ReportPage::showReport(const Report& report, const ReportOrder& order)
         notes_->setVisible(!notes.isEmpty());
     }
     stack_->setCurrentIndex(1);
+    if (paper_ == nullptr && !std::exchange(isShared_, true)) {
+        // The splitter has its width only now.
+        layout()->activate();
+        stack_->currentWidget()->layout()->activate();
+        shareWidth();
+    }
 }
 
 void ReportPage::showHead(const Report& report)
@@ -236,6 +247,18 @@ void ReportPage::showTables(const Report& report)
         panes_.at(at)->setTable(report.tables.at(at));
         tables_->setTabText(static_cast<int>(at), report.tables.at(at).title);
     }
+}
+
+void ReportPage::shareWidth()
+{
+    int wanted = 0;
+    for (const TablePane* pane : panes_) {
+        wanted = std::max(wanted, pane->fullWidth());
+    }
+    constexpr double most = 0.5;
+    const int whole = splitter_->width();
+    const int tables = std::min(wanted, static_cast<int>(whole * most));
+    splitter_->setSizes({whole - tables, tables});
 }
 
 void ReportPage::showSentence(const QString& sentence, bool isStopped)

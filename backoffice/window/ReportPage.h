@@ -57,6 +57,8 @@ private:
     QWidget* buildSentence();
     QWidget* buildReport();
     QWidget* buildTables();
+    /// Gives the tables the width that they need, but no more than half.
+    void shareWidth();
     void showHead(const Report& report);
     void showCharts(const Report& report);
     void showTables(const Report& report);
@@ -65,6 +67,9 @@ private:
     QLocale locale_;
     std::optional<Report> report_;
     std::optional<ReportOrder> order_;
+
+    /// The width is the user's after the first report.
+    bool isShared_ = false;
 
     QStackedWidget* stack_;
     QLabel* sentence_ = nullptr;

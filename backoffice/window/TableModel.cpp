@@ -5,6 +5,8 @@
 
 #include <QDate>
 
+#include <cstdlib>
+
 namespace {
 bool isNumber(CellKind kind) { return kind >= CellKind::Count; }
 
@@ -19,6 +21,24 @@ QString plain(const QString& text)
         }
     }
     return letters;
+}
+
+/// \a title broken at the blank nearest to its middle, so that a column of short numbers is not as
+/// wide as its long title.
+QString inTwoLines(const QString& title)
+{
+    constexpr int longest = 10;
+    if (title.size() <= longest) {
+        return title;
+    }
+    int best = -1;
+    for (int at = 0; at < title.size(); ++at) {
+        const auto distance = [&](int place) { return std::abs(2 * place - title.size()); };
+        if (title.at(at) == QLatin1Char(' ') && (best < 0 || distance(at) < distance(best))) {
+            best = at;
+        }
+    }
+    return best < 0 ? title : title.left(best) + QLatin1Char('\n') + title.mid(best + 1);
 }
 } // namespace
 
@@ -82,7 +102,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     }
     const Column& column = table_.columns.at(static_cast<std::size_t>(section));
     if (role == Qt::DisplayRole) {
-        return column.title;
+        return inTwoLines(column.title);
     }
     if (role == Qt::TextAlignmentRole) {
         return static_cast<int>(

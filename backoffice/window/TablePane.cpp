@@ -10,6 +10,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <numeric>
 
 TablePane::TablePane(QLocale locale, QWidget* parent)
     : QTableView(parent)
@@ -29,7 +30,8 @@ TablePane::TablePane(QLocale locale, QWidget* parent)
     constexpr int around = 8;
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + around);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+        [this] { isUsersWidth_ = isUsersWidth_ || !isSpreading_; });
     // As reported, until the user chooses a column.
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     setSortingEnabled(true);
@@ -65,13 +67,39 @@ void TablePane::fitColumns(bool isFirst)
     constexpr int rowsToMeasure = 200;
     horizontalHeader()->setResizeContentsPrecision(rowsToMeasure);
     constexpr int around = 12;
+    needed_.resize(static_cast<std::size_t>(model_->columnCount()));
     for (int column = 0; column < model_->columnCount(); ++column) {
-        const int needed = around
+        needed_.at(static_cast<std::size_t>(column)) = around
             + std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
-        if (isFirst || needed > columnWidth(column)) {
-            setColumnWidth(column, needed);
-        }
     }
+    isUsersWidth_ = isUsersWidth_ && !isFirst;
+    spread();
+}
+
+int TablePane::fullWidth() const
+{
+    return std::accumulate(needed_.begin(), needed_.end(), 0) + 2 * frameWidth()
+        + verticalScrollBar()->sizeHint().width();
+}
+
+void TablePane::spread()
+{
+    if (isUsersWidth_ || needed_.empty()) {
+        return;
+    }
+    isSpreading_ = true;
+    const int room = viewport()->width() - std::accumulate(needed_.begin(), needed_.end(), 0);
+    const int extra = std::max(0, room) / static_cast<int>(needed_.size());
+    for (std::size_t column = 0; column < needed_.size(); ++column) {
+        setColumnWidth(static_cast<int>(column), needed_.at(column) + extra);
+    }
+    isSpreading_ = false;
+}
+
+void TablePane::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    spread();
 }
 
 QStringList TablePane::chosenKeys() const
