@@ -40,6 +40,14 @@ void endWithoutDisplay(
     }
 }
 
+/// Qt's remarks on its surroundings would be mailed to the owner every night.
+void keepQuiet(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        Session::say(text);
+    }
+}
+
 QString folderOf(const Order& order)
 {
     const QString folder
@@ -63,6 +71,9 @@ std::unique_ptr<QCoreApplication> applicationFor(
     const Order& order, Language language, int& argc, char** argv)
 {
     const bool isWindow = order.action == Order::Action::Window;
+    if (!isWindow) {
+        qInstallMessageHandler(keepQuiet);
+    }
     if (!isWindow && (order.action != Order::Action::File || order.kind == Order::Kind::Csv)) {
         return std::make_unique<QCoreApplication>(argc, argv);
     }
