@@ -93,13 +93,13 @@ CopyProcess::Result CopyProcess::make(
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(program, {QLatin1String(order), folder});
-    while (process.state() != QProcess::NotRunning && !process.waitForFinished(lookMs)) {
+    do {
         if (isStopped) {
             process.kill();
             process.waitForFinished();
             return {Outcome::Stopped, {}};
         }
-    }
+    } while (!process.waitForFinished(lookMs) && process.state() != QProcess::NotRunning);
     const bool hasExited = process.error() != QProcess::FailedToStart
         && process.exitStatus() == QProcess::NormalExit;
     const int status = process.exitCode();

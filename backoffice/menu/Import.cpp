@@ -3,41 +3,42 @@
 
 #include "backoffice/menu/CopyProcess.h"
 #include "backoffice/menu/SheetText.h"
+#include "backoffice/sales/TillSource.h"
 #include "launcher/Database.h"
 #include "launcher/FileClaim.h"
 #include "launcher/SafeFile.h"
 #include "store/Transaction.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <QDir>
 
 #include <system_error>
 #include <utility>
 
 #include <fcntl.h>
 
-Import::Import(QString folder, QString program, QLocale locale)
-    : folder_(std::move(folder))
+Import::Import(
+    const QString& folder, QString program, QLocale locale, double patience, Timing timing)
+    : folder_(QDir(folder).absolutePath())
     , program_(std::move(program))
     , locale_(std::move(locale))
+    , patience_(patience)
+    , timing_(std::move(timing))
 { }
 
 ImportPlan Import::plan(const ImportFile& file) const
 {
-    requireDatabase();
+    enterShop();
     return ImportPlan::of(file, locale_);
 }
 
 Import::Result Import::carryOut(
     const ImportFile& file, const ImportPlan& plan, const std::atomic<bool>& isStopped) const
 {
-    constexpr double patience = 5;
-    requireDatabase();
+    enterShop();
     try {
-        const Descriptor folder
-            = SafeFile::openFolder(AT_FDCWD, QFile::encodeName(folder_).constData());
+        const Descriptor folder = SafeFile::openFolder(AT_FDCWD, ".");
         // Else a restoration could put another database in the place of this one meanwhile.
-        const FileClaim claim(folder.get(), FileClaim::Purpose::Look, patience);
+        const FileClaim claim(folder.get(), FileClaim::Purpose::Look, patience_);
         ImportPlan fresh = ImportPlan::of(file, locale_);
         if (fresh.statements != plan.statements) {
             return {Result::End::Outdated, std::move(fresh), {}};
@@ -64,12 +65,18 @@ Import::Result Import::carryOut(
                          "protégée, ou le disque est plein. Rien n'est changé."));
 }
 
-/// Opening a database makes a missing one: it has to be there.
-void Import::requireDatabase() const
+/// Opening a database to change it makes a missing one, and runs whatever is in it: what it is has
+/// to be known before.
+void Import::enterShop() const
 {
-    const QFileInfo database(folder_ + QLatin1String("/Vendel.db"));
-    if (!database.isFile() || database.size() == 0) {
-        throw ImportError(tr("Il n'y a pas de base de données dans « %1 ».").arg(folder_));
+    try {
+        TillSource(folder_, timing_).menu();
+    } catch (const SalesError& error) {
+        throw ImportError(error.sentence());
+    }
+    if (!QDir::setCurrent(folder_)) {
+        throw ImportError(
+            tr("Le dossier « %1 » ne peut pas être ouvert. Rien n'est changé.").arg(folder_));
     }
 }
 
@@ -92,10 +99,10 @@ QString Import::copy(const std::atomic<bool>& isStopped) const
         reason = tr("la base est occupée");
         break;
     case CopyProcess::Outcome::Unusable:
-        reason = tr("la base est endommagée ou n'est pas celle de la caisse");
+        reason = tr("la base n'est pas celle de la caisse, ou elle est endommagée");
         break;
     case CopyProcess::Outcome::Failed:
-        reason = tr("le disque ou le système l'empêche");
+        reason = tr("le disque est plein ou défaillant, ou la base est endommagée");
         break;
     }
     throw ImportError(

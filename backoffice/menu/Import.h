@@ -2,20 +2,23 @@
 #pragma once
 
 #include "backoffice/menu/ImportPlan.h"
+#include "backoffice/sales/TillPace.h"
 
 #include <QCoreApplication>
 
 #include <atomic>
 
-/// The import of a file into the shop whose data folder is the working directory.
+/// The import of a file into a shop. The shop's data folder becomes the working directory.
 class Import
 {
     Q_DECLARE_TR_FUNCTIONS(Import)
 
 public:
     /// For the data folder \a folder; \a program makes the copy (see CopyProcess). Numbers in
-    /// remarks are written as \a locale does.
-    Import(QString folder, QString program, QLocale locale);
+    /// remarks are written as \a locale does. A restoration is waited for \a patience, in seconds,
+    /// and a database that is in use by the clocks of \a timing.
+    Import(const QString& folder, QString program, QLocale locale, double patience = 5,
+        Timing timing = Timing::ofTheMachine());
 
     /// What importing \a file would do. Throws ImportError.
     ImportPlan plan(const ImportFile& file) const;
@@ -47,10 +50,12 @@ public:
         const ImportFile& file, const ImportPlan& plan, const std::atomic<bool>& isStopped) const;
 
 private:
-    void requireDatabase() const;
+    void enterShop() const;
     QString copy(const std::atomic<bool>& isStopped) const;
 
     QString folder_;
     QString program_;
     QLocale locale_;
+    double patience_;
+    Timing timing_;
 };

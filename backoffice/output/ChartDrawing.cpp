@@ -50,7 +50,7 @@ ChartDrawing::ChartDrawing(BarChart chart, const QLocale& locale, const Ink& ink
 {
     setLocale(locale_);
     setLocalizeNumbers(true);
-    setTitle(chart_.title);
+    setTitle(chart_.title.toHtmlEscaped());
     setTitleFont(bold(ink_.font));
     setTitleBrush(ink_.text);
     setBackgroundVisible(false);
@@ -61,7 +61,7 @@ ChartDrawing::ChartDrawing(BarChart chart, const QLocale& locale, const Ink& ink
     legend()->setLabelColor(ink_.text);
     legend()->setVisible(chart_.bars.size() + (chart_.line ? 1 : 0) > 1);
     if (chart_.categories.empty()) {
-        setTitle(chart_.title + QLatin1Char('\n') + tr("Aucune vente"));
+        setTitle(tr("%1\u00a0: rien dans cette période").arg(chart_.title.toHtmlEscaped()));
         return;
     }
     addBars();

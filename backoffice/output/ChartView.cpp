@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "backoffice/output/ChartView.h"
 
+#include "backoffice/output/Tips.h"
+
 #include <QMouseEvent>
-#include <QToolTip>
 
 #include <memory>
 
@@ -42,12 +43,7 @@ void ChartView::mouseMoveEvent(QMouseEvent* event)
         return;
     }
     const QPointF point = drawing_->mapFromScene(mapToScene(event->pos()));
-    const QString tip = drawing_->tip(point);
-    if (tip.isEmpty()) {
-        QToolTip::hideText();
-    } else {
-        QToolTip::showText(viewport()->mapToGlobal(event->pos()), tip, viewport());
-    }
+    showTip(*viewport(), event->pos(), drawing_->tip(point));
 }
 
 void ChartView::changeEvent(QEvent* event)

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "backoffice/output/HeatMapView.h"
 
+#include "backoffice/output/Tips.h"
+
 #include <QMouseEvent>
 #include <QPainter>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -49,10 +50,5 @@ void HeatMapView::paintEvent(QPaintEvent* event)
 void HeatMapView::mouseMoveEvent(QMouseEvent* event)
 {
     QFrame::mouseMoveEvent(event);
-    const QString tip = drawing().tip(event->pos());
-    if (tip.isEmpty()) {
-        QToolTip::hideText();
-    } else {
-        QToolTip::showText(mapToGlobal(event->pos()), tip, this);
-    }
+    showTip(*this, event->pos(), drawing().tip(event->pos()));
 }

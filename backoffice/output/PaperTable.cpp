@@ -13,8 +13,8 @@
 
 namespace {
 constexpr double textSize = 170;
-/// Between the texts of two columns.
-constexpr double between = 220;
+/// Between the texts of two columns, in heights of letters.
+constexpr double betweenInLetters = 1.3;
 /// A row's height, in heights of its text.
 constexpr double rowInLines = 1.25;
 constexpr double rule = 12;
@@ -32,6 +32,7 @@ struct Writing
     std::vector<double> widths;
     double rowHeight = 0;
 
+    double between() const { return font.pixelSize() * betweenInLetters; }
     double width() const { return std::accumulate(widths.begin(), widths.end(), 0.0); }
 
     Qt::Alignment alignment(std::size_t column) const
@@ -51,7 +52,7 @@ struct Writing
         double x = place.left();
         for (std::size_t column = 0; column < widths.size(); ++column) {
             const QRectF room(x, place.top(), widths.at(column), place.height());
-            painter.drawText(room.adjusted(between / 2, 0, -between / 2, 0),
+            painter.drawText(room.adjusted(between() / 2, 0, -between() / 2, 0),
                 static_cast<int>(alignment(column)) | Qt::TextSingleLine | Qt::TextDontClip,
                 text(column));
             x += widths.at(column);
@@ -89,7 +90,7 @@ void setWidths(Writing& writing, double room)
             for (std::size_t row = 0; row < writing.table.rows.size(); ++row) {
                 widest = std::max(widest, plain.horizontalAdvance(writing.cell(row, column)));
             }
-            writing.widths.push_back(widest + between);
+            writing.widths.push_back(widest + writing.between());
         }
     };
     measure();

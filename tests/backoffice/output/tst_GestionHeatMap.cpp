@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "backoffice/output/HeatMapView.h"
+#include "tests/support/TestProgram.h"
+#include "tests/support/Widgets.h"
+
+#include <QImage>
+#include <QPainter>
+
+namespace {
+const QLocale french(QLocale::French, QLocale::France);
+
+/// Two days and three hours: on Tuesday at 10 h nothing, at 11 h 12.50.
+HeatMap sample()
+{
+    return {QStringLiteral("Total HT"), {QStringLiteral("lundi"), QStringLiteral("mardi")},
+        {QStringLiteral("9 h"), QStringLiteral("10 h"), QStringLiteral("11 h")},
+        {10000, 20000, 50000, 80000, 0, 125000}, CellKind::Money};
+}
+
+/// A HeatMap in 600 times 300 units.
+HeatMapDrawing drawing(const HeatMap& map)
+{
+    return {map, french, Ink::onPaper(12), QRectF(0, 0, 600, 300)};
+}
+
+QImage drawn(const HeatMapDrawing& drawing)
+{
+    QImage image(600, 300, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    drawing.draw(painter);
+    return image;
+}
+} // namespace
+
+class GestionHeatMap : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFieldIsDarkerWhereMoreWasSold()
+    {
+        const HeatMapDrawing map = drawing(sample());
+        const QImage image = drawn(map);
+        const auto corner = [&](std::size_t row, std::size_t column) {
+            // Away from the number in the middle.
+            return image.pixelColor((map.field(row, column).topLeft() + QPointF(12, 12)).toPoint());
+        };
+        QCOMPARE(corner(1, 2), Ink::heat(1));
+        QCOMPARE(corner(1, 0), Ink::heat(0.64));
+        QCOMPARE(corner(0, 0), Ink::heat(0.08));
+        // Where nothing was sold there is no colour.
+        QCOMPARE(corner(1, 1).saturation(), 0);
+    }
+
+    void theMouseSeesDayHourAndTakings()
+    {
+        const HeatMapDrawing map = drawing(sample());
+        const QString tip = map.tip(map.field(1, 2).center());
+        QVERIFY2(tip.startsWith(QStringLiteral("mardi 11 h\n12,50")), qPrintable(tip));
+        QVERIFY(map.tip(map.field(1, 1).center()).startsWith(QStringLiteral("mardi 10 h\n0,00")));
+        QCOMPARE(map.tip({1, 1}), QString());
+    }
+
+    void fieldsFillTheRoomInOrder()
+    {
+        const HeatMapDrawing map = drawing(sample());
+        QCOMPARE(map.field(0, 0).right(), map.field(0, 1).left());
+        QCOMPARE(map.field(0, 0).bottom(), map.field(1, 0).top());
+        QCOMPARE(map.field(1, 2).right(), 600.0);
+        QVERIFY(map.field(1, 2).bottom() < 300);
+    }
+
+    void nothingSoldIsSaid()
+    {
+        const HeatMapDrawing map
+            = drawing({QStringLiteral("Total HT"), {}, {}, {}, CellKind::Money});
+        QCOMPARE(map.tip({300, 150}), QString());
+        const QImage image = drawn(map);
+        QImage white = image;
+        white.fill(Qt::white);
+        QVERIFY(image != white);
+    }
+
+    void zerosAndDiscountsHaveNoColour()
+    {
+        HeatMap map = sample();
+        map.values = {0, -20000, 0, 0, 0, 0};
+        const HeatMapDrawing empty = drawing(map);
+        const QImage image = drawn(empty);
+        const QPointF corner = empty.field(0, 1).topLeft() + QPointF(12, 12);
+        QCOMPARE(image.pixelColor(corner.toPoint()).saturation(), 0);
+        QVERIFY(empty.tip(empty.field(0, 1).center()).contains(QStringLiteral("2,00")));
+    }
+
+    void theViewShowsAValueUnderTheMouse()
+    {
+        HeatMapView view(french);
+        view.resize(600, 300);
+        view.setMap(sample());
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        hoverPoint(view, view.drawing().field(1, 2).center());
+        QTRY_VERIFY(tipText().contains(QStringLiteral("12,50")));
+    }
+};
+
+VENDEL_BARE_TEST(GestionHeatMap)
+#include "tst_GestionHeatMap.moc"
