@@ -37,6 +37,11 @@ void FormVendelFormulaireTicket::reject()
     guarded("FormVendelFormulaireTicket reject", [&] { mayClose = mayDropText(); });
     if (mayClose) {
         QDialog::reject();
+        // This window goes together with its question: a window manager that was about to give
+        // the keyboard back to it may give it to no window at all.
+        if (parentWidget() != nullptr) {
+            parentWidget()->activateWindow();
+        }
     }
 }
 
