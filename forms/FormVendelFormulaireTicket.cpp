@@ -7,6 +7,7 @@
 #include "ui_FormVendelFormulaireTicket.h"
 #include "widgets/Captions.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/OpenWindow.h"
 
 namespace {
 constexpr Texts texts{"FormVendelFormulaireTicketMessages"};
@@ -37,11 +38,7 @@ void FormVendelFormulaireTicket::reject()
     guarded("FormVendelFormulaireTicket reject", [&] { mayClose = mayDropText(); });
     if (mayClose) {
         QDialog::reject();
-        // This window goes together with its question: a window manager that was about to give
-        // the keyboard back to it may give it to no window at all.
-        if (parentWidget() != nullptr) {
-            parentWidget()->activateWindow();
-        }
+        activateOpener(*this);
     }
 }
 

@@ -125,6 +125,25 @@ is_repeated() { [ "$(grep -c "keysym.* $1)" repeats)" -ge 12 ]; }
     within is_active Config
 }
 
+@test "a stock that needs no update leaves the keyboard to its editor" {
+    go_to_the_amount
+    xdotool key alt Down Up Return
+    within is_active 'Vendel Historique'
+    xdotool key alt Down Return
+    within is_active 'Saisie Stock'
+    xdotool key Tab
+    for said in nothing 'Mettre à jour' 'Mettre à jour' 'Mettre à jour' 'Mettre à jour' 'Mettre à jour'; do
+        xdotool key Return
+        within is_active 'Mise à jour Stock'
+        xdotool key Tab Return
+        if [ "$said" != nothing ]; then
+            within is_active "$said"
+            xdotool key Return
+        fi
+        within is_active 'Saisie Stock'
+    done
+}
+
 @test "the sales screen offers to be minimized and closed, but not maximized" {
     window=$(xdotool search --onlyvisible --name '^Vendel$')
     actions=$(xprop -id "$window" _NET_WM_ALLOWED_ACTIONS)
