@@ -3,7 +3,7 @@
 # The owner's evening: last year's pages in the back office, and a day's closing.
 
 start_display 1366x768 "0,0 0,0"
-start_gestion "$(new_shop gestion)"
+start_gestion "$(new_shop gestion 730)"
 year=$(($(date +%Y) - 1))
 
 pick MainWindow period "L'année dernière"

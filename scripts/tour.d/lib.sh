@@ -241,9 +241,10 @@ stop_till() {
     wait "$pid" 2>/dev/null || true
 }
 
-# new_shop NAME: makes a throw-away sample shop and names its directory.
+# new_shop NAME [DAYS]: makes a throw-away sample shop with the sales of some days, and names its
+# directory.
 new_shop() {
-    "$build/demo/vendel-demo" "$work/$1" || broken "the sample shop cannot be made"
+    "$build/demo/vendel-demo" "$work/$1" --days "${2-35}" || broken "the sample shop cannot be made"
     cp "$build/packaging/Vendel.png" "$build/packaging/AproposdeImage.png" "$work/$1"
     say "$work/$1"
 }
