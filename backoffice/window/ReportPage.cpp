@@ -74,6 +74,7 @@ QWidget* ReportPage::buildReport()
     auto* words = new QVBoxLayout;
     words->setSpacing(0);
     title_ = new QLabel(panel);
+    title_->setObjectName(QStringLiteral("title"));
     title_->setTextFormat(Qt::PlainText);
     QFont large = title_->font();
     constexpr double larger = 1.5;
