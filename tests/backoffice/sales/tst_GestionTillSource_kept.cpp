@@ -7,7 +7,7 @@
 
 namespace {
 constexpr auto hoursStatement = "select substr(date_heure, 1, 13)";
-constexpr auto traceStatement = "select count(*), sum(rowid";
+constexpr auto traceStatement = "select count(*) from Historique where date_heure";
 
 /// Four days of November 2026 with 600 sales at 2 of Café each, from midnight on, a second apart.
 struct BusyShop : GestionShop
@@ -131,6 +131,19 @@ private slots:
         shop.sql("delete from Historique where date_heure = '2026-11-18 00:05:00.000'");
         shop.sell("2026-11-18 00:05:00.000", "Thé", "7");
         QCOMPARE(hoursOf(source).at(1), QString("2026-11-18 0h 600 12050000"));
+    }
+
+    void aLineWithThePurgedLastOnesNumberIsNoticed()
+    {
+        const BusyShop shop;
+        TillSource source(shop.path(), smallPortions());
+        hoursOf(source);
+        shop.sql("delete from Historique where date_heure >= '2026-11-19 00:09:59.000'");
+        shop.sell("2026-11-19 00:09:59.000", "Thé", "7");
+        QCOMPARE(shop.cell("select max(rowid) from Historique"), QString("1800"));
+        QCOMPARE(hoursOf(source),
+            QStringList({"2026-11-17 0h 600 12000000", "2026-11-18 0h 600 12000000",
+                "2026-11-19 0h 600 12050000"}));
     }
 
     void aClockSetBackIsNoticed()
