@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "backoffice/menu/CopyProcess.h"
 #include "backoffice/Order.h"
 #include "backoffice/output/PaperFile.h"
 #include "backoffice/OutputFile.h"
@@ -66,7 +67,7 @@ int showWindow(const Session& session)
 {
     const QString& folder = session.folder();
     MainWindow window({[folder] { return std::make_unique<TillSource>(folder); }, makeReport,
-        session.locale(), &QDate::currentDate, folder});
+        session.locale(), &QDate::currentDate, folder, session.csvFormat()});
     window.show();
     return QApplication::exec();
 }
@@ -93,6 +94,9 @@ int run(const Order& order, const Session& session)
 
 int main(int argc, char* argv[])
 {
+    if (const std::optional<int> status = CopyProcess::asked(argc, argv)) {
+        return *status;
+    }
     prepare();
     Session::useUtf8();
     QStringList arguments;

@@ -1,18 +1,40 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/Copies.h"
 
+#include "launcher/Database.h"
 #include "launcher/Journals.h"
 #include "launcher/SafeFile.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
+#include <thread>
 
 #include <fcntl.h>
+#include <sys/file.h>
 
 namespace {
 constexpr const char* database = "Vendel.db";
 constexpr const char* copiesName = "copies";
+
+/// The right to write into \a shelf, until it is closed: the till's launcher and the back office
+/// would write the same part and lose lines of each other's register.
+Descriptor turn(int shelf, double patience)
+{
+    constexpr std::chrono::milliseconds pause(20);
+    Descriptor folder = SafeFile::openFolder(shelf, ".");
+    const double end = steadySeconds() + patience;
+    // A file system that knows no such locks must not leave the shop without copies.
+    while (
+        flock(folder.get(), LOCK_EX | LOCK_NB) != 0 && (errno == EWOULDBLOCK || errno == EINTR)) {
+        if (steadySeconds() > end) {
+            throw DatabaseError(SQLITE_BUSY);
+        }
+        std::this_thread::sleep_for(pause);
+    }
+    return folder;
+}
 } // namespace
 
 Copies::Copies(int folder)
@@ -41,9 +63,10 @@ bool Copies::isDueAtStart(const Moment& moment) const
     return std::none_of(all.begin(), all.end(), isToday) || all.back().fingerprint != present;
 }
 
-void Copies::make(const Moment& moment, Backup::Pace pace) const
+std::string Copies::make(const Moment& moment, Backup::Pace pace, double patience) const
 {
     CopyShelf copies = shelf();
+    const Descriptor claim = turn(copies.get(), patience);
     // A change during the copy makes the next one due.
     const std::string copied = fingerprint();
     for (const char* suffix : Journals::suffixes) {
@@ -51,7 +74,9 @@ void Copies::make(const Moment& moment, Backup::Pace pace) const
     }
     SafeFile::Temporary part(copies.get(), CopyShelf::partName);
     Backup::copy(database, std::string(copiesName) + '/' + CopyShelf::partName, pace);
-    copies.add(part, copies.freeName(moment), copied);
+    std::string name = copies.freeName(moment);
+    copies.add(part, name, copied);
+    return name;
 }
 
 CopyShelf Copies::shelf() const

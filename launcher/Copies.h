@@ -19,8 +19,10 @@ public:
     /// Whether a start at \a moment has to make a copy.
     bool isDueAtStart(const Moment& moment) const;
 
-    /// Makes a copy, named by \a moment. Throws DatabaseError or std::system_error.
-    void make(const Moment& moment, Backup::Pace pace) const;
+    /// Makes a copy and returns its file's name, which \a moment gives it. Waits for \a patience,
+    /// in seconds, while another program makes one. Throws DatabaseError, SQLITE_BUSY for one that
+    /// takes longer, or std::system_error.
+    std::string make(const Moment& moment, Backup::Pace pace, double patience = 30) const;
 
     /// The folder of the copies, made when it is missing. Throws std::system_error.
     CopyShelf shelf() const;

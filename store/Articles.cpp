@@ -43,10 +43,17 @@ std::vector<Article> Articles::like(const QString& term)
         + QLatin1String(" order by article asc")));
 }
 
-void Articles::add(const QString& name, const QString& price)
+void Articles::add(const QString& name, const QString& price) { Rows::load(adding(name, price)); }
+
+QString Articles::adding(const QString& name, const QString& price)
 {
-    Rows::load(QLatin1String("insert into Article (article, prix) values (") + Rows::quoted(name)
-        + QLatin1String(", ") + price + QLatin1Char(')'));
+    return QLatin1String("insert into Article (article, prix) values (") + Rows::quoted(name)
+        + QLatin1String(", ") + price + QLatin1Char(')');
+}
+
+QString Articles::pricing(const QString& id, const QString& price)
+{
+    return QLatin1String("update Article set prix = ") + price + QLatin1String(" where id = ") + id;
 }
 
 void Articles::change(const QString& id, const QString& name, const QString& price)

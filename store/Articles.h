@@ -26,6 +26,11 @@ std::vector<Article> like(const QString& term);
 /// Adds an article; \a price is a number as SQL writes it.
 void add(const QString& name, const QString& price);
 
+/// The statement by which add() adds it.
+QString adding(const QString& name, const QString& price);
+/// A statement that gives the article with the key \a id another price.
+QString pricing(const QString& id, const QString& price);
+
 /// Gives the article with the key \a id another name and price.
 void change(const QString& id, const QString& name, const QString& price);
 

@@ -58,9 +58,14 @@ void StockArticles::synchronise()
     Db::DbLoad("update ArticleStock set article = (select Article.article from Article where "
                "Article.id = ArticleStock.id) where ArticleStock.id in (select Article.id from "
                "Article)");
-    Db::DbLoad("insert into ArticleStock (id,article) select Article.id,Article.article from "
-               "Article left join ArticleStock on ArticleStock.id = Article.id where "
-               "ArticleStock.id is null");
+    Db::DbLoad(addingMissing());
+}
+
+const char* StockArticles::addingMissing()
+{
+    return "insert into ArticleStock (id,article) select Article.id,Article.article from "
+           "Article left join ArticleStock on ArticleStock.id = Article.id where "
+           "ArticleStock.id is null";
 }
 
 bool StockArticles::remove(const QString& id)

@@ -34,6 +34,8 @@ std::vector<StockArticle> renamed();
 
 /// Gives every stock article its name in the menu, then adds those that the stock lacks.
 void synchronise();
+/// The second of these two statements.
+const char* addingMissing();
 
 /// Removes the article \a id with the lines of its recipe, all of it or nothing. Returns whether it
 /// is removed.

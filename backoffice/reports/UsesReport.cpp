@@ -15,8 +15,6 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(UsesReport)
 };
 
-QString composition() { return Text::tr("Composition"); }
-
 /// The uses of all tills as if they were one till's: of the period, and by day.
 struct AllUses
 {
@@ -130,35 +128,34 @@ std::vector<BarChart> charts(const ReportOrder& order, const AllUses& all)
     return charts;
 }
 
-std::vector<Column> columns()
+/// \a uses, with their day if \a hasDay, and the larger units if there are any.
+Table table(const QString& title, const std::vector<Use>& uses, bool hasDay)
 {
-    return {{composition(), CellKind::Text}, {Text::tr("Quantité"), CellKind::Quantity},
-        {Text::tr("Unité"), CellKind::Text}, {Text::tr("Quantité convertie"), CellKind::Quantity},
-        {Text::tr("Unité convertie"), CellKind::Text}};
-}
-
-std::vector<QVariant> row(const Use& use)
-{
-    const bool isConverted = !use.convertedUnit.isEmpty();
-    return {use.composition, use.amount, use.unit,
-        isConverted ? QVariant(use.converted) : QVariant(),
-        isConverted ? QVariant(use.convertedUnit) : QVariant()};
-}
-
-Table ofPeriod(const std::vector<Use>& uses)
-{
-    Table table{Text::tr("Consommation de la période"), columns(), {}};
-    std::transform(uses.begin(), uses.end(), std::back_inserter(table.rows), row);
-    return table;
-}
-
-Table byDay(const std::vector<Use>& uses)
-{
-    Table table{Text::tr("Consommation par jour"), columns(), {}};
-    table.columns.insert(table.columns.begin(), {Wording::day(), CellKind::Day});
+    const bool isConverted = std::any_of(
+        uses.begin(), uses.end(), [](const Use& use) { return !use.convertedUnit.isEmpty(); });
+    Table table{title, {}, {}};
+    if (hasDay) {
+        table.columns.push_back({Wording::day(), CellKind::Day});
+    }
+    table.columns.insert(table.columns.end(),
+        {{Text::tr("Composition"), CellKind::Text}, {Text::tr("Quantité"), CellKind::Quantity},
+            {Text::tr("Unité"), CellKind::Text}});
+    if (isConverted) {
+        table.columns.push_back({Text::tr("Quantité convertie"), CellKind::Quantity});
+        table.columns.push_back({Text::tr("Unité convertie"), CellKind::Text});
+    }
     for (const Use& use : uses) {
-        table.rows.push_back(row(use));
-        table.rows.back().insert(table.rows.back().begin(), use.day);
+        std::vector<QVariant> row;
+        if (hasDay) {
+            row.emplace_back(use.day);
+        }
+        row.insert(row.end(), {use.composition, use.amount, use.unit});
+        if (isConverted) {
+            const bool isThisOne = !use.convertedUnit.isEmpty();
+            row.push_back(isThisOne ? QVariant(use.converted) : QVariant());
+            row.push_back(isThisOne ? QVariant(use.convertedUnit) : QVariant());
+        }
+        table.rows.push_back(std::move(row));
     }
     return table;
 }
@@ -173,9 +170,9 @@ Report Pages::uses(const ReportOrder& order, SalesSource& source, const Reading&
     report.figures = {{Text::tr("Compositions consommées"), static_cast<qint64>(all.period.size()),
         CellKind::Count, {}}};
     report.charts = charts(order, all);
-    report.tables.push_back(ofPeriod(all.period));
+    report.tables.push_back(table(Text::tr("Consommation de la période"), all.period, false));
     if (order.range.first != order.range.last) {
-        report.tables.push_back(byDay(all.days));
+        report.tables.push_back(table(Text::tr("Consommation par jour"), all.days, true));
         report.notes.push_back(Text::tr(
             "Le total de la période et celui de chaque jour sont calculés comme dans la fenêtre de la "
             "caisse, où un article vendu à plusieurs prix, le même nombre de fois à chacun, compte "

@@ -34,6 +34,13 @@ template <class Figures> struct KeptFigures
 template <class Figures> class KeptRanges
 {
 public:
+    explicit KeptRanges(const Timing& timing)
+        : pace_(timing)
+    { }
+
+    /// How fast these figures are read: a line costs more with one statement than with another.
+    TillPace& pace() { return pace_; }
+
     /// The figures of \a range, new and empty ones if there are none.
     KeptFigures<Figures>& of(const DayRange& range)
     {
@@ -50,5 +57,6 @@ public:
     }
 
 private:
+    TillPace pace_;
     std::list<KeptFigures<Figures>> kept_;
 };

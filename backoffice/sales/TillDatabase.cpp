@@ -147,6 +147,7 @@ void TillDatabase::open(const Reading& reading)
 
 void TillDatabase::close()
 {
+    queries_.clear();
     if (database_.isValid()) {
         database_ = QSqlDatabase();
         QSqlDatabase::removeDatabase(connection_);
@@ -221,21 +222,36 @@ TillDatabase::State TillDatabase::state(const Reading& reading)
 /// Locked and ReadOnly: SQLite takes its lock before the first row.
 int TillDatabase::attempt(const QString& sql, const QVariantList& values, const Row& row)
 {
-    QSqlQuery query(database_);
-    query.setForwardOnly(true);
-    bool isDone = query.prepare(sql);
-    if (isDone) {
-        for (const QVariant& value : values) {
-            query.addBindValue(value);
+    auto found = queries_.find(sql);
+    if (found == queries_.end()) {
+        QSqlQuery query(database_);
+        query.setForwardOnly(true);
+        if (!query.prepare(sql)) {
+            return failed(query);
         }
-        isDone = query.exec();
+        found = queries_.emplace(sql, query).first;
     }
+    QSqlQuery& query = found->second;
+    for (int place = 0; place < values.size(); ++place) {
+        query.bindValue(place, values.at(place));
+    }
+    bool isDone = query.exec();
     while (isDone && query.next()) {
         row(query);
     }
+    isDone = isDone && !query.lastError().isValid();
+    const int code = isDone ? Ok : failed(query);
+    // Until it is finished, the statement keeps its lock.
+    query.finish();
+    return code;
+}
+
+/// The code of the error that \a query has had, whose words are kept.
+int TillDatabase::failed(const QSqlQuery& query)
+{
     lastError_ = query.lastError().databaseText();
     const int code = codeOf(query.lastError());
-    return isDone || code != Ok ? code : Corrupt;
+    return code == Ok ? Corrupt : code;
 }
 
 void TillDatabase::read(

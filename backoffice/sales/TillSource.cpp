@@ -12,7 +12,7 @@ double shareBefore(const QString& moment, const DayRange& range)
 {
     constexpr int hourPlace = 11;
     constexpr double hoursInADay = 24;
-    const QDate day = dayOf(moment, range.first);
+    const QDate day = dayOf(moment);
     const double hour = moment.mid(hourPlace, 2).toInt();
     const double passed = static_cast<double>(range.first.daysTo(day)) + hour / hoursInADay;
     return std::clamp(passed / static_cast<double>(range.days()), 0.0, 1.0);
@@ -39,7 +39,9 @@ void append(std::vector<ReadSlice>& slices, const ReadSlice& next)
 
 TillSource::TillSource(const QString& folder, const Timing& timing)
     : database_(folder, timing)
-    , pace_(timing)
+    , hours_(timing)
+    , articles_(timing)
+    , counts_(timing)
 { }
 
 TillSource::~TillSource() = default;
@@ -63,15 +65,16 @@ QDate TillSource::lastSoldDay(const Reading& reading)
     QDate day;
     database_.read(
         TillStatements::lastRecorded(), {},
-        [&](const QSqlQuery& row) { day = dayOf(row.value(0).toString(), QDate()); }, reading);
+        [&](const QSqlQuery& row) { day = dayOf(row.value(0).toString()); }, reading);
     return day;
 }
 
-bool TillSource::isAsRead(const std::vector<ReadSlice>& slices, const Reading& reading)
+bool TillSource::isAsRead(
+    const std::vector<ReadSlice>& slices, TillPace& pace, const Reading& reading)
 {
     return std::all_of(slices.begin(), slices.end(), [&](const ReadSlice& read) {
         SalesTrace found;
-        pace_.runAsIs(database_.isTillAtWork(), [&] {
+        pace.runAsIs(database_.isTillAtWork(), [&] {
             database_.read(
                 read.slice.in(TillStatements::trace()), read.slice.values(),
                 [&](const QSqlQuery& row) {
@@ -86,7 +89,8 @@ bool TillSource::isAsRead(const std::vector<ReadSlice>& slices, const Reading& r
 
 /// Reads the days from into.end to before \a end. Throws without having changed \a into.
 template <class Figures>
-void TillSource::readDays(KeptFigures<Figures>& into, QDate end, const Reading& reading)
+void TillSource::readDays(
+    KeptFigures<Figures>& into, QDate end, TillPace& pace, const Reading& reading)
 {
     Figures figures;
     std::vector<ReadSlice> slices;
@@ -102,7 +106,7 @@ void TillSource::readDays(KeptFigures<Figures>& into, QDate end, const Reading& 
             reading);
         append(slices, done);
     };
-    SalesWalk(database_, pace_, reading)
+    SalesWalk(database_, pace, reading)
         .go(text(into.end), text(end), read,
             [&](const QString& moment) { reading.advance(shareBefore(moment, into.range)); });
     into.figures.add(figures);
@@ -120,7 +124,7 @@ Figures TillSource::figures(
         reading.advance(0);
         KeptFigures<Figures>& past = kept.of(range);
         if (!(past.checked == state)) {
-            if (past.checked.file != state.file || !isAsRead(past.slices, reading)) {
+            if (past.checked.file != state.file || !isAsRead(past.slices, kept.pace(), reading)) {
                 past = {range, range.first, {}, {}, {}};
             }
             past.checked = state;
@@ -129,10 +133,10 @@ Figures TillSource::figures(
         const QDate today = lastSoldDay(reading);
         const QDate pastEnd = today.isValid() ? std::min(today, behind) : range.first;
         if (past.end < pastEnd) {
-            readDays(past, pastEnd, reading);
+            readDays(past, pastEnd, kept.pace(), reading);
         }
         KeptFigures<Figures> all{range, past.end, past.figures, {}, {}};
-        readDays(all, behind, reading);
+        readDays(all, behind, kept.pace(), reading);
         return all.figures;
     });
 }

@@ -33,13 +33,12 @@ private:
     template <class Figures>
     Figures figures(KeptRanges<Figures>& kept, const DayRange& range, const Reading& reading);
     template <class Figures>
-    void readDays(KeptFigures<Figures>& into, QDate end, const Reading& reading);
-    bool isAsRead(const std::vector<ReadSlice>& slices, const Reading& reading);
+    void readDays(KeptFigures<Figures>& into, QDate end, TillPace& pace, const Reading& reading);
+    bool isAsRead(const std::vector<ReadSlice>& slices, TillPace& pace, const Reading& reading);
     QDate lastSoldDay(const Reading& reading);
     void readRows(const QString& sql, const TillDatabase::Row& row, const Reading& reading);
 
     TillDatabase database_;
-    TillPace pace_;
     KeptRanges<HourFigures> hours_;
     KeptRanges<ArticleFigures> articles_;
     KeptRanges<CountFigures> counts_;

@@ -118,15 +118,14 @@ inline QString taxRate()
 }
 
 /// What the till's statement of the consumption looks at, in memory: the stock as it is, and the
-/// sales counted by day.
+/// sales counted by day; the day 0 is all days.
 inline constexpr std::array useTables{"create table ArticleStock (id integer primary key not null, "
                                       "article text collate nocase not null)",
     "create table DoseStock (idlig integer primary key not null, id integer not null, "
     "composition text collate nocase not null, dose numeric not null, unite text not null)",
-    "create table Ventes (jour text not null, article text collate nocase not null, "
-    "prix numeric not null, compte integer not null)"};
-inline constexpr std::array useIndexes{
-    "create index parJour on Ventes (jour, article, prix, compte)"};
+    "create table Ventes (jour integer not null, article text collate nocase not null, "
+    "prix numeric not null, compte integer not null, "
+    "primary key (jour, article, prix)) without rowid"};
 
 inline QString addStockArticle()
 {
@@ -135,14 +134,22 @@ inline QString addStockArticle()
 
 inline QString addDose() { return QStringLiteral("insert into DoseStock values (?, ?, ?, ?, ?)"); }
 
-inline QString addCount() { return QStringLiteral("insert into Ventes values (?, ?, ?, ?)"); }
-
-/// The sales from a day through another, counted as on the till.
-inline QString countedSales()
+inline QString addCount()
 {
-    return QStringLiteral("select distinct sum(compte) as compte, article from Ventes "
-                          "where jour between ? and ? group by article, prix");
+    return QStringLiteral("insert into Ventes values (?, ?, ?, ?) on conflict "
+                          "do update set compte = compte + excluded.compte");
 }
 
-inline QString soldDays() { return QStringLiteral("select distinct jour from Ventes order by 1"); }
+inline QString addAllDays()
+{
+    return QStringLiteral("insert into Ventes select 0, article, prix, sum(compte) from Ventes "
+                          "group by article, prix");
+}
+
+/// The sales of a day, given twice, counted as on the till. With "between", as on the till, SQLite
+/// expects many rows and looks each up by an index.
+inline QString countedSales()
+{
+    return QStringLiteral("select distinct compte, article from Ventes where jour between ? and ?");
+}
 } // namespace TillStatements

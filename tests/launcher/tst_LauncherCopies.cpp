@@ -11,6 +11,9 @@
 #include <chrono>
 #include <future>
 
+#include <sys/file.h>
+#include <sys/wait.h>
+
 namespace {
 const Moment noon{"2026-03-05", "120000"};
 
@@ -249,6 +252,57 @@ private slots:
         QCOMPARE(CopyChoice::readableSize(10138), std::string("10K"));
         QCOMPARE(CopyChoice::readableSize(253952), std::string("248K"));
         QCOMPARE(CopyChoice::readableSize(1048575), std::string("1.0M"));
+    }
+
+    void twoProgramsMakeTheirCopiesOneAfterTheOther()
+    {
+        const ShopFolder shop;
+        constexpr int copiesEach = 8;
+        const auto makeSome = [&] {
+            for (int count = 0; count < copiesEach; ++count) {
+                Copies(shop.get()).make(noon, Backup::Pace::Gentle);
+            }
+        };
+        const pid_t other = fork();
+        if (other == 0) {
+            try {
+                makeSome();
+                _exit(0);
+            } catch (const std::exception&) {
+                _exit(1);
+            }
+        }
+        makeSome();
+        int state = -1;
+        QCOMPARE(waitpid(other, &state, 0), other);
+        QCOMPARE(state, 0);
+        // The register knows them all: the ten newest, and the day's first.
+        const auto lines = shop.read(QString("copies/.registre")).split('\n');
+        const QStringList files = copyNames();
+        QCOMPARE(files.size(), 11);
+        for (const QString& file : files) {
+            QCOMPARE(std::count_if(lines.begin(), lines.end(),
+                         [&](const QByteArray& line) {
+                             return line.startsWith(file.toUtf8() + ' ') && !line.endsWith(" ?");
+                         }),
+                1);
+            QCOMPARE(ShopFolder::unsoundness(("copies/" + file).toUtf8().constData()), QString());
+        }
+    }
+
+    void aCopyThatAnotherProgramMakesIsWaitedForInVain()
+    {
+        const ShopFolder shop;
+        workAndCopy(shop, noon);
+        const Descriptor other(open("copies", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        QCOMPARE(flock(other.get(), LOCK_EX), 0);
+        try {
+            Copies(shop.get()).make(noon, Backup::Pace::Gentle, 0);
+            QFAIL("a copy was made");
+        } catch (const DatabaseError& error) {
+            QCOMPARE(error.code(), SQLITE_BUSY);
+        }
+        QCOMPARE(copyNames(), QStringList{QString("Vendel-2026-03-05.db")});
     }
 
     void theTillNeverWaitsLongForACopy()

@@ -53,15 +53,17 @@ private slots:
         QCOMPARE(line(page), QStringLiteral("Période précédente: 0 0 400 1000 0 600"));
         QCOMPARE(Seen::names(page.charts.at(0).categories),
             QStringLiteral("9 h|10 h|11 h|12 h|13 h|14 h"));
-        QCOMPARE(Seen::plain(page.charts.at(0).categoryNames.at(5)), QStringLiteral("de 14 h à 15 h"));
+        QCOMPARE(
+            Seen::plain(page.charts.at(0).categoryNames.at(5)), QStringLiteral("de 14 h à 15 h"));
         QCOMPARE(Seen::titles(page.tables.at(0)),
             QStringLiteral("Heure|Lignes|Total HT|TVA|Total TTC|Période précédente|Évolution"));
         QCOMPARE(Seen::rows(page.tables.at(0)),
-            QStringList({"9 h|2|5,00 €|1,00 €|6,00 €|0,00 €|", "10 h|0|0,00 €|0,00 €|0,00 €|0,00 €|",
-                "11 h|0|0,00 €|0,00 €|0,00 €|4,00 €|-100,0 %",
-                "12 h|3|30,50 €|6,10 €|36,60 €|10,00 €|205,0 %",
-                "13 h|0|0,00 €|0,00 €|0,00 €|0,00 €|",
-                "14 h|0|0,00 €|0,00 €|0,00 €|6,00 €|-100,0 %"}));
+            QStringList(
+                {"9 h|2|5,00 €|1,00 €|6,00 €|0,00 €|", "10 h|0|0,00 €|0,00 €|0,00 €|0,00 €|",
+                    "11 h|0|0,00 €|0,00 €|0,00 €|4,00 €|-100,0 %",
+                    "12 h|3|30,50 €|6,10 €|36,60 €|10,00 €|205,0 %",
+                    "13 h|0|0,00 €|0,00 €|0,00 €|0,00 €|",
+                    "14 h|0|0,00 €|0,00 €|0,00 €|6,00 €|-100,0 %"}));
         QVERIFY(page.charts.at(0).categories.size() == page.charts.at(0).categoryNames.size());
     }
 
@@ -107,7 +109,8 @@ private slots:
         QCOMPARE(bars(page), QStringLiteral("Période: 2000 2000 0 500 0 0 0"));
         QCOMPARE(line(page), QStringLiteral("Période précédente: 1000 0 0 0 4000 0 0"));
         QCOMPARE(Seen::names(page.charts.at(0).categories), QStringLiteral("9|10|11|12|13|14|15"));
-        QCOMPARE(page.charts.at(0).categoryNames.at(6), QStringLiteral("dimanche 15 novembre 2026"));
+        QCOMPARE(
+            page.charts.at(0).categoryNames.at(6), QStringLiteral("dimanche 15 novembre 2026"));
         QCOMPARE(Seen::rows(page.tables.at(0)),
             QStringList({"09/11/2026|2|20,00 €|4,00 €|24,00 €|10,00 €|100,0 %",
                 "10/11/2026|1|20,00 €|4,00 €|24,00 €|0,00 €|",
@@ -124,8 +127,9 @@ private slots:
         const Report page = report(sales, {day(3, 1), day(3, 31)});
         QCOMPARE(page.subtitle, QStringLiteral("Mars 2026"));
         QCOMPARE(line(page),
-            QStringLiteral("Période précédente: 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 "
-                           "100 200 - - -"));
+            QStringLiteral(
+                "Période précédente: 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 "
+                "100 200 - - -"));
         QCOMPARE(Seen::rows(page.tables.at(0)).mid(27, 2),
             QStringList({"28/03/2026|1|3,00 €|0,60 €|3,60 €|2,00 €|50,0 %",
                 "29/03/2026|0|0,00 €|0,00 €|0,00 €||"}));
@@ -162,15 +166,16 @@ private slots:
         QCOMPARE(page.subtitle,
             QStringLiteral("Année 2026, jusqu'à aujourd'hui, jeudi 12 novembre 2026"));
         QCOMPARE(bars(page), QStringLiteral("Période: 1200 0 0 0 0 0 0 0 0 0 300 0"));
-        QCOMPARE(line(page), QStringLiteral("Période précédente: 1000 0 0 0 0 0 0 0 0 0 7500 9000"));
+        QCOMPARE(
+            line(page), QStringLiteral("Période précédente: 1000 0 0 0 0 0 0 0 0 0 7500 9000"));
         QCOMPARE(page.charts.at(0).categories.at(0), QStringLiteral("janv."));
         QCOMPARE(page.charts.at(0).categoryNames.at(0), QStringLiteral("janvier 2026"));
         QCOMPARE(Seen::rows(page.tables.at(0)).mid(0, 1),
             QStringList({"janvier 2026|3|12,00 €|2,40 €|14,40 €|10,00 €|20,0 %"}));
         // November is not over: it is not held against a whole one.
         QCOMPARE(Seen::rows(page.tables.at(0)).mid(10),
-            QStringList({"novembre 2026|1|3,00 €|0,60 €|3,60 €|75,00 €|",
-                "décembre 2026|||||90,00 €|"}));
+            QStringList(
+                {"novembre 2026|1|3,00 €|0,60 €|3,60 €|75,00 €|", "décembre 2026|||||90,00 €|"}));
         QVERIFY(Seen::figures(page).contains(
             "Période précédente = 15,00 € (du 01/01/2025 au 12/11/2025)"));
         QVERIFY(Seen::figures(page).contains("Évolution = 0,0 %"));
@@ -253,22 +258,22 @@ private slots:
         FixedSales sales;
         sales.hourSales = {{day(3, 28), 23, 1, 10000}, {day(3, 29), 1, 1, 20000},
             {day(3, 29), 3, 1, 30000}, {day(3, 30), 0, 1, 40000}};
-        QCOMPARE(bars(report(sales, {day(3, 28), day(3, 30)})),
-            QStringLiteral("Période: 100 500 400"));
-        sales.hourSales = {{day(10, 25), 1, 1, 10000}, {day(10, 25), 2, 4, 80000},
-            {day(10, 26), 0, 1, 40000}};
-        QCOMPARE(bars(report(sales, {day(10, 24), day(10, 26)})),
-            QStringLiteral("Période: 0 900 400"));
-        QCOMPARE(bars(report(sales, {day(10, 25), day(10, 25)})),
-            QStringLiteral("Période: 100 800"));
+        QCOMPARE(
+            bars(report(sales, {day(3, 28), day(3, 30)})), QStringLiteral("Période: 100 500 400"));
+        sales.hourSales
+            = {{day(10, 25), 1, 1, 10000}, {day(10, 25), 2, 4, 80000}, {day(10, 26), 0, 1, 40000}};
+        QCOMPARE(
+            bars(report(sales, {day(10, 24), day(10, 26)})), QStringLiteral("Période: 0 900 400"));
+        QCOMPARE(
+            bars(report(sales, {day(10, 25), day(10, 25)})), QStringLiteral("Période: 100 800"));
     }
 
     void theTaxMayBeAskedForAtAnotherRateAndIsRoundedOnce()
     {
         FixedSales sales;
         // A third of a cent each: together one cent.
-        sales.hourSales = {{day(11, 9), 9, 1, 33}, {day(11, 10), 9, 1, 33}, {day(11, 10), 10, 1, 34},
-            {day(11, 10), 11, 1, 999900}};
+        sales.hourSales = {{day(11, 9), 9, 1, 33}, {day(11, 10), 9, 1, 33},
+            {day(11, 10), 10, 1, 34}, {day(11, 10), 11, 1, 999900}};
         QCOMPARE(Seen::figures(report(sales, {day(11, 9), day(11, 10)}, 5.5)).mid(0, 3),
             QStringList({"Total HT = 100,00 €", "TVA à 5,5 % = 5,50 €", "Total TTC = 105,50 €"}));
     }

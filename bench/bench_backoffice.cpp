@@ -1,0 +1,405 @@
+// SPDX-License-Identifier: MIT
+// The back office's reading of the sales, against the bare statements; and what the till notices of
+// it.
+#include "backoffice/sales/TillSource.h"
+#include "base/Descriptor.h"
+#include "base/Handle.h"
+#include "bench/Support.h"
+#include "db/Db.h"
+#include "store/Consumption.h"
+#include "store/History.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <malloc.h>
+#include <sqlite3.h>
+
+namespace {
+constexpr double ratioLimit = 1.3;
+constexpr double paymentRatioLimit = 1.1;
+constexpr double lockLimitMs = 50;
+constexpr double bytesALineLimit = 16;
+constexpr int million = 1000000;
+constexpr double secondsOfASale = 94.608;
+
+using Clock = std::chrono::steady_clock;
+
+double secondsSince(Clock::time_point begin)
+{
+    return std::chrono::duration<double>(Clock::now() - begin).count();
+}
+
+/// As many days as it takes to sell 913 times on each: a million sales are three years. 40 articles
+/// at one or two prices, three compositions in each recipe, in a temporary directory.
+class Bar
+{
+public:
+    explicit Bar(int sales)
+        : sales_(sales)
+    {
+        enter();
+        Db::DbCreate();
+        const QString insertion = QStringLiteral(
+            "insert into Historique with recursive sale(n) as (select 0 union all select n + 1 "
+            "from sale where n < %1 - 1) select n * 17 % 40, 'Boisson ' || (n * 17 % 40), 2 + (n "
+            "% 7 = 0), strftime('%Y-%m-%d %H:%M:%f', '2021-01-01', (n * 94.608) || ' "
+            "seconds') from sale");
+        Db::DbLoad(insertion.arg(sales).toUtf8().constData());
+        Db::DbLoad("insert into ArticleStock with recursive article(n) as (select 0 union all "
+                   "select n + 1 from article where n < 39) select n, 'Boisson ' || n from "
+                   "article");
+        Db::DbLoad(
+            "insert into DoseStock (id, composition, dose, unite) select id, 'Composition ' "
+            "|| ((id * 3 + part) % 25), 1.5 + part, case part when 0 then 'oz' else 'cl' end "
+            "from ArticleStock, (select 0 as part union select 1 union select 2)");
+        rest();
+    }
+
+    /// Makes the last sale one of an hour ago, so that the till is not at work.
+    void rest() const
+    {
+        constexpr int hour = 3600;
+        QFile file(folder_.filePath(QStringLiteral("Vendel.db")));
+        check(file.open(QIODevice::ReadWrite)
+                && file.setFileTime(
+                    QDateTime::currentDateTime().addSecs(-hour), QFileDevice::FileModificationTime),
+            "the time of the last sale");
+    }
+
+    void enter() const { check(QDir::setCurrent(folder_.path()), "temporary directory"); }
+    QString path() const { return folder_.path(); }
+    int sales() const { return sales_; }
+    /// All days with a sale.
+    DayRange days() const
+    {
+        const QDateTime first(QDate(2021, 1, 1), QTime(0, 0), Qt::UTC);
+        return {first.date(), first.addSecs(qint64(sales_ * secondsOfASale)).date()};
+    }
+
+private:
+    QTemporaryDir folder_;
+    int sales_;
+};
+
+using Bare = std::function<std::size_t(const Bar&)>;
+using Report = std::function<std::size_t(TillSource&, const DayRange&)>;
+
+std::size_t readHours(TillSource& source, const DayRange& days)
+{
+    const auto hours = source.hours(days, {});
+    return hours.size();
+}
+
+std::size_t readArticles(TillSource& source, const DayRange& days)
+{
+    const auto articles = source.articles(days, {});
+    return articles.size();
+}
+
+std::size_t readUses(TillSource& source, const DayRange& days)
+{
+    const auto uses = source.uses(days, {});
+    return uses.size();
+}
+
+/// Statements on one connection, the least that reading them costs.
+class BareReading
+{
+public:
+    BareReading()
+    {
+        sqlite3* handle = nullptr;
+        check(sqlite3_open_v2("Vendel.db", &handle, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK,
+            "open");
+        connection_.reset(handle);
+    }
+
+    /// The number of rows.
+    std::size_t run(const std::string& sql, const char* first = nullptr, const char* last = nullptr)
+    {
+        if (sql != sql_) {
+            sqlite3_stmt* handle = nullptr;
+            check(sqlite3_prepare_v2(connection_.get(), sql.c_str(), -1, &handle, nullptr)
+                    == SQLITE_OK,
+                sqlite3_errmsg(connection_.get()));
+            statement_.reset(handle);
+            sql_ = sql;
+        }
+        sqlite3_bind_text(statement_.get(), 1, first, -1, SQLITE_TRANSIENT);
+        sqlite3_bind_text(statement_.get(), 2, last, -1, SQLITE_TRANSIENT);
+        std::size_t rows = 0;
+        while (sqlite3_step(statement_.get()) == SQLITE_ROW) {
+            for (int column = 0; column < sqlite3_column_count(statement_.get()); ++column) {
+                benchmark::DoNotOptimize(sqlite3_column_text(statement_.get(), column));
+            }
+            ++rows;
+        }
+        sqlite3_reset(statement_.get());
+        return rows;
+    }
+
+private:
+    Handle<sqlite3, sqlite3_close> connection_;
+    Handle<sqlite3_stmt, sqlite3_finalize> statement_;
+    std::string sql_;
+};
+
+std::size_t bareHours(const Bar&)
+{
+    return BareReading().run("select substr(date_heure, 1, 13), count(*), "
+                             "sum(cast(round(prix * 10000) as integer)) from Historique "
+                             "where date_heure between ? and ? group by 1",
+        "2021-01-01", "2024-01-01");
+}
+
+std::size_t bareArticles(const Bar&)
+{
+    return BareReading().run("select article, count(*), sum(cast(round(prix * 10000) as integer)) "
+                             "from Historique where date_heure between ? and ? group by 1",
+        "2021-01-01", "2024-01-01");
+}
+
+/// The till's own statement for all days and each of them.
+std::size_t bareUses(const Bar& bar)
+{
+    static const std::string sql = Consumption::totalsStatement(
+        QStringLiteral("select distinct count(article) as compte, article from Historique "
+                       "where date_heure between ? and ? group by article, prix"))
+                                       .toStdString();
+    BareReading reading;
+    std::size_t rows = reading.run(sql, "2021-01-01", "2024-01-01");
+    const DayRange days = bar.days();
+    for (QDate day = days.first; day <= days.last; day = day.addDays(1)) {
+        const std::string text = day.toString(Qt::ISODate).toStdString();
+        rows += reading.run(sql, text.c_str(), (text + " 23:59:59.999").c_str());
+    }
+    return rows;
+}
+
+void byProgram(benchmark::State& state, const Bar& bar, const Report& report)
+{
+    bar.enter();
+    malloc_trim(0);
+    const double before = residentBytes();
+    double most = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        TillSource source(bar.path());
+        state.counters["rows"] = static_cast<double>(report(source, bar.days()));
+        state.PauseTiming();
+        most = std::max(most, residentBytes() - before);
+        state.ResumeTiming();
+    }
+    state.counters["limit"] = ratioLimit;
+    state.counters["held"] = most;
+}
+
+void byFloor(benchmark::State& state, const Bar& bar, const Bare& bare)
+{
+    bar.enter();
+    for ([[maybe_unused]] auto _ : state) {
+        state.counters["rows"] = static_cast<double>(bare(bar));
+    }
+    state.counters["limit"] = ratioLimit;
+}
+
+/// All three reports of a million sales, once: the memory that they hold.
+void memory(benchmark::State& state, const Bar& bar)
+{
+    bar.enter();
+    malloc_trim(0);
+    const double before = residentBytes();
+    for ([[maybe_unused]] auto _ : state) {
+        TillSource source(bar.path());
+        readHours(source, bar.days());
+        readArticles(source, bar.days());
+        readUses(source, bar.days());
+        malloc_trim(0);
+        state.counters["bytes"] = (residentBytes() - before) / bar.sales();
+    }
+    state.counters["limit_bytes"] = bytesALineLimit;
+}
+
+/// Whether somebody reads the database behind \a file at this moment.
+bool isBeingRead(const Descriptor& file)
+{
+    // Where SQLite keeps its shared locks.
+    constexpr off_t sharedFirst = 0x40000002;
+    constexpr off_t sharedSize = 510;
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = sharedFirst;
+    lock.l_len = sharedSize;
+    check(fcntl(file.get(), F_GETLK, &lock) == 0, "F_GETLK");
+    return lock.l_type == F_RDLCK;
+}
+
+/// Another process that reads reports of \a bar one after the other.
+class OtherProcess
+{
+public:
+    explicit OtherProcess(const Bar& bar)
+    {
+        process_.start(
+            QCoreApplication::applicationFilePath(), {QStringLiteral("--reports"), bar.path()});
+        check(process_.waitForStarted(), "a second process");
+        check(process_.waitForReadyRead(), "a report");
+    }
+    ~OtherProcess()
+    {
+        process_.closeWriteChannel();
+        process_.waitForFinished();
+    }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+    OtherProcess(OtherProcess&&) = delete;
+    OtherProcess& operator=(OtherProcess&&) = delete;
+
+private:
+    QProcess process_;
+};
+
+/// What the other process does until its standard input ends.
+int readReports(const QString& folder)
+{
+    std::atomic<bool> isStopped = false;
+    std::thread parent([&] {
+        char byte = 0;
+        while (read(STDIN_FILENO, &byte, 1) > 0) { }
+        isStopped = true;
+    });
+    check(write(STDOUT_FILENO, "\n", 1) == 1, "the word that reading begins");
+    const DayRange allDays{QDate(2021, 1, 1), QDate(2023, 12, 31)};
+    const Reading reading{{}, &isStopped};
+    try {
+        for (;;) {
+            TillSource source(folder);
+            source.hours(allDays, reading);
+            source.uses(allDays, reading);
+        }
+    } catch (const ReadingStopped&) {
+        parent.join();
+    }
+    return 0;
+}
+
+/// The longest that the database is held by the other process within some seconds.
+void longestLock(benchmark::State& state, const Bar& bar)
+{
+    constexpr double watchedSeconds = 4;
+    constexpr double longestGap = 0.001;
+    bar.rest();
+    for ([[maybe_unused]] auto _ : state) {
+        const OtherProcess reports(bar);
+        const Descriptor file(open(
+            QFile::encodeName(bar.path() + QStringLiteral("/Vendel.db")).constData(), O_RDONLY));
+        double longest = 0;
+        double held = 0;
+        auto looked = Clock::now();
+        for (const auto begin = looked; secondsSince(begin) < watchedSeconds;) {
+            const bool isHeld = isBeingRead(file);
+            // When nobody looked for long, it is this process that was kept waiting.
+            held = isHeld ? held + std::min(secondsSince(looked), longestGap) : 0;
+            looked = Clock::now();
+            longest = std::max(longest, held);
+        }
+        state.SetIterationTime(longest);
+    }
+    state.counters["limit_ms"] = lockLimitMs;
+}
+
+/// The median of 200 payments.
+double payment()
+{
+    constexpr int payments = 200;
+    std::vector<double> seconds;
+    for (int count = 0; count < payments; ++count) {
+        const auto begin = Clock::now();
+        check(History::record(
+                  {{{}, QStringLiteral("1"), QStringLiteral("Café"), QStringLiteral("1.5")},
+                      {{}, QStringLiteral("2"), QStringLiteral("Thé"), QStringLiteral("2")}}),
+            "a payment");
+        seconds.push_back(secondsSince(begin));
+    }
+    std::sort(seconds.begin(), seconds.end());
+    std::fprintf(stderr, "payments: median %.3f ms, longest %.3f ms\n",
+        seconds[payments / 2] * 1000, seconds.back() * 1000);
+    return seconds[payments / 2];
+}
+
+void pay(benchmark::State& state, const Bar& bar, bool areReportsRead)
+{
+    bar.enter();
+    for ([[maybe_unused]] auto _ : state) {
+        const auto reports = areReportsRead ? std::make_unique<OtherProcess>(bar)
+                                            : std::unique_ptr<OtherProcess>();
+        state.SetIterationTime(payment());
+    }
+    state.counters["limit"] = paymentRatioLimit;
+}
+
+void registerAll(const std::vector<std::unique_ptr<Bar>>& bars)
+{
+    constexpr auto ms = benchmark::kMillisecond;
+    const auto compare = [&](const std::string& work, const Report& report, const Bare& bare) {
+        for (const auto& bar : bars) {
+            const std::string name
+                = "backoffice_" + work + "_of_" + std::to_string(bar->sales()) + "_sales";
+            benchmark::RegisterBenchmark((name + "/floor").c_str(), byFloor, std::ref(*bar), bare)
+                ->Unit(ms);
+            benchmark::RegisterBenchmark(
+                (name + "/program").c_str(), byProgram, std::ref(*bar), report)
+                ->Unit(ms);
+        }
+    };
+    compare("hours", readHours, bareHours);
+    compare("articles", readArticles, bareArticles);
+    compare("uses", readUses, bareUses);
+    const Bar& largest = *bars.back();
+    benchmark::RegisterBenchmark("backoffice_reports_held/program", memory, std::ref(largest))
+        ->Iterations(1)
+        ->Unit(ms);
+    benchmark::RegisterBenchmark("backoffice_longest_lock/program", longestLock, std::ref(largest))
+        ->Iterations(1)
+        ->UseManualTime()
+        ->Unit(ms);
+    benchmark::RegisterBenchmark("backoffice_payment/floor", pay, std::ref(largest), false)
+        ->Iterations(1)
+        ->UseManualTime()
+        ->Unit(ms);
+    benchmark::RegisterBenchmark("backoffice_payment/program", pay, std::ref(largest), true)
+        ->Iterations(1)
+        ->UseManualTime()
+        ->Unit(ms);
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--reports") == 0) {
+        return readReports(QFile::decodeName(argv[2]));
+    }
+    std::vector<std::unique_ptr<Bar>> bars;
+    for (const int sales : {million / 100, million / 10, million}) {
+        bars.push_back(std::make_unique<Bar>(sales));
+    }
+    registerAll(bars);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    QDir::setCurrent(QStringLiteral("/"));
+    return 0;
+}
