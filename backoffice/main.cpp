@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "backoffice/menu/CopyProcess.h"
 #include "backoffice/Order.h"
 #include "backoffice/output/PaperFile.h"
 #include "backoffice/OutputFile.h"
@@ -7,6 +8,7 @@
 #include "backoffice/window/MainWindow.h"
 
 #include <QApplication>
+#include <QDir>
 
 #include <csignal>
 
@@ -64,7 +66,8 @@ int writeFile(const Order& order, const Session& session)
 
 int showWindow(const Session& session)
 {
-    const QString& folder = session.folder();
+    // An import changes the working directory.
+    const QString folder = QDir(session.folder()).absolutePath();
     MainWindow window({[folder] { return std::make_unique<TillSource>(folder); }, makeReport,
         session.locale(), &QDate::currentDate, folder});
     window.show();
@@ -93,6 +96,9 @@ int run(const Order& order, const Session& session)
 
 int main(int argc, char* argv[])
 {
+    if (const auto status = CopyProcess::asked(argc, argv)) {
+        return *status;
+    }
     prepare();
     Session::useUtf8();
     QStringList arguments;
