@@ -114,10 +114,19 @@ Session::Session(const Order& order, int& argc, char** argv)
 void Session::useUtf8()
 {
     std::setlocale(LC_CTYPE, "");
-    if (qstrcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0) {
-        qputenv(qEnvironmentVariableIsEmpty("LC_ALL") ? "LC_CTYPE" : "LC_ALL", "C.UTF-8");
-        std::setlocale(LC_CTYPE, "");
+    if (qstrcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") != 0) {
+        return;
     }
+    // The C library may lack the language that numbers and dates are written in: it stays.
+    const QByteArray all = qgetenv("LC_ALL");
+    if (!all.isEmpty()) {
+        for (const char* part : {"LC_NUMERIC", "LC_TIME", "LC_MONETARY", "LC_MESSAGES", "LC_ALL"}) {
+            qunsetenv(part);
+        }
+        qputenv("LANG", all);
+    }
+    qputenv("LC_CTYPE", "C.UTF-8");
+    std::setlocale(LC_CTYPE, "");
 }
 
 void Session::say(const QString& sentence)
@@ -147,21 +156,21 @@ QString Session::usage() const
         "                       [--csv-format fr|en] [--dossier DOSSIER] [--langue fr|en]\n"
         "        vendel-gestion --aide | --version\n"
         "\n"
-        "Montre les ventes de la caisse dans « %1 », ou écrit une page dans un fichier,\n"
-        "sans fenêtre.\n"
+        "Montre les ventes de la caisse, ou écrit une page dans un fichier, sans fenêtre.\n"
+        "Les données sont dans « %1 ».\n"
         "\n"
-        "  PAGE                 --ventes, --articles, --heures, --consommation ou --cloture\n"
-        "                       (la clôture est celle du dernier jour)\n"
-        "  --du JOUR, --au JOUR le premier et le dernier jour, comme 2026-11-30 ; sans --au,\n"
-        "                       un seul jour\n"
-        "  --taux POURCENT      le taux de TVA à la place de celui de la caisse\n"
-        "  --csv FICHIER        écrit le tableau de la page pour un tableur\n"
-        "  --pdf, --png FICHIER écrit la page comme elle s'imprime ; en PNG, sa première feuille\n"
-        "                       (FICHIER « - » : la sortie standard)\n"
-        "  --csv-format fr|en   « ; » et la virgule, ou « , » et le point ; sinon ceux du système\n"
-        "  --dossier DOSSIER    le dossier de données à la place de celui de la caisse\n"
-        "  --langue fr|en       la langue, à la place de celle de la caisse\n"
-        "  --aide               montre ce texte\n"
-        "  --version            montre la version\n")
+        "  PAGE                  --ventes, --articles, --heures, --consommation ou --cloture\n"
+        "                        (la clôture est celle du dernier jour)\n"
+        "  --du JOUR, --au JOUR  le premier et le dernier jour, comme 2026-11-30 ; sans --au,\n"
+        "                        un seul jour\n"
+        "  --taux POURCENT       le taux de TVA à la place de celui de la caisse\n"
+        "  --csv FICHIER         écrit le tableau de la page pour un tableur\n"
+        "  --pdf, --png FICHIER  écrit la page comme elle s'imprime ; en PNG, sa première feuille\n"
+        "                        (FICHIER « - » : la sortie standard)\n"
+        "  --csv-format fr|en    « ; » et la virgule, ou « , » et le point ; sinon ceux du système\n"
+        "  --dossier DOSSIER     le dossier de données à la place de celui de la caisse\n"
+        "  --langue fr|en        la langue, à la place de celle de la caisse\n"
+        "  --aide                montre ce texte\n"
+        "  --version             montre la version\n")
         .arg(folder_.isEmpty() ? QStringLiteral("~/.local/share/vendel") : folder_);
 }

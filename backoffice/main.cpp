@@ -69,7 +69,7 @@ int showWindow(const Session& session)
     // An import changes the working directory.
     const QString folder = QDir(session.folder()).absolutePath();
     MainWindow window({[folder] { return std::make_unique<TillSource>(folder); }, makeReport,
-        session.locale(), &QDate::currentDate, folder});
+        session.locale(), &QDate::currentDate, folder, session.csvFormat()});
     window.show();
     return QApplication::exec();
 }
@@ -96,7 +96,7 @@ int run(const Order& order, const Session& session)
 
 int main(int argc, char* argv[])
 {
-    if (const auto status = CopyProcess::asked(argc, argv)) {
+    if (const std::optional<int> status = CopyProcess::asked(argc, argv)) {
         return *status;
     }
     prepare();

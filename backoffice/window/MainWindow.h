@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backoffice/output/CsvFile.h"
 #include "backoffice/window/ReportReader.h"
 
 #include <QLocale>
@@ -29,6 +30,8 @@ struct WindowSetup
     std::function<QDate()> today;
     /// The till's data folder, into which a menu is imported.
     QString folder;
+    /// What the system's spreadsheets expect, if that is not what the locale says.
+    std::optional<CsvFormat> csvFormat = std::nullopt;
 };
 
 /// The window of the back office: a page for each kind of report, one period for all.

@@ -16,8 +16,9 @@
 
 void MainWindow::saveCsv()
 {
-    save(QStringLiteral("csv"), tr("Tableau (*.csv)"),
-        [this](const Report& report) { return csv(report.file(), CsvFormat::of(setup_.locale)); });
+    save(QStringLiteral("csv"), tr("Tableau (*.csv)"), [this](const Report& report) {
+        return csv(report.file(), setup_.csvFormat.value_or(CsvFormat::of(setup_.locale)));
+    });
 }
 
 void MainWindow::savePdf()
