@@ -86,7 +86,8 @@ void MainWindow::buildFileMenu()
     ReportPage& closing = *pages_.at(static_cast<std::size_t>(Page::Closing));
     closing.addButton(pdf);
     closing.addButton(paper);
-    auto* files = new MenuFiles(setup_.folder, setup_.locale, this);
+    auto* files = new MenuFiles(setup_.folder, setup_.locale,
+        setup_.csvFormat.value_or(CsvFormat::of(setup_.locale)), this);
     connect(files, &MenuFiles::imported, this, &MainWindow::readPage);
     files->addTo(*menuBar()->addMenu(tr("&Menu")));
 }

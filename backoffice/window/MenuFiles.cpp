@@ -3,7 +3,6 @@
 
 #include "backoffice/menu/MenuExport.h"
 #include "backoffice/menu/SheetText.h"
-#include "backoffice/output/CsvFile.h"
 #include "backoffice/window/ImportDialog.h"
 
 #include <QFileDialog>
@@ -12,10 +11,11 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
-MenuFiles::MenuFiles(const QString& folder, QLocale locale, QWidget* window)
+MenuFiles::MenuFiles(const QString& folder, QLocale locale, CsvFormat format, QWidget* window)
     : QObject(window)
     , folder_(folder)
     , locale_(std::move(locale))
+    , format_(format)
     , window_(window)
 { }
 
@@ -53,7 +53,7 @@ void MenuFiles::exportFile(ImportKind kind)
     QByteArray bytes;
     try {
         import().enterShop();
-        bytes = csv(isMenu ? MenuExport::menu() : MenuExport::recipes(), CsvFormat::of(locale_));
+        bytes = csv(isMenu ? MenuExport::menu() : MenuExport::recipes(), format_);
     } catch (const ImportError& error) {
         QMessageBox::warning(window_, tr("Exporter"), error.sentence());
         return;

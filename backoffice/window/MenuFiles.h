@@ -2,7 +2,7 @@
 #pragma once
 
 #include "backoffice/menu/Import.h"
-#include "backoffice/reports/Report.h"
+#include "backoffice/output/CsvFile.h"
 
 #include <QLocale>
 #include <QObject>
@@ -16,8 +16,9 @@ class MenuFiles : public QObject
     Q_OBJECT
 
 public:
-    /// For the data folder \a folder. \a window owns this and what it opens.
-    MenuFiles(const QString& folder, QLocale locale, QWidget* window);
+    /// For the data folder \a folder; exports are written as \a format says. \a window owns this
+    /// and what it opens.
+    MenuFiles(const QString& folder, QLocale locale, CsvFormat format, QWidget* window);
 
     /// Appends the actions to \a menu.
     void addTo(QMenu& menu);
@@ -33,5 +34,6 @@ private:
 
     QString folder_;
     QLocale locale_;
+    CsvFormat format_;
     QWidget* window_;
 };

@@ -141,6 +141,16 @@ private slots:
         QCOMPARE(at.cancel.text(), QString("&Fermer"));
     }
 
+    void theProgramItselfMakesTheCopy()
+    {
+        Importing at(ImportKind::Menu, VENDEL_GESTION);
+        at.open(fourLines);
+        click(at.dialog, "start");
+        at.awaitEnd();
+        QCOMPARE(at.menu(), QString("Café1.8,Thé2,Lait2"));
+        QCOMPARE(QDir("copies").entryList({"*.db"}).size(), 1);
+    }
+
     void aChangedMenuIsShownBeforeAnythingIsDone()
     {
         Importing at;
