@@ -8,6 +8,7 @@
 #include "backoffice/window/MainWindow.h"
 
 #include <QApplication>
+#include <QDir>
 
 #include <csignal>
 
@@ -65,7 +66,8 @@ int writeFile(const Order& order, const Session& session)
 
 int showWindow(const Session& session)
 {
-    const QString& folder = session.folder();
+    // An import changes the working directory.
+    const QString folder = QDir(session.folder()).absolutePath();
     MainWindow window({[folder] { return std::make_unique<TillSource>(folder); }, makeReport,
         session.locale(), &QDate::currentDate, folder, session.csvFormat()});
     window.show();

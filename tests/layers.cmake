@@ -30,7 +30,7 @@ set(may_tests/translations "tests/support|tests/translations|${may_app}")
 set(may_tests/launcher "launcher|base|tests/launcher|tests/support|db|sqlite3")
 set(may_tests/backoffice "backoffice|launcher|store|common|base|tests/backoffice|tests/support")
 set(may_tests/scripts "tests/scripts|tests/support|sqlite3")
-set(may_tests/fuzz "tests/fuzz|${may_app}|stb")
+set(may_tests/fuzz "tests/fuzz|${may_app}|backoffice/menu|stb")
 
 set(own "^(app|backoffice|base|bench|common|db|demo|forms|launcher|Print|store|tests|widgets|csv|libusb|sqlite3|stb|ui_)")
 file(GLOB children RELATIVE ${ROOT} ${ROOT}/* ${ROOT}/tests/*)

@@ -75,8 +75,7 @@ void Import::enterShop() const
         throw ImportError(error.sentence());
     }
     if (!QDir::setCurrent(folder_)) {
-        throw ImportError(
-            tr("Le dossier « %1 » ne peut pas être ouvert. Rien n'est changé.").arg(folder_));
+        throw ImportError(tr("Le dossier « %1 » ne peut pas être ouvert.").arg(folder_));
     }
 }
 

@@ -20,6 +20,10 @@ public:
     Import(const QString& folder, QString program, QLocale locale, double patience = 5,
         Timing timing = Timing::ofTheMachine());
 
+    /// Makes the data folder the working directory, if there is a till's database in it. Throws
+    /// ImportError.
+    void enterShop() const;
+
     /// What importing \a file would do. Throws ImportError.
     ImportPlan plan(const ImportFile& file) const;
 
@@ -50,7 +54,6 @@ public:
         const ImportFile& file, const ImportPlan& plan, const std::atomic<bool>& isStopped) const;
 
 private:
-    void enterShop() const;
     QString copy(const std::atomic<bool>& isStopped) const;
 
     QString folder_;

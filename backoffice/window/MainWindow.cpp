@@ -38,7 +38,7 @@ MainWindow::MainWindow(WindowSetup setup)
     patience_.setSingleShot(true);
     patience_.setInterval(patience);
     connect(&patience_, &QTimer::timeout, this, &MainWindow::showProgress);
-    constexpr std::chrono::seconds betweenLooks(5);
+    constexpr std::chrono::seconds betweenLooks(1);
     calendar_.setInterval(betweenLooks);
     connect(&calendar_, &QTimer::timeout, this, &MainWindow::followTheDay);
     calendar_.start();

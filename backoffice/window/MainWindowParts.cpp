@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "backoffice/window/MainWindow.h"
+#include "backoffice/window/MenuFiles.h"
 #include "backoffice/window/PeriodBar.h"
 #include "backoffice/window/ReportPage.h"
 
@@ -85,6 +86,10 @@ void MainWindow::buildFileMenu()
     ReportPage& closing = *pages_.at(static_cast<std::size_t>(Page::Closing));
     closing.addButton(pdf);
     closing.addButton(paper);
+    auto* files = new MenuFiles(setup_.folder, setup_.locale,
+        setup_.csvFormat.value_or(CsvFormat::of(setup_.locale)), this);
+    connect(files, &MenuFiles::imported, this, &MainWindow::readPage);
+    files->addTo(*menuBar()->addMenu(tr("&Menu")));
 }
 
 void MainWindow::buildViewMenu()
