@@ -155,7 +155,7 @@ void HeatMapDrawing::drawScale(QPainter& painter) const
     const double line = metrics.height();
     const QString least = say("moins");
     const QString most = most_ > 0
-        ? say("plus (jusqu’à %1)").arg(formatDrawn(most_, map_.kind, locale_))
+        ? say("plus (jusqu'à %1)").arg(formatDrawn(most_, map_.kind, locale_))
         : say("plus");
     const double top = place_.bottom() - line * 1.2;
     const QRectF bar(plot_.left() + metrics.horizontalAdvance(least) + line * gap, top,

@@ -101,18 +101,19 @@ void TillDatabase::requireFile() const
 {
     const QFileInfo folder(folder_);
     if (!folder.isDir()) {
-        throw SalesError(tr("Le dossier « %1 » n'existe pas.").arg(folder_));
+        throw SalesError(tr("Le dossier «\u00a0%1\u00a0» n'existe pas.").arg(folder_));
     }
     if (!exists(path_)) {
         if (!isAllowed(folder_, X_OK)) {
             fail(Permission);
         }
-        throw SalesError(tr("Le dossier « %1 » ne contient pas de base de la caisse : démarrez la "
-                            "caisse une fois.")
+        throw SalesError(tr(
+            "Le dossier «\u00a0%1\u00a0» ne contient pas de base de la caisse\u00a0: démarrez la "
+            "caisse une fois.")
                              .arg(folder_));
     }
     if (!QFileInfo(path_).isFile()) {
-        throw SalesError(tr("« %1 » n'est pas un fichier.").arg(path_));
+        throw SalesError(tr("«\u00a0%1\u00a0» n'est pas un fichier.").arg(path_));
     }
     if (!isAllowed(path_, R_OK)) {
         fail(Permission);
@@ -126,10 +127,10 @@ void TillDatabase::requireNoWal() const
     const bool isToAsk = !database_.isOpen() && !exists(path + QLatin1String("-journal"))
         && QFileInfo(path).size() > 0;
     if (exists(path + QLatin1String("-wal")) || (isToAsk && isMadeForWal(path))) {
-        throw SalesError(
-            tr("La base de la caisse dans « %1 » a été modifiée par un autre programme : démarrez "
-               "la caisse une fois.")
-                .arg(folder_));
+        throw SalesError(tr(
+            "La base de la caisse dans «\u00a0%1\u00a0» a été modifiée par un autre programme\u00a0: démarrez "
+            "la caisse une fois.")
+                             .arg(folder_));
     }
 }
 
@@ -137,7 +138,7 @@ void TillDatabase::open(const Reading& reading)
 {
     close();
     if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE"))) {
-        throw SalesError(tr("Le pilote SQLite de Qt manque : Vendel est à réinstaller."));
+        throw SalesError(tr("Le pilote SQLite de Qt manque\u00a0: Vendel est à réinstaller."));
     }
     requireFile();
     requireNoWal();
@@ -188,13 +189,14 @@ void TillDatabase::requireOwn(const Reading& reading)
         reading);
     if (!isOwn) {
         close();
-        throw SalesError(tr("La base dans « %1 » contient autre chose que les tables de la caisse.")
-                             .arg(folder_));
+        throw SalesError(
+            tr("La base dans «\u00a0%1\u00a0» contient autre chose que les tables de la caisse.")
+                .arg(folder_));
     }
     if (!missing.empty()) {
         close();
         throw SalesError(
-            tr("Il manque des tables à la base de la caisse dans « %1 ».").arg(folder_));
+            tr("Il manque des tables à la base de la caisse dans «\u00a0%1\u00a0».").arg(folder_));
     }
     schema_ = number(TillStatements::schemaVersion(), reading);
 }
@@ -310,23 +312,27 @@ void TillDatabase::fail(int code) const
 {
     switch (code) {
     case Permission:
-        throw SalesError(tr("La base de la caisse dans « %1 » ne peut pas être lue.").arg(folder_));
+        throw SalesError(
+            tr("La base de la caisse dans «\u00a0%1\u00a0» ne peut pas être lue.").arg(folder_));
     case Busy:
     case Locked:
-        throw SalesError(tr("La base de la caisse dans « %1 » est occupée par un autre programme.")
-                             .arg(folder_));
+        throw SalesError(
+            tr("La base de la caisse dans «\u00a0%1\u00a0» est occupée par un autre programme.")
+                .arg(folder_));
     case ReadOnly:
     case CannotOpen:
-        throw SalesError(tr("Un changement de la base de la caisse dans « %1 » a été interrompu : "
-                            "démarrez la caisse une fois.")
+        throw SalesError(tr(
+            "Un changement de la base de la caisse dans «\u00a0%1\u00a0» a été interrompu\u00a0: "
+            "démarrez la caisse une fois.")
                              .arg(folder_));
     case NotADatabase:
     case Corrupt:
-        throw SalesError(tr("La base de la caisse dans « %1 » est endommagée : la commande "
-                            "« vendel --restaurer » en remet une copie en place.")
-                             .arg(folder_));
+        throw SalesError(
+            tr("La base de la caisse dans «\u00a0%1\u00a0» est endommagée\u00a0: la commande "
+               "«\u00a0vendel --restaurer\u00a0» en remet une copie en place.")
+                .arg(folder_));
     default:
-        throw SalesError(tr("La base de la caisse dans « %1 » ne peut pas être lue (%2).")
+        throw SalesError(tr("La base de la caisse dans «\u00a0%1\u00a0» ne peut pas être lue (%2).")
                              .arg(folder_, lastError_));
     }
 }

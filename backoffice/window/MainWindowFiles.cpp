@@ -61,7 +61,7 @@ void MainWindow::save(const QString& suffix, const QString& filter,
     const QByteArray bytes = contents(report);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
         QMessageBox::warning(this, windowTitle(),
-            tr("Le fichier «\u00a0%1\u00a0» n’a pas pu être écrit\u00a0: %2")
+            tr("Le fichier «\u00a0%1\u00a0» n'a pas pu être écrit\u00a0: %2")
                 .arg(path, file.errorString()));
     }
 }

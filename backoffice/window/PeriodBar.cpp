@@ -37,8 +37,8 @@ PeriodBar::PeriodBar(QLocale locale, std::function<QDate()> today, QWidget* pare
     line->setContentsMargins(0, 0, 0, 0);
     presets_->setObjectName(QStringLiteral("period"));
     presets_->setAccessibleName(tr("Période"));
-    presets_->addItems({tr("Aujourd’hui"), tr("Hier"), tr("Cette semaine"), tr("Ce mois"),
-        tr("Cette année"), tr("L’année dernière"), tr("Deux dates")});
+    presets_->addItems({tr("Aujourd'hui"), tr("Hier"), tr("Cette semaine"), tr("Ce mois"),
+        tr("Cette année"), tr("L'année dernière"), tr("Deux dates")});
     auto* caption = new QLabel(tr("&Période"), this);
     caption->setBuddy(presets_);
     line->addWidget(caption);

@@ -6,7 +6,7 @@ start_display 1366x768 "0,0 0,0"
 start_gestion "$(new_shop gestion 730)"
 year=$(($(date +%Y) - 1))
 
-pick MainWindow period "L’année dernière"
+pick MainWindow period "L'année dernière"
 await_text MainWindow subtitle "Année $year"
 takings=$(ask "select printf('%.2f', sum(prix)) from Historique where date_heure like '$year%'")
 # digits WORDS: without blanks, units and marks.

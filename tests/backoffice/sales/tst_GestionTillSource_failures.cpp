@@ -52,7 +52,7 @@ private slots:
     {
         const GestionShop shop(Shop::Database::None);
         QCOMPARE(complaint(shop.path() + "/ici"),
-            QString("Le dossier « %1/ici » n'existe pas.").arg(shop.path()));
+            QString("Le dossier «\u00a0%1/ici\u00a0» n'existe pas.").arg(shop.path()));
         QCOMPARE(files(shop.path()), QStringList());
     }
 
@@ -60,8 +60,9 @@ private slots:
     {
         const GestionShop shop(Shop::Database::None);
         QCOMPARE(complaint(shop.path()),
-            QString("Le dossier « %1 » ne contient pas de base de la caisse : démarrez la caisse "
-                    "une fois.")
+            QString(
+                "Le dossier «\u00a0%1\u00a0» ne contient pas de base de la caisse\u00a0: démarrez la caisse "
+                "une fois.")
                 .arg(shop.path()));
         QCOMPARE(files(shop.path()), QStringList());
     }
@@ -71,14 +72,15 @@ private slots:
         const GestionShop shop(Shop::Database::None);
         QVERIFY(QDir().mkdir("Vendel.db"));
         QCOMPARE(complaint(shop.path()),
-            QString("« %1/Vendel.db » n'est pas un fichier.").arg(shop.path()));
+            QString("«\u00a0%1/Vendel.db\u00a0» n'est pas un fichier.").arg(shop.path()));
     }
 
     void noRightToRead()
     {
         const GestionShop shop;
         const QString sentence
-            = QString("La base de la caisse dans « %1 » ne peut pas être lue.").arg(shop.path());
+            = QString("La base de la caisse dans «\u00a0%1\u00a0» ne peut pas être lue.")
+                  .arg(shop.path());
         chmod("Vendel.db", 0);
         chmod(shop.path().toUtf8().constData(), S_IRWXU | S_IRWXO);
         {
@@ -99,7 +101,8 @@ private slots:
         const GestionShop shop;
         const OtherProcess other("begin exclusive", 60000000);
         QCOMPARE(complaint(shop.path()),
-            QString("La base de la caisse dans « %1 » est occupée par un autre programme.")
+            QString(
+                "La base de la caisse dans «\u00a0%1\u00a0» est occupée par un autre programme.")
                 .arg(shop.path()));
     }
 
@@ -132,8 +135,9 @@ private slots:
         const GestionShop shop(Shop::Database::None);
         shop.write("Vendel.db", QByteArray(4096, 'x'));
         QCOMPARE(complaint(shop.path()),
-            QString("La base de la caisse dans « %1 » est endommagée : la commande « vendel "
-                    "--restaurer » en remet une copie en place.")
+            QString(
+                "La base de la caisse dans «\u00a0%1\u00a0» est endommagée\u00a0: la commande «\u00a0vendel "
+                "--restaurer\u00a0» en remet une copie en place.")
                 .arg(shop.path()));
         QCOMPARE(files(shop.path()), QStringList("Vendel.db"));
     }
@@ -152,8 +156,9 @@ private slots:
             QByteArray(bytes.size() - pageSize * schemaPages, '\x7f'));
         shop.write("Vendel.db", bytes);
         QCOMPARE(complaint(shop.path()),
-            QString("La base de la caisse dans « %1 » est endommagée : la commande « vendel "
-                    "--restaurer » en remet une copie en place.")
+            QString(
+                "La base de la caisse dans «\u00a0%1\u00a0» est endommagée\u00a0: la commande «\u00a0vendel "
+                "--restaurer\u00a0» en remet une copie en place.")
                 .arg(shop.path()));
         QCOMPARE(shop.read("Vendel.db"), bytes);
     }
@@ -162,14 +167,16 @@ private slots:
     {
         const GestionShop shop(Shop::Database::None);
         const QString sentence
-            = QString("Il manque des tables à la base de la caisse dans « %1 ».").arg(shop.path());
+            = QString("Il manque des tables à la base de la caisse dans «\u00a0%1\u00a0».")
+                  .arg(shop.path());
         shop.write("Vendel.db", {});
         QCOMPARE(complaint(shop.path()), sentence);
         QCOMPARE(shop.read("Vendel.db"), QByteArray());
         const GestionShop whole;
         whole.sql("drop index date_heure_index");
         QCOMPARE(complaint(whole.path()),
-            QString("Il manque des tables à la base de la caisse dans « %1 ».").arg(whole.path()));
+            QString("Il manque des tables à la base de la caisse dans «\u00a0%1\u00a0».")
+                .arg(whole.path()));
     }
 
     void aForeignDatabase()
@@ -177,7 +184,8 @@ private slots:
         const GestionShop shop;
         shop.sql("create trigger t after insert on Historique begin delete from Article; end");
         QCOMPARE(complaint(shop.path()),
-            QString("La base dans « %1 » contient autre chose que les tables de la caisse.")
+            QString(
+                "La base dans «\u00a0%1\u00a0» contient autre chose que les tables de la caisse.")
                 .arg(shop.path()));
     }
 
@@ -187,9 +195,9 @@ private slots:
         TillSource source(shop.path(), impatient());
         QVERIFY(source.isChanged());
         shop.sql("create view Ventes as select 1");
-        const QString sentence
-            = QString("La base dans « %1 » contient autre chose que les tables de la caisse.")
-                  .arg(shop.path());
+        const QString sentence = QString(
+            "La base dans «\u00a0%1\u00a0» contient autre chose que les tables de la caisse.")
+                                     .arg(shop.path());
         QCOMPARE(complaint([&] { source.isChanged(); }), sentence);
         QCOMPARE(complaint([&] { source.menu(); }), sentence);
         shop.sql("drop view Ventes");
@@ -199,10 +207,10 @@ private slots:
     void aWriteAheadLog()
     {
         const GestionShop shop;
-        const QString sentence
-            = QString("La base de la caisse dans « %1 » a été modifiée par un autre programme : "
-                      "démarrez la caisse une fois.")
-                  .arg(shop.path());
+        const QString sentence = QString(
+            "La base de la caisse dans «\u00a0%1\u00a0» a été modifiée par un autre programme\u00a0: "
+            "démarrez la caisse une fois.")
+                                     .arg(shop.path());
         shop.sql("pragma journal_mode = wal");
         QCOMPARE(files(shop.path()), QStringList("Vendel.db"));
         QCOMPARE(complaint(shop.path()), sentence);
@@ -229,8 +237,9 @@ private slots:
         const QByteArray half = shop.read("Vendel.db");
         QVERIFY(half != before);
         QCOMPARE(complaint(shop.path()),
-            QString("Un changement de la base de la caisse dans « %1 » a été interrompu : démarrez "
-                    "la caisse une fois.")
+            QString(
+                "Un changement de la base de la caisse dans «\u00a0%1\u00a0» a été interrompu\u00a0: démarrez "
+                "la caisse une fois.")
                 .arg(shop.path()));
         QCOMPARE(files(shop.path()), QStringList({"Vendel.db", "Vendel.db-journal"}));
         QCOMPARE(shop.read("Vendel.db"), half);
@@ -243,8 +252,9 @@ private slots:
         QVERIFY(source.isChanged());
         QVERIFY(QFile::remove("Vendel.db"));
         QCOMPARE(complaint([&] { source.isChanged(); }),
-            QString("Le dossier « %1 » ne contient pas de base de la caisse : démarrez la caisse "
-                    "une fois.")
+            QString(
+                "Le dossier «\u00a0%1\u00a0» ne contient pas de base de la caisse\u00a0: démarrez la caisse "
+                "une fois.")
                 .arg(shop.path()));
         QCOMPARE(files(shop.path()), QStringList());
     }

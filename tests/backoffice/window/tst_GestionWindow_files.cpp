@@ -119,7 +119,7 @@ private slots:
         action(gestion, "Exporter en &PDF…").trigger();
         QVERIFY(box.wasShown());
         QVERIFY2(box.text().startsWith(
-                     QStringLiteral("Le fichier «\u00a0/proc/nowhere.pdf\u00a0» n’a pas pu")),
+                     QStringLiteral("Le fichier «\u00a0/proc/nowhere.pdf\u00a0» n'a pas pu")),
             qPrintable(box.text()));
         QCOMPARE(box.icon(), QMessageBox::Warning);
     }
