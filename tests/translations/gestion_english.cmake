@@ -4,7 +4,7 @@
 set(committed ${ROOT}/translations/gestion_en.ts)
 set(updated ${WORK}/gestion_en.ts)
 file(COPY_FILE ${committed} ${updated})
-execute_process(COMMAND ${LUPDATE} -silent -locations none ${ROOT}/backoffice -ts ${updated}
+execute_process(COMMAND ${LUPDATE} -silent -I ${ROOT} -locations none ${ROOT}/backoffice -ts ${updated}
   RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
 if(NOT status EQUAL 0 OR NOT output STREQUAL "")
   message(FATAL_ERROR "lupdate says: ${output}")
@@ -13,5 +13,5 @@ file(STRINGS ${updated} wrong ENCODING UTF-8 REGEX "type=\"(unfinished|obsolete|
 list(LENGTH wrong count)
 if(count GREATER 0)
   message(FATAL_ERROR "${count} texts lack their English, or are no text any more: run "
-    "lupdate -locations none backoffice -ts translations/gestion_en.ts")
+    "lupdate -I . -locations none backoffice -ts translations/gestion_en.ts")
 endif()
