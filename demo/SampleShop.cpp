@@ -13,7 +13,6 @@
 #include <string>
 
 namespace {
-constexpr std::chrono::days salesFor{35};
 constexpr std::chrono::days withdrawnFor{14};
 
 constexpr const char* header = "titre:Café de l'Étoile\n"
@@ -73,7 +72,7 @@ void fillRecipes()
     doses.run();
 }
 
-void fillHistory(std::chrono::sys_days until)
+void fillHistory(std::chrono::sys_days until, std::chrono::days salesFor)
 {
     BulkInsert sales("insert into Historique (id, article, prix, date_heure)");
     for (auto day = until - salesFor; day < until; day += std::chrono::days(1)) {
@@ -93,13 +92,13 @@ void writeFile(const char* name, const char* text)
 }
 } // namespace
 
-void makeSampleShop(std::chrono::sys_days until)
+void makeSampleShop(std::chrono::sys_days until, std::chrono::days salesFor)
 {
     Database::createIfMissing();
     Settings::setTaxRate(QStringLiteral("20"));
     fillMenu();
     fillRecipes();
-    fillHistory(until);
+    fillHistory(until, salesFor);
     writeFile("EnteteFormulaire.dat", header);
     writeFile("PiedFormulaire.dat", footer);
 }

@@ -12,7 +12,7 @@
 #include <vector>
 
 namespace {
-constexpr const char* usage = "usage: vendel-demo OUTDIR [--until YYYY-MM-DD]";
+constexpr const char* usage = "usage: vendel-demo OUTDIR [--until YYYY-MM-DD] [--days N]";
 
 struct BadUsage : std::runtime_error
 {
@@ -23,7 +23,11 @@ struct Order
 {
     std::filesystem::path directory;
     std::chrono::sys_days until;
+    std::chrono::days days;
 };
+
+/// Last year is whole then, and so is most of the year that it is compared with.
+constexpr std::chrono::days twoYears{730};
 
 std::chrono::sys_days today()
 {
@@ -49,14 +53,27 @@ std::chrono::sys_days dateFrom(const std::string& text)
     return date;
 }
 
+std::chrono::days daysFrom(const std::string& text)
+{
+    int days = 0;
+    char rest = 0;
+    if (std::sscanf(text.c_str(), "%4d%c", &days, &rest) != 1 || days < 1) {
+        throw BadUsage("\"" + text + "\" is no number of days");
+    }
+    return std::chrono::days(days);
+}
+
 Order orderFrom(const std::vector<std::string>& arguments)
 {
     std::optional<std::filesystem::path> directory;
     auto until = today();
+    auto days = twoYears;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
         if (argument == "--until" && i + 1 < arguments.size()) {
             until = dateFrom(arguments[++i]);
+        } else if (argument == "--days" && i + 1 < arguments.size()) {
+            days = daysFrom(arguments[++i]);
         } else if (argument.rfind('-', 0) == 0) {
             throw BadUsage("unknown option \"" + argument + "\"");
         } else if (directory) {
@@ -68,7 +85,7 @@ Order orderFrom(const std::vector<std::string>& arguments)
     if (!directory) {
         throw BadUsage("no directory is named");
     }
-    return {*directory, until};
+    return {*directory, until, days};
 }
 
 void carryOut(const Order& order)
@@ -78,7 +95,7 @@ void carryOut(const Order& order)
     if (std::filesystem::exists("Vendel.db")) {
         throw std::runtime_error(order.directory.string() + " holds a shop already");
     }
-    makeSampleShop(order.until);
+    makeSampleShop(order.until, order.days);
 }
 } // namespace
 

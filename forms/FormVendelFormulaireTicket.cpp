@@ -7,6 +7,7 @@
 #include "ui_FormVendelFormulaireTicket.h"
 #include "widgets/Captions.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/OpenWindow.h"
 
 namespace {
 constexpr Texts texts{"FormVendelFormulaireTicketMessages"};
@@ -37,6 +38,7 @@ void FormVendelFormulaireTicket::reject()
     guarded("FormVendelFormulaireTicket reject", [&] { mayClose = mayDropText(); });
     if (mayClose) {
         QDialog::reject();
+        activateOpener(*this);
     }
 }
 

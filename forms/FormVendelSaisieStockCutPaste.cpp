@@ -42,6 +42,8 @@ FormVendelSaisieStockCutPaste::FormVendelSaisieStockCutPaste(QWidget* parent)
         setUpLists();
         fillTargets();
         Display();
+        // The list's article comes first, although the replacement is above it.
+        ui_->tableView1->setFocus();
     });
 }
 

@@ -9,6 +9,7 @@
 #include "widgets/Captions.h"
 #include "widgets/Lists.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/OpenWindow.h"
 
 namespace {
 constexpr Texts texts{"FormVendelSaisieStockMajMessages"};
@@ -60,4 +61,5 @@ void FormVendelSaisieStockMaj::synchronise()
         }
     }
     close();
+    activateOpener(*this);
 }

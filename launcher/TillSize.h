@@ -21,6 +21,7 @@ public:
 
     /// The size that the shop in \a folder (a descriptor) remembers.
     static TillSize remembered(int folder);
+    friend bool operator==(const TillSize&, const TillSize&) = default;
     /// Remembers this size. Throws Refusal.
     void remember(const DataFolder& folder) const;
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/Descriptor.h"
 #include "launcher/DataFolder.h"
 #include "launcher/Guide.h"
 #include "launcher/Order.h"
@@ -138,6 +139,14 @@ int act(const Order& order, const std::string& data, const Places& places, const
     }
 }
 
+/// Whether \a order asks for no other language and size than the till has.
+bool isAsRemembered(const Order& order, const std::string& data)
+{
+    const Descriptor folder(open(data.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return (!order.language || *order.language == DataFolder::language(data))
+        && (!order.size || *order.size == TillSize::remembered(folder.get()));
+}
+
 /// What a program may count on, whoever starts it.
 void prepare()
 {
@@ -175,9 +184,9 @@ int main(int argc, char* argv[])
     try {
         return act(order, data, places, speech);
     } catch (const AlreadyOpen& open) {
+        const bool isShown = order.action == Action::Start && speech.show(open.till());
         // What else was asked for is not done, and has to be said.
-        if (order.action == Action::Start && !order.language && !order.size
-            && speech.show(open.till())) {
+        if (isShown && isAsRemembered(order, data)) {
             return 0;
         }
         speech.error(open.words());

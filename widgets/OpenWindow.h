@@ -14,3 +14,12 @@ Window* openWindow(QWidget* opener, const Arguments&... arguments)
     window->show();
     return window;
 }
+
+/// Gives the keyboard to the opener of \a window, which goes together with a box on top of it: a
+/// window manager that was about to give the keyboard back to it may give it to no window at all.
+inline void activateOpener(const QWidget& window)
+{
+    if (window.parentWidget() != nullptr) {
+        window.parentWidget()->activateWindow();
+    }
+}

@@ -201,7 +201,7 @@ private slots:
             "btn_Display btn_Update tableView1 tableView2 btn_Cut_Paste btn_Remove");
         add("FormVendelSaisieStockComposition", "txt_Composition txt_Dose cbx_Unit btn_Add");
         add("FormVendelSaisieStockMaj", "tableView btn_Update");
-        add("FormVendelSaisieStockCutPaste", "cbx_Article btn_Modify tableView1 tableView2");
+        add("FormVendelSaisieStockCutPaste", "tableView1 tableView2 cbx_Article btn_Modify");
         add("FormVendelStockCalculation", "btn_Display tableView1 tableView2");
         add("FormVendelConfig", "txt_TVA btn_Maj_TVA cbx_Epson btn_Maj_Epson btn_Maj_Formulaire");
         add("FormVendelFormulaireTicket", "txt_Form btn_Entete_Page btn_Pied_Page");

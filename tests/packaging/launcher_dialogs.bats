@@ -146,6 +146,35 @@ $holds_lock"
 $program" ]
 }
 
+@test "a second start that asks for what the till has shows it, and says nothing" {
+    rm "$data"
+    open_till --langue en --taille 150
+    for options in '--langue en' '--taille 150' '--taille 150 --langue en'; do
+        # shellcheck disable=SC2086
+        run "$launcher" $options
+        [ "$status" -eq 0 ]
+        [ -z "$output" ]
+    done
+    close_till
+    [ "$(grep -c montrer "$SAID")" -eq 3 ]
+}
+
+@test "a second start that asks for something else shows the till, and says that it is open" {
+    rm "$data"
+    open_till --langue en
+    for options in '--langue fr' '--taille 150' '--langue en --taille 150'; do
+        : >"$SAID"
+        # shellcheck disable=SC2086
+        run "$launcher" $options
+        [ "$status" -eq 1 ]
+        grep -qx -- --montrer "$SAID"
+        grep -qx -- --erreur "$SAID"
+    done
+    close_till
+    [ "$(cat "$data/langue")" = en ]
+    [ ! -e "$data/taille" ]
+}
+
 @test "a list of copies that waits for its answer keeps no till from starting" {
     rm "$data"
     mkdir -p "$data/copies"

@@ -54,11 +54,13 @@ setup() {
     [ "$(cat "$OPENED")" = "$guide" ]
 }
 
-@test "a browser that stays is not waited for" {
+@test "a browser that stays is not waited for, and outlives the terminal" {
     stand_in xdg-open 'echo $$ >"$OPENED"; exec sleep 60'
     run "$launcher" --guide
     browser=$(cat "$OPENED")
+    session=$(ps -o sid= -p "$browser" | tr -d ' ')
     kill "$browser"
+    [ "$session" = "$browser" ]
     [ "$status" -eq 0 ]
     [ -z "$output" ]
 }

@@ -53,16 +53,37 @@ till_behind_another() {
     is_active Vendel
 }
 
-@test "a second start that asks for a language is refused in the terminal and in a box" {
+# box_is_active: a box of the launcher has the focus; the till's window has the same name.
+box_is_active() { xprop -id "$(xdotool getactivewindow)" WM_CLASS | grep -q vendel-dialogue; }
+
+@test "a second start brings the till's settings to the front when they are open" {
     manage_screen
     background "$launcher"
     within is_shown Vendel
+    within is_active Dialog
+    xdotool key Escape
+    within is_active Vendel
+    xdotool key alt Down Return
+    within is_active Config
+    background xev -name Another
+    within is_shown Another
+    xdotool search --name '^Another$' windowactivate
+    within is_active Another
+    run "$launcher"
+    [ "$status" -eq 0 ]
+    within is_active Config
+}
+
+@test "a second start that asks for a language shows the till, and says in a box that it is open" {
+    manage_screen
+    till_behind_another
     "$launcher" --langue en >"$BATS_TEST_TMPDIR/said" 2>&1 3>&- &
     second=$!
     within grep -q 'already open' "$BATS_TEST_TMPDIR/said"
-    within is_active Vendel
+    within box_is_active
     xdotool key --clearmodifiers Return
     run wait "$second"
+    within is_active Vendel
 }
 
 @test "without a window manager a second start says that the till is open" {

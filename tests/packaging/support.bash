@@ -54,9 +54,10 @@ as_user() {
     setpriv --reuid nobody --regid nogroup --clear-groups "$@"
 }
 
-# sample_shop DIRECTORY: the sample shop's database, made by the program's own schema.
+# sample_shop DIRECTORY: the sample shop's database, made by the program's own schema; small enough to
+# be copied often.
 sample_shop() {
-    "$VENDEL_BUILD/demo/vendel-demo" "$1" >/dev/null
+    "$VENDEL_BUILD/demo/vendel-demo" "$1" --days 35 >/dev/null
 }
 
 # sql FILE STATEMENT

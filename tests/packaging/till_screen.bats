@@ -70,6 +70,80 @@ records() { [ "$(sql Vendel.db "select count(*) from $2")" = "$1" ]; }
     within records 1 Ticket
 }
 
+# hold KEY: keeps it down until the screen has repeated it a few times.
+hold() {
+    : >repeats
+    xev -id "$(xdotool getactivewindow)" -event keyboard >repeats 2>&1 3>&- &
+    running=("$!" "${running[@]}")
+    # Once it listens, it sees a key that does nothing.
+    within listens
+    xdotool keydown "$1"
+    within is_repeated "$1"
+    xdotool keyup "$1"
+    kill "${running[0]}"
+}
+listens() {
+    xdotool key F12
+    grep -q F12 repeats
+}
+is_repeated() { [ "$(grep -c "keysym.* $1)" repeats)" -ge 12 ]; }
+
+@test "a held key sells one article, and takes one line off" {
+    go_to_the_amount
+    xdotool key Tab Tab Tab Tab Tab Tab Tab Tab Return
+    within is_active Doublon
+    xdotool key Return
+    within is_active Vendel
+    xdotool key shift+Tab shift+Tab shift+Tab Down
+    hold Return
+    within records 1 Ticket
+    hold space
+    within records 2 Ticket
+    xdotool key Tab Down
+    hold space
+    within records 1 Ticket
+    xdotool key Return
+    within records 0 Ticket
+}
+
+@test "one stray key loses no text of the receipt, and giving it up leaves the keyboard to the settings" {
+    go_to_the_amount
+    xdotool key alt Down Return
+    within is_active Config
+    xdotool key Tab Tab Tab Tab Return
+    within is_active 'Formulaire Impression Ticket'
+    xdotool type x
+    for stray in Return space Escape; do
+        xdotool key Escape
+        within is_active Sauvegarde
+        xdotool key "$stray"
+        within is_active 'Formulaire Impression Ticket'
+    done
+    xdotool key Escape
+    within is_active Sauvegarde
+    xdotool key Left Return
+    within is_active Config
+}
+
+@test "a stock that needs no update leaves the keyboard to its editor" {
+    go_to_the_amount
+    xdotool key alt Down Up Return
+    within is_active 'Vendel Historique'
+    xdotool key alt Down Return
+    within is_active 'Saisie Stock'
+    xdotool key Tab
+    for said in nothing 'Mettre à jour' 'Mettre à jour' 'Mettre à jour' 'Mettre à jour' 'Mettre à jour'; do
+        xdotool key Return
+        within is_active 'Mise à jour Stock'
+        xdotool key Tab Return
+        if [ "$said" != nothing ]; then
+            within is_active "$said"
+            xdotool key Return
+        fi
+        within is_active 'Saisie Stock'
+    done
+}
+
 @test "the sales screen offers to be minimized and closed, but not maximized" {
     window=$(xdotool search --onlyvisible --name '^Vendel$')
     actions=$(xprop -id "$window" _NET_WM_ALLOWED_ACTIONS)

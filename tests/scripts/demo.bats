@@ -47,13 +47,19 @@ ask() { sqlite3 "$shop/Vendel.db" "$1"; }
         "TVA=20,Epson TM-T20II=0" ]
 }
 
-@test "the sales are those of the five weeks before, without Mondays" {
+@test "the sales are those of the two years before, without Mondays" {
     make_shop
     [ "$(ask "select date(min(date_heure)), date(max(date_heure)) from Historique")" = \
-        "2024-05-11|2024-06-14" ]
+        "2022-06-16|2024-06-14" ]
     [ "$(ask "select count(*) from Historique where strftime('%w', date_heure) = '1'")" -eq 0 ]
-    [ "$(ask "select count(distinct date(date_heure)) from Historique")" -eq 30 ]
+    [ "$(ask "select count(distinct date(date_heure)) from Historique")" -eq 626 ]
     [ "$(ask "select count(*) from Historique where length(date_heure) <> 23")" -eq 0 ]
+}
+
+@test "a small shop has the sales of some days only" {
+    "$demo" "$shop" --until 2024-06-15 --days 3
+    [ "$(ask "select date(min(date_heure)), date(max(date_heure)) from Historique")" = \
+        "2024-06-12|2024-06-14" ]
 }
 
 @test "without a date the sales end yesterday" {
@@ -91,11 +97,12 @@ ask() { sqlite3 "$shop/Vendel.db" "$1"; }
 }
 
 @test "wrong arguments end with the usage" {
-    for arguments in "" "one two" "--fast" "shop --until yesterday" "shop --until 2024-02-30"; do
+    for arguments in "" "one two" "--fast" "shop --until yesterday" "shop --until 2024-02-30" \
+        "shop --days 0" "shop --days many"; do
         cd "$BATS_TEST_TMPDIR"
         run "$demo" $arguments
         [ "$status" -eq 2 ]
-        [ "${lines[-1]}" = "usage: vendel-demo OUTDIR [--until YYYY-MM-DD]" ]
+        [ "${lines[-1]}" = "usage: vendel-demo OUTDIR [--until YYYY-MM-DD] [--days N]" ]
         [ ! -e shop ]
     done
 }

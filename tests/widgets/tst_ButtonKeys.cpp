@@ -146,6 +146,17 @@ private slots:
         }
     }
 
+    void aKeyHeldInAFieldPressesTheDefaultButtonOnce()
+    {
+        Buttons<QDialog> at;
+        QLineEdit field(&at.window);
+        field.show();
+        field.setFocus();
+        at.second.setDefault(true);
+        hold(field, Qt::Key_Return, 1000);
+        QCOMPARE(at.pressed, QStringList("second"));
+    }
+
     void aHeldKeyDoesNotAnswerTheBoxThatItOpens()
     {
         Buttons<QWidget> at;

@@ -51,6 +51,21 @@ private slots:
         opener.reset();
         QVERIFY(dialog.isNull());
     }
+
+    void theOpenerOfAClosedWindowGetsTheKeyboard()
+    {
+        QWidget opener;
+        opener.show();
+        const auto dialog = openAbove(opener);
+        QWidget another;
+        another.show();
+        another.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&another));
+        dialog->close();
+        activateOpener(*dialog);
+        QVERIFY(QTest::qWaitForWindowActive(&opener));
+        activateOpener(opener);
+    }
 };
 
 VENDEL_TEST(TestWindows)
