@@ -29,7 +29,7 @@ ImportLine lineOf(const CsvRow& row, const SheetLayout& layout)
         line.cells += SheetText::withoutGuard(row.fields.value(place));
     }
     const auto isUsed = [](const QString& field) { return !field.trimmed().isEmpty(); };
-    const int known = std::min<int>(layout.width, row.fields.size());
+    const int known = std::min(layout.width, static_cast<int>(row.fields.size()));
     line.isTooWide = std::any_of(row.fields.cbegin() + known, row.fields.cend(), isUsed);
     return line;
 }
