@@ -34,7 +34,7 @@ constexpr const char* noDay
     = QT_TRANSLATE_NOOP("BadOrder", "« %1 » demande un premier jour : --du 2026-11-30.");
 } // namespace Mistakes
 
-constexpr QLatin1String languageOption("--langue");
+constexpr const char* languageOption = "--langue";
 
 template <class Value> using Names = std::array<std::pair<const char*, Value>, 5>;
 
@@ -115,7 +115,7 @@ public:
     {
         const bool isNext
             = !value_ && !rest_.isEmpty() && !rest_.at(0).startsWith(QLatin1String("--"));
-        const QString value = isNext ? rest_.takeFirst() : value_.value_or(QString());
+        QString value = isNext ? rest_.takeFirst() : value_.value_or(QString());
         if (value.isEmpty()) {
             throw BadOrder(Mistakes::noValue, name_);
         }
@@ -210,7 +210,7 @@ private:
         const QString& name = option.name();
         if (name == QLatin1String("--dossier")) {
             order_.folder = option.value();
-        } else if (name == languageOption) {
+        } else if (name == QLatin1String(languageOption)) {
             const QString value = option.value();
             order_.language = languageNamed(value);
             if (!order_.language) {
@@ -275,10 +275,10 @@ std::optional<Language> languageIn(const QStringList& arguments)
     std::optional<Language> language;
     for (int place = 0; place < arguments.size(); ++place) {
         const QString& argument = arguments.at(place);
-        if (argument == languageOption && place + 1 < arguments.size()) {
+        if (argument == QLatin1String(languageOption) && place + 1 < arguments.size()) {
             language = languageNamed(arguments.at(place + 1));
         } else if (argument.startsWith(QLatin1String("--langue="))) {
-            language = languageNamed(argument.mid(languageOption.size() + 1));
+            language = languageNamed(argument.mid(argument.indexOf(QLatin1Char('=')) + 1));
         }
     }
     return language;

@@ -14,7 +14,7 @@ declare -A packages=(
     [package-test]="debootstrap sqlite3 xdotool xvfb"
     [arm64]="g++-aarch64-linux-gnu qemu-user"
     [qt6]="qt6-base-dev libqt6sql6-sqlite qt6-charts-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-        qt6-translations-l10n libgl-dev"
+        qt6-translations-l10n libgl-dev libqt6opengl6-dev"
     [bench]="libbenchmark-dev jq bsdextrautils"
     [coverage]="gcovr"
     [fuzz]="clang libclang-rt-dev"

@@ -59,7 +59,7 @@ int beginOf(const std::array<Sum, hoursInADay>& hours)
 /// "3", or "3/11" where the bars are of several months, in the order of \a locale.
 QString shortDay(QDate day, const DayRange& range, const QLocale& locale)
 {
-    const QString number = QString::number(day.day());
+    QString number = QString::number(day.day());
     if (range.first.year() == range.last.year() && range.first.month() == range.last.month()) {
         return number;
     }

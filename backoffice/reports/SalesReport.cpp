@@ -147,8 +147,7 @@ Table table(const Facts& facts)
     Table table{Text::tr("Détail"),
         {firstColumn(grain), {Wording::lines(), CellKind::Count}, {Wording::net(), CellKind::Money},
             {Text::tr("TVA"), CellKind::Money}, {Wording::gross(), CellKind::Money},
-            {Text::tr("Période précédente"), CellKind::Money},
-            {Text::tr("Évolution"), CellKind::Percent}},
+            {Text::tr("Avant"), CellKind::Money}, {Text::tr("Évolution"), CellKind::Percent}},
         {}};
     for (const SalesBars::Bar& bar : facts.bars.bars()) {
         std::vector<QVariant> row(table.columns.size());

@@ -16,7 +16,7 @@ QDate dayOf(const QString& text);
 QString folded(QString name);
 
 /// What is read of the history: the rows of a statement, added up. Behind the statement's own
-/// columns follow the number of lines and the sum of TillStatements::trace().
+/// columns follows the number of lines.
 
 /// Takings by hour.
 class HourFigures

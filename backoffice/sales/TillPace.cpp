@@ -10,7 +10,7 @@
 namespace {
 constexpr qint64 firstRows = 250;
 constexpr qint64 fewestRows = 20;
-constexpr qint64 fullSpeedUs = 10000;
+constexpr qint64 fullSpeedUs = 5000;
 constexpr qint64 gentleUs = 3000;
 /// Of eleven parts of the time, ten are the till's.
 constexpr qint64 pauses = 10;

@@ -27,10 +27,9 @@ void append(std::vector<ReadSlice>& slices, const ReadSlice& next)
     if (!slices.empty()) {
         ReadSlice& last = slices.back();
         const bool areNeighbours = !next.slice.to.isEmpty() && last.slice.to == next.slice.from;
-        if (areNeighbours && last.trace.lines + next.trace.lines <= most) {
+        if (areNeighbours && last.lines + next.lines <= most) {
             last.slice.to = next.slice.to;
-            last.trace.lines += next.trace.lines;
-            last.trace.rowids += next.trace.rowids;
+            last.lines += next.lines;
             return;
         }
     }
@@ -60,30 +59,49 @@ template <class Body> auto TillSource::again(Body body)
     }
 }
 
-QDate TillSource::lastSoldDay(const Reading& reading)
+LastLine TillSource::lastLine(const Reading& reading)
 {
-    QDate day;
+    LastLine last;
     database_.read(
         TillStatements::lastRecorded(), {},
-        [&](const QSqlQuery& row) { day = dayOf(row.value(0).toString()); }, reading);
-    return day;
+        [&](const QSqlQuery& row) {
+            last = {row.value(0).toLongLong(), row.value(1).toString()};
+        },
+        reading);
+    return last;
 }
 
-bool TillSource::isAsRead(
-    const std::vector<ReadSlice>& slices, TillPace& pace, const Reading& reading)
+QVariant TillSource::value(const QString& sql, const QVariantList& values, const Reading& reading)
 {
-    return std::all_of(slices.begin(), slices.end(), [&](const ReadSlice& read) {
-        SalesTrace found;
+    QVariant found;
+    database_.read(
+        sql, values, [&](const QSqlQuery& row) { found = row.value(0); }, reading);
+    return found;
+}
+
+/// Whether the database still has the lines that \a kept was read of, and no other ones in their
+/// days. The till adds lines and purges them, and never changes one: with the last line of then
+/// still there, all new lines come behind it, so that equal numbers of lines are the same lines.
+template <class Figures>
+bool TillSource::isAsRead(const KeptFigures<Figures>& kept, TillPace& pace, const Reading& reading)
+{
+    const LastLine& last = kept.last;
+    if (last.moment.isEmpty()
+        || value(TillStatements::momentOf(), {last.row}, reading).toString() != last.moment) {
+        return false;
+    }
+    const QVariantList later{last.row, text(kept.range.first), text(kept.end)};
+    if (value(TillStatements::laterLines(), later, reading).toLongLong() != 0) {
+        return false;
+    }
+    return std::all_of(kept.slices.begin(), kept.slices.end(), [&](const ReadSlice& read) {
+        qint64 lines = 0;
         pace.runAsIs(database_.isTillAtWork(), [&] {
-            database_.read(
-                read.slice.in(TillStatements::trace()), read.slice.values(),
-                [&](const QSqlQuery& row) {
-                    found = {row.value(0).toLongLong(), row.value(1).toLongLong()};
-                },
-                reading);
+            lines = value(read.slice.in(TillStatements::lines()), read.slice.values(), reading)
+                        .toLongLong();
         });
         reading.advance(0);
-        return found == read.trace;
+        return lines == read.lines;
     });
 }
 
@@ -95,13 +113,12 @@ void TillSource::readDays(
     Figures figures;
     std::vector<ReadSlice> slices;
     const auto read = [&](const SalesSlice& slice) {
-        ReadSlice done{slice, {}};
+        ReadSlice done{slice, 0};
         database_.read(
             slice.in(Figures::statement()), slice.values(),
             [&](const QSqlQuery& row) {
                 figures.add(row);
-                done.trace.lines += row.value(Figures::columns).toLongLong();
-                done.trace.rowids += row.value(Figures::columns + 1).toLongLong();
+                done.lines += row.value(Figures::columns).toLongLong();
             },
             reading);
         append(slices, done);
@@ -122,20 +139,22 @@ Figures TillSource::figures(
     return again([&] {
         const TillDatabase::State state = database_.state(reading);
         reading.advance(0);
+        const LastLine last = lastLine(reading);
         KeptFigures<Figures>& past = kept.of(range);
         if (!(past.checked == state)) {
-            if (past.checked.file != state.file || !isAsRead(past.slices, kept.pace(), reading)) {
-                past = {range, range.first, {}, {}, {}};
+            if (past.checked.file != state.file || !isAsRead(past, kept.pace(), reading)) {
+                past = {range, range.first, {}, {}, {}, {}};
             }
             past.checked = state;
+            past.last = last;
         }
         const QDate behind = range.last.addDays(1);
-        const QDate today = lastSoldDay(reading);
+        const QDate today = dayOf(last.moment);
         const QDate pastEnd = today.isValid() ? std::min(today, behind) : range.first;
         if (past.end < pastEnd) {
             readDays(past, pastEnd, kept.pace(), reading);
         }
-        KeptFigures<Figures> all{range, past.end, past.figures, {}, {}};
+        KeptFigures<Figures> all{range, past.end, past.figures, {}, {}, {}};
         readDays(all, behind, kept.pace(), reading);
         return all.figures;
     });

@@ -34,8 +34,10 @@ private:
     Figures figures(KeptRanges<Figures>& kept, const DayRange& range, const Reading& reading);
     template <class Figures>
     void readDays(KeptFigures<Figures>& into, QDate end, TillPace& pace, const Reading& reading);
-    bool isAsRead(const std::vector<ReadSlice>& slices, TillPace& pace, const Reading& reading);
-    QDate lastSoldDay(const Reading& reading);
+    template <class Figures>
+    bool isAsRead(const KeptFigures<Figures>& kept, TillPace& pace, const Reading& reading);
+    LastLine lastLine(const Reading& reading);
+    QVariant value(const QString& sql, const QVariantList& values, const Reading& reading);
     void readRows(const QString& sql, const TillDatabase::Row& row, const Reading& reading);
 
     TillDatabase database_;

@@ -4,6 +4,7 @@
 #include "tests/support/Shop.h"
 
 #include <QProcess>
+#include <QTest>
 
 /// The command itself, run to its end in an environment without a display.
 class GestionProcess
