@@ -145,7 +145,7 @@ bool TableOrder::lessThan(const QModelIndex& left, const QModelIndex& right) con
     if (!one.isValid() || !other.isValid()) {
         return !one.isValid() && other.isValid();
     }
-    if (one.type() == QVariant::String) {
+    if (one.userType() == QMetaType::QString) {
         return QString::localeAwareCompare(one.toString(), other.toString()) < 0;
     }
     return QSortFilterProxyModel::lessThan(left, right);
