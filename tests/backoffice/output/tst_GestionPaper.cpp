@@ -85,7 +85,7 @@ private slots:
             const QString text = words(pages.at(page));
             QVERIFY(text.contains(QStringLiteral("Article Lignes")));
             QVERIFY(text.contains(QStringLiteral("%1/3").arg(page + 1)));
-            rows += text.count(QStringLiteral("Crème"));
+            rows += static_cast<int>(text.count(QStringLiteral("Crème")));
         }
         QCOMPARE(rows, 130);
         QVERIFY(words(pages.at(2)).contains(QStringLiteral("Crème 130 130")));
