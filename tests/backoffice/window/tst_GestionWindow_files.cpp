@@ -92,7 +92,7 @@ private slots:
         QCOMPARE(name, QStringLiteral("Ventes 2026-11-01_2026-11-30.pdf"));
     }
 
-    void theClosingIsNamedAfterItsDay()
+    void theClosingOfAMonthUnderWayIsTodays()
     {
         OpenGestion gestion;
         gestion.choose("period", 3);
@@ -104,7 +104,7 @@ private slots:
             files.reject();
         });
         action(gestion, "Exporter en &PDF…").trigger();
-        QCOMPARE(name, QStringLiteral("Clôture 2026-11-30.pdf"));
+        QCOMPARE(name, QStringLiteral("Clôture 2026-11-20.pdf"));
     }
 
     void aFileThatCannotBeWrittenIsSaid()
