@@ -12,6 +12,7 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace {
@@ -54,6 +55,10 @@ void writeTo(int descriptor, const QString& path, const QByteArray& bytes)
         const ssize_t written = ::write(descriptor, next, static_cast<std::size_t>(end - next));
         if (written >= 0) {
             next += written;
+        } else if (errno == EAGAIN) {
+            // Whoever has opened the pipe does not want to wait; here it is waited for.
+            pollfd pipe{descriptor, POLLOUT, 0};
+            poll(&pipe, 1, -1);
         } else if (errno != EINTR) {
             failWith(path, errno);
         }

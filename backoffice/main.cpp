@@ -23,6 +23,8 @@ void prepare()
 {
     // Who reads the output may exit; that is an error like any other.
     std::signal(SIGPIPE, SIG_IGN);
+    // So is a file that may not become so large.
+    std::signal(SIGXFSZ, SIG_IGN);
     int descriptor = 0;
     do {
         // A file that is opened later must not become the standard output that somebody closed.

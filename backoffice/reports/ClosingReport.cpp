@@ -24,6 +24,40 @@ struct Day
     std::vector<ArticleSales> articles;
 };
 
+Day readOnce(const DayRange& range, SalesSource& source, const Reading& reading)
+{
+    constexpr double half = 0.5;
+    const Reading first{[&](double done) { reading.advance(done * half); }, reading.isStopped};
+    const Reading second{
+        [&](double done) { reading.advance(half + done * half); }, reading.isStopped};
+    Day day;
+    const std::vector<HourSales> hours = source.hours(range, first);
+    day.hours = Sums::byHour(hours);
+    day.total = Sums::of(hours);
+    day.articles = Sums::ofAllTills(source.articles(range, second));
+    return day;
+}
+
+/// The sales of the one day of \a range, the best articles first.
+Day read(const DayRange& range, SalesSource& source, const Reading& reading)
+{
+    // What is sold between the two readings would be in one table and not in the other.
+    constexpr int attempts = 3;
+    Day day;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        day = readOnce(range, source, reading);
+        const Sum sum = Sums::of(day.articles);
+        if (sum.lines == day.total.lines && sum.takings == day.total.takings) {
+            break;
+        }
+    }
+    std::stable_sort(day.articles.begin(), day.articles.end(),
+        [](const ArticleSales& one, const ArticleSales& other) {
+            return one.takings > other.takings;
+        });
+    return day;
+}
+
 std::vector<KeyFigure> figures(const Day& day, double rate, const QLocale& locale)
 {
     const Amount tax = taxOn(day.total.takings, rate);
@@ -122,20 +156,7 @@ Report Pages::closing(const ReportOrder& order, SalesSource& source, const Readi
 {
     ReportOrder ofDay = order;
     ofDay.range.first = order.range.last;
-    constexpr double half = 0.5;
-    Reading first{[&reading](double done) { reading.advance(done * half); }, reading.isStopped};
-    Reading second{
-        [&reading](double done) { reading.advance(half + done * half); }, reading.isStopped};
-
-    Day day;
-    const std::vector<HourSales> hours = source.hours(ofDay.range, first);
-    day.hours = Sums::byHour(hours);
-    day.total = Sums::of(hours);
-    day.articles = Sums::ofAllTills(source.articles(ofDay.range, second));
-    std::stable_sort(day.articles.begin(), day.articles.end(),
-        [](const ArticleSales& one, const ArticleSales& other) {
-            return one.takings > other.takings;
-        });
+    const Day day = read(ofDay.range, source, reading);
 
     Report report;
     report.title = Text::tr("Clôture");

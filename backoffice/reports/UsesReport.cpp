@@ -128,14 +128,24 @@ std::vector<BarChart> charts(const ReportOrder& order, const AllUses& all)
     return charts;
 }
 
-/// \a uses, with their day if \a hasDay, and the larger units if there are any.
-Table table(const QString& title, const std::vector<Use>& uses, bool hasDay)
+/// The uses of days added up to months, each as the first day of one.
+std::vector<Use> byMonth(std::vector<Use> days)
+{
+    for (Use& use : days) {
+        use.day = QDate(use.day.year(), use.day.month(), 1);
+    }
+    return allUses(days).days;
+}
+
+/// \a uses, with their day in the column \a day if there is one, and the larger units if there are
+/// any.
+Table table(const QString& title, const std::vector<Use>& uses, const std::optional<Column>& day)
 {
     const bool isConverted = std::any_of(
         uses.begin(), uses.end(), [](const Use& use) { return !use.convertedUnit.isEmpty(); });
     Table table{title, {}, {}};
-    if (hasDay) {
-        table.columns.push_back({Wording::day(), CellKind::Day});
+    if (day) {
+        table.columns.push_back(*day);
     }
     table.columns.insert(table.columns.end(),
         {{Text::tr("Composition"), CellKind::Text}, {Text::tr("Quantité"), CellKind::Quantity},
@@ -146,7 +156,7 @@ Table table(const QString& title, const std::vector<Use>& uses, bool hasDay)
     }
     for (const Use& use : uses) {
         std::vector<QVariant> row;
-        if (hasDay) {
+        if (day) {
             row.emplace_back(use.day);
         }
         row.insert(row.end(), {use.composition, use.amount, use.unit});
@@ -170,9 +180,20 @@ Report Pages::uses(const ReportOrder& order, SalesSource& source, const Reading&
     report.figures = {{Text::tr("Compositions consommées"), static_cast<qint64>(all.period.size()),
         CellKind::Count, {}}};
     report.charts = charts(order, all);
-    report.tables.push_back(table(Text::tr("Consommation de la période"), all.period, false));
+    report.tables.push_back(
+        table(Text::tr("Consommation de la période"), all.period, std::nullopt));
+    if (order.range.grain() == DayRange::Grain::Month) {
+        // The days of a year would be a hundred sheets of paper.
+        report.tables.push_back(table(Text::tr("Consommation par mois"), byMonth(all.days),
+            Column{Text::tr("Mois"), CellKind::Month}));
+        report.notes.push_back(
+            Text::tr("Au-delà de deux mois, le détail est par mois, chacun étant "
+                     "la somme de ses jours."));
+    } else if (order.range.first != order.range.last) {
+        report.tables.push_back(table(
+            Text::tr("Consommation par jour"), all.days, Column{Wording::day(), CellKind::Day}));
+    }
     if (order.range.first != order.range.last) {
-        report.tables.push_back(table(Text::tr("Consommation par jour"), all.days, true));
         report.notes.push_back(Text::tr(
             "Le total de la période et celui de chaque jour sont calculés comme dans la fenêtre de la "
             "caisse, où un article vendu à plusieurs prix, le même nombre de fois à chacun, compte "

@@ -2,7 +2,6 @@
 #include "backoffice/output/CsvFile.h"
 #include "backoffice/output/PaperFile.h"
 #include "backoffice/window/MainWindow.h"
-#include "backoffice/window/PeriodBar.h"
 #include "backoffice/window/ReportPage.h"
 
 #include <QFileDialog>
@@ -42,7 +41,7 @@ void MainWindow::save(const QString& suffix, const QString& filter,
     }
     // The page may be read again while its file's name is being typed.
     const Report report = *shown;
-    const DayRange range = period_->range();
+    const DayRange range = asked_.range;
     QString name = report.title + QLatin1Char(' ');
     if (page().page() != Page::Closing && range.days() > 1) {
         name += range.first.toString(Qt::ISODate) + QLatin1Char('_');

@@ -256,7 +256,7 @@ void ReportPage::shareWidth()
     for (const TablePane* pane : panes_) {
         wanted = std::max(wanted, pane->fullWidth());
     }
-    constexpr double most = 0.5;
+    constexpr double most = 0.56;
     const int whole = splitter_->width();
     const int tables = std::min(wanted, static_cast<int>(whole * most));
     splitter_->setSizes({whole - tables, tables});

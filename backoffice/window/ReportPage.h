@@ -57,7 +57,7 @@ private:
     QWidget* buildSentence();
     QWidget* buildReport();
     QWidget* buildTables();
-    /// Gives the tables the width that they need, but no more than half.
+    /// Gives the tables the width that they need, but not much more than half.
     void shareWidth();
     void showHead(const Report& report);
     void showCharts(const Report& report);

@@ -191,7 +191,7 @@ private slots:
                   "union all select i + 1 from n where i < 2000) select i, 'Thé', 1 from n");
         const auto plan = shop.import.plan(shop.file);
         QByteArray bytes = shop.read("Vendel.db");
-        const int size = bytes.size();
+        const auto size = static_cast<int>(bytes.size());
         bytes.replace(size - 8192, 4096, QByteArray(4096, '\xff'));
         shop.write("Vendel.db", bytes);
         QCOMPARE(shop.refusal(plan), copyFailed);

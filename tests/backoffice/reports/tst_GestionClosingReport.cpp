@@ -109,6 +109,30 @@ private slots:
         QCOMPARE(Seen::figures(page).size(), 4);
     }
 
+    void whatIsSoldWhileThePageIsReadIsInBothTables()
+    {
+        /// Sells another coffee once the hours have been read.
+        class BusySales : public FixedSales
+        {
+        public:
+            BusySales()
+            {
+                hourSales = {{today, 9, 1, 25000}};
+                articleSales = {{QStringLiteral("Café"), 1, 25000}};
+            }
+            std::vector<HourSales> hours(const DayRange& range, const Reading& reading) override
+            {
+                std::vector<HourSales> found = FixedSales::hours(range, reading);
+                hourSales.at(0) = {today, 9, 2, 50000};
+                articleSales.at(0) = {QStringLiteral("Café"), 2, 50000};
+                return found;
+            }
+        } sales;
+        const Report page = report(sales, {today, today});
+        QCOMPARE(Seen::rows(page.tables.at(0)), QStringList{"Café|2|5,00 €"});
+        QCOMPARE(Seen::rows(page.tables.at(1)), QStringList{"9 h|2|5,00 €"});
+    }
+
     void bothReadingsAdvanceOneProgress()
     {
         FixedSales sales;

@@ -103,6 +103,25 @@ private slots:
             QStringLiteral("Lait: 0 0 0 0 0 0 0 0 0 0 40.5 0"));
     }
 
+    void aYearIsListedByMonth()
+    {
+        SmallShop sales;
+        sales.allUses.push_back(use("Lait", 5, "cl", {2026, 1, 20}));
+        sales.allUses.push_back(use("Lait", 6, "cl", {2026, 1, 31}));
+        const Report page = report(sales, {{2026, 1, 15}, {2026, 12, 31}});
+        QCOMPARE(page.tables.at(1).title, QStringLiteral("Consommation par mois"));
+        QCOMPARE(Seen::titles(page.tables.at(1)),
+            QStringLiteral("Mois|Composition|Quantité|Unité|Quantité convertie|Unité convertie"));
+        QCOMPARE(Seen::rows(page.tables.at(1)),
+            QStringList({"janvier 2026|Lait|11,00|cl||", "novembre 2026|Café moulu|21,00|g||",
+                "novembre 2026|Lait|40,50|cl||", "novembre 2026|Citron|16,00|oz|1,00|pound",
+                "novembre 2026|Rhum|12,00|cl||", "novembre 2026|Sirop|9,00|cl||",
+                "novembre 2026|Soda|30,00|cl||"}));
+        // The first month is not whole.
+        QCOMPARE(page.charts.at(2).bars.at(0).values.at(0), 11.0);
+        QCOMPARE(page.notes.size(), std::size_t{2});
+    }
+
     void unitsThatNeedNoOtherHaveNoColumnForIt()
     {
         FixedSales sales;

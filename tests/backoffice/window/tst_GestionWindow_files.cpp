@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
+#include <QToolButton>
 
 namespace {
 QAction& action(OpenGestion& gestion, const char* text)
@@ -91,7 +92,7 @@ private slots:
         QCOMPARE(name, QStringLiteral("Ventes 2026-11-01_2026-11-30.pdf"));
     }
 
-    void theClosingIsNamedAfterItsDay()
+    void theClosingOfAMonthUnderWayIsTodays()
     {
         OpenGestion gestion;
         gestion.choose("period", 3);
@@ -103,7 +104,7 @@ private slots:
             files.reject();
         });
         action(gestion, "Exporter en &PDF…").trigger();
-        QCOMPARE(name, QStringLiteral("Clôture 2026-11-30.pdf"));
+        QCOMPARE(name, QStringLiteral("Clôture 2026-11-20.pdf"));
     }
 
     void aFileThatCannotBeWrittenIsSaid()
@@ -154,9 +155,10 @@ private slots:
         // The sheet is most of the page.
         QVERIFY(white > seen.width() * seen.height() / 3);
         for (const char* name : {"Exporter en &PDF…", "&Imprimer…"}) {
-            const auto widgets = action(gestion, name).associatedWidgets();
-            QVERIFY(std::any_of(widgets.begin(), widgets.end(),
-                [](const QWidget* widget) { return widget->inherits("QToolButton"); }));
+            const QAction* wanted = &action(gestion, name);
+            const auto buttons = gestion.page().findChildren<QToolButton*>();
+            QVERIFY(std::any_of(buttons.begin(), buttons.end(),
+                [wanted](const QToolButton* button) { return button->defaultAction() == wanted; }));
         }
     }
 };
