@@ -17,10 +17,10 @@
 #include <fcntl.h>
 
 Import::Import(
-    const QString& folder, QString program, QLocale locale, double patience, Timing timing)
+    const QString& folder, QString program, const QLocale& locale, double patience, Timing timing)
     : folder_(QDir(folder).absolutePath())
     , program_(std::move(program))
-    , locale_(std::move(locale))
+    , locale_(locale)
     , patience_(patience)
     , timing_(std::move(timing))
 { }

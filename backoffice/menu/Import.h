@@ -17,7 +17,7 @@ public:
     /// For the data folder \a folder; \a program makes the copy (see CopyProcess). Numbers in
     /// remarks are written as \a locale does. A restoration is waited for \a patience, in seconds,
     /// and a database that is in use by the clocks of \a timing.
-    Import(const QString& folder, QString program, QLocale locale, double patience = 5,
+    Import(const QString& folder, QString program, const QLocale& locale, double patience = 5,
         Timing timing = Timing::ofTheMachine());
 
     /// Makes the data folder the working directory, if there is a till's database in it. Throws

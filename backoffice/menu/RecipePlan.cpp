@@ -80,7 +80,7 @@ private:
     {
         const ImportLine& line = planned.line;
         const auto& articles = menu_.of(line.cells.at(ArticleCell));
-        if (const auto fault = Plans::widthFault(line)) {
+        if (auto fault = Plans::widthFault(line)) {
             return fault;
         }
         if (articles.empty()) {
@@ -93,7 +93,7 @@ private:
         if (known == recipes_.end() && line.cells.at(CompositionCell).trimmed().isEmpty()) {
             return Sentences::tr("Pas de composition");
         }
-        if (const auto fault = Plans::numberFault(line, Sentences::tr("Dose"))) {
+        if (auto fault = Plans::numberFault(line, Sentences::tr("Dose"))) {
             return fault;
         }
         if (line.number.sql.startsWith(QLatin1Char('-'))) {
@@ -127,7 +127,7 @@ private:
         const QString& article = menu_.of(cells.at(ArticleCell)).front().id;
         if (!isStockUpdated_ && stock_.missing.count(article) != 0) {
             isStockUpdated_ = true;
-            plan_.statements.push_back(StockArticles::addingMissing());
+            plan_.statements.emplace_back(StockArticles::addingMissing());
         }
         planned.action = ImportAction::New;
         plan_.statements.push_back(Recipes::adding(

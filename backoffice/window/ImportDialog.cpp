@@ -18,6 +18,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 /// The file in \a mime, empty when it is none or several.
 QString fileIn(const QMimeData& mime)
@@ -227,26 +229,24 @@ void ImportDialog::allowActions()
 void ImportDialog::runAside(std::function<Then()> job)
 {
     thread_.reset(QThread::create([this, job = std::move(job)] {
-        Then then;
         try {
-            then = job();
+            then_ = job();
         } catch (const ImportError& error) {
-            then = [this, sentence = error.sentence()] { say(sentence); };
+            then_ = [this, sentence = error.sentence()] { say(sentence); };
         } catch (const std::exception& error) {
-            then = [this, sentence = QString::fromUtf8(error.what())] { say(sentence); };
+            then_ = [this, sentence = QString::fromUtf8(error.what())] { say(sentence); };
         }
-        QMetaObject::invokeMethod(
-            this, [this, then = std::move(then)] { end(then); }, Qt::QueuedConnection);
     }));
+    connect(thread_.get(), &QThread::finished, this, &ImportDialog::endJob);
     allowActions();
     thread_->start();
 }
 
-void ImportDialog::end(const Then& then)
+void ImportDialog::endJob()
 {
     thread_->wait();
     thread_.reset();
-    then();
+    std::exchange(then_, nullptr)();
     allowActions();
     if (closesAtEnd_) {
         QDialog::reject();

@@ -62,7 +62,7 @@ private:
     void allowActions();
     /// Runs \a job in another thread, and then in this one what it returns; an ImportError is said.
     void runAside(std::function<Then()> job);
-    void end(const Then& then);
+    void endJob();
     bool isAtWork() const { return thread_ != nullptr; }
 
     ImportKind kind_;
@@ -81,5 +81,7 @@ private:
     QPushButton* cancel_ = nullptr;
     bool closesAtEnd_ = false;
     std::atomic<bool> isStopped_ = false;
+    /// Set by the job, and not looked at before its thread has ended.
+    Then then_;
     std::unique_ptr<QThread> thread_;
 };

@@ -11,10 +11,11 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
-MenuFiles::MenuFiles(const QString& folder, QLocale locale, CsvFormat format, QWidget* window)
+MenuFiles::MenuFiles(
+    const QString& folder, const QLocale& locale, CsvFormat format, QWidget* window)
     : QObject(window)
     , folder_(folder)
-    , locale_(std::move(locale))
+    , locale_(locale)
     , format_(format)
     , window_(window)
 { }

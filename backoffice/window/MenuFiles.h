@@ -18,7 +18,7 @@ class MenuFiles : public QObject
 public:
     /// For the data folder \a folder; exports are written as \a format says. \a window owns this
     /// and what it opens.
-    MenuFiles(const QString& folder, QLocale locale, CsvFormat format, QWidget* window);
+    MenuFiles(const QString& folder, const QLocale& locale, CsvFormat format, QWidget* window);
 
     /// Appends the actions to \a menu.
     void addTo(QMenu& menu);

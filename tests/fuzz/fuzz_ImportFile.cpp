@@ -4,6 +4,7 @@
 #include "backoffice/menu/ImportFile.h"
 #include "backoffice/menu/SheetText.h"
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -25,8 +26,8 @@ void checkNumber(const WrittenNumber& number)
     const auto again = WrittenNumber::of(number.sql, QLatin1Char('.'));
     check(again.isNumber() && again.sql == number.sql && again.decimals == number.decimals);
     bool isDouble = false;
-    number.sql.toDouble(&isDouble);
-    check(isDouble);
+    const double value = number.sql.toDouble(&isDouble);
+    check(isDouble && std::isfinite(value));
 }
 
 void read(const QByteArray& bytes, ImportKind kind)
