@@ -22,8 +22,8 @@ Timing Timing::ofTheMachine()
 {
     using namespace std::chrono;
     return {[] {
-                const auto now = steady_clock::now().time_since_epoch();
-                return qint64{duration_cast<microseconds>(now).count()};
+                const auto time = steady_clock::now().time_since_epoch();
+                return qint64{duration_cast<microseconds>(time).count()};
             },
         [] { return QDateTime::currentMSecsSinceEpoch(); },
         [](qint64 time) { std::this_thread::sleep_for(microseconds(time)); }};
