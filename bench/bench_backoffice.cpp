@@ -97,8 +97,8 @@ private:
     int sales_;
 };
 
-using Bare = std::function<std::size_t(const Bar&)>;
-using Report = std::function<std::size_t(TillSource&, const DayRange&)>;
+using Bare = std::size_t (*)(const Bar&);
+using Report = std::size_t (*)(TillSource&, const DayRange&);
 
 std::size_t readHours(TillSource& source, const DayRange& days)
 {
@@ -192,7 +192,7 @@ std::size_t bareUses(const Bar& bar)
     return rows;
 }
 
-void byProgram(benchmark::State& state, const Bar& bar, const Report& report)
+void byProgram(benchmark::State& state, const Bar& bar, Report report)
 {
     bar.enter();
     malloc_trim(0);
@@ -209,7 +209,7 @@ void byProgram(benchmark::State& state, const Bar& bar, const Report& report)
     state.counters["held"] = most;
 }
 
-void byFloor(benchmark::State& state, const Bar& bar, const Bare& bare)
+void byFloor(benchmark::State& state, const Bar& bar, Bare bare)
 {
     bar.enter();
     for ([[maybe_unused]] auto _ : state) {
@@ -392,45 +392,6 @@ void pay(benchmark::State& state, const Bar& bar, bool areReportsRead)
     }
     state.counters["limit"] = paymentRatioLimit;
 }
-
-void registerAll(const std::vector<std::unique_ptr<Bar>>& bars)
-{
-    constexpr auto ms = benchmark::kMillisecond;
-    const auto compare = [&](const std::string& work, const Report& report, const Bare& bare) {
-        for (const auto& bar : bars) {
-            const std::string name
-                = "backoffice_" + work + "_of_" + std::to_string(bar->sales()) + "_sales";
-            benchmark::RegisterBenchmark((name + "/floor").c_str(), byFloor, std::ref(*bar), bare)
-                ->Unit(ms);
-            benchmark::RegisterBenchmark(
-                (name + "/program").c_str(), byProgram, std::ref(*bar), report)
-                ->Unit(ms);
-        }
-    };
-    compare("hours", readHours, bareHours);
-    compare("articles", readArticles, bareArticles);
-    compare("uses", readUses, bareUses);
-    const Bar& largest = *bars.back();
-    benchmark::RegisterBenchmark("backoffice_reports_held/program", memory, std::ref(largest))
-        ->Iterations(1)
-        ->Unit(ms);
-    benchmark::RegisterBenchmark("backoffice_new_sale/program", newSale, std::ref(largest))
-        ->Iterations(3)
-        ->UseManualTime()
-        ->Unit(ms);
-    benchmark::RegisterBenchmark("backoffice_longest_lock/program", longestLock, std::ref(largest))
-        ->Iterations(1)
-        ->UseManualTime()
-        ->Unit(ms);
-    benchmark::RegisterBenchmark("backoffice_payment/floor", pay, std::ref(largest), false)
-        ->Iterations(1)
-        ->UseManualTime()
-        ->Unit(ms);
-    benchmark::RegisterBenchmark("backoffice_payment/program", pay, std::ref(largest), true)
-        ->Iterations(1)
-        ->UseManualTime()
-        ->Unit(ms);
-}
 } // namespace
 
 int main(int argc, char* argv[])
@@ -439,11 +400,43 @@ int main(int argc, char* argv[])
     if (argc == 3 && qstrcmp(argv[1], "--reports") == 0) {
         return readReports(QFile::decodeName(argv[2]));
     }
-    std::vector<std::unique_ptr<Bar>> bars;
-    for (const int sales : {million / 100, million / 10, million}) {
-        bars.push_back(std::make_unique<Bar>(sales));
+    const Bar hundredth(million / 100);
+    const Bar tenth(million / 10);
+    const Bar bar(million);
+    constexpr auto ms = benchmark::kMillisecond;
+    const auto compare = [](const std::string& work, const Bar& sales, Report report, Bare bare) {
+        const std::string name
+            = "backoffice_" + work + "_of_" + std::to_string(sales.sales()) + "_sales";
+        benchmark::RegisterBenchmark((name + "/floor").c_str(), byFloor, std::ref(sales), bare)
+            ->Unit(ms);
+        benchmark::RegisterBenchmark(
+            (name + "/program").c_str(), byProgram, std::ref(sales), report)
+            ->Unit(ms);
+    };
+    for (const Bar* sales : {&hundredth, &tenth, &bar}) {
+        compare("hours", *sales, readHours, bareHours);
+        compare("articles", *sales, readArticles, bareArticles);
+        compare("uses", *sales, readUses, bareUses);
     }
-    registerAll(bars);
+    benchmark::RegisterBenchmark("backoffice_reports_held/program", memory, std::ref(bar))
+        ->Iterations(1)
+        ->Unit(ms);
+    benchmark::RegisterBenchmark("backoffice_new_sale/program", newSale, std::ref(bar))
+        ->Iterations(3)
+        ->UseManualTime()
+        ->Unit(ms);
+    benchmark::RegisterBenchmark("backoffice_longest_lock/program", longestLock, std::ref(bar))
+        ->Iterations(1)
+        ->UseManualTime()
+        ->Unit(ms);
+    for (const bool areReportsRead : {false, true}) {
+        benchmark::RegisterBenchmark(
+            areReportsRead ? "backoffice_payment/program" : "backoffice_payment/floor", pay,
+            std::ref(bar), areReportsRead)
+            ->Iterations(1)
+            ->UseManualTime()
+            ->Unit(ms);
+    }
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     QDir::setCurrent(QStringLiteral("/"));

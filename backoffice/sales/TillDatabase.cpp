@@ -253,7 +253,7 @@ int TillDatabase::attempt(const QString& sql, const QVariantList& values, const 
     }
     isDone = isDone && !query.lastError().isValid();
     const int code = isDone ? Ok : failed(query);
-    // Until it is finished, the statement keeps its lock.
+    // Also after an error, no lock is kept.
     query.finish();
     return code;
 }

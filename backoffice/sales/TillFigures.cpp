@@ -49,6 +49,12 @@ QDate dayOf(const QString& text)
         : QDate();
 }
 
+int hourOf(const QString& text)
+{
+    constexpr int hourPlace = 11;
+    return number(text, hourPlace, 2);
+}
+
 QString HourFigures::statement() { return TillStatements::hours(); }
 
 void HourFigures::add(const HourSales& sales)
@@ -63,10 +69,8 @@ void HourFigures::add(const HourSales& sales)
 
 void HourFigures::add(const QSqlQuery& row)
 {
-    constexpr int hourPlace = 11;
     const QString text = row.value(0).toString();
-    add({dayOf(text), number(text, hourPlace, 2), row.value(2).toLongLong(),
-        row.value(1).toLongLong(), 0});
+    add({dayOf(text), hourOf(text), row.value(2).toLongLong(), row.value(1).toLongLong(), 0});
 }
 
 void HourFigures::add(const HourFigures& later)

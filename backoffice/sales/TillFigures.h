@@ -12,6 +12,9 @@
 /// The day that \a text, the beginning of a moment, is of; not valid for none.
 QDate dayOf(const QString& text);
 
+/// The hour that \a text has behind its day, -1 for none.
+int hourOf(const QString& text);
+
 /// \a name as SQLite compares names: without the case of A to Z.
 QString folded(QString name);
 

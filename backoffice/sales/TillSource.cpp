@@ -10,10 +10,9 @@ namespace {
 /// The share of the days of \a range before \a moment.
 double shareBefore(const QString& moment, const DayRange& range)
 {
-    constexpr int hourPlace = 11;
     constexpr double hoursInADay = 24;
     const QDate day = dayOf(moment);
-    const double hour = moment.mid(hourPlace, 2).toInt();
+    const double hour = std::max(hourOf(moment), 0);
     const double passed = static_cast<double>(range.first.daysTo(day)) + hour / hoursInADay;
     return std::clamp(passed / static_cast<double>(range.days()), 0.0, 1.0);
 }
@@ -42,8 +41,6 @@ TillSource::TillSource(const QString& folder, const Timing& timing)
     , articles_(timing)
     , counts_(timing)
 { }
-
-TillSource::~TillSource() = default;
 
 std::vector<QString> TillSource::tills() const { return {tr("Caisse")}; }
 

@@ -18,7 +18,6 @@ class TillSource : public SalesSource
 public:
     /// The till of the data folder \a folder. Nothing is opened yet, so this does not fail.
     explicit TillSource(const QString& folder, const Timing& timing = Timing::ofTheMachine());
-    ~TillSource() override;
 
     std::vector<QString> tills() const override;
     std::vector<HourSales> hours(const DayRange& range, const Reading& reading) override;
