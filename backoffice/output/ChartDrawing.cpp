@@ -10,7 +10,6 @@
 #include <QGraphicsSimpleTextItem>
 #include <QHorizontalBarSeries>
 #include <QLegendMarker>
-#include <QLineSeries>
 #include <QScatterSeries>
 #include <QtMath>
 
@@ -102,23 +101,26 @@ void ChartDrawing::addLine()
         return;
     }
     auto* line = new QLineSeries(this);
-    auto* points = new QScatterSeries(this);
     line->setName(chart_.line->name);
     double x = 0;
     for (const double value : chart_.line->values) {
-        const QPointF point(x++, drawn(value, chart_.kind));
-        if (std::isnan(value)) {
-            continue;
+        if (!std::isnan(value)) {
+            line->append(x, drawn(value, chart_.kind));
         }
-        line->append(point);
-        points->append(point);
+        ++x;
     }
     constexpr double width = 1.6;
     line->setPen(QPen(ink_.line(), width, Qt::DashLine));
     addSeries(line);
-    if (chart_.line->values.size() > mostPoints) {
-        return;
+    if (chart_.line->values.size() <= mostPoints) {
+        addPoints(*line);
     }
+}
+
+void ChartDrawing::addPoints(const QLineSeries& line)
+{
+    auto* points = new QScatterSeries(this);
+    points->append(line.points());
     constexpr double pointSize = 6;
     points->setMarkerSize(pointSize);
     points->setColor(ink_.line());

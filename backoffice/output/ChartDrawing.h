@@ -7,6 +7,7 @@
 
 #include <QBarCategoryAxis>
 #include <QChart>
+#include <QLineSeries>
 #include <QValueAxis>
 
 class QGraphicsSimpleTextItem;
@@ -35,6 +36,7 @@ public:
 private:
     void addBars();
     void addLine();
+    void addPoints(const QLineSeries& line);
     void addAxes();
     void addLabels();
     void keepRoomForLabels();

@@ -7,9 +7,9 @@
 
 #include <memory>
 
-ChartView::ChartView(QLocale locale, QWidget* parent)
+ChartView::ChartView(const QLocale& locale, QWidget* parent)
     : QChartView(parent)
-    , locale_(std::move(locale))
+    , locale_(locale)
 {
     setRenderHint(QPainter::Antialiasing);
     setMouseTracking(true);

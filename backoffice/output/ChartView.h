@@ -11,7 +11,7 @@ class ChartView : public QChartView
     Q_OBJECT
 
 public:
-    explicit ChartView(QLocale locale, QWidget* parent = nullptr);
+    explicit ChartView(const QLocale& locale, QWidget* parent = nullptr);
 
     /// Shows \a chart in place of the one before.
     void setBars(const BarChart& chart);

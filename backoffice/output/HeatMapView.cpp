@@ -8,9 +8,9 @@
 
 #include <algorithm>
 
-HeatMapView::HeatMapView(QLocale locale, QWidget* parent)
+HeatMapView::HeatMapView(const QLocale& locale, QWidget* parent)
     : QFrame(parent)
-    , locale_(std::move(locale))
+    , locale_(locale)
 {
     setFrameShape(QFrame::StyledPanel);
     setMouseTracking(true);

@@ -11,7 +11,7 @@ class HeatMapView : public QFrame
     Q_OBJECT
 
 public:
-    explicit HeatMapView(QLocale locale, QWidget* parent = nullptr);
+    explicit HeatMapView(const QLocale& locale, QWidget* parent = nullptr);
 
     /// Shows \a map in place of the one before.
     void setMap(const HeatMap& map);

@@ -18,8 +18,8 @@ QColor mixed(const QColor& from, const QColor& to, double share)
 
 Ink Ink::onScreen(const QPalette& palette, const QFont& font)
 {
-    const QColor text = palette.color(QPalette::Text);
-    const QColor background = palette.color(QPalette::Base);
+    const QColor& text = palette.color(QPalette::Text);
+    const QColor& background = palette.color(QPalette::Base);
     return {font, text, mixed(background, text, 0.65), mixed(background, text, 0.15), background};
 }
 

@@ -38,9 +38,9 @@ int columnsFor(const std::vector<int>& widths, int room)
 }
 } // namespace
 
-FigureStrip::FigureStrip(QLocale locale, QWidget* parent)
+FigureStrip::FigureStrip(const QLocale& locale, QWidget* parent)
     : QWidget(parent)
-    , locale_(std::move(locale))
+    , locale_(locale)
     , grid_(new QGridLayout(this))
 {
     grid_->setContentsMargins(0, 0, 0, 0);

@@ -13,7 +13,7 @@ class FigureStrip : public QWidget
     Q_OBJECT
 
 public:
-    explicit FigureStrip(QLocale locale, QWidget* parent = nullptr);
+    explicit FigureStrip(const QLocale& locale, QWidget* parent = nullptr);
 
     void setFigures(const std::vector<KeyFigure>& figures);
 

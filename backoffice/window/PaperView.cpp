@@ -64,9 +64,9 @@ private:
     std::optional<PaperPages> pages_;
 };
 
-PaperView::PaperView(QLocale locale, QWidget* parent)
+PaperView::PaperView(const QLocale& locale, QWidget* parent)
     : QScrollArea(parent)
-    , locale_(std::move(locale))
+    , locale_(locale)
     , sheets_(new Sheets)
 {
     setWidget(sheets_);

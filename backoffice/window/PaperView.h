@@ -13,7 +13,7 @@ class PaperView : public QScrollArea
     Q_OBJECT
 
 public:
-    explicit PaperView(QLocale locale, QWidget* parent = nullptr);
+    explicit PaperView(const QLocale& locale, QWidget* parent = nullptr);
 
     void setReport(const Report& report);
 

@@ -27,9 +27,9 @@ QString dateFormat(const QLocale& locale)
 }
 } // namespace
 
-PeriodBar::PeriodBar(QLocale locale, std::function<QDate()> today, QWidget* parent)
+PeriodBar::PeriodBar(const QLocale& locale, std::function<QDate()> today, QWidget* parent)
     : QWidget(parent)
-    , locale_(std::move(locale))
+    , locale_(locale)
     , today_(std::move(today))
     , presets_(new QComboBox(this))
 {

@@ -18,7 +18,7 @@ class PeriodBar : public QWidget
     Q_OBJECT
 
 public:
-    PeriodBar(QLocale locale, std::function<QDate()> today, QWidget* parent = nullptr);
+    PeriodBar(const QLocale& locale, std::function<QDate()> today, QWidget* parent = nullptr);
 
     /// The chosen days, as of today.
     DayRange range() const;

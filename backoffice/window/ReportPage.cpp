@@ -32,10 +32,10 @@ bool isAbout(const ReportOrder& one, const ReportOrder& other)
 }
 } // namespace
 
-ReportPage::ReportPage(Page page, QLocale locale, QWidget* parent)
+ReportPage::ReportPage(Page page, const QLocale& locale, QWidget* parent)
     : QWidget(parent)
     , page_(page)
-    , locale_(std::move(locale))
+    , locale_(locale)
     , stack_(new QStackedWidget(this))
 {
     auto* around = new QVBoxLayout(this);

@@ -30,7 +30,7 @@ class ReportPage : public QWidget
     Q_OBJECT
 
 public:
-    ReportPage(Page page, QLocale locale, QWidget* parent = nullptr);
+    ReportPage(Page page, const QLocale& locale, QWidget* parent = nullptr);
 
     Page page() const { return page_; }
     ReportOrder::Ranking ranking() const;

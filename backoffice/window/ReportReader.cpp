@@ -10,6 +10,7 @@ ReportReader::ReportReader(Open open, Make make)
     , make_(std::move(make))
     , thread_(QThread::create([this] { run(); }))
 {
+    connect(this, &ReportReader::posted, this, &ReportReader::deliver, Qt::QueuedConnection);
     thread_->start();
 }
 
@@ -143,12 +144,23 @@ void ReportReader::look()
 
 void ReportReader::send(int number, std::function<void()> report)
 {
-    QMetaObject::invokeMethod(
-        this,
-        [this, number, report = std::move(report)] {
-            if (number == wanted_) {
-                report();
-            }
-        },
-        Qt::QueuedConnection);
+    {
+        const std::lock_guard lock(mutex_);
+        sent_.emplace_back(number, std::move(report));
+    }
+    emit posted();
+}
+
+void ReportReader::deliver()
+{
+    std::vector<std::pair<int, std::function<void()>>> sent;
+    {
+        const std::lock_guard lock(mutex_);
+        sent.swap(sent_);
+    }
+    for (const auto& [number, report] : sent) {
+        if (number == wanted_) {
+            report();
+        }
+    }
 }

@@ -12,6 +12,8 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <utility>
+#include <vector>
 
 /// Reads reports in a thread of its own, which also owns the source, and looks twice a second
 /// whether sales were added since. Every signal is sent in the thread of the object.
@@ -48,6 +50,8 @@ signals:
     void failed(const QString& sentence);
     /// What was read last may no longer be so.
     void changed();
+    /// From one thread to the other.
+    void posted();
 
 private:
     struct Order
@@ -64,6 +68,7 @@ private:
     void openSource();
     /// Runs \a report in the object's thread, unless order \a number is out of date there.
     void send(int number, std::function<void()> report);
+    void deliver();
 
     Open open_;
     Make make_;
@@ -71,6 +76,7 @@ private:
     std::mutex mutex_;
     std::condition_variable wake_;
     std::optional<Order> waiting_;
+    std::vector<std::pair<int, std::function<void()>>> sent_;
     bool ends_ = false;
     std::atomic<bool> isStopped_ = false;
     /// Of the last order, which is the only one whose outcome is still wanted; 0 after a stop.

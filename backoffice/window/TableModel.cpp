@@ -42,9 +42,9 @@ QString inTwoLines(const QString& title)
 }
 } // namespace
 
-TableModel::TableModel(QLocale locale, QObject* parent)
+TableModel::TableModel(const QLocale& locale, QObject* parent)
     : QAbstractTableModel(parent)
-    , locale_(std::move(locale))
+    , locale_(locale)
 { }
 
 void TableModel::setTable(const Table& table)

@@ -17,7 +17,7 @@ public:
     /// What tells a row from others, whatever its figures are.
     static constexpr int keyRole = Qt::UserRole + 1;
 
-    explicit TableModel(QLocale locale, QObject* parent = nullptr);
+    explicit TableModel(const QLocale& locale, QObject* parent = nullptr);
 
     void setTable(const Table& table);
 

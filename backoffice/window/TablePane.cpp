@@ -12,9 +12,9 @@
 #include <algorithm>
 #include <numeric>
 
-TablePane::TablePane(QLocale locale, QWidget* parent)
+TablePane::TablePane(const QLocale& locale, QWidget* parent)
     : QTableView(parent)
-    , model_(new TableModel(std::move(locale), this))
+    , model_(new TableModel(locale, this))
     , order_(new TableOrder(this))
 {
     order_->setSourceModel(model_);

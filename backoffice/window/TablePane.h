@@ -14,7 +14,7 @@ class TablePane : public QTableView
     Q_OBJECT
 
 public:
-    explicit TablePane(QLocale locale, QWidget* parent = nullptr);
+    explicit TablePane(const QLocale& locale, QWidget* parent = nullptr);
 
     void setTable(const Table& table);
     /// Shows the rows with \a text only.
