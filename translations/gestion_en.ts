@@ -1105,6 +1105,18 @@ The data is in &quot;%1&quot;.
         <source>Le total de la période et celui de chaque jour sont calculés comme dans la fenêtre de la caisse, où un article vendu à plusieurs prix, le même nombre de fois à chacun, compte pour un seul de ces prix&#xa0;: la somme des jours peut donc différer de la période.</source>
         <translation>The total of the period and that of each day are computed as in the till&apos;s own window, where an article sold at several prices, equally often at each, counts for one of these prices only: the days may therefore not add up to the period.</translation>
     </message>
+    <message>
+        <source>Consommation par mois</source>
+        <translation>Use by month</translation>
+    </message>
+    <message>
+        <source>Mois</source>
+        <translation>Month</translation>
+    </message>
+    <message>
+        <source>Au-delà de deux mois, le détail est par mois, chacun étant la somme de ses jours.</source>
+        <translation>Beyond two months the details are by month, each being the sum of its days.</translation>
+    </message>
 </context>
 <context>
     <name>Wording</name>
