@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
+#include <QToolButton>
 
 namespace {
 QAction& action(OpenGestion& gestion, const char* text)
@@ -154,9 +155,10 @@ private slots:
         // The sheet is most of the page.
         QVERIFY(white > seen.width() * seen.height() / 3);
         for (const char* name : {"Exporter en &PDF…", "&Imprimer…"}) {
-            const auto widgets = action(gestion, name).associatedWidgets();
-            QVERIFY(std::any_of(widgets.begin(), widgets.end(),
-                [](const QWidget* widget) { return widget->inherits("QToolButton"); }));
+            const auto buttons = gestion.page().findChildren<QToolButton*>();
+            QVERIFY(std::any_of(buttons.begin(), buttons.end(), [&](const QToolButton* button) {
+                return button->defaultAction() == &action(gestion, name);
+            }));
         }
     }
 };
