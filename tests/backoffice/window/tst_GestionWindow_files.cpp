@@ -82,7 +82,7 @@ private slots:
     {
         OpenGestion gestion;
         gestion.choose("period", 3);
-        QTRY_VERIFY(gestion.page().report() != nullptr);
+        QTRY_VERIFY(gestion.subtitle().startsWith(QStringLiteral("Novembre 2026")));
         QString name;
         const WhenOpen<QFileDialog> dialog([&](QFileDialog& files) {
             name = QFileInfo(files.selectedFiles().value(0)).fileName();
