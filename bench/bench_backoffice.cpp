@@ -3,30 +3,26 @@
 // it.
 #include "backoffice/sales/TillSource.h"
 #include "base/Handle.h"
+#include "bench/OtherReports.h"
+#include "bench/SalesOfYears.h"
 #include "bench/Support.h"
 #include "db/Db.h"
 #include "store/Consumption.h"
 #include "store/History.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 
 #include <algorithm>
-#include <atomic>
-#include <chrono>
 #include <cstdio>
 #include <functional>
 #include <memory>
-#include <thread>
+#include <string>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <sqlite3.h>
-#include <unistd.h>
 
 namespace {
 constexpr double ratioLimit = 1.3;
@@ -36,68 +32,8 @@ constexpr double lockLimitMs = 50;
 constexpr double newSaleLimitMs = 1500;
 constexpr double bytesALineLimit = 16;
 constexpr int million = 1000000;
-constexpr double secondsOfASale = 94.608;
 
-using Clock = std::chrono::steady_clock;
-
-double secondsSince(Clock::time_point begin)
-{
-    return std::chrono::duration<double>(Clock::now() - begin).count();
-}
-
-/// As many days as it takes to sell 913 times on each: a million sales are three years. 40 articles
-/// at one or two prices, three compositions in each recipe, in a temporary directory.
-class Bar
-{
-public:
-    explicit Bar(int sales)
-        : sales_(sales)
-    {
-        enter();
-        Db::DbCreate();
-        const QString insertion = QStringLiteral(
-            "insert into Historique with recursive sale(n) as (select 0 union all select n + 1 "
-            "from sale where n < %1 - 1) select n * 17 % 40, 'Boisson ' || (n * 17 % 40), 2 + (n "
-            "% 7 = 0), strftime('%Y-%m-%d %H:%M:%f', '2021-01-01', (n * 94.608) || ' "
-            "seconds') from sale");
-        Db::DbLoad(insertion.arg(sales).toUtf8().constData());
-        Db::DbLoad("insert into ArticleStock with recursive article(n) as (select 0 union all "
-                   "select n + 1 from article where n < 39) select n, 'Boisson ' || n from "
-                   "article");
-        Db::DbLoad(
-            "insert into DoseStock (id, composition, dose, unite) select id, 'Composition ' "
-            "|| ((id * 3 + part) % 25), 1.5 + part, case part when 0 then 'oz' else 'cl' end "
-            "from ArticleStock, (select 0 as part union select 1 union select 2)");
-        rest();
-    }
-
-    /// Makes the last sale one of an hour ago, so that the till is not at work.
-    void rest() const
-    {
-        constexpr int hour = 3600;
-        QFile file(folder_.filePath(QStringLiteral("Vendel.db")));
-        check(file.open(QIODevice::ReadWrite)
-                && file.setFileTime(
-                    QDateTime::currentDateTime().addSecs(-hour), QFileDevice::FileModificationTime),
-            "the time of the last sale");
-    }
-
-    void enter() const { check(QDir::setCurrent(folder_.path()), "temporary directory"); }
-    QString path() const { return folder_.path(); }
-    int sales() const { return sales_; }
-    /// All days with a sale.
-    DayRange days() const
-    {
-        const QDateTime first(QDate(2021, 1, 1), QTime(0, 0), Qt::UTC);
-        return {first.date(), first.addSecs(qint64(sales_ * secondsOfASale)).date()};
-    }
-
-private:
-    QTemporaryDir folder_;
-    int sales_;
-};
-
-using Bare = std::size_t (*)(const Bar&);
+using Bare = std::size_t (*)(const SalesOfYears&);
 using Report = std::size_t (*)(TillSource&, const DayRange&);
 
 std::size_t readHours(TillSource& source, const DayRange& days)
@@ -160,7 +96,7 @@ private:
     std::string sql_;
 };
 
-std::size_t bareHours(const Bar&)
+std::size_t bareHours(const SalesOfYears&)
 {
     return BareReading().run("select substr(date_heure, 1, 13), count(*), "
                              "sum(cast(round(prix * 10000) as integer)) from Historique "
@@ -168,7 +104,7 @@ std::size_t bareHours(const Bar&)
         "2021-01-01", "2024-01-01");
 }
 
-std::size_t bareArticles(const Bar&)
+std::size_t bareArticles(const SalesOfYears&)
 {
     return BareReading().run("select article, count(*), sum(cast(round(prix * 10000) as integer)) "
                              "from Historique where date_heure between ? and ? group by 1",
@@ -176,7 +112,7 @@ std::size_t bareArticles(const Bar&)
 }
 
 /// The till's own statement for all days and each of them.
-std::size_t bareUses(const Bar& bar)
+std::size_t bareUses(const SalesOfYears& bar)
 {
     static const std::string sql = Consumption::totalsStatement(
         QStringLiteral("select distinct count(article) as compte, article from Historique "
@@ -192,7 +128,7 @@ std::size_t bareUses(const Bar& bar)
     return rows;
 }
 
-void byProgram(benchmark::State& state, const Bar& bar, Report report)
+void byProgram(benchmark::State& state, const SalesOfYears& bar, Report report)
 {
     bar.enter();
     malloc_trim(0);
@@ -209,7 +145,7 @@ void byProgram(benchmark::State& state, const Bar& bar, Report report)
     state.counters["held"] = most;
 }
 
-void byFloor(benchmark::State& state, const Bar& bar, Bare bare)
+void byFloor(benchmark::State& state, const SalesOfYears& bar, Bare bare)
 {
     bar.enter();
     for ([[maybe_unused]] auto _ : state) {
@@ -219,7 +155,7 @@ void byFloor(benchmark::State& state, const Bar& bar, Bare bare)
 }
 
 /// All three reports of a million sales, once: the memory that they hold.
-void memory(benchmark::State& state, const Bar& bar)
+void memory(benchmark::State& state, const SalesOfYears& bar)
 {
     bar.enter();
     malloc_trim(0);
@@ -235,104 +171,8 @@ void memory(benchmark::State& state, const Bar& bar)
     state.counters["limit_bytes"] = bytesALineLimit;
 }
 
-/// How long the till's database was held by one statement at most.
-class LongestStatement
-{
-public:
-    LongestStatement()
-    {
-        // SQLite calls its extensions with the arguments of watch().
-        sqlite3_auto_extension(reinterpret_cast<void (*)()>(watch));
-    }
-
-    static double seconds() { return longest; }
-
-private:
-    static int watch(sqlite3* connection, const char**, const struct sqlite3_api_routines*)
-    {
-        return sqlite3_trace_v2(
-            connection, SQLITE_TRACE_STMT | SQLITE_TRACE_PROFILE, note, connection);
-    }
-    static int note(unsigned event, void* connection, void*, void*)
-    {
-        const char* const file = sqlite3_db_filename(static_cast<sqlite3*>(connection), "main");
-        const bool isTills = file != nullptr && *file != '\0';
-        if (isTills && event == SQLITE_TRACE_STMT) {
-            begin = Clock::now();
-        } else if (isTills) {
-            longest = std::max(longest, secondsSince(begin));
-        }
-        return 0;
-    }
-
-    static inline Clock::time_point begin;
-    static inline double longest = 0;
-};
-
-/// Another process that reads reports of \a bar one after the other.
-class OtherProcess
-{
-public:
-    explicit OtherProcess(const Bar& bar)
-    {
-        process_.start(
-            QCoreApplication::applicationFilePath(), {QStringLiteral("--reports"), bar.path()});
-        check(process_.waitForStarted(), "a second process");
-        check(process_.waitForReadyRead(), "a report");
-    }
-    ~OtherProcess() { end(); }
-    OtherProcess(const OtherProcess&) = delete;
-    OtherProcess& operator=(const OtherProcess&) = delete;
-    OtherProcess(OtherProcess&&) = delete;
-    OtherProcess& operator=(OtherProcess&&) = delete;
-
-    /// Lets it read for \a milliseconds, and returns the seconds of its longest statement.
-    double longestStatement(int milliseconds)
-    {
-        process_.waitForFinished(milliseconds);
-        end();
-        return process_.readAll().trimmed().toDouble();
-    }
-
-private:
-    void end()
-    {
-        process_.closeWriteChannel();
-        process_.waitForFinished();
-    }
-
-    QProcess process_;
-};
-
-/// What the other process does until its standard input ends.
-int readReports(const QString& folder)
-{
-    const LongestStatement statement;
-    std::atomic<bool> isStopped = false;
-    std::thread parent([&] {
-        char byte = 0;
-        while (read(STDIN_FILENO, &byte, 1) > 0) { }
-        isStopped = true;
-    });
-    check(write(STDOUT_FILENO, "\n", 1) == 1, "the word that reading begins");
-    const DayRange allDays{QDate(2021, 1, 1), QDate(2023, 12, 31)};
-    const Reading reading{{}, &isStopped};
-    try {
-        for (;;) {
-            TillSource source(folder);
-            source.hours(allDays, reading);
-            source.articles(allDays, reading);
-            source.uses(allDays, reading);
-        }
-    } catch (const ReadingStopped&) {
-        parent.join();
-        std::printf("%f\n", LongestStatement::seconds());
-    }
-    return 0;
-}
-
 /// The longest that the other process holds the database within some seconds.
-void longestLock(benchmark::State& state, const Bar& bar)
+void longestLock(benchmark::State& state, const SalesOfYears& bar)
 {
     constexpr int watchedMs = 6000;
     bar.rest();
@@ -344,7 +184,7 @@ void longestLock(benchmark::State& state, const Bar& bar)
 }
 
 /// A sale is paid: how long it takes until a page of all days shows it, from when the page notices.
-void newSale(benchmark::State& state, const Bar& bar)
+void newSale(benchmark::State& state, const SalesOfYears& bar)
 {
     bar.enter();
     bar.rest();
@@ -382,7 +222,7 @@ double payment()
     return seconds[payments / 2];
 }
 
-void pay(benchmark::State& state, const Bar& bar, bool areReportsRead)
+void pay(benchmark::State& state, const SalesOfYears& bar, bool areReportsRead)
 {
     bar.enter();
     for ([[maybe_unused]] auto _ : state) {
@@ -400,11 +240,12 @@ int main(int argc, char* argv[])
     if (argc == 3 && qstrcmp(argv[1], "--reports") == 0) {
         return readReports(QFile::decodeName(argv[2]));
     }
-    const Bar hundredth(million / 100);
-    const Bar tenth(million / 10);
-    const Bar bar(million);
+    const SalesOfYears hundredth(million / 100);
+    const SalesOfYears tenth(million / 10);
+    const SalesOfYears bar(million);
     constexpr auto ms = benchmark::kMillisecond;
-    const auto compare = [](const std::string& work, const Bar& sales, Report report, Bare bare) {
+    const auto compare = [](const std::string& work, const SalesOfYears& sales, Report report,
+                             Bare bare) {
         const std::string name
             = "backoffice_" + work + "_of_" + std::to_string(sales.sales()) + "_sales";
         benchmark::RegisterBenchmark((name + "/floor").c_str(), byFloor, std::ref(sales), bare)
@@ -413,7 +254,7 @@ int main(int argc, char* argv[])
             (name + "/program").c_str(), byProgram, std::ref(sales), report)
             ->Unit(ms);
     };
-    for (const Bar* sales : {&hundredth, &tenth, &bar}) {
+    for (const SalesOfYears* sales : {&hundredth, &tenth, &bar}) {
         compare("hours", *sales, readHours, bareHours);
         compare("articles", *sales, readArticles, bareArticles);
         compare("uses", *sales, readUses, bareUses);
