@@ -39,6 +39,11 @@ $lib/vendel-dialogue
 ./share/doc/vendel/images/duplicate.png
 ./share/doc/vendel/images/empty-menu.png
 ./share/doc/vendel/images/first-start.png
+./share/doc/vendel/images/gestion-articles.png
+./share/doc/vendel/images/gestion-cloture.png
+./share/doc/vendel/images/gestion-heures.png
+./share/doc/vendel/images/gestion-import.png
+./share/doc/vendel/images/gestion-ventes.png
 ./share/doc/vendel/images/header.png
 ./share/doc/vendel/images/history-total.png
 ./share/doc/vendel/images/history.png
