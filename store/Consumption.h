@@ -39,4 +39,8 @@ std::vector<ConsumedPart> details(const QString& from, const QString& to);
 
 /// One for each composition.
 std::vector<ConsumedTotal> totals(const QString& from, const QString& to);
+
+/// The statement of totals for sales that \a counted, a statement without its brackets, counts: a
+/// row with "compte" and "article" for each article and price, alike rows once.
+QString totalsStatement(const QString& counted);
 } // namespace Consumption
