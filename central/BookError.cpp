@@ -41,6 +41,9 @@ BookError notConnected(const std::string& uri, const std::string& said)
         && !contains(said, {"role \"", "rôle «"})) {
         return {Says::noSuchDatabase, BookStatus::Refused};
     }
+    if (contains(said, {"invalid "})) {
+        return {{Says::wrongUri, {uri.substr(0, uri.find('?'))}}, BookStatus::BadUsage};
+    }
     if (contains(said, {"timeout expired"})) {
         return {{Says::unreachable, {Says::tooSlow}}, BookStatus::Unreachable};
     }
@@ -58,25 +61,31 @@ BookError notConnected(const std::string& uri, const std::string& said)
     case PQPING_REJECT:
         return {{Says::unreachable, {Says::startsOrEnds}}, BookStatus::Unreachable};
     case PQPING_NO_ATTEMPT:
-        return {{Says::wrongUri, {uri}}, BookStatus::BadUsage};
     case PQPING_NO_RESPONSE:
         break;
     }
     return {{Says::unreachable, {Says::noServer}}, BookStatus::Unreachable};
 }
 
-/// What the server has against a statement, by its SQLSTATE.
+template <class Kind> bool is(const pqxx::sql_error& error)
+{
+    return dynamic_cast<const Kind*>(&error) != nullptr;
+}
+
+/// What the server has against a statement. The client library keeps the SQLSTATE of some errors
+/// only, and has a class for the others.
 BookError failed(const pqxx::sql_error& error)
 {
     namespace Says = CentralSentences;
     const std::string& state = error.sqlstate();
-    if (state == "42501" || state == "25006") {
+    if (is<pqxx::insufficient_privilege>(error) || state == "42501" || state == "25006") {
         return {Says::noRight, BookStatus::NoRight};
     }
-    if (state == "42P01" || state == "3F000" || state == "42703" || state == "42883") {
+    if (is<pqxx::undefined_table>(error) || is<pqxx::undefined_column>(error)
+        || is<pqxx::undefined_function>(error) || state == "3F000") {
         return {Says::notPrepared, BookStatus::NotPrepared};
     }
-    if (state == "53100" || state == "53200") {
+    if (is<pqxx::insufficient_resources>(error) || state.starts_with("53")) {
         return {Says::full, BookStatus::Full};
     }
     if (state == "57014" || state == "55P03") {
@@ -88,31 +97,49 @@ BookError failed(const pqxx::sql_error& error)
     return {{Says::serverSays, {firstLine(error.what())}}, BookStatus::Failed};
 }
 
-bool isAgain(const std::string& state)
+/// Whether two have made the same at once.
+bool isAgain(const pqxx::sql_error& error)
 {
-    // A deadlock, and two that make the same at once.
     constexpr std::array<std::string_view, 5> states{"40001", "40P01", "23505", "42P07", "42P06"};
-    return std::find(states.begin(), states.end(), state) != states.end();
+    return is<pqxx::unique_violation>(error)
+        || std::find(states.begin(), states.end(), error.sqlstate()) != states.end();
+}
+
+/// What the book then has is seen when it is asked again.
+BookError cut()
+{
+    return {{CentralSentences::unreachable, {CentralSentences::connectionLost}},
+        BookStatus::Unreachable};
 }
 } // namespace
 
-void translated(const std::string& uri, const std::function<void()>& work)
+void whileConnecting(const std::string& uri, const std::function<void()>& connect)
 {
-    namespace Says = CentralSentences;
+    try {
+        connect();
+    } catch (const pqxx::failure& error) {
+        throw notConnected(uri, error.what());
+    }
+}
+
+void whileWorking(const std::function<void()>& work)
+{
     try {
         work();
     } catch (const pqxx::sql_error& error) {
-        if (isAgain(error.sqlstate())) {
+        if (isAgain(error)) {
             throw Again();
         }
         throw failed(error);
-    } catch (const pqxx::broken_connection& error) {
-        throw notConnected(uri, error.what());
+    } catch (const pqxx::transaction_rollback&) {
+        throw Again();
+    } catch (const pqxx::broken_connection&) {
+        throw cut();
     } catch (const pqxx::in_doubt_error&) {
-        // What the book then has is seen when it is asked again.
-        throw BookError({Says::unreachable, {Says::connectionLost}}, BookStatus::Unreachable);
+        throw cut();
     } catch (const pqxx::failure& error) {
-        throw BookError({Says::serverSays, {firstLine(error.what())}}, BookStatus::Failed);
+        throw BookError(
+            {CentralSentences::serverSays, {firstLine(error.what())}}, BookStatus::Failed);
     }
 }
 } // namespace BookErrors

@@ -20,11 +20,14 @@ public:
 };
 
 namespace BookErrors {
-/// Runs \a work on the book at \a uri; what PostgreSQL and its client have against it becomes a
-/// BookError, BookErrors::Again or, for what is none of theirs, stays as it is.
-void translated(const std::string& uri, const std::function<void()>& work);
-
 /// That the transaction has to be run again, because another one was at the same time.
 struct Again : std::exception
 { };
+
+/// Runs \a connect, which connects to \a uri; why it cannot becomes a BookError.
+void whileConnecting(const std::string& uri, const std::function<void()>& connect);
+
+/// Runs \a work on a connection; what PostgreSQL and its client have against it becomes a BookError
+/// or Again.
+void whileWorking(const std::function<void()>& work);
 } // namespace BookErrors

@@ -34,7 +34,7 @@ Connection::Connection(std::string uri)
     , limit_(patience)
 {
     requireUri(uri);
-    BookErrors::translated(
+    BookErrors::whileConnecting(
         uri_, [this] { connection_ = std::make_unique<pqxx::connection>(uri_); });
 }
 
@@ -54,7 +54,7 @@ void Connection::transact(const std::function<void(pqxx::work&)>& work)
     constexpr int tries = 8;
     for (int count = 1;; ++count) {
         try {
-            BookErrors::translated(uri_, [&] {
+            BookErrors::whileWorking([&] {
                 const Working working(limit_, connection_->sock());
                 pqxx::work transaction(*connection_);
                 transaction.exec(Statements::begin);

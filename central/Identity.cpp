@@ -45,8 +45,9 @@ QByteArray newSecret()
 void make(int folder, const std::string& path)
 {
     try {
-        SafeFile::Temporary part(
-            folder, std::string(secretName) + ".neuf-" + std::to_string(getpid()));
+        constexpr int markSize = 16;
+        const std::string mark = newSecret().left(markSize).toStdString();
+        SafeFile::Temporary part(folder, secretName + ("." + mark));
         part.write(newSecret().toStdString());
         part.become(secretName, SafeFile::Existing::Keep);
     } catch (const std::system_error& error) {

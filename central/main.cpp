@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 
+#include <clocale>
 #include <csignal>
 #include <iostream>
 
@@ -99,5 +100,8 @@ int main(int argc, char* argv[])
     umask(othersMayNothing);
     std::signal(SIGPIPE, SIG_IGN);
     const QCoreApplication application(argc, argv);
+    // Why there is no connection is only known by what PostgreSQL's client says of it, in English.
+    std::setlocale(LC_MESSAGES, "C");
+    std::setlocale(LC_NUMERIC, "C");
     return run(argc, argv);
 }
