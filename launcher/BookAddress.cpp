@@ -116,6 +116,15 @@ void BookAddress::forget() const
 
 std::string BookAddress::lastReached() const { return firstLine(folder_, reachedName); }
 
+bool BookAddress::isLongAway(const Moment& moment) const
+{
+    constexpr long patience = 7;
+    constexpr std::size_t daySize = 10;
+    const std::string reached = lastReached();
+    return reached.size() < daySize
+        || daysBetween(reached.substr(0, daySize), moment.day) >= patience;
+}
+
 void BookAddress::noteReached(const Moment& moment) const
 {
     SafeFile::write(folder_, reachedName, stamp(moment) + '\n', SafeFile::Existing::Replace);

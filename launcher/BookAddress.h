@@ -28,6 +28,8 @@ public:
 
     /// When the book was last reached, "2026-03-05 14:07:31"; empty when it never was.
     std::string lastReached() const;
+    /// Whether it was not reached in the week before \a moment; a new one was not.
+    bool isLongAway(const Moment& moment) const;
     /// Notes that it was reached at \a moment. Throws std::system_error.
     void noteReached(const Moment& moment) const;
 
