@@ -23,6 +23,7 @@ size() {
     lib=$(cd "$tree" && dirname "$(find . -path '*/vendel/vendel')")
     [ "$output" = "$(LC_ALL=C sort <<FILES
 ./bin/vendel
+./bin/vendel-central
 $lib/vendel
 $lib/vendel-dialogue
 ./lib/udev/rules.d/60-vendel.rules
@@ -63,7 +64,9 @@ $lib/vendel-dialogue
 ./share/icons/hicolor/48x48/apps/vendel.png
 ./share/icons/hicolor/64x64/apps/vendel.png
 ./share/icons/hicolor/scalable/apps/vendel.svg
+./share/man/fr/man1/vendel-central.1.gz
 ./share/man/fr/man1/vendel.1.gz
+./share/man/man1/vendel-central.1.gz
 ./share/man/man1/vendel.1.gz
 ./share/metainfo/io.vendel.vendel.metainfo.xml
 ./share/vendel/AproposdeImage.png
@@ -118,20 +121,28 @@ FILES
         "$tree/share/metainfo/io.vendel.vendel.metainfo.xml"
 }
 
-@test "man is content with both pages" {
-    for page in man1 fr/man1; do
-        MANROFFSEQ='' MANWIDTH=80 run man --warnings -E UTF-8 -l -Tutf8 -Z \
-            "$tree/share/man/$page/vendel.1.gz"
+@test "man is content with all pages" {
+    for page in {man1,fr/man1}/{vendel,vendel-central}.1.gz; do
+        MANROFFSEQ='' MANWIDTH=80 run man --warnings -E UTF-8 -l -Tutf8 -Z "$tree/share/man/$page"
         [ "$status" -eq 0 ]
         [ -z "$(MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z \
-            "$tree/share/man/$page/vendel.1.gz" 2>&1 >/dev/null)" ]
+            "$tree/share/man/$page" 2>&1 >/dev/null)" ]
+    done
+}
+
+@test "each option of vendel-central is in both its man pages" {
+    for page in man1 fr/man1; do
+        text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel-central.1.gz")
+        for option in --preparer --envoyer --suivre --dossier --nom --langue --help --aide --version; do
+            grep -q -e "$option" <<<"$text"
+        done
     done
 }
 
 @test "each option of the launcher is in both man pages" {
     for page in man1 fr/man1; do
         text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel.1.gz")
-        for option in --langue --taille --restaurer --copies-vers --etat --help --aide --guide --version; do
+        for option in --langue --taille --restaurer --copies-vers --central --etat --help --aide --guide --version; do
             grep -q -e "$option" <<<"$text"
         done
     done
