@@ -98,6 +98,25 @@ create table vendel.month_sales (
     primary key (month, till, name, price)
 ) with (fillfactor = 80);
 
+-- Lines of a day as the till's own window of the consumption counts them: of the prices at which an
+-- article was sold equally often, one. The days do not add up to a longer time's count.
+create table vendel.day_use (
+    day date not null,
+    till integer not null,
+    folded text collate "C" not null,
+    lines bigint not null,
+    primary key (day, till, folded)
+) with (fillfactor = 80);
+
+-- The sums of the month's days.
+create table vendel.month_use (
+    month date not null,
+    till integer not null,
+    folded text collate "C" not null,
+    lines bigint not null,
+    primary key (month, till, folded)
+) with (fillfactor = 80);
+
 create table vendel.menu (
     till integer not null references vendel.till,
     id bigint not null,

@@ -66,6 +66,34 @@ with fresh as (
 )
 select count(*) from fresh)sql";
 
+/// After addLines: counts the days of these lines again as the till's window does.
+inline constexpr const char* countUses = R"sql(
+with touched as (
+    select distinct moment::date as day, folded
+    from unnest($2::timestamp[], $3::integer[]) as sold(moment, name)
+    join vendel.name on id = sold.name
+), counted as (
+    select day, folded, sum(distinct lines) as lines from (
+        select sums.day, touched.folded, sums.price, sum(sums.lines) as lines
+        from touched join vendel.name using (folded)
+        join vendel.day_sales as sums on sums.day = touched.day and sums.till = $1
+            and sums.name = vendel.name.id
+        group by 1, 2, 3
+    ) as prices group by 1, 2
+), changed as (
+    select day, folded, counted.lines, counted.lines - coalesce(known.lines, 0) as more
+    from counted left join (select * from vendel.day_use where till = $1) as known
+        using (day, folded)
+    where counted.lines is distinct from known.lines
+), days as (
+    insert into vendel.day_use select day, $1, folded, lines from changed order by day, folded
+    on conflict (day, till, folded) do update set lines = excluded.lines
+)
+insert into vendel.month_use as sums
+select date_trunc('month', day)::date, $1, folded, sum(more) from changed
+group by 1, 3 order by 1, 3
+on conflict (month, till, folded) do update set lines = sums.lines + excluded.lines)sql";
+
 inline constexpr const char* addOddLines
     = "insert into vendel.odd_line "
       "(till, digest, ordinal, moment, article, name, price, exact_price) "
