@@ -46,16 +46,12 @@ void UseTables::run(const QString& sql, const QVariantList& values)
     require(query.exec(), query);
 }
 
-void UseTables::addStockArticle(const QSqlQuery& row)
+void UseTables::addStockArticle(const QVariantList& row)
 {
-    run(TillStatements::addStockArticle(), {row.value(0), row.value(1)});
+    run(TillStatements::addStockArticle(), row);
 }
 
-void UseTables::addDose(const QSqlQuery& row)
-{
-    run(TillStatements::addDose(),
-        {row.value(0), row.value(1), row.value(2), row.value(3), row.value(4)});
-}
+void UseTables::addDose(const QVariantList& row) { run(TillStatements::addDose(), row); }
 
 void UseTables::addCounts(const CountFigures& counts, QDate first)
 {
@@ -77,6 +73,24 @@ void UseTables::addCounts(const CountFigures& counts, QDate first)
         require(query.exec(), query);
     }
     run(TillStatements::addAllDays(), {});
+    database_.commit();
+}
+
+void UseTables::addLines(const std::vector<Lines>& lines)
+{
+    database_.transaction();
+    QSqlQuery query(database_);
+    require(query.prepare(TillStatements::addCount()), query);
+    for (const Lines& sold : lines) {
+        if (sold.day.isValid() && (days_.empty() || days_.back() != sold.day)) {
+            days_.push_back(sold.day);
+        }
+        query.bindValue(0, sold.day.isValid() ? sold.day.toJulianDay() : 0);
+        query.bindValue(1, sold.article);
+        query.bindValue(2, 0);
+        query.bindValue(3, sold.lines);
+        require(query.exec(), query);
+    }
     database_.commit();
 }
 

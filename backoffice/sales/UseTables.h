@@ -17,10 +17,21 @@ public:
     UseTables& operator=(UseTables&&) = delete;
 
     /// A row of the till's table ArticleStock, of DoseStock.
-    void addStockArticle(const QSqlQuery& row);
-    void addDose(const QSqlQuery& row);
+    void addStockArticle(const QVariantList& row);
+    void addDose(const QVariantList& row);
     /// The sales; \a first is the day before which nothing was read.
     void addCounts(const CountFigures& counts, QDate first);
+
+    /// Lines that are counted already as the till counts them.
+    struct Lines
+    {
+        /// Not valid for all days.
+        QDate day;
+        QString article;
+        qint64 lines = 0;
+    };
+    /// In the order of days.
+    void addLines(const std::vector<Lines>& lines);
 
     /// First of all sales, then of each day.
     std::vector<Use> uses(const Reading& reading);
