@@ -2,7 +2,6 @@
 #include "backoffice/sales/BookSource.h"
 
 #include "backoffice/sales/BookStatements.h"
-#include "backoffice/sales/UseTables.h"
 
 #include <QSet>
 #include <QStringList>
@@ -207,91 +206,71 @@ std::vector<ArticleSales> BookSource::articles(const DayRange& range, const Read
     return articles;
 }
 
-/// Tills that have the same recipes are added up before they are computed with them.
+/// Tills that have the same recipes are computed together.
 std::vector<BookSource::Group> BookSource::groups(const Reading& reading)
 {
-    std::vector<Stock> stocks(tills().size());
-    const auto stockOf = [&](const QSqlQuery& row) -> Stock& {
-        return stocks.at(static_cast<std::size_t>(place(row.value(0))));
-    };
-    database_.read(
-        BookStatements::stockArticles(), {keys()},
-        [&](const QSqlQuery& row) {
-            stockOf(row).articles.push_back({row.value(1), row.value(2)});
-        },
-        reading);
-    database_.read(
-        BookStatements::doses(), {keys()},
-        [&](const QSqlQuery& row) {
-            stockOf(row).doses.push_back(
-                {row.value(1), row.value(2), row.value(3), row.value(4), row.value(5)});
-        },
-        reading);
+    std::map<QString, std::size_t> known;
     std::vector<Group> groups;
-    for (std::size_t till = 0; till < stocks.size(); ++till) {
-        const auto same = std::find_if(groups.begin(), groups.end(),
-            [&](const Group& group) { return group.stock == stocks.at(till); });
-        if (same == groups.end()) {
-            groups.push_back({std::move(stocks.at(till)), {till}});
-        } else {
-            same->tills.push_back(till);
-        }
+    database_.read(
+        BookStatements::recipes(), {keys()},
+        [&](const QSqlQuery& row) {
+            const auto [found, isNew] = known.try_emplace(row.value(1).toString(), groups.size());
+            if (isNew) {
+                groups.emplace_back();
+            }
+            groups.at(found->second).keys.push_back(row.value(0).toInt());
+        },
+        reading);
+    for (Group& group : groups) {
+        const QVariantList till{group.keys.front()};
+        database_.read(
+            BookStatements::stockArticles(), till,
+            [&](const QSqlQuery& row) {
+                group.articles.push_back({row.value(0), row.value(1)});
+            },
+            reading);
+        database_.read(
+            BookStatements::doses(), till,
+            [&](const QSqlQuery& row) {
+                group.doses.push_back(
+                    {row.value(0), row.value(1), row.value(2), row.value(3), row.value(4)});
+            },
+            reading);
     }
     return groups;
 }
 
-namespace {
-/// What \a lines used by the recipes of \a stock, as that of the till at the place \a till.
-template <class Stock>
-void append(std::vector<Use>& uses, const Stock& stock, const std::vector<UseTables::Lines>& lines,
-    int till, const Reading& reading)
+/// Adds to each group what its tills sold in all of \a range.
+void BookSource::readPeriod(
+    std::vector<Group>& groups, const DayRange& range, const Reading& reading)
 {
-    UseTables tables;
-    for (const QVariantList& row : stock.articles) {
-        tables.addStockArticle(row);
+    std::map<int, Group*> groupOf;
+    for (Group& group : groups) {
+        for (const int key : group.keys) {
+            groupOf[key] = &group;
+        }
     }
-    for (const QVariantList& row : stock.doses) {
-        tables.addDose(row);
-    }
-    tables.addLines(lines);
-    for (Use use : tables.uses(reading)) {
-        use.till = till;
-        uses.push_back(std::move(use));
-    }
-}
-} // namespace
-
-void BookSource::addPeriodUses(std::vector<Use>& uses, const std::vector<Group>& groups,
-    const DayRange& range, const Reading& reading)
-{
     const Days days(range);
-    std::vector<std::vector<UseTables::Lines>> lines(tills().size());
     database_.read(
         BookStatements::uses(),
         days.ofMonths() + QVariantList{keys()} + days.besideMonths() + QVariantList{keys()},
         [&](const QSqlQuery& row) {
-            lines.at(static_cast<std::size_t>(place(row.value(0))))
-                .push_back({QDate(), row.value(1).toString(), row.value(2).toLongLong()});
+            groupOf.at(row.value(0).toInt())
+                ->lines.push_back({QDate(), place(row.value(0)), row.value(1).toString(),
+                    row.value(2).toLongLong()});
         },
         reading);
-    for (const Group& group : groups) {
-        for (const std::size_t till : group.tills) {
-            append(uses, group.stock, lines.at(till), static_cast<int>(till), reading);
-        }
-    }
-    std::stable_sort(uses.begin(), uses.end(),
-        [](const Use& one, const Use& other) { return one.till < other.till; });
 }
 
-void BookSource::addPartUses(std::vector<Use>& uses, const std::vector<Group>& groups,
-    const DayRange& range, const Reading& reading)
+/// Adds to each group what its tills together sold on each day, or in each month, of \a range.
+void BookSource::readParts(
+    std::vector<Group>& groups, const DayRange& range, const Reading& reading)
 {
-    const std::vector<Till> read = chosen();
     QStringList members;
     QStringList parts;
     for (std::size_t group = 0; group < groups.size(); ++group) {
-        for (const std::size_t till : groups.at(group).tills) {
-            members += QString::number(read.at(till).id);
+        for (const int key : groups.at(group).keys) {
+            members += QString::number(key);
             parts += QString::number(group);
         }
     }
@@ -301,31 +280,38 @@ void BookSource::addPartUses(std::vector<Use>& uses, const std::vector<Group>& g
     const QVariantList values = isByMonth
         ? QVariantList{days.first} + days.besideMonths() + days.ofMonths() + tillsOfGroups
         : tillsOfGroups + QVariantList{days.first, days.behind};
-    std::vector<std::vector<UseTables::Lines>> lines(groups.size());
     database_.read(
         isByMonth ? BookStatements::usesByMonth() : BookStatements::usesByDay(), values,
         [&](const QSqlQuery& row) {
-            lines.at(static_cast<std::size_t>(row.value(0).toInt()))
-                .push_back(
-                    {row.value(1).toDate(), row.value(2).toString(), row.value(3).toLongLong()});
+            Group& group = groups.at(static_cast<std::size_t>(row.value(0).toInt()));
+            group.lines.push_back({row.value(1).toDate(), place(group.keys.front()),
+                row.value(2).toString(), row.value(3).toLongLong()});
         },
         reading);
-    std::vector<Use> found;
-    for (std::size_t group = 0; group < groups.size(); ++group) {
-        append(found, groups.at(group).stock, lines.at(group),
-            static_cast<int>(groups.at(group).tills.front()), reading);
-    }
-    std::stable_sort(found.begin(), found.end(),
-        [](const Use& one, const Use& other) { return one.day < other.day; });
-    uses.insert(uses.end(), found.begin(), found.end());
 }
 
 std::vector<Use> BookSource::uses(const DayRange& range, const Reading& reading)
 {
-    const std::vector<Group> all = groups(reading);
+    std::vector<Group> all = groups(reading);
+    readPeriod(all, range, reading);
+    readParts(all, range, reading);
     std::vector<Use> uses;
-    addPeriodUses(uses, all, range, reading);
-    addPartUses(uses, all, range, reading);
+    for (const Group& group : all) {
+        UseTables tables;
+        for (const QVariantList& row : group.articles) {
+            tables.addStockArticle(row);
+        }
+        for (const QVariantList& row : group.doses) {
+            tables.addDose(row);
+        }
+        tables.addLines(group.lines);
+        const std::vector<Use> found = tables.uses(reading);
+        uses.insert(uses.end(), found.begin(), found.end());
+    }
+    // A day that is not valid is before all others.
+    std::stable_sort(uses.begin(), uses.end(), [](const Use& one, const Use& other) {
+        return std::pair(one.day, one.till) < std::pair(other.day, other.till);
+    });
     return uses;
 }
 

@@ -3,6 +3,7 @@
 
 #include "backoffice/sales/BookDatabase.h"
 #include "backoffice/sales/SalesSource.h"
+#include "backoffice/sales/UseTables.h"
 
 #include <optional>
 
@@ -36,22 +37,13 @@ private:
         QString name;
         double taxRate = 0;
     };
-    /// The recipes of a till.
-    struct Stock
-    {
-        std::vector<QVariantList> articles;
-        std::vector<QVariantList> doses;
-
-        bool operator==(const Stock& other) const
-        {
-            return articles == other.articles && doses == other.doses;
-        }
-    };
     /// Tills with the same recipes.
     struct Group
     {
-        Stock stock;
-        std::vector<std::size_t> tills;
+        std::vector<int> keys;
+        std::vector<QVariantList> articles;
+        std::vector<QVariantList> doses;
+        std::vector<UseTables::Lines> lines;
     };
 
     void readTills();
@@ -59,10 +51,8 @@ private:
     QString keys() const;
     int place(const QVariant& key) const;
     std::vector<Group> groups(const Reading& reading);
-    void addPeriodUses(std::vector<Use>& uses, const std::vector<Group>& groups,
-        const DayRange& range, const Reading& reading);
-    void addPartUses(std::vector<Use>& uses, const std::vector<Group>& groups,
-        const DayRange& range, const Reading& reading);
+    void readPeriod(std::vector<Group>& groups, const DayRange& range, const Reading& reading);
+    void readParts(std::vector<Group>& groups, const DayRange& range, const Reading& reading);
 
     BookDatabase database_;
     std::vector<Till> tills_;

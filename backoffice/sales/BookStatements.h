@@ -153,18 +153,28 @@ inline QString menu()
                           "where till = any (cast(? as integer[])) order by till, article, id");
 }
 
-/// Till, key, article.
-inline QString stockArticles()
-{
-    return QStringLiteral("select till, id, article from vendel.stock_article "
-                          "where till = any (cast(? as integer[])) order by till, id");
-}
-
-/// Till, key, article's key, composition, dose, unit.
-inline QString doses()
+/// Till, a text that is equal for tills with the same recipes. Values: tills.
+inline QString recipes()
 {
     return QStringLiteral(
-        "select till, line, stock_article, composition, dose, unit from vendel.dose "
-        "where till = any (cast(? as integer[])) order by till, line");
+        "select id, md5(concat((select string_agg(cast(row(s.id, article) as text), '' "
+        "order by s.id) from vendel.stock_article s where s.till = all_tills.id), ' ', "
+        "(select string_agg(cast(row(line, stock_article, composition, dose, unit) as text), '' "
+        "order by line) from vendel.dose where till = all_tills.id))) "
+        "from vendel.till as all_tills where id = any (cast(? as integer[])) order by id");
+}
+
+/// Key, article. Value: a till.
+inline QString stockArticles()
+{
+    return QStringLiteral(
+        "select id, article from vendel.stock_article where till = ? order by id");
+}
+
+/// Key, article's key, composition, dose, unit. Value: a till.
+inline QString doses()
+{
+    return QStringLiteral("select line, stock_article, composition, dose, unit from vendel.dose "
+                          "where till = ? order by line");
 }
 } // namespace BookStatements

@@ -58,15 +58,17 @@ void UseTables::addCounts(const CountFigures& counts, QDate first)
     database_.transaction();
     QSqlQuery query(database_);
     require(query.prepare(TillStatements::addCount()), query);
+    parts_.push_back({QDate(), 0});
     QDate day = first;
     for (const CountFigures::Count& count : counts.result()) {
         if (count.day.isValid() && count.day > day) {
             day = count.day;
         }
-        if (days_.empty() || days_.back() != day) {
-            days_.push_back(day);
+        const Part part{day, 0};
+        if (!(parts_.back() == part)) {
+            parts_.push_back(part);
         }
-        query.bindValue(0, day.toJulianDay());
+        query.bindValue(0, part.number());
         query.bindValue(1, count.article);
         query.bindValue(2, count.price);
         query.bindValue(3, count.lines);
@@ -82,10 +84,11 @@ void UseTables::addLines(const std::vector<Lines>& lines)
     QSqlQuery query(database_);
     require(query.prepare(TillStatements::addCount()), query);
     for (const Lines& sold : lines) {
-        if (sold.day.isValid() && (days_.empty() || days_.back() != sold.day)) {
-            days_.push_back(sold.day);
+        const Part part{sold.day, sold.till};
+        if (parts_.empty() || !(parts_.back() == part)) {
+            parts_.push_back(part);
         }
-        query.bindValue(0, sold.day.isValid() ? sold.day.toJulianDay() : 0);
+        query.bindValue(0, part.number());
         query.bindValue(1, sold.article);
         query.bindValue(2, 0);
         query.bindValue(3, sold.lines);
@@ -100,19 +103,16 @@ std::vector<Use> UseTables::uses(const Reading& reading)
     QSqlQuery query(database_);
     query.setForwardOnly(true);
     require(query.prepare(Consumption::totalsStatement(TillStatements::countedSales())), query);
-    const auto add = [&](QDate day) {
-        const qint64 number = day.isValid() ? day.toJulianDay() : 0;
-        query.bindValue(0, number);
-        query.bindValue(1, number);
+    for (const Part& part : parts_) {
+        query.bindValue(0, part.number());
+        query.bindValue(1, part.number());
         require(query.exec(), query);
         while (query.next()) {
-            uses.push_back({day, query.value(0).toString(), query.value(1).toDouble(),
+            uses.push_back({part.day, query.value(0).toString(), query.value(1).toDouble(),
                 query.value(2).toString(), query.value(3).toDouble(), query.value(4).toString(),
-                0});
+                part.till});
         }
         reading.advance(1);
-    };
-    add(QDate());
-    std::for_each(days_.begin(), days_.end(), add);
+    }
     return uses;
 }

@@ -22,23 +22,35 @@ public:
     /// The sales; \a first is the day before which nothing was read.
     void addCounts(const CountFigures& counts, QDate first);
 
-    /// Lines that are counted already as the till counts them.
+    /// Lines of a till that are counted already as the till counts them.
     struct Lines
     {
         /// Not valid for all days.
         QDate day;
+        int till = 0;
         QString article;
         qint64 lines = 0;
     };
-    /// In the order of days.
+    /// Those of a day stand together, and those of a till's all days.
     void addLines(const std::vector<Lines>& lines);
 
-    /// First of all sales, then of each day.
+    /// First of all sales, then of each day; of counted lines, in the order of adding.
     std::vector<Use> uses(const Reading& reading);
 
 private:
+    /// What is computed by itself.
+    struct Part
+    {
+        QDate day;
+        int till = 0;
+
+        bool operator==(const Part& other) const { return day == other.day && till == other.till; }
+        /// Its number in the tables.
+        qint64 number() const { return day.isValid() ? day.toJulianDay() : -qint64{till}; }
+    };
+
     void run(const QString& sql, const QVariantList& values);
     QString connection_;
     QSqlDatabase database_;
-    std::vector<QDate> days_;
+    std::vector<Part> parts_;
 };

@@ -88,7 +88,13 @@ void ReportReader::carryOut(const Order& order)
     const int number = order.number;
     try {
         openSource();
+        source_->choose(order.what.tills);
         source_->isChanged();
+        const std::vector<QString> tills = source_->allTills();
+        if (tills_ != tills) {
+            tills_ = tills;
+            send(number, [this, tills] { emit tillsRead(tills); });
+        }
         const double rate = source_->taxRate();
         if (taxRate_ != rate) {
             taxRate_ = rate;
