@@ -16,6 +16,8 @@ public:
     std::vector<Use> allUses;
     std::vector<MenuArticle> articlesOnTheMenu;
     double rate = 20;
+    bool isBook = false;
+    std::optional<QString> remark;
 
     std::vector<QString> tills() const override { return names; }
     std::vector<HourSales> hours(const DayRange& range, const Reading& reading) override
@@ -40,6 +42,8 @@ public:
     }
     std::vector<MenuArticle> menu() override { return articlesOnTheMenu; }
     double taxRate() override { return rate; }
+    std::optional<QString> taxRemark(const QLocale& /*locale*/) override { return remark; }
+    bool namesTills() const override { return isBook; }
     bool isChanged() override { return false; }
 };
 
