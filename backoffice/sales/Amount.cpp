@@ -11,7 +11,12 @@ qint64 cents(Amount amount)
 
 Amount taxOn(Amount net, double rate)
 {
-    constexpr double perCent = 100;
-    const double exact = static_cast<double>(net) * rate / perCent / double{amountsInACent};
+    // As a whole number, a rate is what was typed: 1.005 as a double is a little less, and half a
+    // cent would be lost.
+    constexpr double millionths = 1000000;
+    constexpr long double perCent = 100;
+    const auto product = static_cast<long double>(net) * std::llround(rate * millionths);
+    const long double exact
+        = product / (perCent * millionths * static_cast<long double>(amountsInACent));
     return std::llround(exact) * amountsInACent;
 }

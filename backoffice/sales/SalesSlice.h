@@ -22,18 +22,6 @@ struct SalesSlice
     QVariantList values() const;
 };
 
-/// What can be compared with a later state of a slice: the till only adds lines and purges them.
-struct SalesTrace
-{
-    qint64 lines = 0;
-    qint64 rowids = 0;
-
-    bool operator==(const SalesTrace& other) const
-    {
-        return lines == other.lines && rowids == other.rowids;
-    }
-};
-
 /// Goes through the history in slices of the size that the pace wants.
 class SalesWalk
 {

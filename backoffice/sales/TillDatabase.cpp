@@ -10,8 +10,10 @@
 #include <QUrl>
 #include <QUuid>
 
+#include <optional>
 #include <set>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -42,15 +44,21 @@ int codeOf(const QSqlError& error)
     return error.isValid() ? error.nativeErrorCode().toInt() & withoutDetails : Ok;
 }
 
+/// Whether this user has the right \a mode to \a path.
+bool isAllowed(const QString& path, int mode)
+{
+    return faccessat(AT_FDCWD, QFile::encodeName(path).constData(), mode, AT_EACCESS) == 0;
+}
+
 bool exists(const QString& path)
 {
     struct stat found = {};
     return lstat(QFile::encodeName(path).constData(), &found) == 0;
 }
 
-/// Whether SQLite would look for a write-ahead log of the database \a path. It is asked without
-/// locks and journals: a descriptor of our own would take the locks of all others in this process
-/// with it when it is closed.
+/// Whether SQLite would make a write-ahead log of the database \a path when it is read. Without
+/// locks it can have none, and says so. The file is not looked at without SQLite: a descriptor of
+/// our own would take the locks of all others in this process with it when it is closed.
 bool isMadeForWal(const QString& path)
 {
     const QString name = newName();
@@ -59,7 +67,7 @@ bool isMadeForWal(const QString& path)
         QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
         database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"));
         database.setDatabaseName(
-            QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded) + QLatin1String("?immutable=1"));
+            QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded) + QLatin1String("?nolock=1"));
         if (database.open()) {
             QSqlQuery query(database);
             query.exec(TillStatements::schemaVersion());
@@ -95,9 +103,8 @@ void TillDatabase::requireFile() const
     if (!folder.isDir()) {
         throw SalesError(tr("Le dossier « %1 » n'existe pas.").arg(folder_));
     }
-    const QByteArray path = QFile::encodeName(path_);
     if (!exists(path_)) {
-        if (access(QFile::encodeName(folder_).constData(), X_OK) != 0) {
+        if (!isAllowed(folder_, X_OK)) {
             fail(Permission);
         }
         throw SalesError(tr("Le dossier « %1 » ne contient pas de base de la caisse : démarrez la "
@@ -107,15 +114,18 @@ void TillDatabase::requireFile() const
     if (!QFileInfo(path_).isFile()) {
         throw SalesError(tr("« %1 » n'est pas un fichier.").arg(path_));
     }
-    if (access(path.constData(), R_OK) != 0) {
+    if (!isAllowed(path_, R_OK)) {
         fail(Permission);
     }
 }
 
 void TillDatabase::requireNoWal() const
 {
-    const QString wal = QFileInfo(path_).canonicalFilePath() + QLatin1String("-wal");
-    if (exists(wal) || (!database_.isOpen() && isMadeForWal(path_))) {
+    const QString path = QFileInfo(path_).canonicalFilePath();
+    // A journal would be acted on. Who has one has no write-ahead log.
+    const bool isToAsk = !database_.isOpen() && !exists(path + QLatin1String("-journal"))
+        && QFileInfo(path).size() > 0;
+    if (exists(path + QLatin1String("-wal")) || (isToAsk && isMadeForWal(path))) {
         throw SalesError(
             tr("La base de la caisse dans « %1 » a été modifiée par un autre programme : démarrez "
                "la caisse une fois.")
@@ -147,6 +157,7 @@ void TillDatabase::open(const Reading& reading)
 
 void TillDatabase::close()
 {
+    queries_.clear();
     if (database_.isValid()) {
         database_ = QSqlDatabase();
         QSqlDatabase::removeDatabase(connection_);
@@ -221,39 +232,56 @@ TillDatabase::State TillDatabase::state(const Reading& reading)
 /// Locked and ReadOnly: SQLite takes its lock before the first row.
 int TillDatabase::attempt(const QString& sql, const QVariantList& values, const Row& row)
 {
-    QSqlQuery query(database_);
-    query.setForwardOnly(true);
-    bool isDone = query.prepare(sql);
-    if (isDone) {
-        for (const QVariant& value : values) {
-            query.addBindValue(value);
+    auto found = queries_.find(sql);
+    if (found == queries_.end()) {
+        QSqlQuery query(database_);
+        query.setForwardOnly(true);
+        if (!query.prepare(sql)) {
+            return failed(query);
         }
-        isDone = query.exec();
+        found = queries_.emplace(sql, query).first;
     }
+    QSqlQuery& query = found->second;
+    for (int place = 0; place < values.size(); ++place) {
+        query.bindValue(place, values.at(place));
+    }
+    bool isDone = query.exec();
     while (isDone && query.next()) {
         row(query);
     }
+    isDone = isDone && !query.lastError().isValid();
+    const int code = isDone ? Ok : failed(query);
+    // Also after an error, no lock is kept.
+    query.finish();
+    return code;
+}
+
+/// The code of the error that \a query has had, whose words are kept.
+int TillDatabase::failed(const QSqlQuery& query)
+{
     lastError_ = query.lastError().databaseText();
     const int code = codeOf(query.lastError());
-    return isDone || code != Ok ? code : Corrupt;
+    return code == Ok ? Corrupt : code;
 }
 
 void TillDatabase::read(
     const QString& sql, const QVariantList& values, const Row& row, const Reading& reading)
 {
-    const qint64 begin = timing_.elapsed();
+    std::optional<qint64> firstRefusal;
     for (;;) {
         const int code = attempt(sql, values, row);
         if (code == Ok) {
             return;
         }
+        const qint64 now = timing_.elapsed();
+        firstRefusal = firstRefusal.value_or(now);
         if (!(identity() == opened_)) {
             throw Replaced();
         }
         const bool isBusy = code == Busy || code == Locked;
         const bool isJournal = code == ReadOnly || code == CannotOpen;
         const qint64 patience = isBusy ? patienceUs : isJournal ? journalPatienceUs : 0;
-        if (timing_.elapsed() - begin >= patience) {
+        if (now - *firstRefusal >= patience) {
             fail(code);
         }
         if (reading.isStopped != nullptr && *reading.isStopped) {

@@ -9,7 +9,7 @@
 #include <QSqlQuery>
 #include <QVariant>
 
-#include <memory>
+#include <map>
 
 /// The till's database, to be read only. It is opened when it is first needed, and again when
 /// another file has taken its place. All functions throw SalesError.
@@ -77,6 +77,7 @@ private:
     void requireOwn(const Reading& reading);
     qint64 number(const QString& pragma, const Reading& reading);
     int attempt(const QString& sql, const QVariantList& values, const Row& row);
+    int failed(const QSqlQuery& query);
     [[noreturn]] void fail(int code) const;
 
     QString folder_;
@@ -84,6 +85,7 @@ private:
     Timing timing_;
     QString connection_;
     QSqlDatabase database_;
+    std::map<QString, QSqlQuery> queries_;
     QString lastError_;
     Identity opened_;
     int file_ = 0;

@@ -16,54 +16,88 @@ QString folded(QString name)
     return name;
 }
 
-QDate dayOf(const QString& text, QDate before)
+namespace {
+/// The number that \a text has at \a place, -1 for none.
+int number(const QString& text, int place, int size)
 {
-    constexpr int length = 10;
-    const QDate day = QDate::fromString(text.left(length), QStringLiteral("yyyy-MM-dd"));
-    return day.isValid() ? day : before;
+    constexpr int ten = 10;
+    if (text.size() < place + size) {
+        return -1;
+    }
+    int found = 0;
+    for (int at = place; at < place + size; ++at) {
+        const int digit = text.at(at).unicode() - '0';
+        if (digit < 0 || digit >= ten) {
+            return -1;
+        }
+        found = found * ten + digit;
+    }
+    return found;
+}
+} // namespace
+
+QDate dayOf(const QString& text)
+{
+    constexpr int yearSize = 4;
+    constexpr int monthPlace = 5;
+    constexpr int dayPlace = 8;
+    const QLatin1Char dash('-');
+    const bool isDay = text.size() >= dayPlace + 2 && text.at(monthPlace - 1) == dash
+        && text.at(dayPlace - 1) == dash;
+    return isDay
+        ? QDate(number(text, 0, yearSize), number(text, monthPlace, 2), number(text, dayPlace, 2))
+        : QDate();
+}
+
+int hourOf(const QString& text)
+{
+    constexpr int hourPlace = 11;
+    return number(text, hourPlace, 2);
 }
 
 QString HourFigures::statement() { return TillStatements::hours(); }
 
-void HourFigures::add(const QSqlQuery& row)
+void HourFigures::add(const HourSales& sales)
 {
-    Sum& sum = sums_[row.value(0).toString()];
-    sum.takings += row.value(1).toLongLong();
-    sum.lines += row.value(2).toLongLong();
+    if (hours_.empty() || hours_.back().day != sales.day || hours_.back().hour != sales.hour) {
+        hours_.push_back(sales);
+        return;
+    }
+    hours_.back().lines += sales.lines;
+    hours_.back().takings += sales.takings;
 }
 
-void HourFigures::add(const HourFigures& other)
+void HourFigures::add(const QSqlQuery& row)
 {
-    for (const auto& [hour, added] : other.sums_) {
-        Sum& sum = sums_[hour];
-        sum.takings += added.takings;
-        sum.lines += added.lines;
+    const QString text = row.value(0).toString();
+    add({dayOf(text), hourOf(text), row.value(2).toLongLong(), row.value(1).toLongLong(), 0});
+}
+
+void HourFigures::add(const HourFigures& later)
+{
+    hours_.reserve(hours_.size() + later.hours_.size());
+    for (const HourSales& sales : later.hours_) {
+        add(sales);
     }
 }
 
 std::vector<HourSales> HourFigures::result(QDate first) const
 {
-    constexpr int hourPlace = 11;
     constexpr int hoursInADay = 24;
-    std::vector<HourSales> hours;
+    HourFigures clean;
+    clean.hours_.reserve(hours_.size());
     HourSales last{first, 0, 0, 0, 0};
-    for (const auto& [text, sum] : sums_) {
-        const QDate day = dayOf(text, QDate());
-        bool isNumber = false;
-        const int hour = text.mid(hourPlace).toInt(&isNumber);
-        // A text that the till has not written counts for the hour that it follows.
-        if (day.isValid() && day >= last.day) {
-            const bool isHour = isNumber && hour >= 0 && hour < hoursInADay;
-            const int before = day == last.day ? last.hour : 0;
-            last = {day, isHour ? std::max(hour, before) : before, 0, 0, 0};
+    for (const HourSales& sales : hours_) {
+        // What the till has not written counts for the hour that it follows.
+        if (sales.day.isValid() && sales.day > last.day) {
+            last = {sales.day, 0, 0, 0, 0};
         }
-        if (hours.empty() || hours.back().day != last.day || hours.back().hour != last.hour) {
-            hours.push_back(last);
+        if (sales.day == last.day && sales.hour < hoursInADay) {
+            last.hour = std::max(sales.hour, last.hour);
         }
-        hours.back().lines += sum.lines;
-        hours.back().takings += sum.takings;
+        clean.add({last.day, last.hour, sales.lines, sales.takings, 0});
     }
-    return hours;
+    return std::move(clean.hours_);
 }
 
 QString ArticleFigures::statement() { return TillStatements::articles(); }
@@ -104,11 +138,11 @@ QString CountFigures::statement() { return TillStatements::counts(); }
 
 void CountFigures::add(const QSqlQuery& row)
 {
-    counts_.push_back({row.value(0).toString(), row.value(1).toString(), row.value(2),
-        row.value(3).toLongLong()});
+    counts_.push_back({dayOf(row.value(0).toString()), *names_.insert(row.value(1).toString()),
+        row.value(2), row.value(3).toLongLong()});
 }
 
-void CountFigures::add(const CountFigures& other)
+void CountFigures::add(const CountFigures& later)
 {
-    counts_.insert(counts_.end(), other.counts_.begin(), other.counts_.end());
+    counts_.insert(counts_.end(), later.counts_.begin(), later.counts_.end());
 }

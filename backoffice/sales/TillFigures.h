@@ -4,38 +4,40 @@
 #include "backoffice/sales/SalesSlice.h"
 #include "backoffice/sales/SalesSource.h"
 
+#include <QSet>
 #include <QVariant>
 
 #include <map>
 
-/// The day that \a text, the beginning of a moment, is of; \a before, the day of the text before
-/// it, when it names none.
-QDate dayOf(const QString& text, QDate before);
+/// The day that \a text, the beginning of a moment, is of; not valid for none.
+QDate dayOf(const QString& text);
+
+/// The hour that \a text has behind its day, -1 for none.
+int hourOf(const QString& text);
 
 /// \a name as SQLite compares names: without the case of A to Z.
 QString folded(QString name);
 
 /// What is read of the history: the rows of a statement, added up. Behind the statement's own
-/// columns follow the number of lines and the sum of TillStatements::trace().
+/// columns follows the number of lines.
 
-/// Takings by the first 13 characters of a moment: "2026-11-22 09".
+/// Takings by hour.
 class HourFigures
 {
 public:
     static constexpr int columns = 2;
     static QString statement();
     void add(const QSqlQuery& row);
-    void add(const HourFigures& other);
+    /// Appends \a later, which was read of a later time.
+    void add(const HourFigures& later);
     /// \a first is the day before which nothing was read.
     std::vector<HourSales> result(QDate first) const;
 
 private:
-    struct Sum
-    {
-        qint64 lines = 0;
-        Amount takings = 0;
-    };
-    std::map<QString, Sum> sums_;
+    void add(const HourSales& sales);
+
+    /// In the order of time; -1 is no hour, an invalid day is none.
+    std::vector<HourSales> hours_;
 };
 
 /// Takings by article.
@@ -54,13 +56,14 @@ private:
     std::map<QString, ArticleSales> sums_;
 };
 
-/// Numbers of lines by day, article and price, in the order of the days; a key may come twice.
+/// Numbers of lines by day, article and price, in the order of time; a key may come twice.
 class CountFigures
 {
 public:
     struct Count
     {
-        QString day;
+        /// Not valid for a text that the till has not written.
+        QDate day;
         QString article;
         QVariant price;
         qint64 lines = 0;
@@ -69,9 +72,11 @@ public:
     static constexpr int columns = 3;
     static QString statement();
     void add(const QSqlQuery& row);
-    void add(const CountFigures& other);
+    void add(const CountFigures& later);
     const std::vector<Count>& result() const { return counts_; }
 
 private:
     std::vector<Count> counts_;
+    /// The articles' names, so that counts share them.
+    QSet<QString> names_;
 };

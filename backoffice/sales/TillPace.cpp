@@ -10,7 +10,7 @@
 namespace {
 constexpr qint64 firstRows = 250;
 constexpr qint64 fewestRows = 20;
-constexpr qint64 fullSpeedUs = 10000;
+constexpr qint64 fullSpeedUs = 5000;
 constexpr qint64 gentleUs = 3000;
 /// Of eleven parts of the time, ten are the till's.
 constexpr qint64 pauses = 10;
@@ -22,8 +22,8 @@ Timing Timing::ofTheMachine()
 {
     using namespace std::chrono;
     return {[] {
-                const auto now = steady_clock::now().time_since_epoch();
-                return qint64{duration_cast<microseconds>(now).count()};
+                const auto time = steady_clock::now().time_since_epoch();
+                return qint64{duration_cast<microseconds>(time).count()};
             },
         [] { return QDateTime::currentMSecsSinceEpoch(); },
         [](qint64 time) { std::this_thread::sleep_for(microseconds(time)); }};

@@ -10,10 +10,9 @@ namespace {
 /// The share of the days of \a range before \a moment.
 double shareBefore(const QString& moment, const DayRange& range)
 {
-    constexpr int hourPlace = 11;
     constexpr double hoursInADay = 24;
-    const QDate day = dayOf(moment, range.first);
-    const double hour = moment.mid(hourPlace, 2).toInt();
+    const QDate day = dayOf(moment);
+    const double hour = std::max(hourOf(moment), 0);
     const double passed = static_cast<double>(range.first.daysTo(day)) + hour / hoursInADay;
     return std::clamp(passed / static_cast<double>(range.days()), 0.0, 1.0);
 }
@@ -27,10 +26,9 @@ void append(std::vector<ReadSlice>& slices, const ReadSlice& next)
     if (!slices.empty()) {
         ReadSlice& last = slices.back();
         const bool areNeighbours = !next.slice.to.isEmpty() && last.slice.to == next.slice.from;
-        if (areNeighbours && last.trace.lines + next.trace.lines <= most) {
+        if (areNeighbours && last.lines + next.lines <= most) {
             last.slice.to = next.slice.to;
-            last.trace.lines += next.trace.lines;
-            last.trace.rowids += next.trace.rowids;
+            last.lines += next.lines;
             return;
         }
     }
@@ -39,10 +37,10 @@ void append(std::vector<ReadSlice>& slices, const ReadSlice& next)
 
 TillSource::TillSource(const QString& folder, const Timing& timing)
     : database_(folder, timing)
-    , pace_(timing)
+    , hours_(timing)
+    , articles_(timing)
+    , counts_(timing)
 { }
-
-TillSource::~TillSource() = default;
 
 std::vector<QString> TillSource::tills() const { return {tr("Caisse")}; }
 
@@ -58,51 +56,71 @@ template <class Body> auto TillSource::again(Body body)
     }
 }
 
-QDate TillSource::lastSoldDay(const Reading& reading)
+LastLine TillSource::lastLine(const Reading& reading)
 {
-    QDate day;
+    LastLine last;
     database_.read(
         TillStatements::lastRecorded(), {},
-        [&](const QSqlQuery& row) { day = dayOf(row.value(0).toString(), QDate()); }, reading);
-    return day;
+        [&](const QSqlQuery& row) {
+            last = {row.value(0).toLongLong(), row.value(1).toString()};
+        },
+        reading);
+    return last;
 }
 
-bool TillSource::isAsRead(const std::vector<ReadSlice>& slices, const Reading& reading)
+QVariant TillSource::value(const QString& sql, const QVariantList& values, const Reading& reading)
 {
-    return std::all_of(slices.begin(), slices.end(), [&](const ReadSlice& read) {
-        SalesTrace found;
-        pace_.runAsIs(database_.isTillAtWork(), [&] {
-            database_.read(
-                read.slice.in(TillStatements::trace()), read.slice.values(),
-                [&](const QSqlQuery& row) {
-                    found = {row.value(0).toLongLong(), row.value(1).toLongLong()};
-                },
-                reading);
+    QVariant found;
+    database_.read(
+        sql, values, [&](const QSqlQuery& row) { found = row.value(0); }, reading);
+    return found;
+}
+
+/// Whether the database still has the lines that \a kept was read of, and no other ones in their
+/// days. The till adds lines and purges them, and never changes one: with the last line of then
+/// still there, all new lines come behind it, so that equal numbers of lines are the same lines.
+template <class Figures>
+bool TillSource::isAsRead(const KeptFigures<Figures>& kept, TillPace& pace, const Reading& reading)
+{
+    const LastLine& last = kept.last;
+    if (last.moment.isEmpty()
+        || value(TillStatements::momentOf(), {last.row}, reading).toString() != last.moment) {
+        return false;
+    }
+    const QVariantList later{last.row, text(kept.range.first), text(kept.end)};
+    if (value(TillStatements::laterLines(), later, reading).toLongLong() != 0) {
+        return false;
+    }
+    return std::all_of(kept.slices.begin(), kept.slices.end(), [&](const ReadSlice& read) {
+        qint64 lines = 0;
+        pace.runAsIs(database_.isTillAtWork(), [&] {
+            lines = value(read.slice.in(TillStatements::lines()), read.slice.values(), reading)
+                        .toLongLong();
         });
         reading.advance(0);
-        return found == read.trace;
+        return lines == read.lines;
     });
 }
 
 /// Reads the days from into.end to before \a end. Throws without having changed \a into.
 template <class Figures>
-void TillSource::readDays(KeptFigures<Figures>& into, QDate end, const Reading& reading)
+void TillSource::readDays(
+    KeptFigures<Figures>& into, QDate end, TillPace& pace, const Reading& reading)
 {
     Figures figures;
     std::vector<ReadSlice> slices;
     const auto read = [&](const SalesSlice& slice) {
-        ReadSlice done{slice, {}};
+        ReadSlice done{slice, 0};
         database_.read(
             slice.in(Figures::statement()), slice.values(),
             [&](const QSqlQuery& row) {
                 figures.add(row);
-                done.trace.lines += row.value(Figures::columns).toLongLong();
-                done.trace.rowids += row.value(Figures::columns + 1).toLongLong();
+                done.lines += row.value(Figures::columns).toLongLong();
             },
             reading);
         append(slices, done);
     };
-    SalesWalk(database_, pace_, reading)
+    SalesWalk(database_, pace, reading)
         .go(text(into.end), text(end), read,
             [&](const QString& moment) { reading.advance(shareBefore(moment, into.range)); });
     into.figures.add(figures);
@@ -118,21 +136,23 @@ Figures TillSource::figures(
     return again([&] {
         const TillDatabase::State state = database_.state(reading);
         reading.advance(0);
+        const LastLine last = lastLine(reading);
         KeptFigures<Figures>& past = kept.of(range);
         if (!(past.checked == state)) {
-            if (past.checked.file != state.file || !isAsRead(past.slices, reading)) {
-                past = {range, range.first, {}, {}, {}};
+            if (past.checked.file != state.file || !isAsRead(past, kept.pace(), reading)) {
+                past = {range, range.first, {}, {}, {}, {}};
             }
             past.checked = state;
+            past.last = last;
         }
         const QDate behind = range.last.addDays(1);
-        const QDate today = lastSoldDay(reading);
+        const QDate today = dayOf(last.moment);
         const QDate pastEnd = today.isValid() ? std::min(today, behind) : range.first;
         if (past.end < pastEnd) {
-            readDays(past, pastEnd, reading);
+            readDays(past, pastEnd, kept.pace(), reading);
         }
-        KeptFigures<Figures> all{range, past.end, past.figures, {}, {}};
-        readDays(all, behind, reading);
+        KeptFigures<Figures> all{range, past.end, past.figures, {}, {}, {}};
+        readDays(all, behind, kept.pace(), reading);
         return all.figures;
     });
 }

@@ -18,7 +18,6 @@ class TillSource : public SalesSource
 public:
     /// The till of the data folder \a folder. Nothing is opened yet, so this does not fail.
     explicit TillSource(const QString& folder, const Timing& timing = Timing::ofTheMachine());
-    ~TillSource() override;
 
     std::vector<QString> tills() const override;
     std::vector<HourSales> hours(const DayRange& range, const Reading& reading) override;
@@ -33,13 +32,14 @@ private:
     template <class Figures>
     Figures figures(KeptRanges<Figures>& kept, const DayRange& range, const Reading& reading);
     template <class Figures>
-    void readDays(KeptFigures<Figures>& into, QDate end, const Reading& reading);
-    bool isAsRead(const std::vector<ReadSlice>& slices, const Reading& reading);
-    QDate lastSoldDay(const Reading& reading);
+    void readDays(KeptFigures<Figures>& into, QDate end, TillPace& pace, const Reading& reading);
+    template <class Figures>
+    bool isAsRead(const KeptFigures<Figures>& kept, TillPace& pace, const Reading& reading);
+    LastLine lastLine(const Reading& reading);
+    QVariant value(const QString& sql, const QVariantList& values, const Reading& reading);
     void readRows(const QString& sql, const TillDatabase::Row& row, const Reading& reading);
 
     TillDatabase database_;
-    TillPace pace_;
     KeptRanges<HourFigures> hours_;
     KeptRanges<ArticleFigures> articles_;
     KeptRanges<CountFigures> counts_;

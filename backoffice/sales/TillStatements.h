@@ -23,14 +23,24 @@ inline QString dataVersion() { return QStringLiteral("pragma data_version"); }
 
 inline QString schemaVersion() { return QStringLiteral("pragma schema_version"); }
 
-/// The moment of the last recorded sale, whatever the clock said.
+/// The line that was recorded last, whatever the clock said.
 inline QString lastRecorded()
 {
-    return QStringLiteral("select date_heure from Historique order by rowid desc limit 1");
+    return QStringLiteral("select rowid, date_heure from Historique order by rowid desc limit 1");
 }
 
-/// The latest moment.
-inline QString latest() { return QStringLiteral("select max(date_heure) from Historique"); }
+/// The moment of a line.
+inline QString momentOf()
+{
+    return QStringLiteral("select date_heure from Historique where rowid = ?");
+}
+
+/// How many lines behind a row are from a moment to before another.
+inline QString laterLines()
+{
+    return QStringLiteral("select count(*) from Historique where rowid > ? and "
+                          "+date_heure >= ? and +date_heure < ?");
+}
 
 /// The moment behind a number of lines between two moments.
 inline QString momentBehind()
@@ -62,28 +72,23 @@ inline QString betweenRows()
     return QStringLiteral("date_heure = ? and rowid > ? and rowid <= ?");
 }
 
-/// How many lines there are, and a sum that no other lines are likely to have. The last two columns
-/// of every statement below are these.
-inline QString trace()
-{
-    return QStringLiteral("select count(*), sum(rowid & 4294967295) from Historique where %1");
-}
+inline QString lines() { return QStringLiteral("select count(*) from Historique where %1"); }
 
-/// Hour, lines' takings.
+/// Hour, takings; as in all statements below, the number of lines is last.
 inline QString hours()
 {
     return QStringLiteral("select substr(date_heure, 1, 13), "
                           "sum(cast(round(prix * 10000) as integer)), "
-                          "count(*), sum(rowid & 4294967295) "
+                          "count(*) "
                           "from Historique where %1 group by 1");
 }
 
-/// Article, lines' takings.
+/// Article, takings.
 inline QString articles()
 {
     return QStringLiteral("select article collate binary, "
                           "sum(cast(round(prix * 10000) as integer)), "
-                          "count(*), sum(rowid & 4294967295) "
+                          "count(*) "
                           "from Historique where %1 group by 1");
 }
 
@@ -91,7 +96,7 @@ inline QString articles()
 inline QString counts()
 {
     return QStringLiteral("select substr(date_heure, 1, 10), article collate binary, prix, "
-                          "count(*), sum(rowid & 4294967295) "
+                          "count(*) "
                           "from Historique where %1 group by 1, 2, 3");
 }
 
@@ -118,15 +123,14 @@ inline QString taxRate()
 }
 
 /// What the till's statement of the consumption looks at, in memory: the stock as it is, and the
-/// sales counted by day.
+/// sales counted by day; the day 0 is all days.
 inline constexpr std::array useTables{"create table ArticleStock (id integer primary key not null, "
                                       "article text collate nocase not null)",
     "create table DoseStock (idlig integer primary key not null, id integer not null, "
     "composition text collate nocase not null, dose numeric not null, unite text not null)",
-    "create table Ventes (jour text not null, article text collate nocase not null, "
-    "prix numeric not null, compte integer not null)"};
-inline constexpr std::array useIndexes{
-    "create index parJour on Ventes (jour, article, prix, compte)"};
+    "create table Ventes (jour integer not null, article text collate nocase not null, "
+    "prix numeric not null, compte integer not null, "
+    "primary key (jour, article, prix)) without rowid"};
 
 inline QString addStockArticle()
 {
@@ -135,14 +139,22 @@ inline QString addStockArticle()
 
 inline QString addDose() { return QStringLiteral("insert into DoseStock values (?, ?, ?, ?, ?)"); }
 
-inline QString addCount() { return QStringLiteral("insert into Ventes values (?, ?, ?, ?)"); }
-
-/// The sales from a day through another, counted as on the till.
-inline QString countedSales()
+inline QString addCount()
 {
-    return QStringLiteral("select distinct sum(compte) as compte, article from Ventes "
-                          "where jour between ? and ? group by article, prix");
+    return QStringLiteral("insert into Ventes values (?, ?, ?, ?) on conflict "
+                          "do update set compte = compte + excluded.compte");
 }
 
-inline QString soldDays() { return QStringLiteral("select distinct jour from Ventes order by 1"); }
+inline QString addAllDays()
+{
+    return QStringLiteral("insert into Ventes select 0, article, prix, sum(compte) from Ventes "
+                          "group by article, prix");
+}
+
+/// The sales of a day, given twice, counted as on the till. With "between", as on the till, SQLite
+/// expects many rows and looks each up by an index.
+inline QString countedSales()
+{
+    return QStringLiteral("select distinct compte, article from Ventes where jour between ? and ?");
+}
 } // namespace TillStatements

@@ -8,6 +8,8 @@
 #include <QSqlQuery>
 #include <QUuid>
 
+#include <algorithm>
+
 namespace {
 void require(bool isDone, const QSqlQuery& query)
 {
@@ -62,51 +64,41 @@ void UseTables::addCounts(const CountFigures& counts, QDate first)
     require(query.prepare(TillStatements::addCount()), query);
     QDate day = first;
     for (const CountFigures::Count& count : counts.result()) {
-        day = std::max(dayOf(count.day, day), day);
-        query.bindValue(0, day.toString(Qt::ISODate));
+        if (count.day.isValid() && count.day > day) {
+            day = count.day;
+        }
+        if (days_.empty() || days_.back() != day) {
+            days_.push_back(day);
+        }
+        query.bindValue(0, day.toJulianDay());
         query.bindValue(1, count.article);
         query.bindValue(2, count.price);
         query.bindValue(3, count.lines);
         require(query.exec(), query);
     }
-    for (const char* index : TillStatements::useIndexes) {
-        run(QLatin1String(index), {});
-    }
+    run(TillStatements::addAllDays(), {});
     database_.commit();
-}
-
-void UseTables::addUses(
-    std::vector<Use>& uses, QSqlQuery& query, const QString& from, const QString& to)
-{
-    query.bindValue(0, from);
-    query.bindValue(1, to);
-    require(query.exec(), query);
-    const QDate day = from == to ? QDate::fromString(from, Qt::ISODate) : QDate();
-    while (query.next()) {
-        uses.push_back({day, query.value(0).toString(), query.value(1).toDouble(),
-            query.value(2).toString(), query.value(3).toDouble(), query.value(4).toString(), 0});
-    }
 }
 
 std::vector<Use> UseTables::uses(const Reading& reading)
 {
-    std::vector<QString> days;
-    {
-        QSqlQuery query(database_);
-        require(query.exec(TillStatements::soldDays()), query);
-        while (query.next()) {
-            days.push_back(query.value(0).toString());
-        }
-    }
     std::vector<Use> uses;
     QSqlQuery query(database_);
     query.setForwardOnly(true);
     require(query.prepare(Consumption::totalsStatement(TillStatements::countedSales())), query);
-    // A null text would be an SQL null.
-    addUses(uses, query, QStringLiteral(""), QStringLiteral("~"));
-    for (const QString& day : days) {
-        addUses(uses, query, day, day);
+    const auto add = [&](QDate day) {
+        const qint64 number = day.isValid() ? day.toJulianDay() : 0;
+        query.bindValue(0, number);
+        query.bindValue(1, number);
+        require(query.exec(), query);
+        while (query.next()) {
+            uses.push_back({day, query.value(0).toString(), query.value(1).toDouble(),
+                query.value(2).toString(), query.value(3).toDouble(), query.value(4).toString(),
+                0});
+        }
         reading.advance(1);
-    }
+    };
+    add(QDate());
+    std::for_each(days_.begin(), days_.end(), add);
     return uses;
 }

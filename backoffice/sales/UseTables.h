@@ -27,8 +27,7 @@ public:
 
 private:
     void run(const QString& sql, const QVariantList& values);
-    void addUses(std::vector<Use>& uses, QSqlQuery& query, const QString& from, const QString& to);
-
     QString connection_;
     QSqlDatabase database_;
+    std::vector<QDate> days_;
 };

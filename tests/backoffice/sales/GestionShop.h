@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
+#include <memory>
+
 /// A shop whose figures are worked out by hand.
 struct GestionShop : Shop
 {
@@ -24,6 +26,24 @@ struct GestionShop : Shop
 inline DayRange days(const char* first, const char* last)
 {
     return {QDate::fromString(first, Qt::ISODate), QDate::fromString(last, Qt::ISODate)};
+}
+
+/// The machine's clocks, on a day on which the till has not worked for long.
+inline Timing afterClosing()
+{
+    Timing timing = Timing::ofTheMachine();
+    timing.now = [] { return qint64{4102444800000}; };
+    return timing;
+}
+
+/// The same for a machine that always needs as long as the pace wants: portions stay as small as
+/// the first one. Nothing waits, and each look at the clock takes 5 ms.
+inline Timing smallPortions()
+{
+    const auto elapsed = std::make_shared<qint64>(0);
+    constexpr qint64 step = 5000;
+    return {[elapsed] { return *elapsed += step; }, [] { return qint64{4102444800000}; },
+        [elapsed](qint64 time) { *elapsed += time; }};
 }
 
 /// "2026-11-20 9h 2 35000".
