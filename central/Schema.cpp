@@ -111,6 +111,7 @@ create table vendel.day_use (
     lines bigint not null,
     primary key (day, till, folded)
 ) with (fillfactor = 80);
+create index day_use_of_till on vendel.day_use (till, day);
 
 -- The sums of the month's days.
 create table vendel.month_use (
@@ -120,6 +121,7 @@ create table vendel.month_use (
     lines bigint not null,
     primary key (month, till, folded)
 ) with (fillfactor = 80);
+create index month_use_of_till on vendel.month_use (till, month);
 
 create table vendel.menu (
     till integer not null references vendel.till,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "backoffice/window/TillChoice.h"
 
+#include "widgets/QtNames.h"
+
 #include <QAction>
 #include <QKeyEvent>
 #include <QMenu>
@@ -18,7 +20,7 @@ public:
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override
     {
-        QAction* action = actionAt(event->pos());
+        QAction* action = actionAt(QtNames::position(*event).toPoint());
         if (action != nullptr && action->isCheckable()) {
             action->trigger();
         } else {
