@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace {
 using Settings = QMap<QString, QString>;
 
@@ -16,7 +18,7 @@ QString decoded(const QString& text) { return QUrl::fromPercentEncoding(text.toU
 QString takeTo(QString& text, QChar sign)
 {
     const auto at = text.indexOf(sign);
-    const QString head = at < 0 ? text : text.left(at);
+    QString head = at < 0 ? text : text.left(at);
     text = at < 0 ? QString() : text.mid(at + 1);
     return head;
 }
@@ -26,7 +28,8 @@ bool takeHosts(const QString& authority, Settings& settings)
 {
     QStringList hosts;
     QStringList ports;
-    for (QString place : authority.split(QLatin1Char(','))) {
+    const QStringList places = authority.split(QLatin1Char(','));
+    for (QString place : places) {
         if (place.startsWith(QLatin1Char('['))) {
             if (!place.contains(QLatin1Char(']'))) {
                 return false;
@@ -55,7 +58,8 @@ bool takeQuery(const QString& query, Settings& settings)
     if (query.isEmpty()) {
         return true;
     }
-    for (const QString& part : query.split(QLatin1Char('&'))) {
+    const QStringList parts = query.split(QLatin1Char('&'));
+    for (const QString& part : parts) {
         QString value = part;
         const QString key = decoded(takeTo(value, QLatin1Char('=')));
         const auto isPlain = [](QChar letter) {

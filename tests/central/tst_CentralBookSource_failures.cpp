@@ -120,7 +120,7 @@ private slots:
         const std::string book = soldBook();
         BookDatabase database(QString::fromStdString(server().uri(book)));
         QVERIFY_EXCEPTION_THROWN(
-            database.read("delete from vendel.till", {}, [](const QSqlQuery&) {}), SalesError);
+            database.read("delete from vendel.menu", {}, [](const QSqlQuery&) {}), SalesError);
     }
 
     void aServerThatHangsOrEnds()
