@@ -70,6 +70,13 @@ private slots:
         QVERIFY(!said.contains('\n'));
     }
 
+    void theNextServerIsTried()
+    {
+        QCOMPARE(
+            refusal("postgresql://owner@/" + soldBook() + "?host=/nowhere," + server().folder()),
+            QString("no refusal"));
+    }
+
     void noDatabaseOrUser()
     {
         const QString said = refusal(server().uri("none"));
