@@ -18,7 +18,7 @@ private slots:
             QFAIL("it was read");
         } catch (const SalesError& error) {
             QCOMPARE(error.sentence(),
-                QString("Le pilote SQLite de Qt manque : Vendel est à réinstaller."));
+                QString("Le pilote SQLite de Qt manque\u00a0: Vendel est à réinstaller."));
         }
     }
 };
