@@ -14,6 +14,8 @@ constexpr qint64 fullSpeedUs = 5000;
 constexpr qint64 gentleUs = 3000;
 /// Of eleven parts of the time, ten are the till's.
 constexpr qint64 pauses = 10;
+/// A portion that took longer has waited for the till, and has held nobody up meanwhile.
+constexpr qint64 longestHeldUs = 50000;
 /// A portion that was quick by chance must not make the next ones long.
 constexpr qint64 growth = 2;
 } // namespace
@@ -40,7 +42,7 @@ qint64 TillPace::timed(bool isTillAtWork, const std::function<void()>& portion)
     portion();
     const qint64 taken = std::max<qint64>(timing_.elapsed() - begin, 1);
     if (isTillAtWork) {
-        timing_.sleep(taken * pauses);
+        timing_.sleep(std::min(taken, longestHeldUs) * pauses);
     }
     return taken;
 }

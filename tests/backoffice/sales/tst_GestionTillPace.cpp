@@ -67,6 +67,14 @@ private slots:
         QCOMPARE(machine.slept, qint64{55000});
     }
 
+    void aPortionThatHasWaitedForTheTillPausesHalfASecondAtMost()
+    {
+        SlowMachine machine;
+        TillPace pace(machine.timing());
+        pace.runAsIs(true, [&] { machine.elapsed += 8000000; });
+        QCOMPARE(machine.slept, qint64{500000});
+    }
+
     void aMachineThatNeedsNoTimeHasALimitToo()
     {
         SlowMachine machine;
