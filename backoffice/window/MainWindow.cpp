@@ -65,9 +65,10 @@ ReportOrder MainWindow::order() const
     ReportOrder order;
     order.page = page().page();
     order.range = period_->range();
-    if (order.page == Page::Closing && order.range.contains(setup_.today())) {
+    if (order.page == Page::Closing) {
         // Of a month that is not over, the last day to close is today.
-        order.range.last = setup_.today();
+        order.range.last = std::min(order.range.last, setup_.today());
+        order.range.first = std::min(order.range.first, order.range.last);
     }
     if (hasOwnRate_) {
         order.taxRate = taxRate_->value();
