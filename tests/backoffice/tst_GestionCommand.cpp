@@ -88,6 +88,7 @@ private slots:
             = QStringList{"--dossier", shop.path(), "--heures", "--csv", "-"} + weekend;
         command.run(order);
         QVERIFY(command.output.contains("\"Monday\""));
+        QVERIFY(command.output.contains("\"Hour\""));
         QVERIFY(command.output.contains("9,0.00"));
         command.run(order + QStringList{"--langue", "fr"});
         QVERIFY(command.output.contains("\"lundi\""));
