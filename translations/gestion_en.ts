@@ -165,6 +165,25 @@
     </message>
 </context>
 <context>
+    <name>HeatMapDrawing</name>
+    <message>
+        <source>Aucune vente</source>
+        <translation>No sales</translation>
+    </message>
+    <message>
+        <source>moins</source>
+        <translation>less</translation>
+    </message>
+    <message>
+        <source>plus (jusqu&apos;à %1)</source>
+        <translation>more (up to %1)</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>more</translation>
+    </message>
+</context>
+<context>
     <name>HoursReport</name>
     <message>
         <source>Total HT par jour de la semaine et par heure</source>
