@@ -44,6 +44,10 @@ Order parseOrder(const std::vector<std::string>& arguments)
             order.action = Action::SecondPlace;
             order.folder = value;
             left.next();
+        } else if (*option == "--central" && (isValue(value) || value == "-")) {
+            order.action = Action::Book;
+            order.book = value;
+            left.next();
         } else if (*option == "--etat") {
             order.action = Action::State;
         } else if (*option == "--aide" || *option == "--help" || *option == "-h") {

@@ -13,6 +13,7 @@ enum class Action
     Start,
     Restore,
     SecondPlace,
+    Book,
     State,
     Help,
     Guide,
@@ -31,6 +32,8 @@ struct Order
     std::string copy;
     /// The folder that copies go to as well, "-" for none any more.
     std::string folder;
+    /// The address of the central book, "-" for none any more.
+    std::string book;
 };
 
 /// A command line that is answered with the usage.

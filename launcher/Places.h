@@ -12,6 +12,8 @@ struct Places
     std::string dialogue;
     /// The folder of the pictures and the translation.
     std::string shared;
+    /// The command that sends sales to the central book, where it is installed.
+    std::string central;
     /// The guide, a page for the browser.
     std::string guide;
 };

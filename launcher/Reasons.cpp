@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/Reasons.h"
 
+#include "launcher/BookStatus.h"
+
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 
 #include <sqlite3.h>
@@ -56,5 +59,37 @@ Words ofSqlite(int code)
     default:
         return {Sentences::systemSays, {sqlite3_errstr(code)}};
     }
+}
+
+Words ofBook(int status)
+{
+    constexpr int killed = 128 + SIGKILL;
+    if (status == killed) {
+        return Sentences::bookTooSlow;
+    }
+    switch (static_cast<BookStatus>(status)) {
+    case BookStatus::BadUsage:
+        return Sentences::bookAddressWrong;
+    case BookStatus::Unreachable:
+        return Sentences::bookSilent;
+    case BookStatus::Refused:
+        return Sentences::bookRefuses;
+    case BookStatus::NoRight:
+        return Sentences::notWritable;
+    case BookStatus::NotPrepared:
+        return Sentences::bookNotPrepared;
+    case BookStatus::Later:
+        return Sentences::bookLater;
+    case BookStatus::Full:
+        return Sentences::bookFull;
+    case BookStatus::Till:
+        return Sentences::bookTillUnreadable;
+    case BookStatus::Folder:
+        return Sentences::bookNoIdentity;
+    case BookStatus::Done:
+    case BookStatus::Failed:
+        break;
+    }
+    return Sentences::bookFails;
 }
 } // namespace Reasons

@@ -10,4 +10,7 @@ Words ofSystem(int number);
 
 /// For SQLite's result code \a code, with or without its details.
 Words ofSqlite(int code);
+
+/// For the exit status \a status of the command that sends sales to the central book.
+Words ofBook(int status);
 } // namespace Reasons

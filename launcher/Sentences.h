@@ -41,6 +41,7 @@ inline constexpr Sentence usage{
     "Usage : vendel [--langue en|fr] [--taille TAILLE]\n"
     "        vendel --restaurer [COPIE]\n"
     "        vendel --copies-vers DOSSIER\n"
+    "        vendel --central URI\n"
     "        vendel --etat\n"
     "        vendel --aide | --guide | --version\n"
     "\n"
@@ -51,6 +52,7 @@ inline constexpr Sentence usage{
     "                         ecran (aussi grand que possible) ou auto (celle du bureau)\n"
     "  --restaurer [COPIE]    montre les copies de la base et en remet une en place\n"
     "  --copies-vers DOSSIER  garde aussi les copies dans ce dossier ; « - » l'oublie\n"
+    "  --central URI          envoie les ventes au livre central (vendel-central) ; « - » l'oublie\n"
     "  --etat                 dit l'état de la caisse, pour qui aide au téléphone\n"
     "  --aide                 montre ce texte\n"
     "  --guide                ouvre le guide de la caisse dans le navigateur\n"
@@ -58,6 +60,7 @@ inline constexpr Sentence usage{
     "Usage: vendel [--langue en|fr] [--taille SIZE]\n"
     "       vendel --restaurer [COPY]\n"
     "       vendel --copies-vers FOLDER\n"
+    "       vendel --central URI\n"
     "       vendel --etat\n"
     "       vendel --help | --guide | --version\n"
     "\n"
@@ -68,6 +71,7 @@ inline constexpr Sentence usage{
     "                        ecran (as large as possible) or auto (the desktop's own)\n"
     "  --restaurer [COPY]    shows the copies of the database and puts one back\n"
     "  --copies-vers FOLDER  keeps the copies in this folder too; \"-\" forgets it\n"
+    "  --central URI         sends sales to the central book (vendel-central); \"-\" forgets it\n"
     "  --etat                shows the state of the till, for whoever helps on the telephone\n"
     "  --help                shows this text\n"
     "  --guide               opens the guide, which is French, in the browser\n"
@@ -158,6 +162,40 @@ inline constexpr Sentence notReachedFor{
     "No copy has reached \"%1\" since %2: plug the medium in, or choose another folder with "
     "\"vendel --copies-vers FOLDER\"."};
 
+inline constexpr Sentence noBookUri{
+    "« %1 » n'est pas l'adresse d'une base PostgreSQL (postgresql://MACHINE/BASE).",
+    "\"%1\" is not the address of a PostgreSQL database (postgresql://HOST/DATABASE)."};
+inline constexpr Sentence passwordInBookUri{
+    "L'adresse contient un mot de passe : sa place est dans le fichier ~/.pgpass.",
+    "The address contains a password: its place is the file ~/.pgpass."};
+inline constexpr Sentence bookRemembered{
+    "Les ventes iront aussi dans le livre central « %1 », après chaque copie de la base.",
+    "Sales will go to the central book \"%1\" too, after each copy of the database."};
+inline constexpr Sentence bookRememberedForLater{
+    "Les ventes iront aussi dans le livre central « %1 », dès que le paquet vendel-central est "
+    "installé.",
+    "Sales will go to the central book \"%1\" too, as soon as the package vendel-central is "
+    "installed."};
+inline constexpr Sentence bookForgotten{
+    "Les ventes n'iront plus dans un livre central.", "Sales will go to no central book any more."};
+inline constexpr Sentence notSent{"Les ventes n'ont pas pu être envoyées au livre central (%1).",
+    "Sales could not be sent to the central book (%1)."};
+inline constexpr Sentence bookSilent{"il ne répond pas", "it does not answer"};
+inline constexpr Sentence bookRefuses{"il refuse la liaison", "it refuses the connection"};
+inline constexpr Sentence bookNotPrepared{"il n'est pas prêt", "it is not ready"};
+inline constexpr Sentence bookLater{
+    "il est d'une version plus récente", "it is of a later version"};
+inline constexpr Sentence bookFull{"il n'a plus de place", "it has no room left"};
+inline constexpr Sentence bookAddressWrong{
+    "son adresse est inutilisable", "its address cannot be used"};
+inline constexpr Sentence bookTillUnreadable{
+    "la base de la caisse ne peut pas être lue", "the till's database cannot be read"};
+inline constexpr Sentence bookNoIdentity{
+    "l'identité de la caisse est inutilisable", "the till's identity cannot be used"};
+inline constexpr Sentence bookTooSlow{"l'envoi prend trop de temps", "sending takes too long"};
+inline constexpr Sentence bookFails{
+    "« vendel-central --envoyer » dit pourquoi", "\"vendel-central --envoyer\" says why"};
+
 inline constexpr Sentence whichCopy{
     "Quelle copie de la base remettre en place ?", "Which copy of the database shall be put back?"};
 inline constexpr Sentence noCopies{"Il n'y a aucune copie de la base dans « %1/copies ».",
@@ -226,6 +264,10 @@ inline constexpr Sentence statePlaceAway{
 inline constexpr Sentence statePlaceUnreadable{
     "Second endroit des copies : « copies-vers » ne peut pas être lu",
     "Second place of the copies: \"copies-vers\" cannot be read"};
+inline constexpr Sentence stateBook{
+    "Livre central : « %1 », atteint le %2", "Central book: \"%1\", reached on %2"};
+inline constexpr Sentence stateBookNever{
+    "Livre central : « %1 », jamais atteint", "Central book: \"%1\", never reached"};
 inline constexpr Sentence noCopyThere{"aucune", "none"};
 inline constexpr Sentence stateNoTrouble{
     "Ennuis dans le journal : aucun", "Trouble in the log: none"};
@@ -255,6 +297,7 @@ inline constexpr Sentence topicFolder{"le dossier de données", "the data direct
 inline constexpr Sentence topicDatabase{"la base de données", "the database"};
 inline constexpr Sentence topicCopies{"les copies", "the copies"};
 inline constexpr Sentence topicPlace{"le second endroit", "the second place"};
+inline constexpr Sentence topicBook{"le livre central", "the central book"};
 inline constexpr Sentence topicLog{"le journal", "the log"};
 inline constexpr Sentence topicPrinter{"l'imprimante", "the printer"};
 } // namespace Sentences

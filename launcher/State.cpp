@@ -2,6 +2,7 @@
 #include "launcher/State.h"
 
 #include "launcher/Aside.h"
+#include "launcher/BookAddress.h"
 #include "launcher/CopyChoice.h"
 #include "launcher/DatabaseLook.h"
 #include "launcher/DataFolder.h"
@@ -49,6 +50,7 @@ private:
     void lookAtDatabase();
     void lookAtCopies();
     void lookAtSecondPlace();
+    void lookAtBook();
     void lookAtLog();
     void lookAtPrinter();
     void conclude();
@@ -76,6 +78,7 @@ void Look::run(const std::string& version)
         lookAtDatabase();
         lookAtCopies();
         lookAtSecondPlace();
+        lookAtBook();
         lookAtLog();
     }
     lookAtPrinter();
@@ -218,6 +221,25 @@ void Look::lookAtSecondPlace()
     }
     if (place.isLongAway(moment_)) {
         needsHand(Sentences::topicPlace);
+    }
+}
+
+/// Only of a shop that has one.
+void Look::lookAtBook()
+{
+    const BookAddress book(folder_.get());
+    if (book.uri().empty()) {
+        return;
+    }
+    const Words uri(plainText(book.uri(), book.uri().size()));
+    const Words reached(plainText(book.lastReached(), stamp(moment_).size()));
+    if (reached.french.empty()) {
+        say({Sentences::stateBookNever, {uri}});
+    } else {
+        say({Sentences::stateBook, {uri, reached}});
+    }
+    if (book.isLongAway(moment_)) {
+        needsHand(Sentences::topicBook);
     }
 }
 

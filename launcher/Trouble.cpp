@@ -23,9 +23,9 @@ constexpr std::array<std::string_view, 9> beginnings{"Errors ",
 constexpr std::array<std::string_view, 2> insides{" is not read: ", " is not shown: "};
 
 /// What the launcher itself writes into the log.
-constexpr std::array<Sentence, 8> sentences{Sentences::startedAgain, Sentences::endedTwice,
+constexpr std::array<Sentence, 9> sentences{Sentences::startedAgain, Sentences::endedTwice,
     Sentences::notStarted, Sentences::databaseUnusable, Sentences::databaseMissing,
-    Sentences::noDailyCopy, Sentences::notCarried, Sentences::notReachedFor};
+    Sentences::noDailyCopy, Sentences::notCarried, Sentences::notReachedFor, Sentences::notSent};
 
 /// Whether \a line is \a pattern with anything in place of each %N.
 bool isMadeOf(std::string_view pattern, std::string_view line)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "launcher/Watch.h"
 
+#include "launcher/BookAddress.h"
 #include "launcher/Clock.h"
 #include "launcher/CopyWork.h"
 #include "launcher/DataFolder.h"
@@ -38,11 +39,12 @@ bool hasEnded(pid_t child, int& state)
 }
 } // namespace
 
-Watch::Watch(DataFolder& folder, const Speech& speech, std::string program, bool isCopyFailureSaid,
-    Times times)
+Watch::Watch(DataFolder& folder, const Speech& speech, std::string program, std::string central,
+    bool isCopyFailureSaid, Times times)
     : folder_(folder)
     , speech_(speech)
     , program_(std::move(program))
+    , central_(std::move(central))
     , times_(times)
     , log_(folder.get())
     , hours_(Timer::make())
@@ -68,7 +70,7 @@ Watch::~Watch() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
 int Watch::run()
 {
     if (startTill()) {
-        startCarrying();
+        spread();
     }
     while (till_ > 0) {
         waitForSomething();
@@ -131,10 +133,10 @@ void Watch::becomeTill(int output, int errors) const
 
 void Watch::waitForSomething()
 {
-    std::array<pollfd, 7> ready{
-        {{output_ ? output_->get() : -1, POLLIN, 0}, {errors_ ? errors_->get() : -1, POLLIN, 0},
-            {signals_.get(), POLLIN, 0}, {hours_.get(), POLLIN, 0}, {deadline_.get(), POLLIN, 0},
-            {copying_.clock(), POLLIN, 0}, {carrying_.clock(), POLLIN, 0}}};
+    std::array<pollfd, 8> ready{{{output_ ? output_->get() : -1, POLLIN, 0},
+        {errors_ ? errors_->get() : -1, POLLIN, 0}, {signals_.get(), POLLIN, 0},
+        {hours_.get(), POLLIN, 0}, {deadline_.get(), POLLIN, 0}, {copying_.clock(), POLLIN, 0},
+        {carrying_.clock(), POLLIN, 0}, {sending_.clock(), POLLIN, 0}}};
     if (poll(ready.data(), ready.size(), -1) < 0) {
         return;
     }
@@ -152,6 +154,7 @@ void Watch::waitForSomething()
     }
     copying_.lookAtClock();
     carrying_.lookAtClock();
+    sending_.lookAtClock();
     readSignals();
 }
 
@@ -168,6 +171,9 @@ void Watch::readSignals()
     }
     if (const auto status = carrying_.ended()) {
         carryingEnded(*status);
+    }
+    if (const auto status = sending_.ended()) {
+        sendingEnded(*status);
     }
     int state = 0;
     if (hasEnded(till_, state)) {
@@ -220,7 +226,7 @@ void Watch::startCopy(Occasion occasion)
         return;
     }
     if (!work.isChanged()) {
-        startCarrying();
+        spread();
         return;
     }
     const bool isLast = occasion == Occasion::Closing;
@@ -249,12 +255,39 @@ void Watch::startCarrying()
     }
 }
 
+void Watch::startSending()
+{
+    if (sending_.isUnderWay() || access(central_.c_str(), X_OK) != 0
+        || BookAddress(folder_.get()).uri().empty()) {
+        return;
+    }
+    const auto send = [this] {
+        close(folder_.lockFile());
+        // What it has to say is said by its exit status.
+        const Descriptor nobody(open("/dev/null", O_RDWR | O_CLOEXEC));
+        dup2(nobody.get(), STDOUT_FILENO);
+        dup2(nobody.get(), STDERR_FILENO);
+        sigprocmask(SIG_SETMASK, &before_, nullptr);
+        Process::become({central_, "--envoyer", "--dossier", folder_.path()});
+        return notRun;
+    };
+    if (!sending_.start(send, isClosing_ ? times_.lastSending : times_.sending)) {
+        sendingEnded(notRun);
+    }
+}
+
+void Watch::spread()
+{
+    startCarrying();
+    startSending();
+}
+
 void Watch::copyEnded(int status)
 {
     const auto made = static_cast<CopyWork::Made>(status);
     if (made == CopyWork::Made::Done) {
         copyTrouble_ = {};
-        startCarrying();
+        spread();
         return;
     }
     if (made == CopyWork::Made::Later) {
@@ -285,6 +318,16 @@ void Watch::carryingEnded(int status)
             {CopyWork(folder_.get()).secondPlace(), Reasons::ofSystem(number)}});
 }
 
+/// Only the log has it: a network that is away in the evening is nothing to press a key for.
+void Watch::sendingEnded(int status)
+{
+    if (status == 0) {
+        sendTrouble_ = {};
+        return;
+    }
+    note(sendTrouble_, {Sentences::notSent, {Reasons::ofBook(status)}});
+}
+
 void Watch::note(Trouble& trouble, const Words& words)
 {
     if (!std::exchange(trouble.isKnown, true)) {
@@ -304,9 +347,9 @@ void Watch::sayTrouble() const
     }
 }
 
-void Watch::await(Chore& chore)
+void Watch::await(Chore& chore, double seconds)
 {
-    chore.limit(times_.lastCopy);
+    chore.limit(seconds);
     while (chore.isAwaited()) {
         waitForSomething();
     }
@@ -316,20 +359,24 @@ void Watch::makeLastCopy()
 {
     isClosing_ = true;
     folder_.announceEnd();
-    await(copying_);
+    await(copying_, times_.lastCopy);
     startCopy(Occasion::Closing);
-    await(copying_);
+    await(copying_, times_.lastCopy);
     if (copying_.isUnderWay()) {
         copyEnded(neverEnded);
     }
     // The till may start again while a slow medium is written to.
     folder_.unlock();
-    await(carrying_);
+    await(carrying_, times_.lastCopy);
     if (carrying_.isUnderWay()) {
         carryingEnded(neverEnded);
-        return;
+    } else {
+        // What was under way may have been an earlier copy.
+        startCarrying();
+        await(carrying_, times_.lastCopy);
     }
-    // What was under way may have been an earlier copy.
-    startCarrying();
-    await(carrying_);
+    // The same for the sales.
+    await(sending_, times_.lastSending);
+    startSending();
+    await(sending_, times_.lastSending);
 }

@@ -34,12 +34,17 @@ public:
         double copy = 1800;
         /// What each of the two may take when the till is closed.
         double lastCopy = 120;
+        /// What sending sales to the central book may take while the till runs, and when it is
+        /// closed.
+        double sending = 1800;
+        double lastSending = 60;
     };
 
-    /// For the till \a program. \a isCopyFailureSaid: whether the shopkeeper knows already that
+    /// For the till \a program; \a central is the command that sends its sales, which need not be
+    /// there. \a isCopyFailureSaid: whether the shopkeeper knows already that
     /// copies fail.
-    Watch(DataFolder& folder, const Speech& speech, std::string program, bool isCopyFailureSaid,
-        Times times);
+    Watch(DataFolder& folder, const Speech& speech, std::string program, std::string central,
+        bool isCopyFailureSaid, Times times);
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
     Watch(Watch&&) = delete;
@@ -76,16 +81,21 @@ private:
 
     void startCopy(Occasion occasion);
     void startCarrying();
+    void startSending();
+    /// What follows a copy.
+    void spread();
     void copyEnded(int status);
     void carryingEnded(int status);
+    void sendingEnded(int status);
     void note(Trouble& trouble, const Words& words);
     void sayTrouble() const;
     void makeLastCopy();
-    void await(Chore& chore);
+    void await(Chore& chore, double seconds);
 
     DataFolder& folder_;
     const Speech& speech_;
     std::string program_;
+    std::string central_;
     Times times_;
     Log log_;
     sigset_t before_{};
@@ -94,8 +104,10 @@ private:
     Descriptor deadline_;
     Chore copying_;
     Chore carrying_;
+    Chore sending_;
     Trouble copyTrouble_;
     Trouble carryTrouble_;
+    Trouble sendTrouble_;
     std::unique_ptr<TillOutput> output_;
     std::unique_ptr<TillOutput> errors_;
     pid_t till_ = -1;

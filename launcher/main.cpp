@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "base/Descriptor.h"
+#include "launcher/BookAddress.h"
 #include "launcher/DataFolder.h"
 #include "launcher/Guide.h"
 #include "launcher/Order.h"
 #include "launcher/Places.h"
+#include "launcher/PlainText.h"
 #include "launcher/Reasons.h"
 #include "launcher/Refusal.h"
 #include "launcher/Restore.h"
@@ -31,7 +33,7 @@ Places findPlaces()
     const std::string here = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
     const std::string program = here + "/" + VENDEL_PROGRAM;
     const std::filesystem::path guide(here + "/" + VENDEL_GUIDE);
-    return {program, program + "-dialogue", here + "/" + VENDEL_SHARED,
+    return {program, program + "-dialogue", here + "/" + VENDEL_SHARED, here + "/vendel-central",
         guide.lexically_normal().string()};
 }
 
@@ -55,7 +57,7 @@ int start(const Order& order, DataFolder& folder, const Places& places, const Sp
     StartCheck::database(folder, speech);
     const bool isCopied = StartCheck::copy(folder, speech);
     StartCheck::secondPlace(folder, speech);
-    return Watch(folder, speech, places.program, !isCopied, {}).run();
+    return Watch(folder, speech, places.program, places.central, !isCopied, {}).run();
 }
 
 bool isWithin(const std::string& path, const std::string& folder)
@@ -93,6 +95,33 @@ void changeSecondPlace(const Order& order, const std::string& data, const Speech
     speech.done(isFolder ? Words(Sentences::copiesGoTo, {path}) : Words(Sentences::copiesStay));
 }
 
+/// Remembers where sales are sent to. The till may be open meanwhile.
+void changeBook(
+    const std::string& uri, const std::string& data, const Places& places, const Speech& speech)
+{
+    if (uri != "-" && !BookAddress::isUri(uri)) {
+        throw Refusal({Sentences::noBookUri, {plainText(uri)}});
+    }
+    if (BookAddress::hasPassword(uri)) {
+        throw Refusal(Sentences::passwordInBookUri);
+    }
+    const DataFolder folder(data);
+    const BookAddress address(folder.get());
+    try {
+        if (uri == "-") {
+            address.forget();
+            speech.done(Sentences::bookForgotten);
+            return;
+        }
+        address.remember(uri);
+    } catch (const std::system_error&) {
+        throw folder.unusable(Sentences::notWritable);
+    }
+    const bool isInstalled = access(places.central.c_str(), X_OK) == 0;
+    speech.done(
+        {isInstalled ? Sentences::bookRemembered : Sentences::bookRememberedForLater, {uri}});
+}
+
 /// Says how the shop is. It is read out on the telephone, so there is no box.
 int tellState(const std::string& data, const Speech& speech)
 {
@@ -117,6 +146,9 @@ int act(const Order& order, const std::string& data, const Places& places, const
         return 0;
     case Action::SecondPlace:
         changeSecondPlace(order, data, speech);
+        return 0;
+    case Action::Book:
+        changeBook(order.book, data, places, speech);
         return 0;
     case Action::State:
         return tellState(data, speech);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Builds the Debian package in build/package, or build/package-arm64, checks it with lintian and, with
+# Builds the Debian packages in build/package, or build/package-arm64, checks it with lintian and, with
 # --test, tries it: in an otherwise empty system, or in an emulator.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
@@ -102,12 +102,12 @@ rm -f "$tree"/*.deb
 (cd "$tree" && umask 022 && logged "$name" cpack) || fail "cpack failed, see build/$name.log"
 package=$(echo "$tree"/vendel_*.deb)
 
-say "Checking it with lintian"
+say "Checking it with lintian, and what goes with it"
 lintian --allow-root --fail-on error,warning --tag-display-limit 0 "$package" \
-    || fail "lintian reports problems in $package"
+    "$tree"/vendel-central_*.deb || fail "lintian reports problems in $tree"
 if $try && [ "$architecture" = "$own" ]; then
     try_in_clean_system
 elif $try; then
     try_in_emulator
 fi
-say "The package is $package"
+say "The package is $package; vendel-central is beside it"

@@ -14,6 +14,7 @@ set(may_demo "demo|store")
 # Of the printer, the launcher only looks whether it is there.
 set(may_launcher "launcher|base|sqlite3|Print/escpospp/PrinterBus.h")
 set(may_backoffice "backoffice|launcher|store|common|base|csv|widgets/QtNames.h")
+set(may_central "central|backoffice/sales|launcher|base|pqxx|libpq-fe")
 set(may_bench "backoffice|bench|base|launcher|app|forms|widgets|store|common|db|Print|sqlite3")
 
 # Tests may include what their folder may, and what tests share.
@@ -29,10 +30,11 @@ set(may_tests/translations "tests/support|tests/translations|${may_app}")
 # The launcher's own list of tables is compared with the till's.
 set(may_tests/launcher "launcher|base|tests/launcher|tests/support|db|sqlite3")
 set(may_tests/backoffice "backoffice|launcher|store|common|base|tests/backoffice|tests/support")
+set(may_tests/central "central|backoffice/sales|launcher|base|pqxx|libpq-fe|tests/central|tests/support|sqlite3")
 set(may_tests/scripts "tests/scripts|tests/support|sqlite3")
 set(may_tests/fuzz "tests/fuzz|${may_app}|backoffice/menu|stb")
 
-set(own "^(app|backoffice|base|bench|common|db|demo|forms|launcher|Print|store|tests|widgets|csv|libusb|sqlite3|stb|ui_)")
+set(own "^(app|backoffice|base|bench|central|common|db|demo|forms|launcher|Print|store|tests|widgets|csv|libpq|libusb|pqxx|sqlite3|stb|ui_)")
 file(GLOB children RELATIVE ${ROOT} ${ROOT}/* ${ROOT}/tests/*)
 list(REMOVE_ITEM children build)
 foreach(folder IN LISTS children)

@@ -52,6 +52,14 @@ private slots:
         QVERIFY(order.language == Language::English);
     }
 
+    void aCentralBookIsNamedOrForgotten()
+    {
+        const Order order = parseOrder({"--central", "postgresql://machine/base"});
+        QVERIFY(order.action == Action::Book);
+        QCOMPARE(order.book, std::string("postgresql://machine/base"));
+        QCOMPARE(parseOrder({"--central", "-"}).book, std::string("-"));
+    }
+
     void aSecondPlaceIsNamedOrForgotten()
     {
         QCOMPARE(parseOrder({"--copies-vers", "/media/cle"}).folder, std::string("/media/cle"));
@@ -93,6 +101,8 @@ private slots:
         QVERIFY(isBad({"--taille", "--langue", "en"}));
         QVERIFY(isBad({"--restaurer", ""}));
         QVERIFY(isBad({"--copies-vers"}));
+        QVERIFY(isBad({"--central"}));
+        QVERIFY(isBad({"--central", "--version"}));
         QVERIFY(isBad({"--copies-vers", "--version"}));
         QVERIFY(isBad({"--platform"}));
         QVERIFY(isBad({"caisse"}));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "launcher/BookAddress.h"
 #include "launcher/Copies.h"
 #include "launcher/SecondPlace.h"
 #include "tests/launcher/StatedShop.h"
@@ -71,6 +72,27 @@ class TestLauncherState : public QObject
     Q_OBJECT
 
 private slots:
+    void aBookIsSaidWhereThereIsOne()
+    {
+        const StatedShop shop;
+        shop.addCopy("2026-03-05", 2048);
+        QVERIFY(!StatedShop::french(shop.state()).join('\n').contains("ivre"));
+        const BookAddress book(shop.get());
+        book.remember("postgresql://machine/base");
+        const State never = shop.state();
+        QVERIFY(StatedShop::french(never).contains(
+            "Livre central : « postgresql://machine/base », jamais atteint"));
+        QCOMPARE(StatedShop::french(never).last(), QString("À voir : le livre central."));
+        QCOMPARE(never.status, 1);
+        book.noteReached({"2026-03-05", "140000"});
+        const State reached = shop.state();
+        QVERIFY(StatedShop::french(reached).contains(
+            "Livre central : « postgresql://machine/base », atteint le 2026-03-05 14:00:00"));
+        QVERIFY(StatedShop::english(reached).contains(
+            "Central book: \"postgresql://machine/base\", reached on 2026-03-05 14:00:00"));
+        QCOMPARE(reached.status, 0);
+    }
+
     void aShopThatIsWell()
     {
         const StatedShop shop;

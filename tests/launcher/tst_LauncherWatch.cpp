@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "launcher/BookAddress.h"
 #include "launcher/Copies.h"
 #include "launcher/DataFolder.h"
 #include "launcher/Process.h"
@@ -38,6 +39,14 @@ public:
         write(QString("boxes"), {});
     }
 
+    /// Gives the shop a book, and \a script in place of the command that sends to it.
+    void addCentral(const QByteArray& script) const
+    {
+        BookAddress(get()).remember("postgresql://machine/base");
+        write(QString("central-command"), "#!/bin/sh\n" + script + '\n');
+        chmod("central-command", 0700);
+    }
+
     /// Watches the till until it ends, in a process that has one thread only, as the launcher has.
     End watch(Watch::Times times = {}) const
     {
@@ -71,7 +80,7 @@ private:
             setenv("DISPLAY", ":nowhere", 1);
             const Speech speech(Language::English, "./dialogue");
             TillSize::remembered(folder.get()).apply(speech);
-            return Watch(folder, speech, "./till", false, times).run();
+            return Watch(folder, speech, "./till", "./central-command", false, times).run();
         } catch (const Refusal& refusal) {
             write(QString("refused"), refusal.what());
             return refusal.status();
@@ -322,6 +331,55 @@ private slots:
         shop.watch();
         QCOMPARE(QDir(stick.path()).entryList({QString("Vendel-*")}, QDir::Files).size(), 1);
         QCOMPARE(shop.boxes(), QByteArray());
+    }
+
+    void salesAreSentAfterEachCopy()
+    {
+        const WatchedShop shop("until grep -q . sendings; do sleep 0.02; done 2>/dev/null\n" + sale
+            + "cp sendings before");
+        shop.addCentral("echo \"$*\" >>sendings");
+        QCOMPARE(shop.watch().status, 0);
+        const QByteArray one = "--envoyer --dossier " + shop.path().toUtf8() + '\n';
+        QCOMPARE(shop.read(QString("before")), one);
+        // The second one follows the last copy.
+        QVERIFY(shop.read(QString("sendings")).startsWith(one + one));
+        QVERIFY(!QFile::exists("vendel.log"));
+    }
+
+    void withoutABookNothingIsSent()
+    {
+        const WatchedShop shop(sale);
+        shop.addCentral("echo \"$*\" >>sendings");
+        BookAddress(shop.get()).forget();
+        QCOMPARE(shop.watch().status, 0);
+        QVERIFY(!QFile::exists("sendings"));
+    }
+
+    void aBookThatFailsIsLoggedOnceAndShownInNoBox()
+    {
+        const WatchedShop shop("until test $(grep -c . sendings) -gt 2; do sleep 0.02; done");
+        shop.addCentral("echo sent >>sendings; echo words; exit 3");
+        Watch::Times times;
+        times.betweenCopies = 0.02;
+        const End end = shop.watch(times);
+        QCOMPARE(end.status, 0);
+        QCOMPARE(
+            shop.log().count("Sales could not be sent to the central book (it does not answer)."),
+            1);
+        QCOMPARE(shop.boxes(), QByteArray());
+        QVERIFY(!end.output.contains("words"));
+    }
+
+    void aBookThatHangsHoldsUpNobody()
+    {
+        const WatchedShop shop("exit 0");
+        shop.addCentral("exec sleep 60");
+        Watch::Times times;
+        times.lastSending = 0.2;
+        QCOMPARE(shop.watch(times).status, 0);
+        QCOMPARE(shop.log().count(
+                     "Sales could not be sent to the central book (sending takes too long)."),
+            1);
     }
 
     void aTillThatCannotRunIsSaid()

@@ -29,7 +29,7 @@ boxTexts() {
         }' common/Messages.cpp
 }
 
-# launcherTexts: what the launcher says in French, in the pieces between what it inserts.
+# launcherTexts: what the launcher and vendel-central say in French, in the pieces between what it inserts.
 launcherTexts() {
     perl -0777 -ne '
         s/"\s*\n\s*"//g;
@@ -40,7 +40,7 @@ launcherTexts() {
                 $piece =~ s/^\s+|\s+$//g;
                 print "$piece\n" if $piece =~ /\w{3}/;
             }
-        }' launcher/Sentences.h
+        }' launcher/Sentences.h central/Sentences.h
 }
 
 # captions: what is written on the windows' buttons, menus, boxes to tick and fields. Labels that the till fills or that

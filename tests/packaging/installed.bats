@@ -24,6 +24,7 @@ size() {
     [ "$output" = "$(LC_ALL=C sort <<FILES
 ./bin/vendel
 ./bin/vendel-gestion
+./bin/vendel-central
 $lib/vendel
 $lib/vendel-dialogue
 ./lib/udev/rules.d/60-vendel.rules
@@ -82,6 +83,8 @@ $lib/vendel-dialogue
 ./share/man/fr/man1/vendel-gestion.1.gz
 ./share/man/fr/man1/vendel.1.gz
 ./share/man/man1/vendel-gestion.1.gz
+./share/man/fr/man1/vendel-central.1.gz
+./share/man/man1/vendel-central.1.gz
 ./share/man/man1/vendel.1.gz
 ./share/metainfo/io.vendel.vendel.metainfo.xml
 ./share/vendel/AproposdeImage.png
@@ -146,6 +149,15 @@ FILES
     done
 }
 
+@test "each option of vendel-central is in both its man pages" {
+    for page in man1 fr/man1; do
+        text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel-central.1.gz")
+        for option in --preparer --envoyer --suivre --dossier --nom --langue --help --aide --version; do
+            grep -q -e "$option" <<<"$text"
+        done
+    done
+}
+
 @test "each option of the back office is in both man pages, and in its help" {
     export HOME=$BATS_TEST_TMPDIR
     help=$("$tree/bin/vendel-gestion" --help)
@@ -170,7 +182,7 @@ FILES
 @test "each option of the launcher is in both man pages" {
     for page in man1 fr/man1; do
         text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel.1.gz")
-        for option in --langue --taille --restaurer --copies-vers --etat --help --aide --guide --version; do
+        for option in --langue --taille --restaurer --copies-vers --central --etat --help --aide --guide --version; do
             grep -q -e "$option" <<<"$text"
         done
     done

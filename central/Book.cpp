@@ -1,0 +1,325 @@
+// SPDX-License-Identifier: MIT
+#include "central/Book.h"
+
+#include "central/BookError.h"
+#include "central/Schema.h"
+#include "central/Sentences.h"
+#include "central/SqlArray.h"
+#include "central/Statements.h"
+
+#include <QCryptographicHash>
+
+namespace {
+constexpr std::size_t monthSize = 7;
+
+std::string digestOf(const std::string& text)
+{
+    return QCryptographicHash::hash(QByteArray::fromStdString(text), QCryptographicHash::Sha256)
+        .toHex()
+        .toStdString();
+}
+
+/// The version of the book's schema; nothing when there is none.
+std::optional<int> versionOf(pqxx::work& transaction)
+{
+    const auto table = transaction.exec("select to_regclass('vendel.version') is not null");
+    if (!table.at(0).at(0).as<bool>()) {
+        return std::nullopt;
+    }
+    return transaction.exec(Statements::schemaVersion).at(0).at(0).as<int>();
+}
+
+void refuseLater(int version)
+{
+    if (version > Schema::current) {
+        throw BookError(CentralSentences::later, BookStatus::Later);
+    }
+}
+} // namespace
+
+void Book::prepare(const std::string& uri)
+{
+    Connection connection(uri);
+    connection.transact([](pqxx::work& transaction) {
+        // Whoever else prepares it waits until it is done.
+        transaction.exec("set local lock_timeout = 0; set local statement_timeout = 0; "
+                         "select pg_advisory_xact_lock(8461, 1)");
+        const int found = versionOf(transaction).value_or(0);
+        refuseLater(found);
+        for (int version = found; version < Schema::current; ++version) {
+            transaction.exec(std::string(Schema::versions.at(static_cast<std::size_t>(version))));
+        }
+        if (found < Schema::current) {
+            transaction.exec_params("update vendel.version set version = $1", Schema::current);
+        }
+    });
+}
+
+Book::Book(const std::string& uri, const std::string& identity, const std::string& name)
+    : connection_(uri)
+    , identity_(identity)
+    , name_(name)
+{
+    open();
+}
+
+void Book::open()
+{
+    connection_.transact([this](pqxx::work& transaction) {
+        const auto version = versionOf(transaction);
+        refuseLater(version.value_or(0));
+        if (version != Schema::current) {
+            throw BookError(CentralSentences::notPrepared, BookStatus::NotPrepared);
+        }
+        auto found = transaction.exec_params(Statements::findTill, identity_);
+        if (found.empty()) {
+            transaction.exec_params(Statements::addTill, identity_, name_);
+            found = transaction.exec_params(Statements::findTill, identity_);
+            transaction.exec_params(Statements::addProgress, found.at(0).at(0).as<int>());
+        }
+        till_ = found.at(0).at(0).as<int>();
+        transaction.exec_params(Statements::nameTill, till_, name_);
+    });
+}
+
+Book::Progress Book::progress()
+{
+    Progress known;
+    connection_.transact([&](pqxx::work& transaction) {
+        known = {};
+        const auto found = transaction.exec_params(Statements::progress, till_);
+        known.number = found.at(0).at(0).as<std::int64_t>();
+        known.last = {found.at(0).at(1).as<std::int64_t>(), found.at(0).at(2).c_str()};
+        for (const auto& row : transaction.exec_params(Statements::months, till_)) {
+            known.months[row.at(0).c_str()]
+                = {row.at(1).as<std::int64_t>(), row.at(2).as<std::int64_t>()};
+        }
+    });
+    return known;
+}
+
+/// In a transaction of its own, in the order of names: two tills that learn the same names never
+/// wait for each other both ways.
+void Book::learnNames(const std::vector<Line>& lines)
+{
+    std::set<std::string> missing;
+    for (const Line& line : lines) {
+        if (line.isRegular() && names_.count(line.name) == 0) {
+            missing.insert(line.name);
+        }
+    }
+    if (missing.empty()) {
+        return;
+    }
+    connection_.transact([&](pqxx::work& transaction) {
+        std::set<std::string> wanted = missing;
+        for (const bool isAdded : {false, true}) {
+            SqlArray names;
+            for (const std::string& name : wanted) {
+                names.add(name);
+            }
+            if (isAdded) {
+                transaction.exec_params(Statements::addNames, names.get());
+            }
+            for (const auto& row : transaction.exec_params(Statements::knownNames, names.get())) {
+                names_[row.at(1).c_str()] = row.at(0).as<int>();
+                wanted.erase(row.at(1).c_str());
+            }
+            if (wanted.empty()) {
+                return;
+            }
+        }
+    });
+}
+
+/// Before the lines' own transaction, which then holds nothing that making a table has to wait for.
+void Book::makeMonths(const std::vector<Line>& lines)
+{
+    std::set<std::string> missing;
+    for (const Line& line : lines) {
+        const std::string month = line.moment.substr(0, monthSize);
+        if (line.isRegular() && months_.count(month) == 0) {
+            missing.insert(month);
+        }
+    }
+    for (const std::string& month : missing) {
+        connection_.transact([&](pqxx::work& transaction) {
+            const std::string day = month + "-01";
+            const auto found = transaction.exec_params(Statements::hasMonth, day);
+            if (!found.at(0).at(0).as<bool>()) {
+                transaction.exec_params(Statements::makeMonth, day);
+            }
+        });
+        months_.insert(month);
+    }
+}
+
+std::int64_t Book::addLines(pqxx::work& transaction, const std::vector<Line>& lines) const
+{
+    SqlArray moments;
+    SqlArray articles;
+    SqlArray names;
+    SqlArray prices;
+    SqlArray exactPrices;
+    SqlArray ordinals;
+    for (const Line& line : lines) {
+        if (line.isRegular()) {
+            moments.add(line.moment);
+            articles.add(line.article);
+            names.add(names_.at(line.name));
+            prices.add(line.price);
+            exactPrices.add(line.exactPrice);
+            ordinals.add(line.ordinal);
+        }
+    }
+    if (moments.isEmpty()) {
+        return 0;
+    }
+    return transaction
+        .exec_params(Statements::addLines, till_, moments.get(), articles.get(), names.get(),
+            prices.get(), exactPrices.get(), ordinals.get())
+        .at(0)
+        .at(0)
+        .as<std::int64_t>();
+}
+
+void Book::addOddLines(pqxx::work& transaction, const std::vector<Line>& lines) const
+{
+    SqlArray digests;
+    SqlArray ordinals;
+    SqlArray moments;
+    SqlArray articles;
+    SqlArray names;
+    SqlArray prices;
+    SqlArray exactPrices;
+    for (const Line& line : lines) {
+        if (!line.isRegular()) {
+            digests.add(digestOf(line.content()));
+            ordinals.add(line.ordinal);
+            moments.add(line.moment);
+            articles.add(line.article);
+            names.add(line.name);
+            prices.add(line.price);
+            exactPrices.add(line.exactPrice);
+        }
+    }
+    if (!digests.isEmpty()) {
+        transaction.exec_params(Statements::addOddLines, till_, digests.get(), ordinals.get(),
+            moments.get(), articles.get(), names.get(), prices.get(), exactPrices.get());
+    }
+}
+
+void Book::setMonths(pqxx::work& transaction, const Batch& batch) const
+{
+    SqlArray months;
+    SqlArray lines;
+    SqlArray digests;
+    for (const auto& [month, digest] : batch.months) {
+        months.add(month);
+        lines.add(digest.lines);
+        digests.add(digest.sum);
+    }
+    if (!months.isEmpty()) {
+        transaction.exec_params(
+            Statements::setMonths, till_, months.get(), lines.get(), digests.get());
+    }
+    SqlArray gone;
+    for (const std::string& month : batch.goneMonths) {
+        gone.add(month);
+    }
+    if (!gone.isEmpty()) {
+        transaction.exec_params(Statements::forgetMonths, till_, gone.get());
+    }
+}
+
+bool Book::add(const Batch& batch, Progress& progress)
+{
+    learnNames(batch.lines);
+    makeMonths(batch.lines);
+    const Anchor last = batch.last.value_or(progress.last);
+    bool isFirst = false;
+    std::int64_t added = 0;
+    connection_.transact([&](pqxx::work& transaction) {
+        const auto locked = transaction.exec_params(Statements::lockProgress, till_);
+        isFirst = locked.at(0).at(0).as<std::int64_t>() == progress.number;
+        if (!isFirst) {
+            return;
+        }
+        added = addLines(transaction, batch.lines);
+        addOddLines(transaction, batch.lines);
+        setMonths(transaction, batch);
+        transaction.exec_params(Statements::setProgress, till_, last.row, last.content);
+    });
+    if (!isFirst) {
+        return false;
+    }
+    added_ += added;
+    ++progress.number;
+    progress.last = last;
+    for (const auto& [month, digest] : batch.months) {
+        progress.months[month] = digest;
+    }
+    for (const std::string& month : batch.goneMonths) {
+        progress.months.erase(month);
+    }
+    return true;
+}
+
+std::int64_t Book::oddLines()
+{
+    std::int64_t count = 0;
+    connection_.transact([&](pqxx::work& transaction) {
+        count = transaction.exec_params(Statements::countOddLines, till_)
+                    .at(0)
+                    .at(0)
+                    .as<std::int64_t>();
+    });
+    return count;
+}
+
+void Book::setMenu(const Menu& menu)
+{
+    const std::string fingerprint = menu.fingerprint();
+    SqlArray ids;
+    SqlArray articles;
+    SqlArray prices;
+    for (const MenuEntry& entry : menu.articles) {
+        ids.add(entry.id);
+        articles.add(entry.article);
+        prices.add(entry.price);
+    }
+    SqlArray stockIds;
+    SqlArray stockArticles;
+    for (const StockEntry& entry : menu.stock) {
+        stockIds.add(entry.id);
+        stockArticles.add(entry.article);
+    }
+    SqlArray doseLines;
+    SqlArray doseStock;
+    SqlArray compositions;
+    SqlArray doses;
+    SqlArray units;
+    for (const DoseEntry& entry : menu.doses) {
+        doseLines.add(entry.line);
+        doseStock.add(entry.stockId);
+        compositions.add(entry.composition);
+        doses.addReal(entry.dose);
+        units.add(entry.unit);
+    }
+    connection_.transact([&](pqxx::work& transaction) {
+        const auto known = transaction.exec_params(Statements::knownMenu, till_);
+        if (known.at(0).at(0).c_str() == fingerprint) {
+            return;
+        }
+        for (const char* emptying :
+            {Statements::emptyMenu, Statements::emptyStock, Statements::emptyDoses}) {
+            transaction.exec_params(emptying, till_);
+        }
+        transaction.exec_params(
+            Statements::addMenu, till_, ids.get(), articles.get(), prices.get());
+        transaction.exec_params(Statements::addStock, till_, stockIds.get(), stockArticles.get());
+        transaction.exec_params(Statements::addDoses, till_, doseLines.get(), doseStock.get(),
+            compositions.get(), doses.get(), units.get());
+        transaction.exec_params(Statements::setMenu, till_, fingerprint, menu.taxRate);
+    });
+}

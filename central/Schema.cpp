@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "central/Schema.h"
+
+namespace Schema {
+namespace {
+constexpr std::string_view first = R"sql(
+create schema vendel;
+
+create table vendel.version (version integer not null);
+insert into vendel.version values (0);
+
+-- A till. Its secret is its own: the book knows only the secret's digest.
+create table vendel.till (
+    id integer generated always as identity primary key,
+    identity text not null unique,
+    name text not null,
+    tax_rate double precision not null default 0,
+    -- Of the menu and the recipes below.
+    menu text not null default '',
+    registered timestamptz not null default now()
+);
+
+-- How far a till has been read. "number" is another one after each change.
+create table vendel.progress (
+    till integer primary key references vendel.till,
+    number bigint not null default 0,
+    last_row bigint not null default 0,
+    last_content text not null default '',
+    reached timestamptz
+) with (fillfactor = 50);
+
+create table vendel.month (
+    till integer not null references vendel.till,
+    month text collate "C" not null,
+    lines bigint not null,
+    digest bigint not null,
+    primary key (till, month)
+) with (fillfactor = 50);
+
+-- The names of articles. "folded" is equal for names that are one article's.
+create table vendel.name (
+    id integer generated always as identity primary key,
+    name text collate "C" not null unique,
+    folded text collate "C" not null
+);
+create index name_folded on vendel.name (folded);
+
+-- What was sold. Prices are ten-thousandths.
+create table vendel.line (
+    moment timestamp(3) not null,
+    article bigint not null,
+    price bigint not null,
+    till integer not null,
+    name integer not null,
+    ordinal integer not null,
+    exact_price text collate "C" not null default '',
+    primary key (till, moment, article, name, price, exact_price, ordinal)
+) partition by range (moment);
+
+-- Lines that no page can show, as they are.
+create table vendel.odd_line (
+    till integer not null references vendel.till,
+    digest text collate "C" not null,
+    ordinal integer not null,
+    moment text not null,
+    article text not null,
+    name text not null,
+    price bigint not null,
+    exact_price text not null,
+    primary key (till, digest, ordinal)
+);
+
+create table vendel.hour_sales (
+    day date not null,
+    till integer not null,
+    hour smallint not null,
+    lines bigint not null,
+    takings bigint not null,
+    primary key (day, till, hour)
+) with (fillfactor = 80);
+
+create table vendel.day_sales (
+    day date not null,
+    till integer not null,
+    name integer not null,
+    price bigint not null,
+    lines bigint not null,
+    primary key (day, till, name, price)
+) with (fillfactor = 80);
+
+-- "month" is its first day.
+create table vendel.month_sales (
+    month date not null,
+    till integer not null,
+    name integer not null,
+    price bigint not null,
+    lines bigint not null,
+    primary key (month, till, name, price)
+) with (fillfactor = 80);
+
+create table vendel.menu (
+    till integer not null references vendel.till,
+    id bigint not null,
+    article text collate "C" not null,
+    price bigint not null,
+    primary key (till, id)
+);
+
+create table vendel.stock_article (
+    till integer not null references vendel.till,
+    id bigint not null,
+    article text collate "C" not null,
+    primary key (till, id)
+);
+
+create table vendel.dose (
+    till integer not null references vendel.till,
+    line bigint not null,
+    stock_article bigint not null,
+    composition text collate "C" not null,
+    dose double precision not null,
+    unit text collate "C" not null,
+    primary key (till, line)
+);
+
+-- Makes the place of a month's lines. A sender needs no right to make tables. The place is made
+-- beside the others and then joined to them, because that waits for nobody who reads or writes.
+create function vendel.make_month(wanted date) returns void
+language plpgsql security definer set search_path = pg_catalog, pg_temp as $body$
+declare
+    begins date := date_trunc('month', wanted);
+    ends date := begins + interval '1 month';
+    place text := 'line_' || to_char(begins, 'YYYY_MM');
+begin
+    if begins < date '1970-01-01' or begins >= date '2200-01-01' then
+        raise exception 'no month of sales: %', wanted;
+    end if;
+    perform pg_advisory_xact_lock(8461, 2);
+    if to_regclass('vendel.' || place) is null then
+        execute format('create table vendel.%I (like vendel.line including all)', place);
+        execute format('alter table vendel.line attach partition vendel.%I '
+            'for values from (%L) to (%L)', place, begins, ends);
+    end if;
+end
+$body$;
+revoke all on function vendel.make_month(date) from public;
+)sql";
+} // namespace
+
+const std::array<std::string_view, 1> versions{first};
+} // namespace Schema

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "launcher/Sentences.h"
+
+/// Every sentence of the command "vendel-central".
+namespace CentralSentences {
+inline constexpr Sentence usage{
+    "Usage : vendel-central --preparer URI\n"
+    "        vendel-central --envoyer [URI] [--dossier DOSSIER] [--nom NOM]\n"
+    "        vendel-central --suivre [URI] [--dossier DOSSIER] [--nom NOM]\n"
+    "        vendel-central --aide | --version\n"
+    "\n"
+    "Porte les ventes de cette caisse dans le livre central, une base PostgreSQL que plusieurs\n"
+    "caisses partagent. Sans URI, c'est celle que « vendel --central URI » a retenue.\n"
+    "\n"
+    "  --preparer URI     crée le livre dans cette base, ou le met à jour\n"
+    "  --envoyer [URI]    envoie ce qui est nouveau\n"
+    "  --suivre [URI]     reste, et envoie chaque vente dans les dix secondes\n"
+    "  --dossier DOSSIER  les données de la caisse, d'ordinaire « %1 »\n"
+    "  --nom NOM          le nom de la caisse dans le livre, retenu ; d'abord celui de la machine\n"
+    "  --langue en|fr     parle anglais ou français cette fois\n"
+    "  --aide             montre ce texte\n"
+    "  --version          montre la version\n"
+    "\n"
+    "URI : postgresql://UTILISATEUR@MACHINE/BASE?sslmode=verify-full\n"
+    "Le mot de passe est lu dans le fichier ~/.pgpass.\n",
+    "Usage: vendel-central --preparer URI\n"
+    "       vendel-central --envoyer [URI] [--dossier FOLDER] [--nom NAME]\n"
+    "       vendel-central --suivre [URI] [--dossier FOLDER] [--nom NAME]\n"
+    "       vendel-central --help | --version\n"
+    "\n"
+    "Carries this till's sales into the central book, a PostgreSQL database that several tills\n"
+    "share. Without a URI, it is the one that \"vendel --central URI\" has remembered.\n"
+    "\n"
+    "  --preparer URI    makes the book in this database, or upgrades it\n"
+    "  --envoyer [URI]   sends what is new\n"
+    "  --suivre [URI]    stays, and sends each sale within ten seconds\n"
+    "  --dossier FOLDER  the till's data, \"%1\" by default\n"
+    "  --nom NAME        the till's name in the book, remembered; at first the machine's\n"
+    "  --langue en|fr    speaks English or French this time\n"
+    "  --help            shows this text\n"
+    "  --version         shows the version\n"
+    "\n"
+    "URI: postgresql://USER@HOST/DATABASE?sslmode=verify-full\n"
+    "The password is read from the file ~/.pgpass.\n"};
+
+inline constexpr Sentence prepared{"Le livre central est prêt.", "The central book is ready."};
+inline constexpr Sentence sent{"Le livre central a reçu %1 nouvelle(s) ligne(s) de vente.",
+    "The central book has received %1 new line(s) of sales."};
+inline constexpr Sentence oddLines{
+    "%1 ligne(s) sans date ni prix utilisables sont gardées à part dans le livre central.",
+    "%1 line(s) without a usable date or price are kept aside in the central book."};
+
+inline constexpr Sentence noUri{
+    "Aucun livre central n'est retenu : « vendel --central URI » le fait.",
+    "No central book is remembered: \"vendel --central URI\" does that."};
+inline constexpr Sentence wrongUri{
+    "« %1 » n'est pas l'adresse d'une base PostgreSQL (postgresql://MACHINE/BASE).",
+    "\"%1\" is not the address of a PostgreSQL database (postgresql://HOST/DATABASE)."};
+inline constexpr Sentence passwordInUri{
+    "L'adresse contient un mot de passe : sa place est dans le fichier ~/.pgpass.",
+    "The address contains a password: its place is the file ~/.pgpass."};
+inline constexpr Sentence unreachable{
+    "Le livre central ne répond pas (%1).", "The central book does not answer (%1)."};
+inline constexpr Sentence noServer{"pas de serveur ou pas de réseau", "no server or no network"};
+inline constexpr Sentence tooSlow{"pas de réponse à temps", "no answer in time"};
+inline constexpr Sentence connectionLost{"la liaison a été coupée", "the connection was cut"};
+inline constexpr Sentence tooMany{
+    "le serveur a trop de liaisons", "the server has too many connections"};
+inline constexpr Sentence startsOrEnds{
+    "le serveur démarre ou s'arrête", "the server is starting or stopping"};
+inline constexpr Sentence wrongPassword{
+    "Le livre central refuse le mot de passe de ~/.pgpass, ou n'en trouve pas.",
+    "The central book refuses the password in ~/.pgpass, or finds none."};
+inline constexpr Sentence noSuchDatabase{
+    "Le serveur du livre central n'a pas la base de cette adresse.",
+    "The central book's server does not have the database of this address."};
+inline constexpr Sentence refused{"Le serveur du livre central refuse la liaison (%1).",
+    "The central book's server refuses the connection (%1)."};
+inline constexpr Sentence noRight{
+    "Cet utilisateur n'a pas le droit d'écrire dans le livre central.",
+    "This user may not write into the central book."};
+inline constexpr Sentence notPrepared{
+    "La base de données n'est pas prête : « vendel-central --preparer URI » la prépare.",
+    "The database is not ready: \"vendel-central --preparer URI\" prepares it."};
+inline constexpr Sentence later{
+    "Le livre central est d'une version plus récente : Vendel est à mettre à jour sur cette "
+    "machine.",
+    "The central book is of a later version: Vendel has to be upgraded on this machine."};
+inline constexpr Sentence full{
+    "Le livre central n'a plus de place.", "The central book has no room left."};
+inline constexpr Sentence serverSays{
+    "Le livre central répond par une erreur (%1).", "The central book answers with an error (%1)."};
+inline constexpr Sentence disturbed{
+    "La base de la caisse change sans cesse : les ventes seront envoyées plus tard.",
+    "The till's database changes all the time: the sales will be sent later."};
+inline constexpr Sentence noTill{"Le dossier « %1 » n'existe pas ou ne peut pas être écrit.",
+    "The folder \"%1\" does not exist or cannot be written."};
+inline constexpr Sentence identityDamaged{
+    "Le fichier « %1/.identite » est endommagé : remettez-le d'une sauvegarde du dossier. "
+    "Sans lui, le livre central prendrait cette caisse pour une autre.",
+    "The file \"%1/.identite\" is damaged: put it back from a backup of the folder. Without it, "
+    "the central book would take this till for another one."};
+inline constexpr Sentence identityNotMade{
+    "L'identité de la caisse n'a pas pu être écrite dans « %1 » (%2).",
+    "The till's identity could not be written into \"%1\" (%2)."};
+} // namespace CentralSentences

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// The statements that carry lines into the book.
+namespace Statements {
+/// What each transaction begins with. A server that is stuck must not hold a till's sender, nor
+/// the next one.
+inline constexpr const char* begin
+    = "set local statement_timeout = '60s'; set local lock_timeout = '30s'; "
+      "set local idle_in_transaction_session_timeout = '120s'; set local datestyle = 'ISO'";
+
+inline constexpr const char* schemaVersion = "select version from vendel.version";
+
+inline constexpr const char* findTill = "select id from vendel.till where identity = $1";
+inline constexpr const char* addTill = "insert into vendel.till (identity, name) values ($1, $2) "
+                                       "on conflict (identity) do nothing";
+inline constexpr const char* addProgress
+    = "insert into vendel.progress (till) values ($1) on conflict do nothing";
+inline constexpr const char* nameTill
+    = "update vendel.till set name = $2 where id = $1 and name <> $2";
+
+inline constexpr const char* progress
+    = "select number, last_row, last_content from vendel.progress where till = $1";
+inline constexpr const char* months
+    = "select month, lines, digest from vendel.month where till = $1";
+
+inline constexpr const char* knownNames
+    = "select id, name from vendel.name where name = any ($1::text[])";
+/// The till compares names without regard to the case of A to Z.
+inline constexpr const char* addNames
+    = "insert into vendel.name (name, folded) "
+      "select wanted, translate(wanted, 'ABCDEFGHIJKLMNOPQRSTUVWXYZ', 'abcdefghijklmnopqrstuvwxyz')"
+      " from unnest($1::text[]) wanted on conflict do nothing";
+
+inline constexpr const char* hasMonth
+    = "select to_regclass('vendel.line_' || to_char($1::date, 'YYYY_MM')) is not null";
+inline constexpr const char* makeMonth = "select vendel.make_month($1::date)";
+
+/// Nobody else changes the till's progress until the transaction ends.
+inline constexpr const char* lockProgress
+    = "select number from vendel.progress where till = $1 for update";
+
+/// Inserts the lines that are not there yet, and adds only those to the sums.
+inline constexpr const char* addLines = R"sql(
+with fresh as (
+    insert into vendel.line (till, moment, article, name, price, exact_price, ordinal)
+    select $1, * from unnest($2::timestamp[], $3::bigint[], $4::integer[], $5::bigint[],
+        $6::text[], $7::integer[])
+    on conflict do nothing
+    returning moment, name, price
+), hours as (
+    insert into vendel.hour_sales as sums
+    select moment::date, $1, extract(hour from moment), count(*), sum(price)
+    from fresh group by 1, 3 order by 1, 3
+    on conflict (day, till, hour) do update
+    set lines = sums.lines + excluded.lines, takings = sums.takings + excluded.takings
+), days as (
+    insert into vendel.day_sales as sums
+    select moment::date, $1, name, price, count(*) from fresh group by 1, 3, 4 order by 1, 3, 4
+    on conflict (day, till, name, price) do update set lines = sums.lines + excluded.lines
+), months as (
+    insert into vendel.month_sales as sums
+    select date_trunc('month', moment)::date, $1, name, price, count(*)
+    from fresh group by 1, 3, 4 order by 1, 3, 4
+    on conflict (month, till, name, price) do update set lines = sums.lines + excluded.lines
+)
+select count(*) from fresh)sql";
+
+inline constexpr const char* addOddLines
+    = "insert into vendel.odd_line "
+      "(till, digest, ordinal, moment, article, name, price, exact_price) "
+      "select $1, * from unnest($2::text[], $3::integer[], $4::text[], $5::text[], $6::text[], "
+      "$7::bigint[], $8::text[]) on conflict do nothing";
+
+inline constexpr const char* setMonths
+    = "insert into vendel.month as known (till, month, lines, digest) "
+      "select $1, * from unnest($2::text[], $3::bigint[], $4::bigint[]) "
+      "on conflict (till, month) do update set lines = excluded.lines, digest = excluded.digest "
+      "where (known.lines, known.digest) <> (excluded.lines, excluded.digest)";
+inline constexpr const char* forgetMonths
+    = "delete from vendel.month where till = $1 and month = any ($2::text[])";
+inline constexpr const char* setProgress
+    = "update vendel.progress set number = number + 1, last_row = $2, last_content = $3, "
+      "reached = now() where till = $1";
+inline constexpr const char* setReached
+    = "update vendel.progress set reached = now() where till = $1";
+
+inline constexpr const char* knownMenu = "select menu from vendel.till where id = $1 for update";
+inline constexpr const char* setMenu
+    = "update vendel.till set menu = $2, tax_rate = $3 where id = $1";
+inline constexpr const char* emptyMenu = "delete from vendel.menu where till = $1";
+inline constexpr const char* emptyStock = "delete from vendel.stock_article where till = $1";
+inline constexpr const char* emptyDoses = "delete from vendel.dose where till = $1";
+inline constexpr const char* addMenu
+    = "insert into vendel.menu (till, id, article, price) "
+      "select $1, * from unnest($2::bigint[], $3::text[], $4::bigint[])";
+inline constexpr const char* addStock = "insert into vendel.stock_article (till, id, article) "
+                                        "select $1, * from unnest($2::bigint[], $3::text[])";
+inline constexpr const char* addDoses
+    = "insert into vendel.dose (till, line, stock_article, composition, dose, unit) "
+      "select $1, * from unnest($2::bigint[], $3::bigint[], $4::text[], $5::float8[], $6::text[])";
+
+/// Odd lines that are kept aside.
+inline constexpr const char* countOddLines = "select count(*) from vendel.odd_line where till = $1";
+} // namespace Statements

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "central/Book.h"
+#include "tests/central/BookServer.h"
+#include "tests/central/SoldTill.h"
+#include "tests/support/TestProgram.h"
+
+#include <thread>
+
+namespace {
+BookServer& server() { return BookServer::get(); }
+
+/// Every table, column and function of the book.
+QStringList shape(const std::string& book)
+{
+    return server().rows(book,
+        "select table_name, column_name, data_type from information_schema.columns "
+        "where table_schema = 'vendel' order by table_name, ordinal_position");
+}
+} // namespace
+
+class TestCentralSchema : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void preparingTwiceIsHarmless()
+    {
+        const SoldTill till;
+        till.sell("2026-03-05 10:00:00.000");
+        const std::string book = server().newBook();
+        till.send(book);
+        const QStringList before = shape(book);
+        QVERIFY(before.size() > 50);
+        Book::prepare(server().uri(book));
+        QCOMPARE(shape(book), before);
+        QCOMPARE(SoldTill::bookLines(book).size(), 1);
+        QCOMPARE(server().rows(book, "select version from vendel.version"), QStringList("1"));
+    }
+
+    void preparingAtOnceIsHarmless()
+    {
+        const std::string book = server().newDatabase();
+        std::vector<std::thread> preparing;
+        for (int count = 0; count < 8; ++count) {
+            preparing.emplace_back([&] { Book::prepare(server().uri(book)); });
+        }
+        for (std::thread& one : preparing) {
+            one.join();
+        }
+        QCOMPARE(server().rows(book, "select version from vendel.version"), QStringList("1"));
+    }
+
+    void whatIsInTheDatabaseAlreadyStays()
+    {
+        const std::string book = server().newDatabase();
+        server().rows(book, "create table public.line (id integer); insert into line values (7)");
+        Book::prepare(server().uri(book));
+        QCOMPARE(server().cell(book, "select id from public.line"), "7");
+    }
+
+    void aSenderNeedsNoRightToMakeTables()
+    {
+        const SoldTill till;
+        till.sell("2026-03-05 10:00:00.000");
+        const std::string book = server().newBook();
+        server().rows(book,
+            "create role caisse login; grant usage on schema vendel to caisse;"
+            "grant select, insert, update, delete on all tables in schema vendel to caisse;"
+            "grant execute on function vendel.make_month to caisse");
+        const Said said = till.sendTo(server().uri(book, "caisse"));
+        QCOMPARE(said.errors, QString());
+        QCOMPARE(
+            said.output, QString("Le livre central a reçu 1 nouvelle(s) ligne(s) de vente.\n"));
+        QCOMPARE(SoldTill::bookLines(book), till.lines());
+    }
+
+    void aMonthHasAPlaceOfItsOwn()
+    {
+        const SoldTill till;
+        till.sell("2026-02-28 23:59:59.999");
+        till.sell("2026-03-01 00:00:00.000");
+        const std::string book = server().newBook();
+        till.send(book);
+        QCOMPARE(server().rows(book, "select count(*) from vendel.line_2026_02"), QStringList("1"));
+        QCOMPARE(server().rows(book, "select count(*) from vendel.line_2026_03"), QStringList("1"));
+    }
+};
+
+VENDEL_TEST(TestCentralSchema)
+#include "tst_CentralSchema.moc"
