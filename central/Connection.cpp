@@ -6,6 +6,8 @@
 #include "central/Statements.h"
 #include "launcher/BookAddress.h"
 
+#include <string_view>
+
 namespace {
 /// Longer than the server's own limit on a statement.
 constexpr std::chrono::seconds patience(90);
@@ -74,12 +76,13 @@ void Connection::transact(const std::function<void(pqxx::work&)>& work)
 std::string Connection::patient(const std::string& uri)
 {
     std::string result = uri;
-    for (const std::string setting :
+    for (const std::string_view setting :
         {"connect_timeout=10", "keepalives_idle=20", "keepalives_interval=5", "keepalives_count=4",
             "tcp_user_timeout=40000", "application_name=vendel-central"}) {
-        const std::string key = setting.substr(0, setting.find('=') + 1);
+        const std::string key(setting.substr(0, setting.find('=') + 1));
         if (uri.find(key) == std::string::npos) {
-            result += (result.find('?') == std::string::npos ? '?' : '&') + setting;
+            result += result.find('?') == std::string::npos ? '?' : '&';
+            result += setting;
         }
     }
     return result;

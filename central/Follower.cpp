@@ -22,9 +22,6 @@ void Follower::run()
     std::string known;
     auto pause = times_.look;
     const auto trouble = [&](const Words& words) {
-        if (!sent_) {
-            throw;
-        }
         if (std::exchange(known, words.english) != words.english) {
             say_(words);
         }
@@ -38,8 +35,14 @@ void Follower::run()
         } catch (const ReadingStopped&) {
             return;
         } catch (const Refusal& refusal) {
+            if (!sent_) {
+                throw;
+            }
             trouble(refusal.words());
         } catch (const SalesError& error) {
+            if (!sent_) {
+                throw;
+            }
             trouble(error.sentence().toStdString());
         }
     } while (ending_.wait(pause));

@@ -11,6 +11,7 @@
 #include <QByteArray>
 #include <QCryptographicHash>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <system_error>
@@ -73,7 +74,7 @@ std::string hostName()
 /// \a text without its line's end and what no list could show.
 std::string plainName(std::string text)
 {
-    text = text.substr(0, text.find('\n'));
+    text.resize(std::min(text.find('\n'), text.size()));
     return plainText(text, longestName);
 }
 } // namespace
@@ -101,7 +102,7 @@ std::string digest(int folder, const std::string& path)
 std::string name(int folder, const std::string& path, const std::string& asked)
 {
     constexpr std::size_t longest = 4096;
-    const std::string wanted = plainName(asked);
+    std::string wanted = plainName(asked);
     if (!wanted.empty()) {
         try {
             SafeFile::write(folder, nameName, wanted + '\n', SafeFile::Existing::Replace);

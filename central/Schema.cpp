@@ -70,6 +70,7 @@ create table vendel.odd_line (
     primary key (till, digest, ordinal)
 );
 
+-- The primary keys are for all tills in a period, the other indexes for one till.
 create table vendel.hour_sales (
     day date not null,
     till integer not null,
@@ -78,6 +79,7 @@ create table vendel.hour_sales (
     takings bigint not null,
     primary key (day, till, hour)
 ) with (fillfactor = 80);
+create index hour_sales_of_till on vendel.hour_sales (till, day);
 
 create table vendel.day_sales (
     day date not null,
@@ -87,6 +89,7 @@ create table vendel.day_sales (
     lines bigint not null,
     primary key (day, till, name, price)
 ) with (fillfactor = 80);
+create index day_sales_of_till on vendel.day_sales (till, day);
 
 -- "month" is its first day.
 create table vendel.month_sales (
@@ -97,6 +100,7 @@ create table vendel.month_sales (
     lines bigint not null,
     primary key (month, till, name, price)
 ) with (fillfactor = 80);
+create index month_sales_of_till on vendel.month_sales (till, month);
 
 create table vendel.menu (
     till integer not null references vendel.till,

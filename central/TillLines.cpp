@@ -11,7 +11,7 @@ namespace {
 /// The price in ten-thousandths, as the pages of a single till compute it.
 constexpr const char* amount = "cast(round(prix * 10000) as integer)";
 
-QString month()
+QString monthColumn()
 {
     return QStringLiteral("case when typeof(date_heure) = 'text' and "
                           "date_heure glob '[0-9][0-9][0-9][0-9]-[0-9][0-9]*' "
@@ -34,7 +34,7 @@ QString columns()
     return QStringLiteral("rowid, date_heure, id, article, %1, "
                           "case when typeof(prix) in ('integer', 'real') and %1 / 10000.0 = prix "
                           "then '' else quote(prix) end, %2, %3")
-        .arg(QLatin1String(amount), month(), mark());
+        .arg(QLatin1String(amount), monthColumn(), mark());
 }
 
 /// Bytes that PostgreSQL takes: it knows no zero byte in a text.
@@ -111,7 +111,7 @@ std::string Menu::fingerprint() const
     return hash.result().toHex().toStdString();
 }
 
-TillLines::TillLines(const QString& folder, const Reading& reading, Timing timing)
+TillLines::TillLines(const QString& folder, const Reading& reading, const Timing& timing)
     : reading_(reading)
     , database_(folder, timing)
     , pace_(timing)
@@ -223,7 +223,7 @@ Months TillLines::months(std::int64_t last)
                 = QStringLiteral("select %1, count(*), sum(%2), max(rowid) from (select rowid, * "
                                  "from Historique where rowid > ? and rowid <= ? order by rowid "
                                  "limit ?) group by 1")
-                      .arg(month(), mark());
+                      .arg(monthColumn(), mark());
             database_.read(
                 sql, {after, qint64{last}, pace_.rows()},
                 [&](const QSqlQuery& row) {
@@ -241,29 +241,29 @@ Months TillLines::months(std::int64_t last)
     return found;
 }
 
-void TillLines::ofMonth(const std::string& name, std::int64_t last, const Take& take)
+void TillLines::ofMonth(const std::string& month, std::int64_t last, const Take& take)
 {
-    const QString where = name.empty()
-        ? QStringLiteral("rowid > ? and rowid <= ? and %1 = '' order by rowid").arg(month())
+    const QString where = month.empty()
+        ? QStringLiteral("rowid > ? and rowid <= ? and %1 = '' order by rowid").arg(monthColumn())
         : QStringLiteral("(date_heure, rowid) > (?, ?) and date_heure < ? and rowid <= ? "
                          "order by date_heure, rowid");
     // Behind all texts that begin with the month.
-    const QVariant end = bound(name + "\U0010ffff");
-    QVariant moment = bound(name);
+    const QVariant end = bound(month + "\U0010ffff");
+    QVariant moment = bound(month);
     qint64 row = 0;
     std::string counted;
     Ordinals ordinals;
     for (;;) {
         std::vector<Line> some = lines(where,
-            name.empty() ? QVariantList{row, qint64{last}}
-                         : QVariantList{moment, row, end, qint64{last}});
+            month.empty() ? QVariantList{row, qint64{last}}
+                          : QVariantList{moment, row, end, qint64{last}});
         if (some.empty()) {
             return;
         }
         moment = bound(some.back().moment);
         row = some.back().row;
         for (Line& line : some) {
-            if (!name.empty() && line.moment != std::exchange(counted, line.moment)) {
+            if (!month.empty() && line.moment != std::exchange(counted, line.moment)) {
                 ordinals.forget();
             }
             ordinals.number(line);

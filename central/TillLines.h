@@ -52,7 +52,7 @@ struct Menu
 class TillLines
 {
 public:
-    TillLines(const QString& folder, const Reading& reading, Timing timing);
+    TillLines(const QString& folder, const Reading& reading, const Timing& timing);
 
     /// What state the database is in. To be called before what follows, and again to see whether
     /// another file has taken the place of the one that was read.

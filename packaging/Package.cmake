@@ -12,6 +12,8 @@ install(FILES debian/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 set(central_documents ${CMAKE_INSTALL_DATADIR}/doc/vendel-central)
 vendel_compressed(debian/changelog central/changelog.Debian ${central_documents} central)
 install(FILES debian/copyright DESTINATION ${central_documents} COMPONENT central)
+install(FILES debian/lintian-overrides-central COMPONENT central
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME vendel-central)
 install(FILES debian/lintian-overrides
   DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME vendel)
 

@@ -90,7 +90,7 @@ check_licence() {
     ! $missing
 }
 
-headers="^$root/(app|backoffice|base|bench|common|db|demo|forms|launcher|Print|store|tests|widgets)/.*"
+headers="^$root/(app|backoffice|base|bench|central|common|db|demo|forms|launcher|Print|store|tests|widgets)/.*"
 
 # The till and its tools; the tests are checked by the compiler, clazy and cppcheck.
 check_tidy() {

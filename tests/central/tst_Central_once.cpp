@@ -260,6 +260,43 @@ private slots:
         QCOMPARE(SoldTill::bookLines(book_).count("2026-10-25 02:30:00.000 1 Thé 25000"), 2);
     }
 
+    void whatHappensWhileItIsReadIsSeen()
+    {
+        int moment = 1;
+        for (;; ++moment) {
+            const SoldTill till;
+            till.sell("2026-01-05 10:00:00.000");
+            till.sell("2026-02-05 10:00:00.000");
+            till.sell("2026-03-05 10:00:00.000");
+            int looks = 0;
+            Timing timing = SoldTill::hasty();
+            const auto elapsed = timing.elapsed;
+            // The clock is looked at between any two portions.
+            timing.elapsed = [&] {
+                if (++looks == moment) {
+                    till.sql("delete from Historique");
+                    till.sell("2026-01-06 10:00:00.000");
+                    till.sell("2026-02-06 10:00:00.000");
+                    till.sell("2026-03-06 10:00:00.000");
+                }
+                return elapsed();
+            };
+            TillLines lines(till.path(), {}, timing);
+            Book book(BookServer::get().uri(book_), till.path().toStdString(), "Caisse");
+            Sender(book, lines).sendLines(All);
+            // Behind the last line that is read there are a few looks more.
+            constexpr int afterLast = 5;
+            if (looks < moment + afterLast) {
+                break;
+            }
+            const QStringList sent = SoldTill::bookLines(book_, moment);
+            for (const QString& line : till.lines()) {
+                QVERIFY2(sent.contains(line), qPrintable(QString::number(moment) + line));
+            }
+        }
+        QVERIFY2(moment > 10, qPrintable(QString::number(moment)));
+    }
+
     void aBookThatForgotWhatItHasIsFilledAgain()
     {
         const SoldTill till;
