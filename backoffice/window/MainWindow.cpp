@@ -165,8 +165,8 @@ void MainWindow::restorePlace()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    QSettings(QStringLiteral("Vendel"), QStringLiteral("Gestion"))
-        .setValue(QStringLiteral("window"), saveGeometry());
+    QSettings settings(QStringLiteral("Vendel"), QStringLiteral("Gestion"));
+    settings.setValue(QStringLiteral("window"), saveGeometry());
     reader_.stop();
     QMainWindow::closeEvent(event);
 }
