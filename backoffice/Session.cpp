@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QIcon>
 #include <QTranslator>
 
 #include <clocale>
@@ -85,6 +86,7 @@ std::unique_ptr<QCoreApplication> applicationFor(
     const QtMessageHandler before = qInstallMessageHandler(endWithoutDisplay);
     auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(before);
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("vendel-gestion")));
     return application;
 }
 

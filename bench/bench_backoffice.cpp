@@ -1,28 +1,33 @@
 // SPDX-License-Identifier: MIT
-// The back office's reading of the sales, against the bare statements; and what the till notices of
-// it.
+// The pages of the back office against their bare statements, its opening, and what the till
+// notices of it.
+#include "backoffice/reports/Report.h"
 #include "backoffice/sales/TillSource.h"
-#include "base/Handle.h"
-#include "bench/OtherReports.h"
-#include "bench/SalesOfYears.h"
+#include "backoffice/window/MainWindow.h"
+#include "bench/BackofficeShop.h"
 #include "bench/Support.h"
-#include "db/Db.h"
-#include "store/Consumption.h"
 #include "store/History.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QProcess>
+#include <QSettings>
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <cstdio>
 #include <functional>
 #include <memory>
-#include <string>
+#include <thread>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <sqlite3.h>
+#include <unistd.h>
 
 namespace {
 constexpr double ratioLimit = 1.3;
@@ -32,147 +37,199 @@ constexpr double lockLimitMs = 50;
 constexpr double newSaleLimitMs = 1500;
 constexpr double bytesALineLimit = 16;
 constexpr int million = 1000000;
+constexpr double openingLimitMs = 500;
 
-using Bare = std::size_t (*)(const SalesOfYears&);
-using Report = std::size_t (*)(TillSource&, const DayRange&);
+using Bar = BackofficeShop;
+using Clock = std::chrono::steady_clock;
 
-std::size_t readHours(TillSource& source, const DayRange& days)
+double secondsSince(Clock::time_point begin)
 {
-    const auto hours = source.hours(days, {});
-    return hours.size();
+    return std::chrono::duration<double>(Clock::now() - begin).count();
 }
 
-std::size_t readArticles(TillSource& source, const DayRange& days)
+using Bare = std::size_t (*)(const DayRange&);
+
+Report pageOf(Page page, const BackofficeShop& shop, TillSource& source)
 {
-    const auto articles = source.articles(days, {});
-    return articles.size();
+    ReportOrder order;
+    order.page = page;
+    order.range = shop.days();
+    order.today = QDate::currentDate();
+    order.locale = QLocale(QLocale::French, QLocale::France);
+    return makeReport(order, source, {});
 }
 
-std::size_t readUses(TillSource& source, const DayRange& days)
-{
-    const auto uses = source.uses(days, {});
-    return uses.size();
-}
-
-/// Statements on one connection, the least that reading them costs.
-class BareReading
-{
-public:
-    BareReading()
-    {
-        sqlite3* handle = nullptr;
-        check(sqlite3_open_v2("Vendel.db", &handle, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK,
-            "open");
-        connection_.reset(handle);
-    }
-
-    /// The number of rows.
-    std::size_t run(const std::string& sql, const char* first = nullptr, const char* last = nullptr)
-    {
-        if (sql != sql_) {
-            sqlite3_stmt* handle = nullptr;
-            check(sqlite3_prepare_v2(connection_.get(), sql.c_str(), -1, &handle, nullptr)
-                    == SQLITE_OK,
-                sqlite3_errmsg(connection_.get()));
-            statement_.reset(handle);
-            sql_ = sql;
-        }
-        sqlite3_bind_text(statement_.get(), 1, first, -1, SQLITE_TRANSIENT);
-        sqlite3_bind_text(statement_.get(), 2, last, -1, SQLITE_TRANSIENT);
-        std::size_t rows = 0;
-        while (sqlite3_step(statement_.get()) == SQLITE_ROW) {
-            for (int column = 0; column < sqlite3_column_count(statement_.get()); ++column) {
-                benchmark::DoNotOptimize(sqlite3_column_text(statement_.get(), column));
-            }
-            ++rows;
-        }
-        sqlite3_reset(statement_.get());
-        return rows;
-    }
-
-private:
-    Handle<sqlite3, sqlite3_close> connection_;
-    Handle<sqlite3_stmt, sqlite3_finalize> statement_;
-    std::string sql_;
-};
-
-std::size_t bareHours(const SalesOfYears&)
-{
-    return BareReading().run("select substr(date_heure, 1, 13), count(*), "
-                             "sum(cast(round(prix * 10000) as integer)) from Historique "
-                             "where date_heure between ? and ? group by 1",
-        "2021-01-01", "2024-01-01");
-}
-
-std::size_t bareArticles(const SalesOfYears&)
-{
-    return BareReading().run("select article, count(*), sum(cast(round(prix * 10000) as integer)) "
-                             "from Historique where date_heure between ? and ? group by 1",
-        "2021-01-01", "2024-01-01");
-}
-
-/// The till's own statement for all days and each of them.
-std::size_t bareUses(const SalesOfYears& bar)
-{
-    static const std::string sql = Consumption::totalsStatement(
-        QStringLiteral("select distinct count(article) as compte, article from Historique "
-                       "where date_heure between ? and ? group by article, prix"))
-                                       .toStdString();
-    BareReading reading;
-    std::size_t rows = reading.run(sql, "2021-01-01", "2024-01-01");
-    const DayRange days = bar.days();
-    for (QDate day = days.first; day <= days.last; day = day.addDays(1)) {
-        const std::string text = day.toString(Qt::ISODate).toStdString();
-        rows += reading.run(sql, text.c_str(), (text + " 23:59:59.999").c_str());
-    }
-    return rows;
-}
-
-void byProgram(benchmark::State& state, const SalesOfYears& bar, Report report)
+void byProgram(benchmark::State& state, const Bar& bar, Page page)
 {
     bar.enter();
-    malloc_trim(0);
-    const double before = residentBytes();
-    double most = 0;
+    bar.rest();
     for ([[maybe_unused]] auto _ : state) {
         TillSource source(bar.path());
-        state.counters["rows"] = static_cast<double>(report(source, bar.days()));
-        state.PauseTiming();
-        most = std::max(most, residentBytes() - before);
-        state.ResumeTiming();
-    }
-    state.counters["limit"] = ratioLimit;
-    state.counters["held"] = most;
-}
-
-void byFloor(benchmark::State& state, const SalesOfYears& bar, Bare bare)
-{
-    bar.enter();
-    for ([[maybe_unused]] auto _ : state) {
-        state.counters["rows"] = static_cast<double>(bare(bar));
+        const Report report = pageOf(page, bar, source);
+        check(!report.file().rows.empty(), "a page with figures");
     }
     state.counters["limit"] = ratioLimit;
 }
 
-/// All three reports of a million sales, once: the memory that they hold.
-void memory(benchmark::State& state, const SalesOfYears& bar)
+void byFloor(benchmark::State& state, const Bar& bar, Bare bare)
 {
     bar.enter();
+    for ([[maybe_unused]] auto _ : state) {
+        benchmark::DoNotOptimize(bare(bar.days()));
+    }
+    state.counters["limit"] = ratioLimit;
+}
+
+/// The pages of a million sales, once: the memory that their source holds.
+void memory(benchmark::State& state, const Bar& bar)
+{
+    bar.enter();
+    bar.rest();
     malloc_trim(0);
     const double before = residentBytes();
     for ([[maybe_unused]] auto _ : state) {
         TillSource source(bar.path());
-        readHours(source, bar.days());
-        readArticles(source, bar.days());
-        readUses(source, bar.days());
+        for (const Page page :
+            {Page::Sales, Page::Articles, Page::Hours, Page::Uses, Page::Closing}) {
+            pageOf(page, bar, source);
+        }
         malloc_trim(0);
         state.counters["bytes"] = (residentBytes() - before) / bar.sales();
     }
     state.counters["limit_bytes"] = bytesALineLimit;
 }
 
+/// How long the till's database was held by one statement at most.
+class LongestStatement
+{
+public:
+    LongestStatement()
+    {
+        // SQLite calls its extensions with the arguments of watch().
+        sqlite3_auto_extension(reinterpret_cast<void (*)()>(watch));
+    }
+
+    static double seconds() { return longest; }
+
+private:
+    static int watch(sqlite3* connection, const char**, const struct sqlite3_api_routines*)
+    {
+        return sqlite3_trace_v2(
+            connection, SQLITE_TRACE_STMT | SQLITE_TRACE_PROFILE, note, connection);
+    }
+    static int note(unsigned event, void* connection, void*, void*)
+    {
+        const char* const file = sqlite3_db_filename(static_cast<sqlite3*>(connection), "main");
+        const bool isTills = file != nullptr && *file != '\0';
+        if (isTills && event == SQLITE_TRACE_STMT) {
+            begin = Clock::now();
+        } else if (isTills) {
+            longest = std::max(longest, secondsSince(begin));
+        }
+        return 0;
+    }
+
+    static inline Clock::time_point begin;
+    static inline double longest = 0;
+};
+
+/// Another process that reads reports of \a bar one after the other.
+class OtherProcess
+{
+public:
+    explicit OtherProcess(const Bar& bar)
+    {
+        process_.start(
+            QCoreApplication::applicationFilePath(), {QStringLiteral("--reports"), bar.path()});
+        check(process_.waitForStarted(), "a second process");
+        check(process_.waitForReadyRead(), "a report");
+    }
+    ~OtherProcess() { end(); }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+    OtherProcess(OtherProcess&&) = delete;
+    OtherProcess& operator=(OtherProcess&&) = delete;
+
+    /// Lets it read for \a milliseconds, and returns the seconds of its longest statement.
+    double longestStatement(int milliseconds)
+    {
+        process_.waitForFinished(milliseconds);
+        end();
+        return process_.readAll().trimmed().toDouble();
+    }
+
+private:
+    void end()
+    {
+        process_.closeWriteChannel();
+        process_.waitForFinished();
+    }
+
+    QProcess process_;
+};
+
+/// Ends the program once the figures of a page are painted.
+class FiguresPainted : public QObject
+{
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* label
+            = event->type() == QEvent::Paint ? qobject_cast<QLabel*>(watched) : nullptr;
+        if (label != nullptr && label->objectName() == QLatin1String("value")
+            && !label->text().isEmpty()) {
+            // What else is to be painted is so by then.
+            QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
+        }
+        return false;
+    }
+};
+
+/// The window of the back office until it shows today's sales.
+int showWindow(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    const QString folder = QFile::decodeName(argv[2]);
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
+    FiguresPainted painted;
+    application.installEventFilter(&painted);
+    MainWindow window({[folder] { return std::make_unique<TillSource>(folder); }, makeReport,
+        QLocale(QLocale::French, QLocale::France), &QDate::currentDate, folder});
+    window.show();
+    return QApplication::exec();
+}
+
+/// What the other process does until its standard input ends.
+int readReports(const QString& folder)
+{
+    const LongestStatement statement;
+    std::atomic<bool> isStopped = false;
+    std::thread parent([&] {
+        char byte = 0;
+        while (read(STDIN_FILENO, &byte, 1) > 0) { }
+        isStopped = true;
+    });
+    check(write(STDOUT_FILENO, "\n", 1) == 1, "the word that reading begins");
+    constexpr int years = 4;
+    const DayRange allDays{QDate::currentDate().addYears(-years), QDate::currentDate()};
+    const Reading reading{{}, &isStopped};
+    try {
+        for (;;) {
+            TillSource source(folder);
+            source.hours(allDays, reading);
+            source.articles(allDays, reading);
+            source.uses(allDays, reading);
+        }
+    } catch (const ReadingStopped&) {
+        parent.join();
+        std::printf("%f\n", LongestStatement::seconds());
+    }
+    return 0;
+}
+
 /// The longest that the other process holds the database within some seconds.
-void longestLock(benchmark::State& state, const SalesOfYears& bar)
+void longestLock(benchmark::State& state, const Bar& bar)
 {
     constexpr int watchedMs = 6000;
     bar.rest();
@@ -183,24 +240,49 @@ void longestLock(benchmark::State& state, const SalesOfYears& bar)
     state.counters["limit_ms"] = lockLimitMs;
 }
 
+qint64 linesOf(const Report& report)
+{
+    const auto lines = std::find_if(report.figures.begin(), report.figures.end(),
+        [](const KeyFigure& figure) { return figure.kind == CellKind::Count; });
+    check(lines != report.figures.end(), "the number of lines");
+    return lines->value.toLongLong();
+}
+
 /// A sale is paid: how long it takes until a page of all days shows it, from when the page notices.
-void newSale(benchmark::State& state, const SalesOfYears& bar)
+void newSale(benchmark::State& state, const Bar& bar)
 {
     bar.enter();
     bar.rest();
     TillSource source(bar.path());
-    readHours(source, bar.days());
     source.isChanged();
+    qint64 lines = linesOf(pageOf(Page::Sales, bar, source));
     const std::vector<TicketLine> sale{
         {{}, QStringLiteral("1"), QStringLiteral("Café"), QStringLiteral("1.5")}};
     for ([[maybe_unused]] auto _ : state) {
         check(History::record(sale), "a sale");
         const auto begin = Clock::now();
         check(source.isChanged(), "a change");
-        readHours(source, bar.days());
+        const Report report = pageOf(Page::Sales, bar, source);
         state.SetIterationTime(secondsSince(begin));
+        check(linesOf(report) == ++lines, "the sale on the page");
     }
     state.counters["limit_ms"] = newSaleLimitMs;
+}
+
+/// The command from its start until today's figures are painted, and its end.
+void opening(benchmark::State& state, const Bar& bar)
+{
+    bar.enter();
+    bar.rest();
+    for ([[maybe_unused]] auto _ : state) {
+        QProcess window;
+        const auto begin = Clock::now();
+        window.start(
+            QCoreApplication::applicationFilePath(), {QStringLiteral("--window"), bar.path()});
+        check(window.waitForFinished() && window.exitCode() == 0, "a window");
+        state.SetIterationTime(secondsSince(begin));
+    }
+    state.counters["limit_ms"] = openingLimitMs;
 }
 
 /// The median of 200 payments.
@@ -222,7 +304,7 @@ double payment()
     return seconds[payments / 2];
 }
 
-void pay(benchmark::State& state, const SalesOfYears& bar, bool areReportsRead)
+void pay(benchmark::State& state, const Bar& bar, bool areReportsRead)
 {
     bar.enter();
     for ([[maybe_unused]] auto _ : state) {
@@ -236,33 +318,40 @@ void pay(benchmark::State& state, const SalesOfYears& bar, bool areReportsRead)
 
 int main(int argc, char* argv[])
 {
+    if (argc == 3 && qstrcmp(argv[1], "--window") == 0) {
+        return showWindow(argc, argv);
+    }
     const QCoreApplication application(argc, argv);
     if (argc == 3 && qstrcmp(argv[1], "--reports") == 0) {
         return readReports(QFile::decodeName(argv[2]));
     }
-    const SalesOfYears hundredth(million / 100);
-    const SalesOfYears tenth(million / 10);
-    const SalesOfYears bar(million);
+    const Bar hundredth(million / 100);
+    const Bar tenth(million / 10);
+    const Bar bar(million);
     constexpr auto ms = benchmark::kMillisecond;
-    const auto compare = [](const std::string& work, const SalesOfYears& sales, Report report,
-                             Bare bare) {
+    const auto compare = [](const std::string& work, const Bar& sales, Page page, Bare bare) {
         const std::string name
             = "backoffice_" + work + "_of_" + std::to_string(sales.sales()) + "_sales";
         benchmark::RegisterBenchmark((name + "/floor").c_str(), byFloor, std::ref(sales), bare)
             ->Unit(ms);
-        benchmark::RegisterBenchmark(
-            (name + "/program").c_str(), byProgram, std::ref(sales), report)
+        benchmark::RegisterBenchmark((name + "/program").c_str(), byProgram, std::ref(sales), page)
             ->Unit(ms);
     };
-    for (const SalesOfYears* sales : {&hundredth, &tenth, &bar}) {
-        compare("hours", *sales, readHours, bareHours);
-        compare("articles", *sales, readArticles, bareArticles);
-        compare("uses", *sales, readUses, bareUses);
+    for (const Bar* sales : {&hundredth, &tenth, &bar}) {
+        compare("sales", *sales, Page::Sales, BareSales::hours);
+        compare("articles", *sales, Page::Articles, BareSales::articles);
+        compare("hours", *sales, Page::Hours, BareSales::hours);
+        compare("uses", *sales, Page::Uses, BareSales::uses);
+        compare("closing", *sales, Page::Closing, BareSales::closing);
     }
     benchmark::RegisterBenchmark("backoffice_reports_held/program", memory, std::ref(bar))
         ->Iterations(1)
         ->Unit(ms);
     benchmark::RegisterBenchmark("backoffice_new_sale/program", newSale, std::ref(bar))
+        ->Iterations(3)
+        ->UseManualTime()
+        ->Unit(ms);
+    benchmark::RegisterBenchmark("backoffice_opening/program", opening, std::ref(bar))
         ->Iterations(3)
         ->UseManualTime()
         ->Unit(ms);

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Builds the Debian packages in build/package, or build/package-arm64, checks it with lintian and, with
-# --test, tries it: in an otherwise empty system, or in an emulator.
+# Builds the Debian packages in build/package, or build/package-arm64, checks them with lintian and, with
+# --test, tries that of the till: in an otherwise empty system, or in an emulator.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
 # The folders whose tests run in an emulator, and of a folder with many those that count most.
@@ -95,14 +95,14 @@ try_in_emulator() {
 }
 
 use_ccache
-say "Building the package in build/$name"
+say "Building the packages in build/$name"
 configure_package
 build_package
 rm -f "$tree"/*.deb
 (cd "$tree" && umask 022 && logged "$name" cpack) || fail "cpack failed, see build/$name.log"
 package=$(echo "$tree"/vendel_*.deb)
 
-say "Checking it with lintian, and what goes with it"
+say "Checking them with lintian"
 lintian --allow-root --fail-on error,warning --tag-display-limit 0 "$package" \
     "$tree"/vendel-central_*.deb || fail "lintian reports problems in $tree"
 if $try && [ "$architecture" = "$own" ]; then
@@ -110,4 +110,4 @@ if $try && [ "$architecture" = "$own" ]; then
 elif $try; then
     try_in_emulator
 fi
-say "The package is $package; vendel-central is beside it"
+say "The package is $package"

@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>L&apos;adresse du livre central contient un mot de passe, que d&apos;autres pourraient lire&#xa0;: il se met dans le fichier ~/.pgpass.</source>
-        <translation>The central book's address contains a password, which others could read: its place is the file ~/.pgpass.</translation>
+        <translation>The central book&apos;s address contains a password, which others could read: its place is the file ~/.pgpass.</translation>
     </message>
     <message>
         <source>«&#xa0;%1&#xa0;» n&apos;est pas l&apos;adresse d&apos;un livre central, qui s&apos;écrit comme postgresql://utilisateur@serveur/base.</source>
@@ -131,15 +131,15 @@
     </message>
     <message>
         <source>Le serveur du livre central refuse le mot de passe&#xa0;: le bon se met dans le fichier ~/.pgpass.</source>
-        <translation>The central book's server refuses the password: the right one goes into the file ~/.pgpass.</translation>
+        <translation>The central book&apos;s server refuses the password: the right one goes into the file ~/.pgpass.</translation>
     </message>
     <message>
         <source>L&apos;adresse du livre central ne peut pas être lue&#xa0;: %1</source>
-        <translation>The central book's address cannot be read: %1</translation>
+        <translation>The central book&apos;s address cannot be read: %1</translation>
     </message>
     <message>
         <source>Le serveur du livre central refuse la connexion&#xa0;: %1</source>
-        <translation>The central book's server refuses the connection: %1</translation>
+        <translation>The central book&apos;s server refuses the connection: %1</translation>
     </message>
     <message>
         <source>Le livre central est injoignable&#xa0;: %1</source>
@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>Le serveur du livre central ne répond pas assez vite.</source>
-        <translation>The central book's server does not answer quickly enough.</translation>
+        <translation>The central book&apos;s server does not answer quickly enough.</translation>
     </message>
     <message>
         <source>La connexion au livre central a été coupée.</source>
@@ -244,6 +244,25 @@
     <message>
         <source>Le guillemet de la ligne %1 n&apos;est jamais fermé.</source>
         <translation>The quote opened in line %1 is never closed.</translation>
+    </message>
+</context>
+<context>
+    <name>HeatMapDrawing</name>
+    <message>
+        <source>Aucune vente</source>
+        <translation>No sales</translation>
+    </message>
+    <message>
+        <source>moins</source>
+        <translation>less</translation>
+    </message>
+    <message>
+        <source>plus (jusqu&apos;à %1)</source>
+        <translation>more (up to %1)</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>more</translation>
     </message>
 </context>
 <context>

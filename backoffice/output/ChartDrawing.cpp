@@ -149,7 +149,8 @@ void ChartDrawing::addAxes()
     values_->setGridLineColor(ink_.grid);
     values_->setLineVisible(false);
     const Extent extent = extentOf(chart_);
-    constexpr double steps = 5;
+    // Side by side, numbers need more room than one above the other.
+    const double steps = chart_.isHorizontal ? 3 : 5;
     double step = niceStep((extent.most - extent.least) / steps);
     if (chart_.kind == CellKind::Count) {
         step = std::max(1.0, step);

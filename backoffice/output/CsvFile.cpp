@@ -8,6 +8,8 @@
 namespace {
 constexpr const char* lineEnd = "\r\n";
 
+bool isPercent(CellKind kind) { return kind == CellKind::Percent || kind == CellKind::Change; }
+
 /// Appends \a text in quotes.
 void addText(QByteArray& bytes, const QString& text)
 {
@@ -55,6 +57,7 @@ QString plain(const QVariant& value, CellKind kind, const CsvFormat& format)
     case CellKind::Money:
         return money(value.toLongLong(), format);
     case CellKind::Percent:
+    case CellKind::Change:
         return number(value.toDouble(), 2, 2, format);
     case CellKind::Quantity: {
         constexpr int decimals = 6;
@@ -95,9 +98,8 @@ QByteArray csv(const Table& table, const CsvFormat& format)
     for (std::size_t place = 0; place < table.columns.size(); ++place) {
         const Column& column = table.columns.at(place);
         bytes += place > 0 ? separator : QByteArray();
-        addText(bytes,
-            column.kind == CellKind::Percent ? column.title + QStringLiteral(" (%)")
-                                             : column.title);
+        addText(
+            bytes, isPercent(column.kind) ? column.title + QStringLiteral(" (%)") : column.title);
     }
     bytes += lineEnd;
     for (const std::vector<QVariant>& row : table.rows) {

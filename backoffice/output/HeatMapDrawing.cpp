@@ -18,7 +18,10 @@ constexpr double gap = 0.5;
 constexpr double linesAbove = 3;
 constexpr double linesBelow = 2.2;
 
-QString say(const char* text) { return QCoreApplication::translate("HeatMapDrawing", text); }
+struct Sentences
+{
+    Q_DECLARE_TR_FUNCTIONS(HeatMapDrawing)
+};
 } // namespace
 
 HeatMapDrawing::HeatMapDrawing(HeatMap map, const QLocale& locale, Ink ink, const QRectF& place)
@@ -73,7 +76,7 @@ void HeatMapDrawing::draw(QPainter& painter) const
     painter.drawText(place_, Qt::AlignHCenter | Qt::AlignTop, map_.title);
     painter.setFont(ink_.font);
     if (map_.rows.empty() || map_.columns.empty()) {
-        painter.drawText(place_, Qt::AlignCenter, say("Aucune vente"));
+        painter.drawText(place_, Qt::AlignCenter, Sentences::tr("Aucune vente"));
     } else {
         drawNames(painter);
         drawFields(painter);
@@ -153,13 +156,16 @@ void HeatMapDrawing::drawScale(QPainter& painter) const
     constexpr double widthInLines = 12;
     const QFontMetricsF metrics(ink_.font);
     const double line = metrics.height();
-    const QString least = say("moins");
+    const QString least = Sentences::tr("moins");
     const QString most = most_ > 0
-        ? say("plus (jusqu'à %1)").arg(formatDrawn(most_, map_.kind, locale_))
-        : say("plus");
+        ? Sentences::tr("plus (jusqu'à %1)").arg(formatDrawn(most_, map_.kind, locale_))
+        : Sentences::tr("plus");
     const double top = place_.bottom() - line * 1.2;
+    const double room = place_.right() - plot_.left() - metrics.horizontalAdvance(least)
+        - metrics.horizontalAdvance(most) - 2 * line * gap;
     const QRectF bar(plot_.left() + metrics.horizontalAdvance(least) + line * gap, top,
-        std::min(line * widthInLines, plot_.width() / 3), line);
+        std::clamp(room, line, std::max(line, std::min(line * widthInLines, plot_.width() / 3))),
+        line);
     QLinearGradient colours(bar.topLeft(), bar.topRight());
     for (const double at : {0.0, 0.5, 1.0}) {
         colours.setColorAt(at, Ink::heat(at));
@@ -168,7 +174,7 @@ void HeatMapDrawing::drawScale(QPainter& painter) const
     painter.setPen(ink_.faint);
     painter.drawText(QRectF(plot_.left(), top, bar.left() - plot_.left(), line),
         Qt::AlignLeft | Qt::AlignVCenter, least);
-    painter.drawText(QRectF(bar.right() + line * gap, top, plot_.right() - bar.right(), line),
+    painter.drawText(QRectF(bar.right() + line * gap, top, place_.right() - bar.right(), line),
         Qt::AlignLeft | Qt::AlignVCenter, most);
 }
 

@@ -57,6 +57,7 @@ QColor Ink::heat(double share)
 
 QColor Ink::textOn(const QColor& field)
 {
-    constexpr int half = 150;
-    return qGray(field.rgb()) < half ? Qt::white : Qt::black;
+    // Black is easier to read than white down to a rather dark grey.
+    constexpr int darkest = 109;
+    return qGray(field.rgb()) < darkest ? Qt::white : Qt::black;
 }

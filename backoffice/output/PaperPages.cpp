@@ -176,7 +176,7 @@ void PaperComposer::addFigures(const std::vector<KeyFigure>& figures)
             skip(at > 0 ? space / 2 : 0);
             row = take(height);
         }
-        const KeyFigure figure = figures.at(at);
+        const KeyFigure& figure = figures.at(at);
         const QString value = format(figure.value, figure.kind, locale_);
         const QRectF place(
             row.left() + width * static_cast<double>(at % inARow), row.top(), width, height);

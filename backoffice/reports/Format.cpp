@@ -29,12 +29,20 @@ QString withPercent(const QString& number, const QLocale& locale)
     return number + (isEnglish(locale) ? QStringLiteral("%") : QStringLiteral(" %"));
 }
 
+/// With a tenth; what rounds to zero has no sign.
 QString percent(double value, const QLocale& locale)
 {
-    // What rounds to zero has no sign.
     constexpr double tenths = 10;
     const double rounded = std::round(value * tenths) / tenths;
     return withPercent(locale.toString(rounded == 0 ? 0 : rounded, 'f', 1), locale);
+}
+
+/// The same with a sign: what is more has one, too.
+QString change(double value, const QLocale& locale)
+{
+    constexpr double leastShown = 0.05;
+    return (value >= leastShown ? QString(locale.positiveSign()) : QString())
+        + percent(value, locale);
 }
 } // namespace
 
@@ -58,6 +66,8 @@ QString format(const QVariant& value, CellKind kind, const QLocale& locale)
         return money(value.toLongLong(), locale);
     case CellKind::Percent:
         return percent(value.toDouble(), locale);
+    case CellKind::Change:
+        return change(value.toDouble(), locale);
     case CellKind::Quantity:
         return locale.toString(value.toDouble(), 'f', 2);
     }

@@ -28,6 +28,8 @@ enum class CellKind
     Money,
     /// double, 12.5 for 12.5 %.
     Percent,
+    /// double, 12.5 for 12.5 % more than before.
+    Change,
     /// double.
     Quantity
 };

@@ -175,7 +175,7 @@ SalesBars::Comparison SalesBars::comparison() const
     Comparison comparison{true, before_, std::nullopt, total_.takings, 0};
     if (range_.first > today_) {
         comparison.isPossible = false;
-    } else if (range_.grain() == DayRange::Grain::Hour && range_.first == today_) {
+    } else if (isToday()) {
         // At ten in the morning, the whole of yesterday would always look better.
         comparison.endHour = endOf(hours_);
         comparison.isPossible = *comparison.endHour > 0;
@@ -188,4 +188,19 @@ SalesBars::Comparison SalesBars::comparison() const
         comparison.before = sumOf(daysBefore_, comparison.range).takings;
     }
     return comparison;
+}
+
+bool SalesBars::isToday() const
+{
+    return range_.grain() == DayRange::Grain::Hour && range_.first == today_;
+}
+
+bool SalesBars::hasBegun(const Bar& bar) const
+{
+    return bar.sold.lines > 0 || (isToday() ? bar.hour < endOf(hours_) : bar.range.first <= today_);
+}
+
+bool SalesBars::isOver(const Bar& bar) const
+{
+    return isToday() ? bar.hour < endOf(hours_) : bar.range.last < today_;
 }

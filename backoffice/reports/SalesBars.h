@@ -50,7 +50,15 @@ public:
     qint64 pastDays() const;
     Comparison comparison() const;
 
+    /// Whether something of \a bar has happened. Of today, hours behind the last sale have not:
+    /// when the till will sell again, nobody knows.
+    bool hasBegun(const Bar& bar) const;
+    /// Whether \a bar can be held against what was sold before: a day in progress always looks
+    /// worse, and of today the hours up to the last sale count as over.
+    bool isOver(const Bar& bar) const;
+
 private:
+    bool isToday() const;
     void addHours();
     void addDays();
     void addMonths();

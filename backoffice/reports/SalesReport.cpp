@@ -83,7 +83,7 @@ void addComparison(std::vector<KeyFigure>& figures, const Facts& facts)
     figures.push_back({Text::tr("Période précédente"), comparison.before, CellKind::Money, remark});
     const QVariant change = Sums::change(comparison.now, comparison.before);
     if (change.isValid()) {
-        figures.push_back({Text::tr("Évolution"), change, CellKind::Percent, {}});
+        figures.push_back({Text::tr("Évolution"), change, CellKind::Change, {}});
     }
 }
 
@@ -148,12 +148,12 @@ Table table(const Facts& facts)
     Table table{Text::tr("Détail"),
         {firstColumn(grain), {Wording::lines(), CellKind::Count}, {Wording::net(), CellKind::Money},
             {Text::tr("TVA"), CellKind::Money}, {Wording::gross(), CellKind::Money},
-            {Text::tr("Avant"), CellKind::Money}, {Text::tr("Évolution"), CellKind::Percent}},
+            {Text::tr("Avant"), CellKind::Money}, {Text::tr("Évolution"), CellKind::Change}},
         {}};
     for (const SalesBars::Bar& bar : facts.bars.bars()) {
         std::vector<QVariant> row(table.columns.size());
         row.at(0) = grain == DayRange::Grain::Hour ? QVariant(bar.hour) : QVariant(bar.range.first);
-        if (bar.range.first <= facts.order.today || bar.sold.lines > 0) {
+        if (facts.bars.hasBegun(bar)) {
             const Amount tax = taxOn(bar.sold.takings, facts.rate);
             row.at(1) = bar.sold.lines;
             row.at(2) = bar.sold.takings;
@@ -163,7 +163,7 @@ Table table(const Facts& facts)
         if (bar.before) {
             row.at(5) = bar.before->takings;
         }
-        if (bar.before && bar.range.last <= facts.order.today) {
+        if (bar.before && facts.bars.isOver(bar)) {
             row.at(6) = Sums::change(bar.sold.takings, bar.before->takings);
         }
         table.rows.push_back(std::move(row));

@@ -13,7 +13,12 @@ constexpr qint64 fewestRows = 20;
 constexpr qint64 fullSpeedUs = 5000;
 constexpr qint64 gentleUs = 3000;
 /// Of eleven parts of the time, ten are the till's.
-constexpr qint64 pauses = 10;
+constexpr qint64 longPauses = 10;
+/// Of five parts, four: what looks whether the days before are the same is short, and a payment is
+/// to be seen within two seconds.
+constexpr qint64 shortPauses = 4;
+/// A portion that took longer has waited for the till, and has held nobody up meanwhile.
+constexpr qint64 longestHeldUs = 50000;
 /// A portion that was quick by chance must not make the next ones long.
 constexpr qint64 growth = 2;
 } // namespace
@@ -34,13 +39,13 @@ TillPace::TillPace(Timing timing)
     , rows_(firstRows)
 { }
 
-qint64 TillPace::timed(bool isTillAtWork, const std::function<void()>& portion)
+qint64 TillPace::timed(qint64 pauses, const std::function<void()>& portion)
 {
     const qint64 begin = timing_.elapsed();
     portion();
     const qint64 taken = std::max<qint64>(timing_.elapsed() - begin, 1);
-    if (isTillAtWork) {
-        timing_.sleep(taken * pauses);
+    if (pauses > 0) {
+        timing_.sleep(std::min(taken, longestHeldUs) * pauses);
     }
     return taken;
 }
@@ -48,11 +53,11 @@ qint64 TillPace::timed(bool isTillAtWork, const std::function<void()>& portion)
 void TillPace::run(bool isTillAtWork, const std::function<void()>& portion)
 {
     const qint64 target = isTillAtWork ? gentleUs : fullSpeedUs;
-    const qint64 fitting = rows_ * target / timed(isTillAtWork, portion);
+    const qint64 fitting = rows_ * target / timed(isTillAtWork ? longPauses : 0, portion);
     rows_ = std::clamp(std::min(fitting, rows_ * growth), fewestRows, mostRows);
 }
 
 void TillPace::runAsIs(bool isTillAtWork, const std::function<void()>& portion)
 {
-    timed(isTillAtWork, portion);
+    timed(isTillAtWork ? shortPauses : 0, portion);
 }

@@ -39,7 +39,7 @@ public:
     void runAsIs(bool isTillAtWork, const std::function<void()>& portion);
 
 private:
-    qint64 timed(bool isTillAtWork, const std::function<void()>& portion);
+    qint64 timed(qint64 pauses, const std::function<void()>& portion);
 
     Timing timing_;
     qint64 rows_;

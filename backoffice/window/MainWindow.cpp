@@ -72,9 +72,10 @@ ReportOrder MainWindow::order() const
     if (tills_ != nullptr) {
         order.tills = tills_->tills();
     }
-    if (order.page == Page::Closing && order.range.contains(setup_.today())) {
+    if (order.page == Page::Closing) {
         // Of a month that is not over, the last day to close is today.
-        order.range.last = setup_.today();
+        order.range.last = std::min(order.range.last, setup_.today());
+        order.range.first = std::min(order.range.first, order.range.last);
     }
     if (hasOwnRate_) {
         order.taxRate = taxRate_->value();
@@ -171,8 +172,8 @@ void MainWindow::restorePlace()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    QSettings(QStringLiteral("Vendel"), QStringLiteral("Gestion"))
-        .setValue(QStringLiteral("window"), saveGeometry());
+    QSettings settings(QStringLiteral("Vendel"), QStringLiteral("Gestion"));
+    settings.setValue(QStringLiteral("window"), saveGeometry());
     reader_.stop();
     QMainWindow::closeEvent(event);
 }

@@ -22,7 +22,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <utility>
 
 namespace {
 bool isAbout(const ReportOrder& one, const ReportOrder& other)
@@ -105,7 +104,7 @@ QWidget* ReportPage::buildReport()
     charts_->setFocusPolicy(Qt::NoFocus);
     charts_->setWidgetResizable(true);
     charts_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    constexpr int narrowest = 380;
+    constexpr int narrowest = 320;
     charts_->setMinimumWidth(narrowest);
     auto* inside = new QWidget;
     chartColumn_ = new QVBoxLayout(inside);
@@ -115,6 +114,7 @@ QWidget* ReportPage::buildReport()
     splitter_->addWidget(buildTables());
     splitter_->setStretchFactor(0, 1);
     splitter_->setStretchFactor(1, 1);
+    connect(splitter_, &QSplitter::splitterMoved, this, [this] { isUsersShare_ = true; });
     column->addWidget(splitter_, 1);
     notes_ = new QLabel(panel);
     notes_->setObjectName(QStringLiteral("notes"));
@@ -193,12 +193,7 @@ void ReportPage::showReport(const Report& report, const ReportOrder& order)
         notes_->setVisible(!notes.isEmpty());
     }
     stack_->setCurrentIndex(1);
-    if (paper_ == nullptr && !std::exchange(isShared_, true)) {
-        // The splitter has its width only now.
-        layout()->activate();
-        stack_->currentWidget()->layout()->activate();
-        shareWidth();
-    }
+    shareWidth();
 }
 
 void ReportPage::showHead(const Report& report)
@@ -252,14 +247,25 @@ void ReportPage::showTables(const Report& report)
 
 void ReportPage::shareWidth()
 {
-    int wanted = 0;
+    if (paper_ != nullptr || isUsersShare_ || stack_->currentIndex() != 1) {
+        return;
+    }
+    // Else the splitter has its width only later.
+    layout()->activate();
+    stack_->currentWidget()->layout()->activate();
+    int wanted = tables_->count() > 1 ? tables_->tabBar()->sizeHint().width() : 0;
     for (const TablePane* pane : panes_) {
         wanted = std::max(wanted, pane->fullWidth());
     }
-    constexpr double most = 0.56;
-    const int whole = splitter_->width();
-    const int tables = std::min(wanted, static_cast<int>(whole * most));
+    const int whole = splitter_->width() - splitter_->handleWidth();
+    const int tables = std::min(wanted, whole - charts_->minimumWidth());
     splitter_->setSizes({whole - tables, tables});
+}
+
+void ReportPage::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    shareWidth();
 }
 
 void ReportPage::showSentence(const QString& sentence, bool isStopped)

@@ -53,11 +53,14 @@ signals:
     void rankingChosen();
     void reloadAsked();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QWidget* buildSentence();
     QWidget* buildReport();
     QWidget* buildTables();
-    /// Gives the tables the width that they need, but not much more than half.
+    /// Gives the tables the width that they need, and leaves the charts theirs.
     void shareWidth();
     void showHead(const Report& report);
     void showCharts(const Report& report);
@@ -68,8 +71,8 @@ private:
     std::optional<Report> report_;
     std::optional<ReportOrder> order_;
 
-    /// The width is the user's after the first report.
-    bool isShared_ = false;
+    /// Whether the user has shared the width between charts and tables.
+    bool isUsersShare_ = false;
 
     QStackedWidget* stack_;
     QLabel* sentence_ = nullptr;

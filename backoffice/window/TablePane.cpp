@@ -12,6 +12,11 @@
 #include <algorithm>
 #include <numeric>
 
+namespace {
+/// What a column has more than its text needs, in pixels.
+constexpr int aroundCells = 12;
+} // namespace
+
 TablePane::TablePane(const QLocale& locale, QWidget* parent)
     : QTableView(parent)
     , model_(new TableModel(locale, this))
@@ -66,10 +71,9 @@ void TablePane::fitColumns(bool isFirst)
 {
     constexpr int rowsToMeasure = 200;
     horizontalHeader()->setResizeContentsPrecision(rowsToMeasure);
-    constexpr int around = 12;
     needed_.resize(static_cast<std::size_t>(model_->columnCount()));
     for (int column = 0; column < model_->columnCount(); ++column) {
-        needed_.at(static_cast<std::size_t>(column)) = around
+        needed_.at(static_cast<std::size_t>(column)) = aroundCells
             + std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
     }
     isUsersWidth_ = isUsersWidth_ && !isFirst;
@@ -89,7 +93,9 @@ void TablePane::spread()
     }
     isSpreading_ = true;
     const int room = viewport()->width() - std::accumulate(needed_.begin(), needed_.end(), 0);
-    const int extra = std::max(0, room) / static_cast<int>(needed_.size());
+    const int count = static_cast<int>(needed_.size());
+    // Where there is no room, columns give away what is between them rather than the last one.
+    const int extra = room < 0 ? std::max(-aroundCells, (room - count + 1) / count) : room / count;
     for (std::size_t column = 0; column < needed_.size(); ++column) {
         setColumnWidth(static_cast<int>(column), needed_.at(column) + extra);
     }

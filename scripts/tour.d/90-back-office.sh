@@ -34,4 +34,21 @@ page 3 Heures gestion-heures
 page 4 Consommation gestion-consommation
 pick MainWindow period Hier
 page 5 Clôture gestion-cloture
+
+# A supplier's price list, with lines that an import does not take.
+printf '%s\n' 'Article;Prix' 'Café;1,60' 'Plat du jour;14,50' 'Thé à la menthe;3,20' \
+    'Jus de poire;3,80' 'Salade de chèvre chaud;9,80' 'Kir;offert' >"$work/prix.csv"
+choose MainWindow Menu "Importer le menu…"
+await_window ImportDialog
+press ImportDialog choose
+await_window QFileDialog
+fill QFileDialog fileNameEdit "$work/prix.csv"
+xdotool key Return
+await_no_window QFileDialog
+await_text ImportDialog counts \
+    "1 nouvelle · 2 nouveaux prix · 1 inchangée · 2 refusées, qui restent de côté"
+picture gestion-import
+press ImportDialog start
+await_rows "the imported price" "select count(*) from Article where article = 'Jus de poire'" 1
+await_text ImportDialog cancel Fermer
 stop_till

@@ -87,11 +87,13 @@ private slots:
         const QStringList order
             = QStringList{"--dossier", shop.path(), "--heures", "--csv", "-"} + weekend;
         command.run(order);
-        QVERIFY(command.output.contains("\"Monday\""));
+        QVERIFY(command.output.contains("\"Hour\",\"Monday\""));
         QVERIFY(command.output.contains("9,0.00"));
         command.run(order + QStringList{"--langue", "fr"});
-        QVERIFY(command.output.contains("\"lundi\""));
+        QVERIFY(command.output.contains("\"Heure\";\"lundi\""));
         QVERIFY(command.output.contains("9;0,00"));
+        command.run({"--zzz", "--langue", "en"});
+        QCOMPARE(command.error, QStringLiteral("vendel-gestion: There is no option \"--zzz\".\n"));
     }
 
     void aPageIsPaperOrAPictureWithoutADisplay()

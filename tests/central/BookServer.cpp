@@ -104,7 +104,14 @@ void BookServer::end(int signal)
 {
     if (server_ > 0) {
         kill(server_, signal);
-        waitpid(server_, nullptr, 0);
+        while (waitpid(server_, nullptr, WNOHANG) == 0) {
+            // A crash waits for nobody, and the server would wait for a connection whose first
+            // words are still on their way.
+            if (signal == SIGQUIT) {
+                signalChildren(SIGKILL);
+            }
+            QThread::msleep(5);
+        }
         server_ = -1;
     }
 }
@@ -113,16 +120,23 @@ void BookServer::crash() { end(SIGQUIT); }
 
 void BookServer::stop() { end(SIGINT); }
 
+void BookServer::signalChildren(int signal) const
+{
+    QFile file(QString("/proc/%1/task/%1/children").arg(server_));
+    if (file.open(QIODevice::ReadOnly)) {
+        const auto children = file.readAll().simplified().split(' ');
+        for (const QByteArray& child : children) {
+            if (child.toInt() > 0) {
+                kill(child.toInt(), signal);
+            }
+        }
+    }
+}
+
 void BookServer::freeze(bool isFrozen) const
 {
     const int signal = isFrozen ? SIGSTOP : SIGCONT;
-    const QString children = QString("/proc/%1/task/%1/children").arg(server_);
-    QFile file(children);
-    if (file.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& child : file.readAll().simplified().split(' ')) {
-            kill(child.toInt(), signal);
-        }
-    }
+    signalChildren(signal);
     kill(server_, signal);
 }
 

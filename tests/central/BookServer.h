@@ -52,6 +52,7 @@ public:
 private:
     BookServer();
     void end(int signal);
+    void signalChildren(int signal) const;
 
     QTemporaryDir folder_;
     pid_t server_ = -1;

@@ -83,9 +83,10 @@ steps() {
     [ "$(ctest --preset release -N | grep -c ' check-')" -eq 0 ]
     [ "$(ctest --preset analysis -N | grep -oE 'check-[a-z]+$' | sort | tr '\n' ' ')" = \
         "check-clazy check-cppcheck check-format check-shell check-tidy " ]
-    for long in tour licence faults launcher_every_fault; do
+    for long in tour licence faults launcher_every_fault Central_sender_killed_often \
+        Central_server_killed_often; do
         [ "$(ctest --preset release -N | grep -c ": $long\$")" -eq 0 ]
         [ "$(ctest --preset analysis -N | grep -c ": $long\$")" -eq 1 ]
     done
-    [ "$(ctest --preset analysis -N | grep -c '^ *Test *#')" -eq 10 ]
+    [ "$(ctest --preset analysis -N | grep -c '^ *Test *#')" -eq 12 ]
 }

@@ -43,6 +43,9 @@ public:
         scene_.render(&painter, QRectF(QPointF(), size), chart_->geometry());
     }
 
+    Drawn(const Drawn&) = delete;
+    Drawn& operator=(const Drawn&) = delete;
+
     ChartDrawing& chart() { return *chart_; }
     QColor colour(double x, double y) const { return image_.pixelColor(qRound(x), qRound(y)); }
 

@@ -28,6 +28,11 @@ private slots:
         row("count", qint64{1234567}, CellKind::Count, "1\u202f234\u202f567", "1,234,567");
         row("per cent", 12.25, CellKind::Percent, "12,3\u00a0%", "12.3%");
         row("hardly any per cent", -0.04, CellKind::Percent, "0,0\u00a0%", "0.0%");
+        row("more", 12.25, CellKind::Change, "+12,3\u00a0%", "+12.3%");
+        row("less", -12.25, CellKind::Change, "-12,3\u00a0%", "-12.3%");
+        row("hardly more", 0.049, CellKind::Change, "0,0\u00a0%", "0.0%");
+        row("just more", 0.05, CellKind::Change, "+0,1\u00a0%", "+0.1%");
+        row("hardly less", -0.049, CellKind::Change, "0,0\u00a0%", "0.0%");
         row("quantity", 1234.5, CellKind::Quantity, "1\u202f234,50", "1,234.50");
         row("text", QStringLiteral("Thé"), CellKind::Text, "Thé", "Thé");
         row("no value", QVariant(), CellKind::Money, "", "");

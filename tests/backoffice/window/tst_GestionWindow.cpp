@@ -72,6 +72,26 @@ private slots:
         QTRY_COMPARE(gestion.cell(1, 1), QStringLiteral("Café"));
     }
 
+    void noColumnIsCutOffWhenFiguresGrow()
+    {
+        OpenGestion gestion;
+        gestion.window.resize(1180, 700);
+        for (const int page : {0, 1, 3}) {
+            gestion.choose("period", 0);
+            gestion.pages().setCurrentIndex(page);
+            QTRY_VERIFY(gestion.page().report() != nullptr);
+            gestion.shop.lines = 60;
+            gestion.choose("period", 4);
+            QTRY_VERIFY(gestion.subtitle().startsWith(QStringLiteral("Année 2026")));
+            auto& tables = *gestion.page().findChild<QTabWidget*>();
+            for (int at = 0; at < tables.count(); ++at) {
+                tables.setCurrentIndex(at);
+                QTRY_COMPARE(gestion.table().horizontalScrollBar()->maximum(), 0);
+            }
+            gestion.shop.lines = 3;
+        }
+    }
+
     void findsWithControlF()
     {
         OpenGestion gestion;

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDateEdit>
 #include <QFile>
 #include <QFileDialog>
 #include <QImage>
@@ -105,6 +106,18 @@ private slots:
         });
         action(gestion, "Exporter en &PDF…").trigger();
         QCOMPARE(name, QStringLiteral("Clôture 2026-11-20.pdf"));
+    }
+
+    void nothingToComeIsClosed()
+    {
+        OpenGestion gestion;
+        child<QDateEdit>(gestion.window, "last").setDate({2026, 12, 24});
+        child<QDateEdit>(gestion.window, "first").setDate({2026, 12, 1});
+        gestion.pages().setCurrentIndex(4);
+        QTRY_VERIFY(gestion.page().report() != nullptr);
+        QCOMPARE(gestion.subtitle(), QStringLiteral("Vendredi 20 novembre 2026, journée en cours"));
+        gestion.choose("period", 1);
+        QTRY_COMPARE(gestion.subtitle(), QStringLiteral("Jeudi 19 novembre 2026"));
     }
 
     void aFileThatCannotBeWrittenIsSaid()
