@@ -63,7 +63,7 @@ private slots:
         QCOMPARE(page.tables.size(), std::size_t{3});
         QCOMPARE(page.tables.at(2).title, QStringLiteral("Détail par caisse"));
         QCOMPARE(Seen::rows(page.tables.at(2)),
-            (QStringList{QStringLiteral("Bar|9 h|4|10,00 €|2,00 €|12,00 €|5,00 €|100,0 %"),
+            (QStringList{QStringLiteral("Bar|9 h|4|10,00 €|2,00 €|12,00 €|5,00 €|+100,0 %"),
                 QStringLiteral("Cave|10 h|0|0,00 €|0,00 €|0,00 €|3,00 €|-100,0 %"),
                 QStringLiteral("Cave|11 h|1|4,00 €|0,80 €|4,80 €|0,00 €|")}));
     }
@@ -90,7 +90,7 @@ private slots:
         order.locale = Seen::french;
         const Report page = makeReport(order, tills, {});
         QCOMPARE(Seen::rows(page.file()).at(2),
-            QStringLiteral("Bar|mars 2026|2|4,00 €|0,80 €|4,80 €|2,00 €|100,0 %"));
+            QStringLiteral("Bar|mars 2026|2|4,00 €|0,80 €|4,80 €|2,00 €|+100,0 %"));
         // Days that are no whole months are compared with as many before them.
         order.range = {QDate(2026, 1, 15), QDate(2026, 4, 15)};
         tills.hourSales
