@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <utility>
+
 #include <fcntl.h>
 #include <sqlite3.h>
 
