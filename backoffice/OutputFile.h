@@ -1,26 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backoffice/sales/SentenceError.h"
+
 #include <QString>
 
-#include <exception>
-
 /// Why a file is not written.
-class OutputError : public std::exception
+class OutputError : public SentenceError
 {
 public:
-    explicit OutputError(QString sentence)
-        : sentence_(std::move(sentence))
-        , bytes_(sentence_.toUtf8())
-    { }
-
-    /// One sentence for the owner, in the language of the program.
-    const QString& sentence() const { return sentence_; }
-    const char* what() const noexcept override { return bytes_.constData(); }
-
-private:
-    QString sentence_;
-    QByteArray bytes_;
+    using SentenceError::SentenceError;
 };
 
 namespace OutputFile {

@@ -133,6 +133,8 @@ void Book::learnNames(const std::vector<Line>& lines)
 }
 
 /// Before the lines' own transaction, which then holds nothing that making a table has to wait for.
+/// Asked for even when it is there: the function waits for whoever has just made it, until the
+/// server has told all of its sessions.
 void Book::makeMonths(const std::vector<Line>& lines)
 {
     std::set<std::string> missing;
@@ -144,11 +146,7 @@ void Book::makeMonths(const std::vector<Line>& lines)
     }
     for (const std::string& month : missing) {
         connection_.transact([&](pqxx::work& transaction) {
-            const std::string day = month + "-01";
-            const auto found = transaction.exec_params(Statements::hasMonth, day);
-            if (!found.at(0).at(0).as<bool>()) {
-                transaction.exec_params(Statements::makeMonth, day);
-            }
+            transaction.exec_params(Statements::makeMonth, month + "-01");
         });
         months_.insert(month);
     }

@@ -32,8 +32,6 @@ inline constexpr const char* addNames
       "select wanted, translate(wanted, 'ABCDEFGHIJKLMNOPQRSTUVWXYZ', 'abcdefghijklmnopqrstuvwxyz')"
       " from unnest($1::text[]) wanted on conflict do nothing";
 
-inline constexpr const char* hasMonth
-    = "select to_regclass('vendel.line_' || to_char($1::date, 'YYYY_MM')) is not null";
 inline constexpr const char* makeMonth = "select vendel.make_month($1::date)";
 
 /// Nobody else changes the till's progress until the transaction ends.

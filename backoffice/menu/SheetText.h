@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backoffice/sales/SentenceError.h"
+
 #include <QByteArray>
 #include <QString>
 
-#include <exception>
-
 /// Why a file cannot be imported as a whole, or why nothing was.
-class ImportError : public std::exception
+class ImportError : public SentenceError
 {
 public:
-    explicit ImportError(QString sentence)
-        : sentence_(std::move(sentence))
-        , bytes_(sentence_.toUtf8())
-    { }
-
-    /// One sentence for the owner, in the language of the program.
-    const QString& sentence() const { return sentence_; }
-    const char* what() const noexcept override { return bytes_.constData(); }
-
-private:
-    QString sentence_;
-    QByteArray bytes_;
+    using SentenceError::SentenceError;
 };
 
 /// The text in files that spreadsheets and editors have written.

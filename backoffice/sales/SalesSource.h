@@ -3,6 +3,7 @@
 
 #include "backoffice/sales/Amount.h"
 #include "backoffice/sales/DayRange.h"
+#include "backoffice/sales/SentenceError.h"
 
 #include <QLocale>
 #include <QString>
@@ -59,21 +60,10 @@ struct Use
 };
 
 /// Why sales cannot be read.
-class SalesError : public std::exception
+class SalesError : public SentenceError
 {
 public:
-    explicit SalesError(QString sentence)
-        : sentence_(std::move(sentence))
-        , bytes_(sentence_.toUtf8())
-    { }
-
-    /// One sentence for the owner, in the language of the program.
-    const QString& sentence() const { return sentence_; }
-    const char* what() const noexcept override { return bytes_.constData(); }
-
-private:
-    QString sentence_;
-    QByteArray bytes_;
+    using SentenceError::SentenceError;
 };
 
 /// Reading was stopped by whoever had asked for it.

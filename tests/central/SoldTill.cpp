@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <utility>
+
 #include <fcntl.h>
 #include <sqlite3.h>
 
@@ -133,7 +135,7 @@ pid_t SoldTill::start(QStringList arguments) const
     arguments += {"--dossier", path()};
     const QList<QByteArray> parts = [&] {
         QList<QByteArray> all{VENDEL_CENTRAL};
-        for (const QString& argument : arguments) {
+        for (const QString& argument : std::as_const(arguments)) {
             all.append(argument.toUtf8());
         }
         return all;

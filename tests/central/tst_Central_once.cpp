@@ -290,7 +290,8 @@ private slots:
                 break;
             }
             const QStringList sent = SoldTill::bookLines(book_, moment);
-            for (const QString& line : till.lines()) {
+            const QStringList sold = till.lines();
+            for (const QString& line : sold) {
                 QVERIFY2(sent.contains(line), qPrintable(QString::number(moment) + line));
             }
         }

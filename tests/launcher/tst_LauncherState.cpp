@@ -82,7 +82,7 @@ private slots:
         const State never = shop.state();
         QVERIFY(StatedShop::french(never).contains(
             "Livre central : « postgresql://machine/base », jamais atteint"));
-        QCOMPARE(StatedShop::french(never).last(), QString("À voir : le livre central."));
+        QCOMPARE(StatedShop::french(never).constLast(), QString("À voir : le livre central."));
         QCOMPARE(never.status, 1);
         book.noteReached({"2026-03-05", "140000"});
         const State reached = shop.state();

@@ -170,7 +170,7 @@ private slots:
         hoursOf(source);
         const StatementLog log;
         shop.sell("2026-11-20 10:00:00.000", "Thé", "1");
-        QCOMPARE(hoursOf(source).last(), QString("2026-11-20 10h 2 20000"));
+        QCOMPARE(hoursOf(source).constLast(), QString("2026-11-20 10h 2 20000"));
     }
 
     void aRestoredCopyIsNoticed()
@@ -189,7 +189,7 @@ private slots:
         QCOMPARE(hoursOf(source).size(), 4);
         shop.sell("2026-11-20 21:00:00.000", "Thé", "7");
         QVERIFY(source.isChanged());
-        QCOMPARE(hoursOf(source).last(), QString("2026-11-20 21h 1 70000"));
+        QCOMPARE(hoursOf(source).constLast(), QString("2026-11-20 21h 1 70000"));
     }
 
     void aStoppedReadingLosesNothing()

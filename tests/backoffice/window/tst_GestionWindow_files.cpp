@@ -83,7 +83,7 @@ private slots:
     {
         OpenGestion gestion;
         gestion.choose("period", 3);
-        QTRY_VERIFY(gestion.page().report() != nullptr);
+        QTRY_VERIFY(gestion.subtitle().startsWith(QStringLiteral("Novembre 2026")));
         QString name;
         const WhenOpen<QFileDialog> dialog([&](QFileDialog& files) {
             name = QFileInfo(files.selectedFiles().value(0)).fileName();
@@ -98,7 +98,7 @@ private slots:
         OpenGestion gestion;
         gestion.choose("period", 3);
         gestion.pages().setCurrentIndex(4);
-        QTRY_VERIFY(gestion.page().report() != nullptr);
+        QTRY_VERIFY(gestion.subtitle().startsWith(QStringLiteral("Vendredi 20 novembre 2026")));
         QString name;
         const WhenOpen<QFileDialog> dialog([&](QFileDialog& files) {
             name = QFileInfo(files.selectedFiles().value(0)).fileName();
