@@ -243,6 +243,7 @@ bool Book::add(const Batch& batch, Progress& progress)
     std::int64_t added = 0;
     connection_.transact([&](pqxx::work& transaction) {
         const auto locked = transaction.exec_params(Statements::lockProgress, till_);
+        refuseLater(locked.at(0).at(1).as<int>());
         isFirst = locked.at(0).at(0).as<std::int64_t>() == progress.number;
         if (!isFirst) {
             return;

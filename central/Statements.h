@@ -34,9 +34,10 @@ inline constexpr const char* addNames
 
 inline constexpr const char* makeMonth = "select vendel.make_month($1::date)";
 
-/// Nobody else changes the till's progress until the transaction ends.
+/// Nobody else changes the till's progress, or the schema, until the transaction ends.
 inline constexpr const char* lockProgress
-    = "select number from vendel.progress where till = $1 for update";
+    = "select number, (select version from vendel.version) from vendel.progress "
+      "where till = $1 for update";
 
 /// Inserts the lines that are not there yet, and adds only those to the sums.
 inline constexpr const char* addLines = R"sql(

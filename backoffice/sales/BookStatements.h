@@ -8,7 +8,7 @@
 /// among these days.
 namespace BookStatements {
 /// The version of the book's schema that these statements read.
-inline constexpr int schemaVersion = 1;
+inline constexpr int schemaVersion = 2;
 
 /// What a connection is told first. What a page asks for is quicker than the making of machine code
 /// for it.

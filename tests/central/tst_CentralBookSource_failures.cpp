@@ -102,7 +102,7 @@ private slots:
         QCOMPARE(refusal(server().uri(book)),
             QString("Le livre central est d'une version plus récente que ce programme, qu'il faut "
                     "mettre à jour."));
-        server().rows(book, "update vendel.version set version = 0");
+        server().rows(book, "update vendel.version set version = 1");
         QCOMPARE(refusal(server().uri(book)),
             QString("Le livre central n'est pas préparé pour cette version : la commande "
                     "« vendel-central --preparer » le prépare."));
