@@ -77,10 +77,24 @@ void BookDatabase::connect(const QString& uri)
     if (!database_.open()) {
         throw notConnected(database_.lastError());
     }
+    run(BookStatements::settings());
+}
+
+void BookDatabase::run(const QString& sql)
+{
     QSqlQuery query(database_);
-    if (!query.exec(BookStatements::settings())) {
+    if (!query.exec(sql)) {
         throw failed(query.lastError());
     }
+}
+
+std::shared_ptr<void> BookDatabase::hold()
+{
+    run(BookStatements::begin());
+    return {this, [](BookDatabase* self) {
+                // When it fails, the connection is broken, and the next statement says so.
+                QSqlQuery(self->database_).exec(BookStatements::end());
+            }};
 }
 
 void BookDatabase::requireSchema()

@@ -222,12 +222,56 @@ private slots:
         const std::string book = server().newBook();
         const SoldTill tills[3];
         for (const SoldTill& till : tills) {
-            send(till, book, "Bar");
+            send(till, book, "Bar %1");
         }
         BookSource source(uri(book));
-        QCOMPARE(list(source.tills()), (QStringList{"Bar", "Bar (2)", "Bar (3)"}));
+        QCOMPARE(list(source.tills()), (QStringList{"Bar %1", "Bar %1 (2)", "Bar %1 (3)"}));
         QCOMPARE(sentence([&] { source.choose({"Cave"}); }),
-            QString("Le livre central n'a pas de caisse « Cave ». Il a : Bar, Bar (2), Bar (3)."));
+            QString("Le livre central n'a pas de caisse « Cave ». Il a : Bar %1, Bar %1 (2), "
+                    "Bar %1 (3)."));
+    }
+
+    void aPageIsOfOneMoment()
+    {
+        const std::string book = server().newBook();
+        const SoldTill till;
+        till.sql(emptied);
+        till.sell("2026-02-01 10:00:00.000", "Café", "2");
+        send(till, book, "Bar");
+        BookSource source(uri(book));
+        const DayRange day = days("2026-02-01", "2026-02-01");
+        std::shared_ptr<void> moment = source.hold();
+        QCOMPARE(shown(source.hours(day, {})), QStringList("0: 2026-02-01 10h 1 20000"));
+        till.sell("2026-02-01 10:30:00.000", "Café", "2");
+        send(till, book, "Bar");
+        QCOMPARE(shown(source.articles(day, {})), QStringList("0: Café 1 20000"));
+        moment.reset();
+        QCOMPARE(shown(source.articles(day, {})), QStringList("0: Café 2 40000"));
+    }
+
+    void aBrokenPageDoesNotHoldTheNextOne()
+    {
+        const std::string book = server().newBook();
+        const SoldTill till;
+        till.sql(emptied);
+        send(till, book, "Bar");
+        BookDatabase database(uri(book));
+        const auto count = [&database] {
+            qint64 lines = -1;
+            database.read("select count(*) from vendel.line", {},
+                [&](const QSqlQuery& row) { lines = row.value(0).toLongLong(); });
+            return lines;
+        };
+        QVERIFY_EXCEPTION_THROWN(([&] {
+            const std::shared_ptr<void> moment = database.hold();
+            count();
+            database.read("select nonsense", {}, [](const QSqlQuery&) {});
+        }()),
+            SalesError);
+        till.sell("2026-02-01 10:30:00.000", "Café", "2");
+        send(till, book, "Bar");
+        const std::shared_ptr<void> moment = database.hold();
+        QCOMPARE(count(), 1);
     }
 
     void anotherTaxRateIsSaid()

@@ -68,6 +68,17 @@ private slots:
                 QStringLiteral("Cave|11 h|1|4,00 €|0,80 €|4,80 €|0,00 €|")}));
     }
 
+    void everyPageIsOfOneMoment()
+    {
+        for (const Page page :
+            {Page::Sales, Page::Articles, Page::Hours, Page::Uses, Page::Closing}) {
+            TwoTills tills;
+            tills.page(page);
+            QVERIFY(tills.held > 0);
+            QCOMPARE(tills.free, 0);
+        }
+    }
+
     void allTillsAreOneInTheChartAndApartInTheFile()
     {
         TwoTills tills;
