@@ -217,6 +217,25 @@ private slots:
         QCOMPARE(list(source.tills()), (QStringList{"Bar", "Terrasse"}));
     }
 
+    void recipesThatDifferInOneDoseAreTwo()
+    {
+        const std::string book = server().newBook();
+        const SoldTill tills[3];
+        const char* const doses[]{"'Lait', 2", "'Lait', 4", "'Eau', 2"};
+        for (int till = 0; till < 3; ++till) {
+            tills[till].sql(QString(emptied)
+                + "insert into ArticleStock values (1, 'Café');"
+                  "insert into DoseStock values (1, 1, "
+                + doses[till] + ", 'cl')");
+            tills[till].sell("2026-02-01 10:00:00.000", "Café", "2");
+            send(tills[till], book, qPrintable(QString("Caisse %1").arg(till)));
+        }
+        BookSource source(uri(book));
+        const DayRange day = days("2026-02-01", "2026-02-01");
+        QCOMPARE(shown(source.uses(day, {})).mid(0, 3),
+            (QStringList{"0: * Lait 2 cl = 0 ", "1: * Lait 4 cl = 0 ", "2: * Eau 2 cl = 0 "}));
+    }
+
     void tillsOfOneNameHaveNumbers()
     {
         const std::string book = server().newBook();
