@@ -179,6 +179,10 @@ private slots:
         QCOMPARE(found,
             (QStringList{"0: * Lait 72.5 cl = 0 ", "0: 2026-01-15 Lait 7.5 cl = 0 ",
                 "0: 2026-02-01 Lait 35 cl = 0 ", "0: 2026-03-01 Lait 7.5 cl = 0 "}));
+        // March is not a whole month here, and is not counted twice.
+        QCOMPARE(shown(source.uses(days("2025-12-15", "2026-03-15"), {})).filter("Lait"),
+            (QStringList{"0: * Lait 72.5 cl = 0 ", "0: 2026-01-01 Lait 7.5 cl = 0 ",
+                "0: 2026-02-01 Lait 35 cl = 0 ", "0: 2026-03-01 Lait 7.5 cl = 0 "}));
     }
 
     void twoTillsAreTheirSum()

@@ -178,6 +178,12 @@ private slots:
         QCOMPARE(tills.page(Page::Sales).notes.at(0), QStringLiteral("Another rate."));
         QCOMPARE(tills.page(Page::Closing).notes.at(0), QStringLiteral("Another rate."));
         QVERIFY(tills.page(Page::Hours).notes.empty());
+        // A rate that the reader has chosen is one for all.
+        ReportOrder order;
+        order.range = {friday, friday};
+        order.taxRate = 10;
+        order.locale = Seen::french;
+        QVERIFY(makeReport(order, tills, {}).notes.at(0) != QStringLiteral("Another rate."));
     }
 };
 
