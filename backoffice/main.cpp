@@ -11,7 +11,10 @@
 #include <QApplication>
 #include <QDir>
 
+#include <chrono>
 #include <csignal>
+#include <cstdlib>
+#include <thread>
 
 #include <fcntl.h>
 
@@ -81,6 +84,15 @@ int writeFile(const Order& order, const Session& session)
     return 0;
 }
 
+/// A server that hangs must not keep a program without a window: its reader waits for an answer.
+void endWithin(std::chrono::seconds patience, int status)
+{
+    std::thread([patience, status] {
+        std::this_thread::sleep_for(patience);
+        std::_Exit(status);
+    }).detach();
+}
+
 int showWindow(const Order& order, const Session& session)
 {
     // An import changes the working directory.
@@ -95,7 +107,11 @@ int showWindow(const Order& order, const Session& session)
     MainWindow window({[all, folder] { return open(all, folder); }, makeReport, session.locale(),
         &QDate::currentDate, folder, session.csvFormat(), !order.central.isEmpty(), order.tills});
     window.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    if (!order.central.isEmpty()) {
+        endWithin(std::chrono::seconds(3), status);
+    }
+    return status;
 }
 
 int run(const Order& order, const Session& session)

@@ -25,6 +25,8 @@ Report makePage(const ReportOrder& order, SalesSource& source, const Reading& re
 
 Report makeReport(const ReportOrder& order, SalesSource& source, const Reading& reading)
 {
+    // What the book says of all tills is the sum of what it says of each.
+    const std::shared_ptr<void> moment = source.hold();
     Report report = makePage(order, source, reading);
     TillColumn::addHead(report, order, source);
     return report;

@@ -11,12 +11,23 @@
 #include <algorithm>
 
 namespace {
+QString plain(const QString& line)
+{
+    constexpr std::size_t longest = 200;
+    return QString::fromStdString(plainText(line.toStdString(), longest));
+}
+
 /// The first line of what the server or its client says.
 QString firstLine(const QSqlError& error)
 {
-    constexpr std::size_t longest = 200;
-    const QString line = error.databaseText().trimmed().section(QLatin1Char('\n'), 0, 0);
-    return QString::fromStdString(plainText(line.toStdString(), longest));
+    return plain(error.databaseText().trimmed().section(QLatin1Char('\n'), 0, 0));
+}
+
+/// What a server answered. Others that were tried before it may not have answered.
+QString answer(const QString& said)
+{
+    const auto at = std::max(0, static_cast<int>(said.indexOf(QLatin1String("FATAL"))));
+    return plain(said.mid(at).section(QLatin1Char('\n'), 0, 0));
 }
 
 /// The server speaks the language that it was installed in.
@@ -77,10 +88,24 @@ void BookDatabase::connect(const QString& uri)
     if (!database_.open()) {
         throw notConnected(database_.lastError());
     }
+    run(BookStatements::settings());
+}
+
+void BookDatabase::run(const QString& sql)
+{
     QSqlQuery query(database_);
-    if (!query.exec(BookStatements::settings())) {
+    if (!query.exec(sql)) {
         throw failed(query.lastError());
     }
+}
+
+std::shared_ptr<void> BookDatabase::hold()
+{
+    run(BookStatements::begin());
+    return {this, [](BookDatabase* self) {
+                // When it fails, the connection is broken, and the next statement says so.
+                QSqlQuery(self->database_).exec(BookStatements::end());
+            }};
 }
 
 void BookDatabase::requireSchema()
@@ -132,10 +157,8 @@ SalesError BookDatabase::notConnected(const QSqlError& error)
             tr("L'adresse du livre central ne peut pas être lue : %1").arg(firstLine(error)));
     }
     if (contains(said, {"FATAL"})) {
-        const QString line = firstLine(error);
-        return SalesError(tr("Le serveur du livre central refuse la connexion : %1")
-                              .arg(line.mid(std::max(
-                                  0, static_cast<int>(line.indexOf(QStringLiteral("FATAL")))))));
+        return SalesError(
+            tr("Le serveur du livre central refuse la connexion : %1").arg(answer(said)));
     }
     return SalesError(tr("Le livre central est injoignable : %1").arg(firstLine(error)));
 }

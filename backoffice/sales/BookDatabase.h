@@ -31,11 +31,15 @@ public:
     void read(const QString& sql, const QVariantList& values, const Row& row,
         const Reading& reading = {});
 
+    /// While the returned object lives, all is read as it was when the first row was.
+    std::shared_ptr<void> hold();
+
     /// Refuses what is no URI of a database, or one with a password in it.
     static void requireUri(const QString& uri);
 
 private:
     void connect(const QString& uri);
+    void run(const QString& sql);
     void requireSchema();
     static SalesError notConnected(const QSqlError& error);
     static SalesError failed(const QSqlError& error);

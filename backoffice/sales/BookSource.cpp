@@ -52,7 +52,7 @@ void BookSource::readTills()
         const QString own = row.value(1).toString();
         QString name = own;
         for (int number = 2; names.contains(name); ++number) {
-            name = QStringLiteral("%1 (%2)").arg(own).arg(number);
+            name = own + QStringLiteral(" (%1)").arg(number);
         }
         names.insert(name);
         found.push_back({row.value(0).toInt(), name, row.value(2).toDouble()});
@@ -136,6 +136,8 @@ int BookSource::place(const QVariant& key) const
     }
     return place;
 }
+
+std::shared_ptr<void> BookSource::hold() { return database_.hold(); }
 
 std::vector<HourSales> BookSource::hours(const DayRange& range, const Reading& reading)
 {
@@ -334,6 +336,9 @@ double BookSource::taxRate()
     std::map<double, int> counts;
     for (const Till& till : chosen()) {
         ++counts[till.taxRate];
+    }
+    if (counts.empty()) {
+        return 0;
     }
     return std::max_element(counts.begin(), counts.end(), [](const auto& one, const auto& other) {
         return one.second < other.second;

@@ -20,6 +20,7 @@ public:
     std::vector<QString> allTills() const override;
     std::vector<QString> tills() const override;
     void choose(const std::vector<QString>& names) override;
+    std::shared_ptr<void> hold() override;
     std::vector<HourSales> hours(const DayRange& range, const Reading& reading) override;
     std::vector<HourSales> tillSales(
         const DayRange& range, TillPart part, const Reading& reading) override;

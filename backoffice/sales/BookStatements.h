@@ -19,6 +19,10 @@ inline QString settings()
                           "set datestyle = 'ISO'; set jit = off; set work_mem = '64MB'");
 }
 
+/// Between these two, every statement reads the book as the first one did.
+inline QString begin() { return QStringLiteral("begin isolation level repeatable read"); }
+inline QString end() { return QStringLiteral("rollback"); }
+
 inline QString version() { return QStringLiteral("select version from vendel.version"); }
 
 inline QString tills()

@@ -69,6 +69,11 @@ bool takeQuery(const QString& query, Settings& settings)
         if (key.isEmpty() || !std::all_of(key.begin(), key.end(), isPlain)) {
             return false;
         }
+        // Another spelling that libpq knows in a URI only.
+        if (key == QLatin1String("ssl") && value == QLatin1String("true")) {
+            settings[QStringLiteral("sslmode")] = QStringLiteral("require");
+            continue;
+        }
         settings[key] = decoded(value);
     }
     return true;

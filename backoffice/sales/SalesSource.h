@@ -11,6 +11,7 @@
 #include <atomic>
 #include <exception>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -122,6 +123,10 @@ public:
 
     /// Whether files say of which till each row is.
     virtual bool namesTills() const { return false; }
+
+    /// While the returned object lives, which is no longer than this one, all is read as it was at
+    /// one moment; null where sales may be added in between.
+    virtual std::shared_ptr<void> hold() { return nullptr; }
 
     /// The hours of \a range with a sale, in the order of time. Where there are several tills,
     /// they may be added up, as if they were the first.

@@ -68,6 +68,7 @@ private:
     void carryOut(const Order& order);
     void look();
     void openSource();
+    void offerTills();
     /// Runs \a report in the object's thread, unless order \a number is out of date there.
     void send(int number, std::function<void()> report);
     void deliver();

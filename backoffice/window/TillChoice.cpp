@@ -87,6 +87,10 @@ void TillChoice::takeAll()
 
 void TillChoice::take(const QString& name, bool isWanted)
 {
+    // A till that has another name by now could not be unchosen.
+    chosen_.erase(std::remove_if(chosen_.begin(), chosen_.end(),
+                      [this](const QString& one) { return !isOffered(one); }),
+        chosen_.end());
     const auto place = std::find(chosen_.begin(), chosen_.end(), name);
     if (isWanted && place == chosen_.end()) {
         chosen_.push_back(name);
@@ -95,6 +99,12 @@ void TillChoice::take(const QString& name, bool isWanted)
     }
     showChoice();
     emit chosen();
+}
+
+bool TillChoice::isOffered(const QString& name) const
+{
+    return std::any_of(each_.begin(), each_.end(),
+        [&name](const QAction* action) { return action->data().toString() == name; });
 }
 
 void TillChoice::showChoice()

@@ -29,6 +29,7 @@ signals:
 private:
     void takeAll();
     void take(const QString& name, bool isWanted);
+    bool isOffered(const QString& name) const;
     void showChoice();
 
     QMenu* menu_;

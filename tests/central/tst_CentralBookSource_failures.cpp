@@ -45,6 +45,8 @@ private slots:
         QVERIFY(parts->options.contains("connect_timeout='3' "));
         QVERIFY(parts->options.contains("port='5433,,'"));
         QVERIFY(parts->options.contains("sslmode='require'"));
+        QVERIFY(
+            BookUri::of("postgresql://one/book?ssl=true")->options.contains("sslmode='require'"));
         QVERIFY(!BookUri::of("postgresql://one/book?sslmode=a;b"));
         QVERIFY(!BookUri::of("postgresql://[::1/book"));
         QCOMPARE(BookUri::of("postgresql:///book?host=/run/it's")->host, QString("/run/it's"));
@@ -84,6 +86,12 @@ private slots:
                      "Le serveur du livre central refuse la connexion : FATAL:  database \"none\""),
             qPrintable(said));
         QVERIFY(refusal(server().uri("postgres", "nobody")).contains("role \"nobody\""));
+        // One server is away, the other one answers.
+        const QString second
+            = refusal("postgresql://owner@/none?host=/nowhere," + server().folder());
+        QVERIFY2(second.startsWith(
+                     "Le serveur du livre central refuse la connexion : FATAL:  database \"none\""),
+            qPrintable(second));
     }
 
     void noBook()

@@ -68,6 +68,17 @@ private slots:
                 QStringLiteral("Cave|11 h|1|4,00 €|0,80 €|4,80 €|0,00 €|")}));
     }
 
+    void everyPageIsOfOneMoment()
+    {
+        for (const Page page :
+            {Page::Sales, Page::Articles, Page::Hours, Page::Uses, Page::Closing}) {
+            TwoTills tills;
+            tills.page(page);
+            QVERIFY(tills.held > 0);
+            QCOMPARE(tills.free, 0);
+        }
+    }
+
     void allTillsAreOneInTheChartAndApartInTheFile()
     {
         TwoTills tills;
@@ -167,6 +178,12 @@ private slots:
         QCOMPARE(tills.page(Page::Sales).notes.at(0), QStringLiteral("Another rate."));
         QCOMPARE(tills.page(Page::Closing).notes.at(0), QStringLiteral("Another rate."));
         QVERIFY(tills.page(Page::Hours).notes.empty());
+        // A rate that the reader has chosen is one for all.
+        ReportOrder order;
+        order.range = {friday, friday};
+        order.taxRate = 10;
+        order.locale = Seen::french;
+        QVERIFY(makeReport(order, tills, {}).notes.at(0) != QStringLiteral("Another rate."));
     }
 };
 

@@ -9,18 +9,30 @@
 #include <QSignalSpy>
 
 namespace {
-/// A book of two tills, of which "Bar" sells 10.00 a day and "Cave" 20.00.
+/// A book of two tills, of which "Bar" sells 10.00 a day and "R&D" 20.00.
 class SampleBook : public SampleSales
 {
 public:
-    using SampleSales::SampleSales;
+    SampleBook(SampleShop& shop, const std::atomic<bool>& isRenamed)
+        : SampleSales(shop)
+        , isRenamed_(isRenamed)
+    { }
 
     std::vector<QString> allTills() const override
     {
-        return {QStringLiteral("Bar"), QStringLiteral("R&D")};
+        return {QStringLiteral("Bar"), isRenamed_ ? QStringLiteral("Labo") : QStringLiteral("R&D")};
     }
     std::vector<QString> tills() const override { return chosen_.empty() ? allTills() : chosen_; }
-    void choose(const std::vector<QString>& names) override { chosen_ = names; }
+    void choose(const std::vector<QString>& names) override
+    {
+        const std::vector<QString> all = allTills();
+        for (const QString& name : names) {
+            if (std::find(all.begin(), all.end(), name) == all.end()) {
+                throw SalesError(QStringLiteral("pas de caisse ") + name);
+            }
+        }
+        chosen_ = names;
+    }
     bool namesTills() const override { return true; }
     std::vector<HourSales> hours(const DayRange& range, const Reading&) override
     {
@@ -33,13 +45,14 @@ public:
     }
 
 private:
+    const std::atomic<bool>& isRenamed_;
     std::vector<QString> chosen_;
 };
 
 struct OpenBook
 {
     explicit OpenBook(std::vector<QString> tills = {})
-        : window({[this] { return std::make_unique<SampleBook>(shop); }, makeReport,
+        : window({[this] { return std::make_unique<SampleBook>(shop, isRenamed); }, makeReport,
             QLocale(QLocale::French, QLocale::France), [] { return QDate(2026, 11, 20); },
             QString(), std::nullopt, true, std::move(tills)})
     {
@@ -78,6 +91,8 @@ struct OpenBook
 
     QTemporaryDir settings;
     SampleShop shop;
+    /// "R&D" is "Labo" by now.
+    std::atomic<bool> isRenamed = false;
     MainWindow window;
 };
 } // namespace
@@ -140,6 +155,22 @@ private slots:
         QCOMPARE(book.choice().text(), QString("Bar"));
         QTRY_VERIFY(book.choice().menu()->actions().size() == 4);
         QVERIFY(book.choice().menu()->actions().at(2)->isChecked());
+    }
+
+    void aRenamedTillCanBeChosenByItsNewName()
+    {
+        OpenBook book({QStringLiteral("R&D")});
+        QTRY_COMPARE(book.total(), QString("20,00 €"));
+        book.isRenamed = true;
+        book.shop.isChanged = true;
+        QTRY_VERIFY(!book.choice().menu()->actions().isEmpty()
+            && book.choice().menu()->actions().constLast()->text() == QString("Labo"));
+        QTRY_VERIFY(book.total().isEmpty());
+        QMenu& menu = book.open();
+        OpenBook::click(menu, "Labo");
+        QTRY_COMPARE(book.total(), QString("20,00 €"));
+        QCOMPARE(book.choice().text(), QString("Labo"));
+        menu.hide();
     }
 
     void aBookHasNoMenuToWrite()
