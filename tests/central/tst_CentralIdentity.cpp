@@ -106,6 +106,14 @@ private slots:
         line = good;
         line.article = "1.5";
         QVERIFY(!line.isRegular());
+        line = good;
+        line.name = std::string(2000, 'a');
+        QVERIFY(line.isRegular());
+        line.name += 'a';
+        QVERIFY(!line.isRegular());
+        line = good;
+        line.exactPrice = std::string(201, '1');
+        QVERIFY(!line.isRegular());
     }
 
     void linesThatDifferHaveOtherContents()
