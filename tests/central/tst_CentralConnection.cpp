@@ -5,6 +5,7 @@
 #include "tests/central/SoldTill.h"
 #include "tests/support/TestProgram.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -276,6 +277,29 @@ private slots:
             QCOMPARE(said.status, static_cast<int>(BookStatus::BadUsage));
             QVERIFY2(said.errors.contains("n'est pas l'adresse"), qPrintable(said.errors));
         }
+    }
+
+    void theRememberedBookIsSentToAndNotedAsReached()
+    {
+        BookServer& server = BookServer::get();
+        const std::string book = server.newBook();
+        const SoldTill till;
+        till.sell("2026-03-05 10:00:00.000");
+        QFile remembered(till.path() + "/central");
+        QVERIFY(remembered.open(QIODevice::WriteOnly));
+        remembered.write(QByteArray::fromStdString(server.uri(book)) + '\n');
+        remembered.close();
+        QFile reached(till.path() + "/.central-vu");
+        QCOMPARE(till.sendTo(server.uri(server.newBook())).status, 0);
+        QVERIFY(!reached.exists());
+        QCOMPARE(till.command({"--envoyer"}).output,
+            "Le livre central a reçu 1 nouvelle(s) ligne(s) de vente.\n");
+        QVERIFY(reached.open(QIODevice::ReadOnly));
+        const QDateTime moment = QDateTime::fromString(
+            QString::fromLatin1(reached.readAll()), "yyyy-MM-dd HH:mm:ss\n");
+        constexpr qint64 minute = 60;
+        QVERIFY(moment.isValid() && qAbs(moment.secsTo(QDateTime::currentDateTime())) < minute);
+        QCOMPARE(SoldTill::bookLines(book), till.lines());
     }
 
     void textsAreUtf8WhateverTheMachineIsSetTo()

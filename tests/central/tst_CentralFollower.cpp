@@ -101,6 +101,15 @@ private slots:
                      QFile::encodeName(till.file()).constData()),
             0);
         QTRY_COMPARE_WITH_TIMEOUT(SoldTill::bookLines(book).size(), 3, tenSeconds);
+
+        // Its last line says nothing of what is before it.
+        const SoldTill third;
+        third.sell("2026-02-01 10:00:00.000");
+        third.sell("2026-03-07 10:00:00.000");
+        QCOMPARE(::rename(QFile::encodeName(third.file()).constData(),
+                     QFile::encodeName(till.file()).constData()),
+            0);
+        QTRY_COMPARE_WITH_TIMEOUT(SoldTill::bookLines(book).size(), 4, tenSeconds);
     }
 
     void itEndsInOrder()

@@ -364,6 +364,16 @@ private slots:
         QCOMPARE(SoldTill::bookLines(book_), till.lines());
     }
 
+    void aZeroInATextHoldsNothingUp()
+    {
+        const SoldTill till;
+        till.sell("2026-03-05 10:00:00.000", "a' || char(0) || 'b");
+        till.sell("2026-03-05 10:00:01.000");
+        QCOMPARE(till.send(book_), std::int64_t{2});
+        QCOMPARE(till.send(book_), std::int64_t{0});
+        QCOMPARE(SoldTill::bookLines(book_).value(0), "2026-03-05 10:00:00.000 1 a\uFFFDb 25000");
+    }
+
     void twoSendersOfOneTillDoNotDouble()
     {
         const SoldTill till;
