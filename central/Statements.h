@@ -3,11 +3,13 @@
 
 /// The statements that carry lines into the book.
 namespace Statements {
-/// What each transaction begins with. A server that is stuck must not hold a till's sender, nor
-/// the next one.
+/// What each transaction begins with: its answer is the encoding of the book's texts. A server that
+/// is stuck must not hold a till's sender, nor the next one; and what a till says is UTF-8,
+/// whatever the machine's settings ask of PostgreSQL's client.
 inline constexpr const char* begin
     = "set local statement_timeout = '60s'; set local lock_timeout = '30s'; "
-      "set local idle_in_transaction_session_timeout = '120s'; set local datestyle = 'ISO'";
+      "set local idle_in_transaction_session_timeout = '120s'; set local datestyle = 'ISO'; "
+      "set local client_encoding = 'UTF8'; select current_setting('server_encoding')";
 
 inline constexpr const char* schemaVersion = "select version from vendel.version";
 
