@@ -80,7 +80,8 @@ struct OpenBook
     }
     static void click(QMenu& menu, const QString& text)
     {
-        for (QAction* action : menu.actions()) {
+        const QList<QAction*> actions = menu.actions();
+        for (QAction* action : actions) {
             if (action->text() == text) {
                 QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
                 return;
@@ -177,7 +178,8 @@ private slots:
     {
         const OpenBook book;
         QStringList titles;
-        for (const QAction* action : book.window.menuBar()->actions()) {
+        const QList<QAction*> actions = book.window.menuBar()->actions();
+        for (const QAction* action : actions) {
             titles += action->text();
         }
         QCOMPARE(titles, (QStringList{"&Fichier", "&Affichage"}));
