@@ -1,41 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "backoffice/sales/BookSource.h"
 
+#include "backoffice/sales/BookDays.h"
 #include "backoffice/sales/BookStatements.h"
+#include "backoffice/sales/BookUses.h"
 
 #include <QSet>
 #include <QStringList>
 
 #include <algorithm>
 #include <map>
-
-namespace {
-/// A range as the statements take it: its days before, in and behind its whole months.
-struct Days
-{
-    QDate first;
-    QDate months;
-    QDate monthsEnd;
-    QDate behind;
-
-    explicit Days(const DayRange& range)
-        : first(range.first)
-        , behind(range.last.addDays(1))
-    {
-        const QDate sameMonth(first.year(), first.month(), 1);
-        months = std::min(first == sameMonth ? first : sameMonth.addMonths(1), behind);
-        monthsEnd = std::max(QDate(behind.year(), behind.month(), 1), months);
-    }
-
-    QVariantList ofMonths() const { return {months, monthsEnd}; }
-    QVariantList besideMonths() const { return {first, months, monthsEnd, behind}; }
-};
-
-QString array(const QStringList& values)
-{
-    return QLatin1Char('{') + values.join(QLatin1Char(',')) + QLatin1Char('}');
-}
-} // namespace
 
 BookSource::BookSource(const QString& uri)
     : database_(uri)
@@ -112,15 +86,17 @@ void BookSource::choose(const std::vector<QString>& names)
     }
 }
 
-/// The keys of the chosen tills, as PostgreSQL writes an array.
-QString BookSource::keys() const
+std::vector<int> BookSource::chosenKeys() const
 {
-    QStringList keys;
+    std::vector<int> keys;
     for (const Till& till : chosen()) {
-        keys += QString::number(till.id);
+        keys.push_back(till.id);
     }
-    return array(keys);
+    return keys;
 }
+
+/// The keys of the chosen tills, as the statements take them.
+QString BookSource::keys() const { return BookStatements::array(chosenKeys()); }
 
 /// The place of a till among those that are read.
 int BookSource::place(const QVariant& key) const
@@ -141,7 +117,7 @@ std::shared_ptr<void> BookSource::hold() { return database_.hold(); }
 
 std::vector<HourSales> BookSource::hours(const DayRange& range, const Reading& reading)
 {
-    const Days days(range);
+    const BookDays days(range);
     std::vector<HourSales> hours;
     database_.read(
         BookStatements::hours(), {days.first, days.behind, keys()},
@@ -156,7 +132,7 @@ std::vector<HourSales> BookSource::hours(const DayRange& range, const Reading& r
 std::vector<HourSales> BookSource::tillSales(
     const DayRange& range, TillPart part, const Reading& reading)
 {
-    const Days days(range);
+    const BookDays days(range);
     const QVariantList usual{days.first, days.behind, keys()};
     const auto [sql, values] = [&]() -> std::pair<QString, QVariantList> {
         switch (part) {
@@ -189,7 +165,7 @@ std::vector<HourSales> BookSource::tillSales(
 
 std::vector<ArticleSales> BookSource::articles(const DayRange& range, const Reading& reading)
 {
-    const Days days(range);
+    const BookDays days(range);
     std::vector<ArticleSales> articles;
     database_.read(
         BookStatements::articles(),
@@ -208,113 +184,9 @@ std::vector<ArticleSales> BookSource::articles(const DayRange& range, const Read
     return articles;
 }
 
-/// Tills that have the same recipes are computed together.
-std::vector<BookSource::Group> BookSource::groups(const Reading& reading)
-{
-    std::map<QString, std::size_t> known;
-    std::vector<Group> groups;
-    database_.read(
-        BookStatements::recipes(), {keys()},
-        [&](const QSqlQuery& row) {
-            const auto [found, isNew] = known.try_emplace(row.value(1).toString(), groups.size());
-            if (isNew) {
-                groups.emplace_back();
-            }
-            groups.at(found->second).keys.push_back(row.value(0).toInt());
-        },
-        reading);
-    for (Group& group : groups) {
-        const QVariantList till{group.keys.front()};
-        database_.read(
-            BookStatements::stockArticles(), till,
-            [&](const QSqlQuery& row) {
-                group.articles.push_back({row.value(0), row.value(1)});
-            },
-            reading);
-        database_.read(
-            BookStatements::doses(), till,
-            [&](const QSqlQuery& row) {
-                group.doses.push_back(
-                    {row.value(0), row.value(1), row.value(2), row.value(3), row.value(4)});
-            },
-            reading);
-    }
-    return groups;
-}
-
-/// Adds to each group what its tills sold in all of \a range.
-void BookSource::readPeriod(
-    std::vector<Group>& groups, const DayRange& range, const Reading& reading)
-{
-    std::map<int, Group*> groupOf;
-    for (Group& group : groups) {
-        for (const int key : group.keys) {
-            groupOf[key] = &group;
-        }
-    }
-    const Days days(range);
-    database_.read(
-        BookStatements::uses(),
-        days.ofMonths() + QVariantList{keys()} + days.besideMonths() + QVariantList{keys()},
-        [&](const QSqlQuery& row) {
-            groupOf.at(row.value(0).toInt())
-                ->lines.push_back({QDate(), place(row.value(0)), row.value(1).toString(),
-                    row.value(2).toLongLong()});
-        },
-        reading);
-}
-
-/// Adds to each group what its tills together sold on each day, or in each month, of \a range.
-void BookSource::readParts(
-    std::vector<Group>& groups, const DayRange& range, const Reading& reading)
-{
-    QStringList members;
-    QStringList parts;
-    for (std::size_t group = 0; group < groups.size(); ++group) {
-        for (const int key : groups.at(group).keys) {
-            members += QString::number(key);
-            parts += QString::number(group);
-        }
-    }
-    const QVariantList tillsOfGroups{array(members), array(parts)};
-    const Days days(range);
-    const bool isByMonth = range.grain() == DayRange::Grain::Month;
-    const QVariantList values = isByMonth
-        ? QVariantList{days.first} + days.besideMonths() + days.ofMonths() + tillsOfGroups
-        : tillsOfGroups + QVariantList{days.first, days.behind};
-    database_.read(
-        isByMonth ? BookStatements::usesByMonth() : BookStatements::usesByDay(), values,
-        [&](const QSqlQuery& row) {
-            Group& group = groups.at(static_cast<std::size_t>(row.value(0).toInt()));
-            group.lines.push_back({row.value(1).toDate(), place(group.keys.front()),
-                row.value(2).toString(), row.value(3).toLongLong()});
-        },
-        reading);
-}
-
 std::vector<Use> BookSource::uses(const DayRange& range, const Reading& reading)
 {
-    std::vector<Group> all = groups(reading);
-    readPeriod(all, range, reading);
-    readParts(all, range, reading);
-    std::vector<Use> uses;
-    for (const Group& group : all) {
-        UseTables tables;
-        for (const QVariantList& row : group.articles) {
-            tables.addStockArticle(row);
-        }
-        for (const QVariantList& row : group.doses) {
-            tables.addDose(row);
-        }
-        tables.addLines(group.lines);
-        const std::vector<Use> found = tables.uses(reading);
-        uses.insert(uses.end(), found.begin(), found.end());
-    }
-    // A day that is not valid is before all others.
-    std::stable_sort(uses.begin(), uses.end(), [](const Use& one, const Use& other) {
-        return std::pair(one.day, one.till) < std::pair(other.day, other.till);
-    });
-    return uses;
+    return BookUses(database_, chosenKeys()).of(range, reading);
 }
 
 std::vector<MenuArticle> BookSource::menu()

@@ -3,7 +3,6 @@
 
 #include "backoffice/sales/BookDatabase.h"
 #include "backoffice/sales/SalesSource.h"
-#include "backoffice/sales/UseTables.h"
 
 #include <optional>
 
@@ -38,22 +37,12 @@ private:
         QString name;
         double taxRate = 0;
     };
-    /// Tills with the same recipes.
-    struct Group
-    {
-        std::vector<int> keys;
-        std::vector<QVariantList> articles;
-        std::vector<QVariantList> doses;
-        std::vector<UseTables::Lines> lines;
-    };
 
     void readTills();
     std::vector<Till> chosen() const;
+    std::vector<int> chosenKeys() const;
     QString keys() const;
     int place(const QVariant& key) const;
-    std::vector<Group> groups(const Reading& reading);
-    void readPeriod(std::vector<Group>& groups, const DayRange& range, const Reading& reading);
-    void readParts(std::vector<Group>& groups, const DayRange& range, const Reading& reading);
 
     BookDatabase database_;
     std::vector<Till> tills_;

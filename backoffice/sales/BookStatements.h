@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include <QStringList>
+
+#include <vector>
 
 /// Every statement that the back office runs on the central book. Tills are an array of their keys.
 /// Days are from the first to before the last; where months are asked for, they are the whole ones
@@ -22,6 +24,16 @@ inline QString settings()
 /// Between these two, every statement reads the book as the first one did.
 inline QString begin() { return QStringLiteral("begin isolation level repeatable read"); }
 inline QString end() { return QStringLiteral("rollback"); }
+
+/// \a keys as PostgreSQL writes an array.
+inline QString array(const std::vector<int>& keys)
+{
+    QStringList texts;
+    for (const int key : keys) {
+        texts += QString::number(key);
+    }
+    return QLatin1Char('{') + texts.join(QLatin1Char(',')) + QLatin1Char('}');
+}
 
 inline QString version() { return QStringLiteral("select version from vendel.version"); }
 
@@ -131,9 +143,9 @@ inline QString uses()
 inline QString usesByDay()
 {
     return QStringLiteral(
-        "select part, day, folded, sum(lines)::bigint from vendel.day_use join "
+        "select part, day, folded, sum(lines)::bigint as lines from vendel.day_use join "
         "unnest(cast(? as integer[]), cast(? as integer[])) as parts (member, part) "
-        "on member = till where day >= ? and day < ? group by 1, 2, 3 order by 2, 1, 3");
+        "on member = till where day >= ? and day < ? group by 1, 2, 3");
 }
 
 /// The same, each month as its first day. Values: the first day, days before and behind the
@@ -141,13 +153,40 @@ inline QString usesByDay()
 inline QString usesByMonth()
 {
     return QStringLiteral(
-        "select part, period, folded, sum(lines)::bigint from ("
+        "select part, day, folded, sum(lines)::bigint as lines from ("
         "select till, folded, lines, greatest(date_trunc('month', day)::date, cast(? as date)) "
-        "as period from vendel.day_use where day >= ? and day < ? or day >= ? and day < ? "
+        "as day from vendel.day_use where day >= ? and day < ? or day >= ? and day < ? "
         "union all select till, folded, lines, month from vendel.month_use "
-        "where month >= ? and month < ?) as lines join "
+        "where month >= ? and month < ?) as days join "
         "unnest(cast(? as integer[]), cast(? as integer[])) as parts (member, part) "
-        "on member = till group by 1, 2, 3 order by 2, 1, 3");
+        "on member = till group by 1, 2, 3");
+}
+
+/// The rows of \a sold, one of the two above, by day.
+inline QString inOrder(const QString& sold) { return sold + QStringLiteral(" order by 2, 1, 3"); }
+
+/// \a text as the till compares it, without regard to the case of A to Z.
+inline QString foldedText(const QString& text)
+{
+    return QStringLiteral(
+        "translate(%1, 'ABCDEFGHIJKLMNOPQRSTUVWXYZ', 'abcdefghijklmnopqrstuvwxyz')")
+        .arg(text);
+}
+
+/// Day, composition, unit, amount, of what \a sold, one of the two above, was made of. The number
+/// of a group is the key of a till whose recipes are its own. Values: those of \a sold.
+inline QString composed(const QString& sold)
+{
+    return QStringLiteral(
+        "with sold as materialized (%1), recipes as materialized ("
+        "select distinct dose.till as part, %2 as folded, composition, dose, unit "
+        "from vendel.dose join vendel.stock_article as stock "
+        "on stock.till = dose.till and stock.id = stock_article "
+        "where dose.till in (select part from sold)) "
+        "select day, composition, unit, sum(lines * dose) from sold join recipes "
+        "using (part, folded) group by 1, 2, 3 order by 1, %3, 2")
+        .arg(
+            sold, foldedText(QStringLiteral("article")), foldedText(QStringLiteral("composition")));
 }
 
 /// Till, article, price. Values: tills.
@@ -157,28 +196,33 @@ inline QString menu()
                           "where till = any (cast(? as integer[])) order by till, article, id");
 }
 
-/// Till, a text that is equal for tills with the same recipes. Values: tills.
+/// Till, a text that is equal for tills with the same recipes, and whether a composition stands in
+/// them in several units or spellings. Values: tills.
 inline QString recipes()
 {
     return QStringLiteral(
         "select id, md5(concat((select string_agg(cast(row(s.id, article) as text), '' "
         "order by s.id) from vendel.stock_article s where s.till = all_tills.id), ' ', "
         "(select string_agg(cast(row(line, stock_article, composition, dose, unit) as text), '' "
-        "order by line) from vendel.dose where till = all_tills.id))) "
-        "from vendel.till as all_tills where id = any (cast(? as integer[])) order by id");
+        "order by line) from vendel.dose where till = all_tills.id))), "
+        "exists (select from vendel.dose where till = all_tills.id group by %1 "
+        "having count(distinct (composition, unit)) > 1) "
+        "from vendel.till as all_tills where id = any (cast(? as integer[])) order by id")
+        .arg(foldedText(QStringLiteral("composition")));
 }
 
-/// Key, article. Value: a till.
+/// Till, key, article. Values: tills.
 inline QString stockArticles()
 {
-    return QStringLiteral(
-        "select id, article from vendel.stock_article where till = ? order by id");
+    return QStringLiteral("select till, id, article from vendel.stock_article "
+                          "where till = any (cast(? as integer[])) order by till, id");
 }
 
-/// Key, article's key, composition, dose, unit. Value: a till.
+/// Till, key, article's key, composition, dose, unit. Values: tills.
 inline QString doses()
 {
-    return QStringLiteral("select line, stock_article, composition, dose, unit from vendel.dose "
-                          "where till = ? order by line");
+    return QStringLiteral(
+        "select till, line, stock_article, composition, dose, unit from vendel.dose "
+        "where till = any (cast(? as integer[])) order by till, line");
 }
 } // namespace BookStatements

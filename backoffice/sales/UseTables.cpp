@@ -26,38 +26,49 @@ UseTables::UseTables()
     database_.setDatabaseName(QStringLiteral(":memory:"));
     database_.open();
     for (const char* table : TillStatements::useTables) {
-        run(QLatin1String(table), {});
+        run(QLatin1String(table));
     }
+    prepare(addStockArticle_, TillStatements::addStockArticle());
+    prepare(addDose_, TillStatements::addDose());
+    prepare(addCount_, TillStatements::addCount());
 }
 
 UseTables::~UseTables()
 {
+    for (QSqlQuery* query : {&addStockArticle_, &addDose_, &addCount_}) {
+        *query = QSqlQuery();
+    }
     database_ = QSqlDatabase();
     QSqlDatabase::removeDatabase(connection_);
 }
 
-void UseTables::run(const QString& sql, const QVariantList& values)
+void UseTables::run(const QString& sql)
 {
     QSqlQuery query(database_);
-    require(query.prepare(sql), query);
-    for (const QVariant& value : values) {
-        query.addBindValue(value);
-    }
-    require(query.exec(), query);
+    require(query.exec(sql), query);
 }
 
-void UseTables::addStockArticle(const QVariantList& row)
+void UseTables::prepare(QSqlQuery& query, const QString& sql)
 {
-    run(TillStatements::addStockArticle(), row);
+    query = QSqlQuery(database_);
+    require(query.prepare(sql), query);
 }
 
-void UseTables::addDose(const QVariantList& row) { run(TillStatements::addDose(), row); }
+void UseTables::add(QSqlQuery& to, const QVariantList& row)
+{
+    for (int place = 0; place < row.size(); ++place) {
+        to.bindValue(place, row.at(place));
+    }
+    require(to.exec(), to);
+}
+
+void UseTables::addStockArticle(const QVariantList& row) { add(addStockArticle_, row); }
+
+void UseTables::addDose(const QVariantList& row) { add(addDose_, row); }
 
 void UseTables::addCounts(const CountFigures& counts, QDate first)
 {
     database_.transaction();
-    QSqlQuery query(database_);
-    require(query.prepare(TillStatements::addCount()), query);
     parts_.push_back({QDate(), 0});
     QDate day = first;
     for (const CountFigures::Count& count : counts.result()) {
@@ -68,31 +79,21 @@ void UseTables::addCounts(const CountFigures& counts, QDate first)
         if (!(parts_.back() == part)) {
             parts_.push_back(part);
         }
-        query.bindValue(0, part.number());
-        query.bindValue(1, count.article);
-        query.bindValue(2, count.price);
-        query.bindValue(3, count.lines);
-        require(query.exec(), query);
+        add(addCount_, {part.number(), count.article, count.price, count.lines});
     }
-    run(TillStatements::addAllDays(), {});
+    run(TillStatements::addAllDays());
     database_.commit();
 }
 
 void UseTables::addLines(const std::vector<Lines>& lines)
 {
     database_.transaction();
-    QSqlQuery query(database_);
-    require(query.prepare(TillStatements::addCount()), query);
     for (const Lines& sold : lines) {
         const Part part{sold.day, sold.till};
         if (parts_.empty() || !(parts_.back() == part)) {
             parts_.push_back(part);
         }
-        query.bindValue(0, part.number());
-        query.bindValue(1, sold.article);
-        query.bindValue(2, 0);
-        query.bindValue(3, sold.lines);
-        require(query.exec(), query);
+        add(addCount_, {part.number(), sold.article, 0, sold.lines});
     }
     database_.commit();
 }

@@ -4,6 +4,7 @@
 #include "backoffice/sales/TillFigures.h"
 
 #include <QSqlDatabase>
+#include <QSqlQuery>
 
 /// A database in memory, in which the till's own statement computes what the recipes used.
 class UseTables
@@ -49,8 +50,14 @@ private:
         qint64 number() const { return day.isValid() ? day.toJulianDay() : -qint64{till}; }
     };
 
-    void run(const QString& sql, const QVariantList& values);
+    void run(const QString& sql);
+    void prepare(QSqlQuery& query, const QString& sql);
+    static void add(QSqlQuery& to, const QVariantList& row);
+
     QString connection_;
     QSqlDatabase database_;
+    QSqlQuery addStockArticle_;
+    QSqlQuery addDose_;
+    QSqlQuery addCount_;
     std::vector<Part> parts_;
 };

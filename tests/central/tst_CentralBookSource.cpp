@@ -208,9 +208,9 @@ private slots:
             (QStringList{"0: CAFé 7 155000", "1: café 1 20000", "1: Cognac 1 75000"}));
         QCOMPARE(shown(source.uses(day, {})),
             (QStringList{"0: * Lait 17.5 cl = 0 ", "0: * Sucre 0.7 g = 0 ", "1: * Eau 5 cl = 0 ",
-                "1: * Lait 4 cl = 0 ", "0: 2026-02-01 Lait 17.5 cl = 0 ",
-                "0: 2026-02-01 Sucre 0.7 g = 0 ", "1: 2026-02-01 Eau 5 cl = 0 ",
-                "1: 2026-02-01 Lait 4 cl = 0 "}));
+                "1: * Lait 4 cl = 0 ", "0: 2026-02-01 Eau 5 cl = 0 ",
+                "0: 2026-02-01 Lait 4 cl = 0 ", "0: 2026-02-01 Lait 17.5 cl = 0 ",
+                "0: 2026-02-01 Sucre 0.7 g = 0 "}));
         source.choose({"Terrasse"});
         QCOMPARE(list(source.tills()), QStringList("Terrasse"));
         QCOMPARE(list(source.allTills()), (QStringList{"Bar", "Terrasse"}));
@@ -219,6 +219,67 @@ private slots:
             shown(source.articles(day, {})), (QStringList{"0: café 1 20000", "0: Cognac 1 75000"}));
         source.choose({});
         QCOMPARE(list(source.tills()), (QStringList{"Bar", "Terrasse"}));
+    }
+
+    void recipesOfAllKindsAreThoseOfTheTill_data()
+    {
+        QTest::addColumn<QString>("doses");
+        QTest::addColumn<QStringList>("firstDay");
+        QTest::newRow("a line twice")
+            << "(1, 1, 'Lait', 2, 'cl'), (2, 1, 'Lait', 2.0, 'cl'), (3, 1, 'Lait', 3, 'cl')"
+            << QStringList{"0: 2026-02-01 Lait 10 cl = 0 "};
+        QTest::newRow("large units") << "(1, 1, 'Sirop', 4, 'oz'), (2, 2, 'Eau', 8, 'fl. oz')"
+                                     << QStringList{"0: 2026-02-01 Eau 8 fl. oz = 0.25 quart",
+                                            "0: 2026-02-01 Sirop 8 oz = 0.5 pound"};
+        QTest::newRow("an article twice")
+            << "(1, 1, 'Lait', 2, 'cl'), (2, 3, 'Lait', 2, 'cl'), (3, 3, 'Sucre', 1, 'g')"
+            << QStringList{"0: 2026-02-01 Lait 4 cl = 0 ", "0: 2026-02-01 Sucre 2 g = 0 "};
+        // Which of the units, or of the spellings, is shown is up to the till's statement.
+        QTest::newRow("two units")
+            << "(1, 1, 'Lait', 2, 'cl'), (2, 2, 'Lait', 3, 'oz')" << QStringList();
+        QTest::newRow("two spellings")
+            << "(1, 1, 'Lait', 2, 'cl'), (2, 2, 'LAIT', 2, 'cl'), (3, 1, 'lait', 2, 'cl')"
+            << QStringList();
+        QTest::newRow("another letter")
+            << "(1, 1, 'Épice', 2, 'g'), (2, 2, 'épice', 2, 'g')"
+            << QStringList{"0: 2026-02-01 Épice 4 g = 0 ", "0: 2026-02-01 épice 2 g = 0 "};
+    }
+
+    void recipesOfAllKindsAreThoseOfTheTill()
+    {
+        QFETCH(QString, doses);
+        QFETCH(QStringList, firstDay);
+        const SoldTill till;
+        till.sql(QString(emptied)
+            + "insert into ArticleStock values (1, 'Café'), (2, 'Thé'), (3, 'CAFé');"
+              "insert into DoseStock values "
+            + doses);
+        for (const char* moment :
+            {"2026-02-01 10:00:00.000", "2026-02-01 11:00:00.000", "2026-02-02 10:00:00.000"}) {
+            till.sell(moment, "Café");
+        }
+        till.sell("2026-02-01 12:00:00.000", "thé");
+        const std::string book = server().newBook();
+        send(till, book, "Bar");
+        // Another till, whose recipes are plain, changes nothing.
+        const SoldTill other;
+        other.sql(QString(emptied)
+            + "insert into ArticleStock values (1, 'Café');"
+              "insert into DoseStock values (1, 1, 'Grains', 7, 'mg')");
+        other.sell("2026-02-01 10:00:00.000", "Café");
+        send(other, book, "Cave");
+
+        const DayRange range = days("2026-02-01", "2026-02-02");
+        TillSource own(till.path(), SoldTill::hasty());
+        const QStringList expected = shown(own.uses(range, {}));
+        if (!firstDay.isEmpty()) {
+            QCOMPARE(expected.filter("2026-02-01"), firstDay);
+        }
+        BookSource both(uri(book));
+        QCOMPARE(shown(both.uses(range, {})).filter("2026-02-01 Grains"),
+            QStringList("0: 2026-02-01 Grains 7 mg = 0 "));
+        both.choose({"Bar"});
+        QCOMPARE(shown(both.uses(range, {})), expected);
     }
 
     void recipesThatDifferInOneDoseAreTwo()
