@@ -103,7 +103,7 @@ bool BookAddress::hasPassword(const std::string& uri)
 
 std::string BookAddress::shown(const std::string& text)
 {
-    const std::string head = text.substr(0, text.find('?'));
+    std::string head = text.substr(0, text.find('?'));
     const std::size_t host = text.rfind('@');
     if (host == std::string::npos) {
         return head;
