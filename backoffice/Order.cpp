@@ -32,6 +32,8 @@ constexpr const char* noFile
     = QT_TRANSLATE_NOOP("BadOrder", "« %1 » demande un fichier : --csv, --pdf ou --png.");
 constexpr const char* noDay
     = QT_TRANSLATE_NOOP("BadOrder", "« %1 » demande un premier jour : --du 2026-11-30.");
+constexpr const char* noBook
+    = QT_TRANSLATE_NOOP("BadOrder", "« --caisse » demande un livre central : --central ADRESSE.");
 } // namespace Mistakes
 
 constexpr const char* languageOption = "--langue";
@@ -151,6 +153,9 @@ public:
         if (order_.action == Order::Action::Help || order_.action == Order::Action::Version) {
             return order_;
         }
+        if (!order_.tills.empty() && order_.central.isEmpty()) {
+            throw BadOrder(Mistakes::noBook, {});
+        }
         if (page_.isEmpty() && !needsPage_.isEmpty()) {
             throw BadOrder(Mistakes::noPage, needsPage_);
         }
@@ -210,6 +215,10 @@ private:
         const QString& name = option.name();
         if (name == QLatin1String("--dossier")) {
             order_.folder = option.value();
+        } else if (name == QLatin1String("--central")) {
+            order_.central = option.value();
+        } else if (name == QLatin1String("--caisse")) {
+            addTill(option.value());
         } else if (name == QLatin1String(languageOption)) {
             const QString value = option.value();
             order_.language = languageNamed(value);
@@ -226,6 +235,13 @@ private:
             return false;
         }
         return true;
+    }
+
+    void addTill(const QString& name)
+    {
+        if (std::find(order_.tills.begin(), order_.tills.end(), name) == order_.tills.end()) {
+            order_.tills.push_back(name);
+        }
     }
 
     bool takeDetail(Option& option)

@@ -8,6 +8,7 @@
 
 #include <exception>
 #include <optional>
+#include <vector>
 
 /// What the command line asks for.
 struct Order
@@ -29,6 +30,10 @@ struct Order
     Action action = Action::Window;
     /// The data folder; empty for the till's own.
     QString folder;
+    /// The URI of the central book that is read instead of a till; empty for none.
+    QString central;
+    /// The names of the tills of the book that are read; none for all.
+    std::vector<QString> tills;
     std::optional<Language> language;
 
     // Of a file only.

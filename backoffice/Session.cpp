@@ -152,11 +152,12 @@ QString Session::noHome()
 QString Session::usage() const
 {
     return Text::tr(
-        "Usage : vendel-gestion [--dossier DOSSIER] [--langue fr|en]\n"
+        "Usage : vendel-gestion [VENTES] [--langue fr|en]\n"
         "        vendel-gestion PAGE --du JOUR [--au JOUR] [--taux POURCENT]\n"
         "                       --csv FICHIER | --pdf FICHIER | --png FICHIER\n"
-        "                       [--csv-format fr|en] [--dossier DOSSIER] [--langue fr|en]\n"
+        "                       [--csv-format fr|en] [VENTES] [--langue fr|en]\n"
         "        vendel-gestion --aide | --version\n"
+        "VENTES : --dossier DOSSIER, ou --central ADRESSE [--caisse NOM]...\n"
         "\n"
         "Montre les ventes de la caisse, ou écrit une page dans un fichier, sans fenêtre.\n"
         "Les données sont dans « %1 ».\n"
@@ -171,6 +172,9 @@ QString Session::usage() const
         "                        (FICHIER « - » : la sortie standard)\n"
         "  --csv-format fr|en    « ; » et la virgule, ou « , » et le point ; sinon ceux du système\n"
         "  --dossier DOSSIER     le dossier de données à la place de celui de la caisse\n"
+        "  --central ADRESSE     le livre central de plusieurs caisses à la place d'une caisse,\n"
+        "                        comme postgresql://utilisateur@serveur/base\n"
+        "  --caisse NOM          cette caisse du livre ; répété, plusieurs côte à côte\n"
         "  --langue fr|en        la langue, à la place de celle de la caisse\n"
         "  --aide                montre ce texte\n"
         "  --version             montre la version\n")

@@ -3,6 +3,7 @@
 #include "backoffice/Order.h"
 #include "backoffice/output/PaperFile.h"
 #include "backoffice/OutputFile.h"
+#include "backoffice/sales/BookSource.h"
 #include "backoffice/sales/TillSource.h"
 #include "backoffice/Session.h"
 #include "backoffice/window/MainWindow.h"
@@ -10,7 +11,10 @@
 #include <QApplication>
 #include <QDir>
 
+#include <chrono>
 #include <csignal>
+#include <cstdlib>
+#include <thread>
 
 #include <fcntl.h>
 
@@ -52,28 +56,62 @@ QByteArray fileOf(const Order& order, const Report& report, const Session& sessi
     return csv(report.file(), order.csvFormat.value_or(session.csvFormat()));
 }
 
+/// The sales that \a order is about.
+std::unique_ptr<SalesSource> open(const Order& order, const QString& folder)
+{
+    std::unique_ptr<SalesSource> source;
+    if (order.central.isEmpty()) {
+        source = std::make_unique<TillSource>(folder);
+    } else {
+        source = std::make_unique<BookSource>(order.central);
+    }
+    source->choose(order.tills);
+    return source;
+}
+
 int writeFile(const Order& order, const Session& session)
 {
-    TillSource source(session.folder());
+    const std::unique_ptr<SalesSource> source = open(order, session.folder());
     ReportOrder wanted;
+    wanted.tills = order.tills;
     wanted.page = order.page;
     wanted.range = order.range;
     wanted.taxRate = order.taxRate;
     wanted.today = QDate::currentDate();
     wanted.locale = session.locale();
-    const Report report = makeReport(wanted, source, {});
+    const Report report = makeReport(wanted, *source, {});
     OutputFile::write(order.file, fileOf(order, report, session));
     return 0;
 }
 
-int showWindow(const Session& session)
+/// A server that hangs must not keep a program without a window: its reader waits for an answer.
+void endWithin(std::chrono::seconds patience, int status)
+{
+    std::thread([patience, status] {
+        std::this_thread::sleep_for(patience);
+        std::_Exit(status);
+    }).detach();
+}
+
+int showWindow(const Order& order, const Session& session)
 {
     // An import changes the working directory.
-    const QString folder = QDir(session.folder()).absolutePath();
-    MainWindow window({[folder] { return std::make_unique<TillSource>(folder); }, makeReport,
-        session.locale(), &QDate::currentDate, folder, session.csvFormat()});
+    const QString folder
+        = session.folder().isEmpty() ? QString() : QDir(session.folder()).absolutePath();
+    if (!order.tills.empty()) {
+        // A name that the book does not have is said before there is a window.
+        open(order, folder);
+    }
+    Order all = order;
+    all.tills.clear();
+    MainWindow window({[all, folder] { return open(all, folder); }, makeReport, session.locale(),
+        &QDate::currentDate, folder, session.csvFormat(), !order.central.isEmpty(), order.tills});
     window.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    if (!order.central.isEmpty()) {
+        endWithin(std::chrono::seconds(3), status);
+    }
+    return status;
 }
 
 int run(const Order& order, const Session& session)
@@ -89,10 +127,11 @@ int run(const Order& order, const Session& session)
     case Order::Action::Window:
         break;
     }
-    if (session.folder().isEmpty()) {
+    if (session.folder().isEmpty() && order.central.isEmpty()) {
         return fail(cannotBeDone, Session::noHome());
     }
-    return order.action == Order::Action::File ? writeFile(order, session) : showWindow(session);
+    return order.action == Order::Action::File ? writeFile(order, session)
+                                               : showWindow(order, session);
 }
 } // namespace
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bench/BackofficeShop.h"
 
-#include "base/Handle.h"
 #include "bench/Support.h"
 #include "db/Db.h"
 #include "store/Consumption.h"
@@ -9,58 +8,10 @@
 #include <QDir>
 #include <QFile>
 
-#include <string>
-
 #include <benchmark/benchmark.h>
-#include <sqlite3.h>
 
 namespace {
 constexpr qint64 msOfASale = 94608;
-
-/// Statements on one connection.
-class BareReading
-{
-public:
-    BareReading()
-    {
-        sqlite3* handle = nullptr;
-        check(sqlite3_open_v2("Vendel.db", &handle, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK,
-            "open");
-        connection_.reset(handle);
-    }
-
-    /// \a sql from the first to the last of \a days; the number of rows.
-    std::size_t run(const std::string& sql, const DayRange& days)
-    {
-        if (sql != sql_) {
-            sqlite3_stmt* handle = nullptr;
-            check(sqlite3_prepare_v2(connection_.get(), sql.c_str(), -1, &handle, nullptr)
-                    == SQLITE_OK,
-                sqlite3_errmsg(connection_.get()));
-            statement_.reset(handle);
-            sql_ = sql;
-        }
-        const std::string first = days.first.toString(Qt::ISODate).toStdString();
-        const std::string last = days.last.toString(Qt::ISODate).toStdString() + " 23:59:59.999";
-        sqlite3_bind_text(statement_.get(), 1, first.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_bind_text(statement_.get(), 2, last.c_str(), -1, SQLITE_TRANSIENT);
-        std::size_t rows = 0;
-        while (sqlite3_step(statement_.get()) == SQLITE_ROW) {
-            for (int column = 0; column < sqlite3_column_count(statement_.get()); ++column) {
-                benchmark::DoNotOptimize(sqlite3_column_text(statement_.get(), column));
-            }
-            ++rows;
-        }
-        sqlite3_reset(statement_.get());
-        check(rows > 0, "sales");
-        return rows;
-    }
-
-private:
-    Handle<sqlite3, sqlite3_close> connection_;
-    Handle<sqlite3_stmt, sqlite3_finalize> statement_;
-    std::string sql_;
-};
 
 constexpr auto hoursSql
     = "select substr(date_heure, 1, 13), count(*), sum(cast(round(prix * 10000) as integer)) "
@@ -108,12 +59,46 @@ void BackofficeShop::enter() const
 
 DayRange BackofficeShop::days() const { return {first_.date(), QDate::currentDate()}; }
 
-std::size_t BareSales::hours(const DayRange& days) { return BareReading().run(hoursSql, days); }
-
-std::size_t BareSales::articles(const DayRange& days)
+BareSales::BareSales()
 {
-    return BareReading().run(articlesSql, days);
+    sqlite3* handle = nullptr;
+    check(
+        sqlite3_open_v2("Vendel.db", &handle, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK, "open");
+    connection_.reset(handle);
+    check(
+        sqlite3_exec(handle, "select * from sqlite_master", nullptr, nullptr, nullptr) == SQLITE_OK,
+        "tables");
 }
+
+/// \a sql from the first to the last of \a days.
+std::size_t BareSales::run(const std::string& sql, const DayRange& days)
+{
+    if (sql != sql_) {
+        sqlite3_stmt* handle = nullptr;
+        check(sqlite3_prepare_v2(connection_.get(), sql.c_str(), -1, &handle, nullptr) == SQLITE_OK,
+            sqlite3_errmsg(connection_.get()));
+        statement_.reset(handle);
+        sql_ = sql;
+    }
+    const std::string first = days.first.toString(Qt::ISODate).toStdString();
+    const std::string last = days.last.toString(Qt::ISODate).toStdString() + " 23:59:59.999";
+    sqlite3_bind_text(statement_.get(), 1, first.c_str(), -1, SQLITE_TRANSIENT);
+    sqlite3_bind_text(statement_.get(), 2, last.c_str(), -1, SQLITE_TRANSIENT);
+    std::size_t rows = 0;
+    while (sqlite3_step(statement_.get()) == SQLITE_ROW) {
+        for (int column = 0; column < sqlite3_column_count(statement_.get()); ++column) {
+            benchmark::DoNotOptimize(sqlite3_column_text(statement_.get(), column));
+        }
+        ++rows;
+    }
+    sqlite3_reset(statement_.get());
+    check(rows > 0, "sales");
+    return rows;
+}
+
+std::size_t BareSales::hours(const DayRange& days) { return run(hoursSql, days); }
+
+std::size_t BareSales::articles(const DayRange& days) { return run(articlesSql, days); }
 
 std::size_t BareSales::uses(const DayRange& days)
 {
@@ -121,17 +106,15 @@ std::size_t BareSales::uses(const DayRange& days)
         QStringLiteral("select distinct count(article) as compte, article from Historique "
                        "where date_heure between ? and ? group by article, prix"))
                                        .toStdString();
-    BareReading reading;
-    std::size_t rows = reading.run(sql, days);
+    std::size_t rows = run(sql, days);
     for (QDate day = days.first; day <= days.last; day = day.addDays(1)) {
-        rows += reading.run(sql, {day, day});
+        rows += run(sql, {day, day});
     }
     return rows;
 }
 
 std::size_t BareSales::closing(const DayRange& days)
 {
-    BareReading reading;
     const DayRange day{days.last, days.last};
-    return reading.run(hoursSql, day) + reading.run(articlesSql, day);
+    return run(hoursSql, day) + run(articlesSql, day);
 }

@@ -2,12 +2,16 @@
 #pragma once
 
 #include "backoffice/sales/DayRange.h"
+#include "base/Handle.h"
 
 #include <QDateTime>
 #include <QString>
 #include <QTemporaryDir>
 
 #include <cstddef>
+#include <string>
+
+#include <sqlite3.h>
 
 /// A shop in a temporary directory that has sold 913 times a day until now: a million sales are
 /// three years. 40 articles at one or two prices, three compositions in each recipe.
@@ -31,13 +35,24 @@ private:
     QDateTime first_;
 };
 
-/// The least that the figures of a page cost: one statement each on a connection of its own. The
-/// shop's is the working directory; all return the number of rows.
-namespace BareSales {
-std::size_t hours(const DayRange& days);
-std::size_t articles(const DayRange& days);
-/// The till's own statement for all days and each of them.
-std::size_t uses(const DayRange& days);
-/// Of the last day.
-std::size_t closing(const DayRange& days);
-} // namespace BareSales
+/// The least that the figures of a page cost: one statement each, on a connection to the shop of
+/// the working directory. All return the number of rows.
+class BareSales
+{
+public:
+    BareSales();
+
+    std::size_t hours(const DayRange& days);
+    std::size_t articles(const DayRange& days);
+    /// The till's own statement for all days and each of them.
+    std::size_t uses(const DayRange& days);
+    /// Of the last day.
+    std::size_t closing(const DayRange& days);
+
+private:
+    std::size_t run(const std::string& sql, const DayRange& days);
+
+    Handle<sqlite3, sqlite3_close> connection_;
+    Handle<sqlite3_stmt, sqlite3_finalize> statement_;
+    std::string sql_;
+};

@@ -173,12 +173,16 @@ std::int64_t Book::addLines(pqxx::work& transaction, const std::vector<Line>& li
     if (moments.isEmpty()) {
         return 0;
     }
-    return transaction
-        .exec_params(Statements::addLines, till_, moments.get(), articles.get(), names.get(),
-            prices.get(), exactPrices.get(), ordinals.get())
-        .at(0)
-        .at(0)
-        .as<std::int64_t>();
+    const auto added = transaction
+                           .exec_params(Statements::addLines, till_, moments.get(), articles.get(),
+                               names.get(), prices.get(), exactPrices.get(), ordinals.get())
+                           .at(0)
+                           .at(0)
+                           .as<std::int64_t>();
+    if (added > 0) {
+        transaction.exec_params(Statements::countUses, till_, moments.get(), names.get());
+    }
+    return added;
 }
 
 void Book::addOddLines(pqxx::work& transaction, const std::vector<Line>& lines) const
@@ -239,6 +243,7 @@ bool Book::add(const Batch& batch, Progress& progress)
     std::int64_t added = 0;
     connection_.transact([&](pqxx::work& transaction) {
         const auto locked = transaction.exec_params(Statements::lockProgress, till_);
+        refuseLater(locked.at(0).at(1).as<int>());
         isFirst = locked.at(0).at(0).as<std::int64_t>() == progress.number;
         if (!isFirst) {
             return;

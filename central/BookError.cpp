@@ -6,67 +6,11 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
-#include <libpq-fe.h>
 #include <pqxx/except>
 
 namespace BookErrors {
 namespace {
-bool contains(const std::string& text, std::initializer_list<std::string_view> parts)
-{
-    return std::any_of(parts.begin(), parts.end(),
-        [&](std::string_view part) { return text.find(part) != std::string::npos; });
-}
-
-/// The first line of what a server or its client says, without what was asked of it.
-Words firstLine(const std::string& said)
-{
-    constexpr std::size_t longest = 160;
-    return plainText(std::string_view(said).substr(0, said.find('\n')), longest);
-}
-
-/// Why there is no connection. libpq gives no code for it, and the server speaks the language that
-/// it was installed in, so its sentences are known in two.
-BookError notConnected(const std::string& uri, const std::string& said)
-{
-    namespace Says = CentralSentences;
-    if (contains(said,
-            {"password authentication failed", "authentification par mot de passe",
-                "no password supplied"})) {
-        return {Says::wrongPassword, BookStatus::Refused};
-    }
-    if (contains(said, {"database \"", "base de données «"})
-        && contains(said, {"does not exist", "n'existe pas"})
-        && !contains(said, {"role \"", "rôle «"})) {
-        return {Says::noSuchDatabase, BookStatus::Refused};
-    }
-    if (contains(said, {"invalid "})) {
-        return {{Says::wrongUri, {uri.substr(0, uri.find('?'))}}, BookStatus::BadUsage};
-    }
-    if (contains(said, {"timeout expired"})) {
-        return {{Says::unreachable, {Says::tooSlow}}, BookStatus::Unreachable};
-    }
-    if (contains(said, {"too many", "remaining connection slots", "trop de", "emplacements de"})) {
-        return {{Says::unreachable, {Says::tooMany}}, BookStatus::Unreachable};
-    }
-    switch (PQping(uri.c_str())) {
-    case PQPING_OK: {
-        // "connection to server at ... failed: FATAL:  no pg_hba.conf entry ..."
-        const std::size_t reason = said.find(": FATAL:");
-        return {{Says::refused,
-                    {firstLine(reason == std::string::npos ? said : said.substr(reason + 2))}},
-            BookStatus::Refused};
-    }
-    case PQPING_REJECT:
-        return {{Says::unreachable, {Says::startsOrEnds}}, BookStatus::Unreachable};
-    case PQPING_NO_ATTEMPT:
-    case PQPING_NO_RESPONSE:
-        break;
-    }
-    return {{Says::unreachable, {Says::noServer}}, BookStatus::Unreachable};
-}
-
 template <class Kind> bool is(const pqxx::sql_error& error)
 {
     return dynamic_cast<const Kind*>(&error) != nullptr;
@@ -113,13 +57,10 @@ BookError cut()
 }
 } // namespace
 
-void whileConnecting(const std::string& uri, const std::function<void()>& connect)
+Words firstLine(std::string_view said)
 {
-    try {
-        connect();
-    } catch (const pqxx::failure& error) {
-        throw notConnected(uri, error.what());
-    }
+    constexpr std::size_t longest = 160;
+    return plainText(said.substr(0, said.find('\n')), longest);
 }
 
 void whileWorking(const std::function<void()>& work)

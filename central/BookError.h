@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 /// Why the book cannot be read or written: a sentence and how the command ends.
 class BookError : public Refusal
@@ -23,6 +24,9 @@ namespace BookErrors {
 /// That the transaction has to be run again, because another one was at the same time.
 struct Again : std::exception
 { };
+
+/// The first line of what a server or its client says, without what was asked of it.
+Words firstLine(std::string_view said);
 
 /// Runs \a connect, which connects to \a uri; why it cannot becomes a BookError.
 void whileConnecting(const std::string& uri, const std::function<void()>& connect);

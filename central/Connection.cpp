@@ -12,6 +12,14 @@ namespace {
 /// Longer than the server's own limit on a statement.
 constexpr std::chrono::seconds patience(90);
 
+/// A database in \a encoding. One in SQL_ASCII keeps bytes as they are.
+void requireAllLetters(const std::string& encoding)
+{
+    if (encoding != "UTF8" && encoding != "SQL_ASCII") {
+        throw BookError({CentralSentences::notUtf8, {encoding}}, BookStatus::NotPrepared);
+    }
+}
+
 class Working
 {
 public:
@@ -44,7 +52,7 @@ void Connection::requireUri(const std::string& uri)
 {
     namespace Says = CentralSentences;
     if (!BookAddress::isUri(uri)) {
-        throw BookError({Says::wrongUri, {uri}}, BookStatus::BadUsage);
+        throw BookError({Says::wrongUri, {BookAddress::shown(uri)}}, BookStatus::BadUsage);
     }
     if (BookAddress::hasPassword(uri)) {
         throw BookError(Says::passwordInUri, BookStatus::BadUsage);
@@ -59,7 +67,7 @@ void Connection::transact(const std::function<void(pqxx::work&)>& work)
             BookErrors::whileWorking([&] {
                 const Working working(limit_, connection_->sock());
                 pqxx::work transaction(*connection_);
-                transaction.exec(Statements::begin);
+                requireAllLetters(transaction.exec(Statements::begin).at(0).at(0).c_str());
                 work(transaction);
                 transaction.commit();
             });

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "central/Ending.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+
 #include <pthread.h>
+#include <unistd.h>
 
 Ending::Ending()
 {
@@ -29,15 +34,26 @@ bool Ending::wait(std::chrono::milliseconds time)
 
 void Ending::watch()
 {
-    int number = 0;
-    while (sigwait(&signals_, &number) == 0 && !isOver_) {
-        if (number == SIGUSR2) {
-            continue;
+    int number = SIGUSR2;
+    while (!isOver_ && number == SIGUSR2) {
+        sigwait(&signals_, &number);
+    }
+    if (isOver_) {
+        return;
+    }
+    {
+        const std::lock_guard lock(mutex_);
+        isAsked_ = true;
+    }
+    asked_.notify_all();
+    constexpr std::chrono::seconds patience(5);
+    const auto due = std::chrono::steady_clock::now() + patience;
+    while (!isOver_) {
+        const auto left = due - std::chrono::steady_clock::now();
+        if (left <= std::chrono::steady_clock::duration::zero()) {
+            _exit(EXIT_SUCCESS);
         }
-        {
-            const std::lock_guard lock(mutex_);
-            isAsked_ = true;
-        }
-        asked_.notify_all();
+        const timespec time{0, std::min<long>(std::chrono::nanoseconds(left).count(), 999'999'999)};
+        sigtimedwait(&signals_, nullptr, &time);
     }
 }

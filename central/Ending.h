@@ -8,8 +8,9 @@
 #include <mutex>
 #include <thread>
 
-/// Notes a signal to end (SIGTERM, SIGINT, SIGHUP), so that what is under way ends in order. To be
-/// made before any other thread.
+/// Notes a signal to end (SIGTERM, SIGINT, SIGHUP), so that what is under way ends in order. What
+/// still goes on some seconds later, because a server or the network hangs, is cut off: the program
+/// exits. To be made before any other thread.
 class Ending
 {
 public:

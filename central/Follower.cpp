@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "central/Follower.h"
 
+#include "central/BookError.h"
 #include "launcher/Refusal.h"
 
 #include <algorithm>
@@ -34,6 +35,11 @@ void Follower::run()
             pause = times_.look;
         } catch (const ReadingStopped&) {
             return;
+        } catch (const BookError& error) {
+            if (!sent_ && !error.isPassing()) {
+                throw;
+            }
+            trouble(error.words());
         } catch (const Refusal& refusal) {
             if (!sent_) {
                 throw;

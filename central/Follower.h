@@ -28,7 +28,8 @@ public:
         std::function<void(const Words&)> say);
 
     /// Follows the till until the program is asked to end. Throws Refusal and SalesError for what
-    /// goes wrong before anything was sent.
+    /// goes wrong before anything was sent, but for a book that cannot be reached: a till may start
+    /// before the network.
     void run();
 
 private:

@@ -13,6 +13,9 @@ constexpr std::string_view shape = "0000-00-00 00:00:00.000";
 constexpr int firstYear = 1970;
 constexpr int lastYear = 2199;
 constexpr std::size_t longestKey = 18;
+/// Bytes that PostgreSQL's indexes take, in any case.
+constexpr std::size_t longestName = 2000;
+constexpr std::size_t longestPrice = 200;
 
 bool isDigit(char letter) { return letter >= '0' && letter <= '9'; }
 
@@ -60,5 +63,6 @@ std::string Line::content() const
 
 bool Line::isRegular() const
 {
-    return isMoment(moment) && isKey(article) && price >= -highestPrice && price <= highestPrice;
+    return isMoment(moment) && isKey(article) && price >= -highestPrice && price <= highestPrice
+        && name.size() <= longestName && exactPrice.size() <= longestPrice;
 }

@@ -29,7 +29,8 @@ struct Line
 
     /// All that it says, in one text: equal for equal lines only.
     std::string content() const;
-    /// Whether a page can show it: its moment is a date, and its price one that sums can hold.
+    /// Whether a page can show it: its moment is a date, its price one that sums can hold, and its
+    /// name at most 2000 bytes long.
     bool isRegular() const;
 };
 

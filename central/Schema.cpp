@@ -149,7 +149,59 @@ end
 $body$;
 revoke all on function vendel.make_month(date) from public;
 )sql";
+
+/// What the till's window of the consumption shows of a day. No line is added while it is made.
+constexpr std::string_view uses = R"sql(
+lock table vendel.progress in exclusive mode;
+
+-- Lines of a day as the till's own window of the consumption counts them: of the prices at which an
+-- article was sold equally often, one. The days do not add up to a longer time's count.
+create table vendel.day_use (
+    day date not null,
+    till integer not null,
+    folded text collate "C" not null,
+    lines bigint not null,
+    primary key (day, till, folded)
+) with (fillfactor = 80);
+
+insert into vendel.day_use
+select day, till, folded, sum(distinct lines) from (
+    select day, till, folded, price, sum(lines) as lines
+    from vendel.day_sales join vendel.name on id = day_sales.name group by 1, 2, 3, 4
+) as prices group by 1, 2, 3 order by 1, 2, 3;
+create index day_use_of_till on vendel.day_use (till, day);
+
+-- The sums of the month's days.
+create table vendel.month_use (
+    month date not null,
+    till integer not null,
+    folded text collate "C" not null,
+    lines bigint not null,
+    primary key (month, till, folded)
+) with (fillfactor = 80);
+
+insert into vendel.month_use
+select date_trunc('month', day)::date, till, folded, sum(lines)
+from vendel.day_use group by 1, 2, 3 order by 1, 2, 3;
+create index month_use_of_till on vendel.month_use (till, month);
+
+-- Whoever may read or write the sums of a day may do so with these.
+do $body$
+declare
+    given record;
+begin
+    for given in select privilege_type, case grantee when 0 then 'public' else
+            quote_ident(pg_get_userbyid(grantee)) end as reader
+        from pg_class, aclexplode(relacl)
+        where oid = 'vendel.day_sales'::regclass and grantee <> relowner
+    loop
+        execute format('grant %s on vendel.day_use, vendel.month_use to %s',
+            given.privilege_type, given.reader);
+    end loop;
+end
+$body$;
+)sql";
 } // namespace
 
-const std::array<std::string_view, 1> versions{first};
+const std::array<std::string_view, 2> versions{first, uses};
 } // namespace Schema

@@ -78,6 +78,12 @@ inline constexpr Sentence noSuchDatabase{
     "The central book's server does not have the database of this address."};
 inline constexpr Sentence refused{"Le serveur du livre central refuse la liaison (%1).",
     "The central book's server refuses the connection (%1)."};
+inline constexpr Sentence notSecure{
+    "La liaison protégée (TLS) avec le livre central n'est pas possible (%1).",
+    "The protected connection (TLS) with the central book is not possible (%1)."};
+inline constexpr Sentence notUtf8{
+    "La base du livre central doit être en UTF-8, et celle-ci est en %1.",
+    "The central book's database has to be in UTF-8, and this one is in %1."};
 inline constexpr Sentence noRight{
     "Cet utilisateur n'a pas le droit d'écrire dans le livre central.",
     "This user may not write into the central book."};

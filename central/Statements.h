@@ -3,11 +3,13 @@
 
 /// The statements that carry lines into the book.
 namespace Statements {
-/// What each transaction begins with. A server that is stuck must not hold a till's sender, nor
-/// the next one.
+/// What each transaction begins with: its answer is the encoding of the book's texts. A server that
+/// is stuck must not hold a till's sender, nor the next one; and what a till says is UTF-8,
+/// whatever the machine's settings ask of PostgreSQL's client.
 inline constexpr const char* begin
     = "set local statement_timeout = '60s'; set local lock_timeout = '30s'; "
-      "set local idle_in_transaction_session_timeout = '120s'; set local datestyle = 'ISO'";
+      "set local idle_in_transaction_session_timeout = '120s'; set local datestyle = 'ISO'; "
+      "set local client_encoding = 'UTF8'; select current_setting('server_encoding')";
 
 inline constexpr const char* schemaVersion = "select version from vendel.version";
 
@@ -34,9 +36,10 @@ inline constexpr const char* addNames
 
 inline constexpr const char* makeMonth = "select vendel.make_month($1::date)";
 
-/// Nobody else changes the till's progress until the transaction ends.
+/// Nobody else changes the till's progress, or the schema, until the transaction ends.
 inline constexpr const char* lockProgress
-    = "select number from vendel.progress where till = $1 for update";
+    = "select number, (select version from vendel.version) from vendel.progress "
+      "where till = $1 for update";
 
 /// Inserts the lines that are not there yet, and adds only those to the sums.
 inline constexpr const char* addLines = R"sql(
@@ -63,6 +66,34 @@ with fresh as (
     on conflict (month, till, name, price) do update set lines = sums.lines + excluded.lines
 )
 select count(*) from fresh)sql";
+
+/// After addLines: counts the days of these lines again as the till's window does.
+inline constexpr const char* countUses = R"sql(
+with touched as (
+    select distinct moment::date as day, folded
+    from unnest($2::timestamp[], $3::integer[]) as sold(moment, name)
+    join vendel.name on id = sold.name
+), counted as (
+    select day, folded, sum(distinct lines) as lines from (
+        select sums.day, touched.folded, sums.price, sum(sums.lines) as lines
+        from touched join vendel.name using (folded)
+        join vendel.day_sales as sums on sums.day = touched.day and sums.till = $1
+            and sums.name = vendel.name.id
+        group by 1, 2, 3
+    ) as prices group by 1, 2
+), changed as (
+    select day, folded, counted.lines, counted.lines - coalesce(known.lines, 0) as more
+    from counted left join (select * from vendel.day_use where till = $1) as known
+        using (day, folded)
+    where counted.lines is distinct from known.lines
+), days as (
+    insert into vendel.day_use select day, $1, folded, lines from changed order by day, folded
+    on conflict (day, till, folded) do update set lines = excluded.lines
+)
+insert into vendel.month_use as sums
+select date_trunc('month', day)::date, $1, folded, sum(more) from changed
+group by 1, 3 order by 1, 3
+on conflict (month, till, folded) do update set lines = sums.lines + excluded.lines)sql";
 
 inline constexpr const char* addOddLines
     = "insert into vendel.odd_line "

@@ -7,6 +7,7 @@
 #include "launcher/DataFolder.h"
 
 #include <QCoreApplication>
+#include <QTranslator>
 
 #include <clocale>
 #include <csignal>
@@ -78,6 +79,12 @@ int run(int argc, char* argv[])
     }
     const Language language = order.language.value_or(
         order.folder.empty() ? usual : DataFolder::language(order.folder));
+    // What is said of the till's database comes from the back office.
+    QTranslator english;
+    if (language == Language::English
+        && english.load(QStringLiteral("gestion_en"), QStringLiteral(":/i18n"))) {
+        QCoreApplication::installTranslator(&english);
+    }
     try {
         act(order, language);
         return static_cast<int>(BookStatus::Done);

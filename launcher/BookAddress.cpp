@@ -74,12 +74,20 @@ bool BookAddress::isUri(const std::string& text)
 bool BookAddress::hasPassword(const std::string& uri)
 {
     const std::string_view rest = afterScheme(uri);
-    // As PostgreSQL's client reads it: a user ends at the first "@" before any "/" or "?".
-    const std::string_view authority = rest.substr(0, rest.find_first_of("/?"));
+    // As PostgreSQL's client reads it: a user and a password end at the first "@" before any "/".
+    const std::string_view authority = rest.substr(0, rest.find('/'));
     const std::size_t user = authority.find('@');
-    if (user != std::string_view::npos
-        && authority.substr(0, user).find(':') != std::string::npos) {
-        return true;
+    if (user != std::string_view::npos) {
+        if (authority.substr(0, user).find(':') != std::string_view::npos) {
+            return true;
+        }
+    } else {
+        // A password that has a "/" in it is none for the client, but one for people.
+        const std::string_view head = rest.substr(0, rest.find('?'));
+        const std::size_t colon = head.find(':');
+        if (colon != std::string_view::npos && head.find('@', colon) != std::string_view::npos) {
+            return true;
+        }
     }
     const std::size_t query = rest.find('?');
     std::istringstream settings(
@@ -91,6 +99,19 @@ bool BookAddress::hasPassword(const std::string& uri)
         }
     }
     return false;
+}
+
+std::string BookAddress::shown(const std::string& text)
+{
+    std::string head = text.substr(0, text.find('?'));
+    const std::size_t host = text.rfind('@');
+    if (host == std::string::npos) {
+        return head;
+    }
+    const std::size_t slashes = text.find("//");
+    const std::size_t user = slashes < host ? slashes + 2 : 0;
+    const std::string rest = text.substr(host);
+    return text.substr(0, user) + "…" + rest.substr(0, rest.find('?'));
 }
 
 std::string BookAddress::uri() const

@@ -19,6 +19,9 @@ public:
     /// and in copies of the folder.
     static bool hasPassword(const std::string& uri);
 
+    /// \a text as it may be shown when it is no URI: without what may be a password.
+    static std::string shown(const std::string& text);
+
     /// Empty for none.
     std::string uri() const;
     /// Remembers \a uri. Throws std::system_error.

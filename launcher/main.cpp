@@ -100,7 +100,7 @@ void changeBook(
     const std::string& uri, const std::string& data, const Places& places, const Speech& speech)
 {
     if (uri != "-" && !BookAddress::isUri(uri)) {
-        throw Refusal({Sentences::noBookUri, {plainText(uri)}});
+        throw Refusal({Sentences::noBookUri, {plainText(BookAddress::shown(uri))}});
     }
     if (BookAddress::hasPassword(uri)) {
         throw Refusal(Sentences::passwordInBookUri);

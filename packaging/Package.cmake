@@ -65,4 +65,6 @@ set(CPACK_DEBIAN_CENTRAL_PACKAGE_DEPENDS libqt5sql5-sqlite)
 # Read or run by name, and so not found among the libraries.
 set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_DEPENDS
   "fonts-crosextra-carlito, fonts-inconsolata, libqt5sql5-sqlite, qttranslations5-l10n, xdg-utils")
+# Only "vendel-gestion --central" reads a central book.
+set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_SUGGESTS libqt5sql5-psql)
 include(CPack)

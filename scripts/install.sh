@@ -8,14 +8,15 @@ declare -A packages=(
         libstb-dev libxcb-ewmh-dev libqt5charts5-dev libcsv-dev libpqxx-dev librsvg2-bin pandoc qttools5-dev qttools5-dev-tools"
     [run]="fonts-crosextra-carlito fonts-inconsolata qttranslations5-l10n xdg-utils libqt5sql5-sqlite"
     [test]="libumockdev-dev umockdev strace xvfb xauth xdotool poppler-utils openbox imagemagick x11-utils bats sqlite3
-        desktop-file-utils appstream faketime man-db jq bsdextrautils postgresql-15"
+        desktop-file-utils appstream faketime man-db jq bsdextrautils postgresql-15 libqt5sql5-psql
+        openssl"
     [lint]="git shellcheck clang-format clang-tidy clazy cppcheck reuse"
     [package]="dpkg-dev file lintian"
     [package-test]="debootstrap sqlite3 xdotool xvfb"
     [arm64]="g++-aarch64-linux-gnu qemu-user"
-    [qt6]="qt6-base-dev libqt6sql6-sqlite qt6-charts-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    [qt6]="qt6-base-dev libqt6sql6-sqlite libqt6sql6-psql qt6-charts-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
         qt6-translations-l10n libgl-dev libqt6opengl6-dev"
-    [bench]="libbenchmark-dev jq bsdextrautils"
+    [bench]="libbenchmark-dev jq bsdextrautils postgresql-15 libqt5sql5-psql"
     [coverage]="gcovr"
     [fuzz]="clang libclang-rt-dev"
 )

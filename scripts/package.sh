@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Builds the Debian packages in build/package, or build/package-arm64, checks them with lintian and, with
-# --test, tries that of the till: in an otherwise empty system, or in an emulator.
+# --test, tries them: in an otherwise empty system, or in an emulator.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
 # The folders whose tests run in an emulator, and of a folder with many those that count most.
@@ -77,7 +77,7 @@ build_package() {
 # try_in_clean_system: 77 means that the machine does not allow it, which says nothing about the package.
 try_in_clean_system() {
     local status=0
-    "$root/tests/packaging/clean_tree.sh" "$package" || status=$?
+    "$root/tests/packaging/clean_tree.sh" "$package" "$central" || status=$?
     [ $status -eq 0 ] || [ $status -eq 77 ] || fail "the package failed in a clean system"
 }
 
@@ -101,10 +101,11 @@ build_package
 rm -f "$tree"/*.deb
 (cd "$tree" && umask 022 && logged "$name" cpack) || fail "cpack failed, see build/$name.log"
 package=$(echo "$tree"/vendel_*.deb)
+central=$(echo "$tree"/vendel-central_*.deb)
 
 say "Checking them with lintian"
 lintian --allow-root --fail-on error,warning --tag-display-limit 0 "$package" \
-    "$tree"/vendel-central_*.deb || fail "lintian reports problems in $tree"
+    "$central" || fail "lintian reports problems in $tree"
 if $try && [ "$architecture" = "$own" ]; then
     try_in_clean_system
 elif $try; then

@@ -102,6 +102,88 @@
         <source>«&#xa0;%1&#xa0;» demande un premier jour&#xa0;: --du 2026-11-30.</source>
         <translation>&quot;%1&quot; needs a first day: --du 2026-11-30.</translation>
     </message>
+    <message>
+        <source>«&#xa0;--caisse&#xa0;» demande un livre central&#xa0;: --central ADRESSE.</source>
+        <translation>&quot;--caisse&quot; needs a central book: --central ADDRESS.</translation>
+    </message>
+</context>
+<context>
+    <name>BookDatabase</name>
+    <message>
+        <source>Il manque à ce système de quoi lire un livre central&#xa0;: installez le paquet libqt%1sql%1-psql.</source>
+        <translation>This system lacks what reads a central book: install the package libqt%1sql%1-psql.</translation>
+    </message>
+    <message>
+        <source>L&apos;adresse du livre central contient un mot de passe, que d&apos;autres pourraient lire&#xa0;: il se met dans le fichier ~/.pgpass.</source>
+        <translation>The central book&apos;s address contains a password, which others could read: its place is the file ~/.pgpass.</translation>
+    </message>
+    <message>
+        <source>«&#xa0;%1&#xa0;» n&apos;est pas l&apos;adresse d&apos;un livre central, qui s&apos;écrit comme postgresql://utilisateur@serveur/base.</source>
+        <translation>&quot;%1&quot; is not the address of a central book, which is written like postgresql://user@server/database.</translation>
+    </message>
+    <message>
+        <source>Le livre central est d&apos;une version plus récente que ce programme, qu&apos;il faut mettre à jour.</source>
+        <translation>The central book is of a later version than this program, which has to be upgraded.</translation>
+    </message>
+    <message>
+        <source>Le livre central n&apos;est pas préparé pour cette version&#xa0;: la commande «&#xa0;vendel-central --preparer&#xa0;» le prépare.</source>
+        <translation>The central book is not prepared for this version: the command &quot;vendel-central --preparer&quot; prepares it.</translation>
+    </message>
+    <message>
+        <source>Le serveur du livre central refuse le mot de passe&#xa0;: le bon se met dans le fichier ~/.pgpass.</source>
+        <translation>The central book&apos;s server refuses the password: the right one goes into the file ~/.pgpass.</translation>
+    </message>
+    <message>
+        <source>L&apos;adresse du livre central ne peut pas être lue&#xa0;: %1</source>
+        <translation>The central book&apos;s address cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>Le serveur du livre central refuse la connexion&#xa0;: %1</source>
+        <translation>The central book&apos;s server refuses the connection: %1</translation>
+    </message>
+    <message>
+        <source>Le livre central est injoignable&#xa0;: %1</source>
+        <translation>The central book cannot be reached: %1</translation>
+    </message>
+    <message>
+        <source>Cet utilisateur n&apos;a pas le droit de lire le livre central.</source>
+        <translation>This user has no right to read the central book.</translation>
+    </message>
+    <message>
+        <source>Cette base de données ne contient pas de livre central préparé&#xa0;: la commande «&#xa0;vendel-central --preparer&#xa0;» le prépare.</source>
+        <translation>This database contains no prepared central book: the command &quot;vendel-central --preparer&quot; prepares it.</translation>
+    </message>
+    <message>
+        <source>Le serveur du livre central ne répond pas assez vite.</source>
+        <translation>The central book&apos;s server does not answer quickly enough.</translation>
+    </message>
+    <message>
+        <source>La connexion au livre central a été coupée.</source>
+        <translation>The connection to the central book was cut.</translation>
+    </message>
+    <message>
+        <source>Le livre central ne peut pas être lu&#xa0;: %1</source>
+        <translation>The central book cannot be read: %1</translation>
+    </message>
+</context>
+<context>
+    <name>BookSource</name>
+    <message>
+        <source>Aucune caisse n&apos;a encore envoyé de ventes au livre central.</source>
+        <translation>No till has sent sales to the central book yet.</translation>
+    </message>
+    <message>
+        <source>Le livre central n&apos;a pas de caisse «&#xa0;%1&#xa0;». Il a&#xa0;: %2.</source>
+        <translation>The central book has no till &quot;%1&quot;. It has: %2.</translation>
+    </message>
+    <message>
+        <source>%1 (%2&#xa0;%)</source>
+        <translation>%1 (%2%)</translation>
+    </message>
+    <message>
+        <source>La TVA est calculée à un seul taux, mais des caisses en ont un autre&#xa0;: %1.</source>
+        <translation>Tax is computed at a single rate, but some tills have another: %1.</translation>
+    </message>
 </context>
 <context>
     <name>ChartDrawing</name>
@@ -887,16 +969,12 @@
         <translation>Before</translation>
     </message>
     <message>
-        <source>Par caisse</source>
-        <translation>By till</translation>
-    </message>
-    <message>
-        <source>Caisse</source>
-        <translation>Till</translation>
-    </message>
-    <message>
         <source>Ventes</source>
         <translation>Sales</translation>
+    </message>
+    <message>
+        <source>Détail par caisse</source>
+        <translation>Detail by till</translation>
     </message>
 </context>
 <context>
@@ -906,11 +984,12 @@
         <translation>No home folder is known for the till&apos;s data: give one with --dossier.</translation>
     </message>
     <message>
-        <source>Usage&#xa0;: vendel-gestion [--dossier DOSSIER] [--langue fr|en]
+        <source>Usage&#xa0;: vendel-gestion [VENTES] [--langue fr|en]
         vendel-gestion PAGE --du JOUR [--au JOUR] [--taux POURCENT]
                        --csv FICHIER | --pdf FICHIER | --png FICHIER
-                       [--csv-format fr|en] [--dossier DOSSIER] [--langue fr|en]
+                       [--csv-format fr|en] [VENTES] [--langue fr|en]
         vendel-gestion --aide | --version
+VENTES&#xa0;: --dossier DOSSIER, ou --central ADRESSE [--caisse NOM]...
 
 Montre les ventes de la caisse, ou écrit une page dans un fichier, sans fenêtre.
 Les données sont dans «&#xa0;%1&#xa0;».
@@ -925,15 +1004,19 @@ Les données sont dans «&#xa0;%1&#xa0;».
                         (FICHIER «&#xa0;-&#xa0;»&#xa0;: la sortie standard)
   --csv-format fr|en    «&#xa0;;&#xa0;» et la virgule, ou «&#xa0;,&#xa0;» et le point&#xa0;; sinon ceux du système
   --dossier DOSSIER     le dossier de données à la place de celui de la caisse
+  --central ADRESSE     le livre central de plusieurs caisses à la place d&apos;une caisse,
+                        comme postgresql://utilisateur@serveur/base
+  --caisse NOM          cette caisse du livre&#xa0;; répété, plusieurs côte à côte
   --langue fr|en        la langue, à la place de celle de la caisse
   --aide                montre ce texte
   --version             montre la version
 </source>
-        <translation>Usage: vendel-gestion [--dossier FOLDER] [--langue fr|en]
+        <translation>Usage: vendel-gestion [SALES] [--langue fr|en]
        vendel-gestion PAGE --du DAY [--au DAY] [--taux PERCENT]
                       --csv FILE | --pdf FILE | --png FILE
-                      [--csv-format fr|en] [--dossier FOLDER] [--langue fr|en]
+                      [--csv-format fr|en] [SALES] [--langue fr|en]
        vendel-gestion --help | --version
+SALES: --dossier FOLDER, or --central ADDRESS [--caisse NAME]...
 
 Shows what the till sold, or writes a page to a file, without a window.
 The data is in &quot;%1&quot;.
@@ -948,6 +1031,9 @@ The data is in &quot;%1&quot;.
                        (FILE &quot;-&quot;: the standard output)
   --csv-format fr|en   &quot;;&quot; and the comma, or &quot;,&quot; and the point; otherwise the system&apos;s
   --dossier FOLDER     the data folder in place of the till&apos;s
+  --central ADDRESS    the central book of several tills in place of a till,
+                       like postgresql://user@server/database
+  --caisse NAME        this till of the book; repeated, several side by side
   --langue fr|en       the language in place of the till&apos;s
   --help               shows this text
   --version            shows the version
@@ -1010,6 +1096,52 @@ The data is in &quot;%1&quot;.
     <message>
         <source>Le fichier n&apos;est pas un fichier texte&#xa0;: enregistrez-le au format CSV, en UTF-8.</source>
         <translation>The file is not a text file: save it as CSV, in UTF-8.</translation>
+    </message>
+</context>
+<context>
+    <name>TillChoice</name>
+    <message>
+        <source>Caisses</source>
+        <translation>Tills</translation>
+    </message>
+    <message>
+        <source>Toutes les caisses</source>
+        <translation>All tills</translation>
+    </message>
+    <message>
+        <source>%1 caisses</source>
+        <translation>%1 tills</translation>
+    </message>
+</context>
+<context>
+    <name>TillColumn</name>
+    <message>
+        <source>caisse %1</source>
+        <translation>till %1</translation>
+    </message>
+    <message>
+        <source>toutes les caisses (%1)</source>
+        <translation>all tills (%1)</translation>
+    </message>
+    <message>
+        <source>%1 caisses</source>
+        <translation>%1 tills</translation>
+    </message>
+    <message>
+        <source>caisses %1</source>
+        <translation>tills %1</translation>
+    </message>
+    <message>
+        <source>Caisse</source>
+        <translation>Till</translation>
+    </message>
+    <message>
+        <source>Par caisse</source>
+        <translation>By till</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
     </message>
 </context>
 <context>

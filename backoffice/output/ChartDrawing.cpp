@@ -40,12 +40,15 @@ double niceStep(double value)
     }
     return ten * power;
 }
+
+bool hasLegend(const BarChart& chart) { return chart.bars.size() + (chart.line ? 1 : 0) > 1; }
 } // namespace
 
 ChartDrawing::ChartDrawing(BarChart chart, const QLocale& locale, const Ink& ink)
     : chart_(std::move(chart))
     , locale_(locale)
     , ink_(ink)
+    , names_(*this, ink_)
 {
     setLocale(locale_);
     setLocalizeNumbers(true);
@@ -58,7 +61,7 @@ ChartDrawing::ChartDrawing(BarChart chart, const QLocale& locale, const Ink& ink
     layout()->setContentsMargins(0, 0, 0, 0);
     legend()->setFont(ink_.font);
     legend()->setLabelColor(ink_.text);
-    legend()->setVisible(chart_.bars.size() + (chart_.line ? 1 : 0) > 1);
+    legend()->setVisible(hasLegend(chart_));
     if (chart_.categories.empty()) {
         setTitle(tr("%1\u00a0: rien dans cette période").arg(chart_.title.toHtmlEscaped()));
         return;
@@ -67,8 +70,12 @@ ChartDrawing::ChartDrawing(BarChart chart, const QLocale& locale, const Ink& ink
     addLine();
     addAxes();
     addLabels();
-    keepRoomForLabels();
-    connect(this, &QChart::plotAreaChanged, this, [this] { placeLabels(); });
+    keepRoom();
+    connect(this, &QChart::geometryChanged, this, [this] { keepRoom(); });
+    connect(this, &QChart::plotAreaChanged, this, [this] {
+        placeLabels();
+        placeLegend();
+    });
 }
 
 void ChartDrawing::addBars()
@@ -83,7 +90,9 @@ void ChartDrawing::addBars()
     series->setBarWidth(ofTheirRoom);
     std::size_t number = 0;
     for (const BarChart::Values& bars : chart_.bars) {
-        auto* set = new QBarSet(bars.name, series);
+        // The legend would take it for HTML.
+        auto* set = new QBarSet(bars.name.toHtmlEscaped(), series);
+        names_.add(bars.name, ink_.bars(number), ink_.edge(number));
         for (std::size_t at = 0; at < bars.values.size(); ++at) {
             *set << drawn(bars.values.at(place(at)), chart_.kind);
         }
@@ -101,7 +110,8 @@ void ChartDrawing::addLine()
         return;
     }
     auto* line = new QLineSeries(this);
-    line->setName(chart_.line->name);
+    line->setName(chart_.line->name.toHtmlEscaped());
+    names_.add(chart_.line->name, ink_.line(), ink_.line());
     double x = 0;
     for (const double value : chart_.line->values) {
         if (!std::isnan(value)) {
@@ -180,7 +190,26 @@ void ChartDrawing::addLabels()
     }
 }
 
-void ChartDrawing::keepRoomForLabels()
+/// Of a legend in rows; nothing where Qt's has room, which is one row.
+double ChartDrawing::legendHeight() const
+{
+    const double width = size().width();
+    const double around = QFontMetricsF(ink_.font).height() * 2;
+    return !hasLegend(chart_) || width <= 0 || names_.isOneRow(width - around)
+        ? 0
+        : names_.heightFor(width - around);
+}
+
+void ChartDrawing::placeLegend()
+{
+    const double line = QFontMetricsF(ink_.font).height();
+    const double height = legendHeight();
+    // Lying bars are scrolled: below them, it would be out of sight.
+    const double top = chart_.isHorizontal ? line * gap : size().height() - height - line * gap;
+    names_.show(height > 0 ? QRectF(line, top, size().width() - line * 2, height) : QRectF());
+}
+
+void ChartDrawing::keepRoom()
 {
     double widest = 0;
     for (const QGraphicsSimpleTextItem* label : labels_) {
@@ -188,11 +217,18 @@ void ChartDrawing::keepRoomForLabels()
     }
     const double line = QFontMetricsF(ink_.font).height();
     const int least = qCeil(line * gap);
+    const int legendRoom = qCeil(legendHeight());
+    legend()->setVisible(hasLegend(chart_) && legendRoom == 0);
     if (chart_.isHorizontal) {
-        setMargins(QMargins(qCeil(widest + line * gap), least, qCeil(line * 2), least));
+        setMargins(
+            QMargins(qCeil(widest + line * gap), least + legendRoom, qCeil(line * 2), least));
     } else {
-        setMargins(QMargins(least, least, qCeil(widest / 2) + least, qCeil(line * (1 + gap))));
+        setMargins(QMargins(
+            least, least, qCeil(widest / 2) + least, qCeil(line * (1 + gap)) + legendRoom));
     }
+    // Paper is drawn at once.
+    layout()->activate();
+    placeLegend();
 }
 
 void ChartDrawing::placeLabels()
@@ -294,12 +330,14 @@ QString ChartDrawing::tip(QPointF point) const
 double ChartDrawing::heightFor(double width) const
 {
     const double line = QFontMetricsF(ink_.font).height();
+    // At most a row for each name.
+    const double names = hasLegend(chart_) ? names_.heightFor(std::max(0.0, width - line * 2)) : 0;
     if (chart_.isHorizontal) {
         constexpr double around = 6;
-        return line * (static_cast<double>(labels_.size()) * 1.4 + around);
+        return line * (static_cast<double>(labels_.size()) * 1.4 + around) + names;
     }
     constexpr double widthToHeight = 2.4;
-    return width / widthToHeight;
+    return width / widthToHeight + (names > line ? names : 0);
 }
 
 QStringList ChartDrawing::shownLabels() const

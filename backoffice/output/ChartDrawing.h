@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backoffice/output/ChartLegend.h"
 #include "backoffice/output/ChartNames.h"
 #include "backoffice/output/Ink.h"
 #include "backoffice/reports/Report.h"
@@ -31,6 +32,10 @@ public:
     /// The labels of the categories that are shown, for tests and screen readers.
     QStringList shownLabels() const;
 
+    /// The names of the bars where they have no room in one row, as they are shown in several, for
+    /// tests.
+    QStringList namesInRows() const { return names_.names(); }
+
     const BarChart& chart() const { return chart_; }
 
 private:
@@ -39,7 +44,9 @@ private:
     void addPoints(const QLineSeries& line);
     void addAxes();
     void addLabels();
-    void keepRoomForLabels();
+    void keepRoom();
+    double legendHeight() const;
+    void placeLegend();
     void placeLabels();
     void placeUnder();
     void placeBeside();
@@ -54,4 +61,5 @@ private:
     QBarCategoryAxis* categories_ = nullptr;
     QValueAxis* values_ = nullptr;
     std::vector<QGraphicsSimpleTextItem*> labels_;
+    ChartLegend names_;
 };

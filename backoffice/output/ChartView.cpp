@@ -32,8 +32,9 @@ void ChartView::draw()
     setChart(drawing_);
     setBackgroundBrush(palette().base());
     constexpr int leastLines = 11;
-    setMinimumHeight(
-        bars_.isHorizontal ? qRound(drawing_->heightFor(0)) : fontMetrics().height() * leastLines);
+    const int names = bars_.bars.size() > 2 ? static_cast<int>(bars_.bars.size()) : 0;
+    setMinimumHeight(bars_.isHorizontal ? qRound(drawing_->heightFor(0))
+                                        : fontMetrics().height() * (leastLines + names));
 }
 
 void ChartView::mouseMoveEvent(QMouseEvent* event)

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "backoffice/reports/Pages.h"
 #include "backoffice/reports/Sums.h"
+#include "backoffice/reports/TillColumn.h"
 #include "backoffice/reports/Wording.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 namespace {
@@ -31,9 +33,9 @@ struct Ranked
     }
 };
 
-Ranked rank(const ReportOrder& order, SalesSource& source, const Reading& reading)
+Ranked rank(const ReportOrder& order, const std::vector<ArticleSales>& sales)
 {
-    Ranked ranked{order.ranking, Sums::ofAllTills(source.articles(order.range, reading)), {}};
+    Ranked ranked{order.ranking, Sums::ofAllTills(sales), {}};
     ranked.total = Sums::of(ranked.articles);
     // Equal ones stay in the order of their names.
     std::stable_sort(ranked.articles.begin(), ranked.articles.end(),
@@ -64,6 +66,25 @@ BarChart chart(const Ranked& ranked)
     return chart;
 }
 
+/// \a chart with bars of each till for its articles.
+BarChart sideBySide(BarChart chart, const Ranked& ranked, const std::vector<ArticleSales>& sales,
+    const std::vector<QString>& tills)
+{
+    chart.bars.clear();
+    for (std::size_t till = 0; till < tills.size(); ++till) {
+        std::map<QString, qint64> found;
+        for (const ArticleSales& article : TillColumn::of(sales, till)) {
+            found[Sums::key(article.article)] = ranked.value(article);
+        }
+        BarChart::Values values{tills.at(till), {}};
+        for (const QString& article : chart.categories) {
+            values.values.push_back(static_cast<double>(found[Sums::key(article)]));
+        }
+        chart.bars.push_back(std::move(values));
+    }
+    return chart;
+}
+
 Table table(const Ranked& ranked)
 {
     Table table{Text::tr("Articles vendus"),
@@ -90,8 +111,13 @@ Table unsold(const Ranked& ranked, SalesSource& source)
     }
     Table table{Text::tr("Au menu, sans vente"),
         {{Wording::article(), CellKind::Text}, {Text::tr("Prix HT"), CellKind::Money}}, {}};
+    const bool hasSeveral = source.tills().size() > 1;
+    std::set<std::pair<QString, Amount>> listed;
     for (const MenuArticle& article : source.menu()) {
-        if (seen.count(Sums::key(article.article)) == 0) {
+        const QString key = Sums::key(article.article);
+        // Several menus have it.
+        const bool isAgain = hasSeveral && !listed.insert({key, article.price}).second;
+        if (seen.count(key) == 0 && !isAgain) {
             table.rows.push_back({article.article, article.price});
         }
     }
@@ -107,11 +133,15 @@ bool hasDiscount(const std::vector<ArticleSales>& articles)
 
 Report Pages::articles(const ReportOrder& order, SalesSource& source, const Reading& reading)
 {
-    const Ranked ranked = rank(order, source, reading);
+    const std::vector<ArticleSales> sales = source.articles(order.range, reading);
+    const Ranked ranked = rank(order, sales);
     Report report;
     report.title = Text::tr("Articles");
     report.subtitle = Wording::subtitle(order);
     report.charts.push_back(chart(ranked));
+    if (TillColumn::isSideBySide(order, source)) {
+        report.charts.back() = sideBySide(report.charts.back(), ranked, sales, source.tills());
+    }
     report.tables.push_back(table(ranked));
     report.tables.push_back(unsold(ranked, source));
     report.figures = {
@@ -122,6 +152,10 @@ Report Pages::articles(const ReportOrder& order, SalesSource& source, const Read
         {Text::tr("Au menu, sans vente"), static_cast<qint64>(report.tables.at(1).rows.size()),
             CellKind::Count, {}},
     };
+    TillColumn::add(report,
+        TillColumn::joined(sales, source,
+            [&order](const std::vector<ArticleSales>& part) { return table(rank(order, part)); }),
+        order, source);
     report.notes.push_back(Wording::amountNote());
     if (order.ranking == ReportOrder::Ranking::Takings && hasDiscount(ranked.articles)) {
         report.notes.push_back(

@@ -2,6 +2,7 @@
 #include "backoffice/reports/Format.h"
 #include "backoffice/reports/Pages.h"
 #include "backoffice/reports/Sums.h"
+#include "backoffice/reports/TillColumn.h"
 #include "backoffice/reports/Wording.h"
 
 #include <QCoreApplication>
@@ -22,6 +23,8 @@ struct Day
     std::array<Sum, hoursInADay> hours;
     Sum total;
     std::vector<ArticleSales> articles;
+    /// Of each till.
+    std::vector<ArticleSales> tillArticles;
 };
 
 Day readOnce(const DayRange& range, SalesSource& source, const Reading& reading)
@@ -34,7 +37,8 @@ Day readOnce(const DayRange& range, SalesSource& source, const Reading& reading)
     const std::vector<HourSales> hours = source.hours(range, first);
     day.hours = Sums::byHour(hours);
     day.total = Sums::of(hours);
-    day.articles = Sums::ofAllTills(source.articles(range, second));
+    day.tillArticles = source.articles(range, second);
+    day.articles = Sums::ofAllTills(day.tillArticles);
     return day;
 }
 
@@ -51,10 +55,12 @@ Day read(const DayRange& range, SalesSource& source, const Reading& reading)
             break;
         }
     }
-    std::stable_sort(day.articles.begin(), day.articles.end(),
-        [](const ArticleSales& one, const ArticleSales& other) {
-            return one.takings > other.takings;
-        });
+    for (std::vector<ArticleSales>* articles : {&day.articles, &day.tillArticles}) {
+        std::stable_sort(articles->begin(), articles->end(),
+            [](const ArticleSales& one, const ArticleSales& other) {
+                return one.takings > other.takings;
+            });
+    }
     return day;
 }
 
@@ -97,14 +103,30 @@ Table byHour(const Day& day)
     return table;
 }
 
-Table byArticle(const Day& day)
+Table byArticle(const std::vector<ArticleSales>& articles)
 {
     Table table{Text::tr("Par article"),
         {{Wording::article(), CellKind::Text}, {Wording::lines(), CellKind::Count},
             {Wording::net(), CellKind::Money}},
         {}};
-    for (const ArticleSales& article : day.articles) {
+    for (const ArticleSales& article : articles) {
         table.rows.push_back({article.article, article.lines, article.takings});
+    }
+    return table;
+}
+
+/// What each till sold, with its tax.
+Table byTill(const Day& day, double rate, const SalesSource& source)
+{
+    Table table{TillColumn::title(),
+        {{TillColumn::caption(), CellKind::Text}, {Wording::lines(), CellKind::Count},
+            {Wording::net(), CellKind::Money}, {Wording::gross(), CellKind::Money}},
+        {}};
+    const std::vector<QString> names = source.tills();
+    for (std::size_t till = 0; till < names.size(); ++till) {
+        const Sum sum = Sums::of(TillColumn::of(day.tillArticles, till));
+        table.rows.push_back(
+            {names.at(till), sum.lines, sum.takings, sum.takings + taxOn(sum.takings, rate)});
     }
     return table;
 }
@@ -124,11 +146,12 @@ Table within(const Table& whole, const Day& day, std::size_t room)
     return table;
 }
 
-void addTables(Report& report, const Day& day)
+void addTables(Report& report, const Day& day, const std::vector<Table>& tills)
 {
-    Table articles = byArticle(day);
+    Table articles = byArticle(day.articles);
     Table hours = byHour(day);
-    const std::size_t room = rowsOnAPage - std::min(rowsOnAPage, hours.rows.size());
+    const std::size_t others = hours.rows.size() + (tills.empty() ? 0 : tills.front().rows.size());
+    const std::size_t room = rowsOnAPage - std::min(rowsOnAPage, others);
     // A day of 24 hours leaves the best articles of the day.
     constexpr std::size_t atLeast = 10;
     if (articles.rows.size() > std::max(room, atLeast)) {
@@ -136,6 +159,7 @@ void addTables(Report& report, const Day& day)
         articles = within(articles, day, std::max(room, atLeast));
     }
     report.tables = {std::move(articles), std::move(hours)};
+    report.tables.insert(report.tables.end(), tills.begin(), tills.end());
 }
 
 std::vector<QString> notes()
@@ -161,8 +185,14 @@ Report Pages::closing(const ReportOrder& order, SalesSource& source, const Readi
     Report report;
     report.title = Text::tr("Clôture");
     report.subtitle = Wording::subtitle(ofDay);
-    report.figures = figures(day, order.taxRate ? *order.taxRate : source.taxRate(), order.locale);
-    addTables(report, day);
+    const double rate = order.taxRate ? *order.taxRate : source.taxRate();
+    report.figures = figures(day, rate, order.locale);
+    addTables(report, day,
+        TillColumn::isSideBySide(order, source) ? std::vector{byTill(day, rate, source)}
+                                                : std::vector<Table>());
+    if (source.namesTills()) {
+        report.whole = TillColumn::joined(day.tillArticles, source, byArticle);
+    }
     report.notes = notes();
     report.isOnePage = true;
     return report;

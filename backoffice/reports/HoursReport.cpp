@@ -2,6 +2,7 @@
 #include "backoffice/reports/Format.h"
 #include "backoffice/reports/Pages.h"
 #include "backoffice/reports/Sums.h"
+#include "backoffice/reports/TillColumn.h"
 #include "backoffice/reports/Wording.h"
 
 #include <QCoreApplication>
@@ -162,5 +163,15 @@ Report Pages::hours(const ReportOrder& order, SalesSource& source, const Reading
     report.figures = figures(week, order.locale);
     report.heatMap = heatMap(week, order.locale);
     report.tables = {byHour(week, order.locale), byWeekday(week, order.locale)};
+    if (source.namesTills() || TillColumn::isSideBySide(order, source)) {
+        const auto ofTill = [&order](const std::vector<HourSales>& sales) {
+            return byHour(weekOf(sales, order), order.locale);
+        };
+        TillColumn::add(report,
+            TillColumn::joined(
+                source.tillSales(order.range, SalesSource::TillPart::WeekHour, reading), source,
+                ofTill),
+            order, source);
+    }
     return report;
 }

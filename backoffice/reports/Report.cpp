@@ -2,8 +2,10 @@
 #include "backoffice/reports/Report.h"
 
 #include "backoffice/reports/Pages.h"
+#include "backoffice/reports/TillColumn.h"
 
-Report makeReport(const ReportOrder& order, SalesSource& source, const Reading& reading)
+namespace {
+Report makePage(const ReportOrder& order, SalesSource& source, const Reading& reading)
 {
     switch (order.page) {
     case Page::Articles:
@@ -18,4 +20,14 @@ Report makeReport(const ReportOrder& order, SalesSource& source, const Reading& 
         break;
     }
     return Pages::sales(order, source, reading);
+}
+} // namespace
+
+Report makeReport(const ReportOrder& order, SalesSource& source, const Reading& reading)
+{
+    // What the book says of all tills is the sum of what it says of each.
+    const std::shared_ptr<void> moment = source.hold();
+    Report report = makePage(order, source, reading);
+    TillColumn::addHead(report, order, source);
+    return report;
 }

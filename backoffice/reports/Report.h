@@ -131,6 +131,8 @@ struct ReportOrder
 {
     Page page = Page::Sales;
     DayRange range;
+    /// The names of the tills; none for all of them.
+    std::vector<QString> tills = {};
     /// In per cent; the configured one if there is none.
     std::optional<double> taxRate;
     enum class Ranking
@@ -146,6 +148,6 @@ struct ReportOrder
     QLocale locale;
 };
 
-/// Reads from \a source what \a order asks for. The closing is about the last day of the range.
-/// Throws SalesError and ReadingStopped.
+/// Reads from \a source what \a order asks for; the source has its tills chosen. The closing is
+/// about the last day of the range. Throws SalesError and ReadingStopped.
 Report makeReport(const ReportOrder& order, SalesSource& source, const Reading& reading);

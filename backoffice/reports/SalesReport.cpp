@@ -2,6 +2,7 @@
 #include "backoffice/reports/Format.h"
 #include "backoffice/reports/Pages.h"
 #include "backoffice/reports/SalesBars.h"
+#include "backoffice/reports/TillColumn.h"
 #include "backoffice/reports/Wording.h"
 
 #include <QCoreApplication>
@@ -170,6 +171,46 @@ Table table(const Facts& facts)
     return table;
 }
 
+/// What each till sold in the period and before it, as far as its bars can tell.
+std::vector<HourSales> tillSales(
+    const ReportOrder& order, SalesSource& source, const Reading& reading)
+{
+    using Part = SalesSource::TillPart;
+    const DayRange& range = order.range;
+    const DayRange::Grain grain = range.grain();
+    const Part part = grain == DayRange::Grain::Hour ? Part::Hour
+        : grain == DayRange::Grain::Day              ? Part::Day
+                                                     : Part::Month;
+    const bool isOfMonths = range.first.day() == 1 && range.last.addDays(1).day() == 1;
+    // Other bars than whole months are compared with days that are parts of two months.
+    const Part partBefore = part == Part::Month && !isOfMonths ? Part::Day : part;
+    std::vector<HourSales> sales = source.tillSales(range.before(), partBefore, reading);
+    const std::vector<HourSales> now = source.tillSales(range, part, reading);
+    sales.insert(sales.end(), now.begin(), now.end());
+    return sales;
+}
+
+/// \a chart with bars of each till, and no line: it would be the one of all.
+BarChart sideBySide(BarChart chart, const std::vector<HourSales>& sales, const SalesSource& source,
+    const Facts& facts)
+{
+    chart.bars.clear();
+    chart.line.reset();
+    const std::vector<QString> names = source.tills();
+    for (std::size_t till = 0; till < names.size(); ++till) {
+        const SalesBars bars(facts.order, TillColumn::of(sales, till));
+        BarChart::Values values{names.at(till), {}};
+        for (const SalesBars::Bar& all : facts.bars.bars()) {
+            const auto own = std::find_if(bars.bars().begin(), bars.bars().end(),
+                [&](const auto& bar) { return bar.hour == all.hour && bar.range == all.range; });
+            values.values.push_back(
+                own == bars.bars().end() ? 0 : static_cast<double>(own->sold.takings));
+        }
+        chart.bars.push_back(std::move(values));
+    }
+    return chart;
+}
+
 /// What each till sold, where there are several.
 Table tills(const std::vector<HourSales>& sales, const SalesSource& source, const Facts& facts)
 {
@@ -180,8 +221,8 @@ Table tills(const std::vector<HourSales>& sales, const SalesSource& source, cons
             sums.at(static_cast<std::size_t>(part.till)).add(part);
         }
     }
-    Table table{Text::tr("Par caisse"),
-        {{Text::tr("Caisse"), CellKind::Text}, {Wording::lines(), CellKind::Count},
+    Table table{TillColumn::title(),
+        {{TillColumn::caption(), CellKind::Text}, {Wording::lines(), CellKind::Count},
             {Wording::net(), CellKind::Money}, {Wording::share(), CellKind::Percent}},
         {}};
     for (std::size_t till = 0; till < names.size(); ++till) {
@@ -190,6 +231,22 @@ Table tills(const std::vector<HourSales>& sales, const SalesSource& source, cons
             Sums::share(sum.takings, facts.bars.total().takings)});
     }
     return table;
+}
+void addTills(Report& report, const std::vector<HourSales>& sales, const SalesSource& source,
+    const Facts& facts)
+{
+    if (source.tills().size() > 1) {
+        report.tables.push_back(tills(sales, source, facts));
+    }
+    if (TillColumn::isSideBySide(facts.order, source)) {
+        report.charts.back() = sideBySide(report.charts.back(), sales, source, facts);
+    }
+    Table detail = TillColumn::joined(sales, source, [&facts](const std::vector<HourSales>& part) {
+        const SalesBars bars(facts.order, part);
+        return table({facts.order, bars, facts.rate});
+    });
+    detail.title = Text::tr("Détail par caisse");
+    TillColumn::add(report, std::move(detail), facts.order, source);
 }
 } // namespace
 
@@ -207,8 +264,8 @@ Report Pages::sales(const ReportOrder& order, SalesSource& source, const Reading
     report.figures = figures(facts);
     report.charts.push_back(chart(facts));
     report.tables.push_back(table(facts));
-    if (source.tills().size() > 1) {
-        report.tables.push_back(tills(hours, source, facts));
+    if (source.tills().size() > 1 || source.namesTills()) {
+        addTills(report, tillSales(order, source, reading), source, facts);
     }
     report.notes.push_back(Wording::taxNote());
     return report;

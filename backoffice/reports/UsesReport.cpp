@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "backoffice/reports/Pages.h"
 #include "backoffice/reports/SalesBars.h"
+#include "backoffice/reports/TillColumn.h"
 #include "backoffice/reports/Wording.h"
 
 #include <QCoreApplication>
@@ -169,11 +170,28 @@ Table table(const QString& title, const std::vector<Use>& uses, const std::optio
     }
     return table;
 }
+/// What each till used in the period.
+Table ofTills(const std::vector<Use>& uses, const SalesSource& source)
+{
+    std::vector<Use> period;
+    std::copy_if(uses.begin(), uses.end(), std::back_inserter(period),
+        [](const Use& use) { return !use.day.isValid(); });
+    // Columns that only some tills need are in all rows.
+    Table whole = table(TillColumn::title(), period, std::nullopt);
+    whole.columns.insert(whole.columns.begin(), {TillColumn::caption(), CellKind::Text});
+    const std::vector<QString> names = source.tills();
+    for (std::size_t at = 0; at < period.size(); ++at) {
+        std::vector<QVariant>& row = whole.rows.at(at);
+        row.insert(row.begin(), names.at(static_cast<std::size_t>(period.at(at).till)));
+    }
+    return whole;
+}
 } // namespace
 
 Report Pages::uses(const ReportOrder& order, SalesSource& source, const Reading& reading)
 {
-    const AllUses all = allUses(source.uses(order.range, reading));
+    const std::vector<Use> uses = source.uses(order.range, reading);
+    const AllUses all = allUses(uses);
     Report report;
     report.title = Text::tr("Consommation");
     report.subtitle = Wording::subtitle(order);
@@ -192,6 +210,9 @@ Report Pages::uses(const ReportOrder& order, SalesSource& source, const Reading&
     } else if (order.range.first != order.range.last) {
         report.tables.push_back(table(
             Text::tr("Consommation par jour"), all.days, Column{Wording::day(), CellKind::Day}));
+    }
+    if (source.namesTills() || TillColumn::isSideBySide(order, source)) {
+        TillColumn::add(report, ofTills(uses, source), order, source);
     }
     if (order.range.first != order.range.last) {
         report.notes.push_back(Text::tr(

@@ -5,11 +5,14 @@
 #include "backoffice/sales/DayRange.h"
 #include "backoffice/sales/SentenceError.h"
 
+#include <QLocale>
 #include <QString>
 
 #include <atomic>
 #include <exception>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <vector>
 
 /// What was sold in one hour.
@@ -99,17 +102,49 @@ public:
     SalesSource& operator=(const SalesSource&) = delete;
     virtual ~SalesSource() = default;
 
+    /// What tillSales() adds up: each hour, day or month, or the hours of each weekday.
+    enum class TillPart
+    {
+        Hour,
+        Day,
+        Month,
+        WeekHour
+    };
+
     /// The names of the tills whose sales are read, one or more.
     virtual std::vector<QString> tills() const = 0;
 
-    /// The hours of \a range with a sale, in the order of time.
+    /// The names that choose() knows.
+    virtual std::vector<QString> allTills() const { return tills(); }
+
+    /// Has only the tills \a names read from now on; all when there are none. A till by itself is
+    /// always all.
+    virtual void choose(const std::vector<QString>& names) { static_cast<void>(names); }
+
+    /// Whether files say of which till each row is.
+    virtual bool namesTills() const { return false; }
+
+    /// While the returned object lives, which is no longer than this one, all is read as it was at
+    /// one moment; null where sales may be added in between.
+    virtual std::shared_ptr<void> hold() { return nullptr; }
+
+    /// The hours of \a range with a sale, in the order of time. Where there are several tills,
+    /// they may be added up, as if they were the first.
     virtual std::vector<HourSales> hours(const DayRange& range, const Reading& reading) = 0;
+
+    /// What each till sold in \a range, by \a part: in place of the day stand the first day of the
+    /// month in the range, or the first of that weekday, and in place of the hour 0 where there is
+    /// none. In the order of tills, then of time.
+    virtual std::vector<HourSales> tillSales(
+        const DayRange& range, TillPart part, const Reading& reading);
 
     /// The articles sold in \a range, in the order of their names.
     virtual std::vector<ArticleSales> articles(const DayRange& range, const Reading& reading) = 0;
 
     /// What the recipes used in \a range: first of the whole range, then of each day. As the till's
-    /// own window computes both, the days need not add up to the range.
+    /// own window computes both, the days need not add up to the range. Where there are several
+    /// tills, the days of some may be added up, and where the range has the grain of months, the
+    /// days of each month, as its first in the range.
     virtual std::vector<Use> uses(const DayRange& range, const Reading& reading) = 0;
 
     /// The menu, in the order of the names.
@@ -117,6 +152,13 @@ public:
 
     /// The configured tax rate, in per cent.
     virtual double taxRate() = 0;
+
+    /// What the reader of sums with tax has to know of that rate; nothing where all is as usual.
+    virtual std::optional<QString> taxRemark(const QLocale& locale)
+    {
+        static_cast<void>(locale);
+        return std::nullopt;
+    }
 
     /// Whether sales may have been added, changed or removed since the last call; the first call
     /// says yes.

@@ -175,9 +175,17 @@ std::vector<Use> TillSource::uses(const DayRange& range, const Reading& reading)
         UseTables tables;
         readRows(
             TillStatements::stockArticles(),
-            [&](const QSqlQuery& row) { tables.addStockArticle(row); }, reading);
+            [&](const QSqlQuery& row) {
+                tables.addStockArticle({row.value(0), row.value(1)});
+            },
+            reading);
         readRows(
-            TillStatements::doses(), [&](const QSqlQuery& row) { tables.addDose(row); }, reading);
+            TillStatements::doses(),
+            [&](const QSqlQuery& row) {
+                tables.addDose(
+                    {row.value(0), row.value(1), row.value(2), row.value(3), row.value(4)});
+            },
+            reading);
         tables.addCounts(counts, range.first);
         return tables.uses(reading);
     });

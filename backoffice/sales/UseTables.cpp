@@ -26,57 +26,75 @@ UseTables::UseTables()
     database_.setDatabaseName(QStringLiteral(":memory:"));
     database_.open();
     for (const char* table : TillStatements::useTables) {
-        run(QLatin1String(table), {});
+        run(QLatin1String(table));
     }
+    prepare(addStockArticle_, TillStatements::addStockArticle());
+    prepare(addDose_, TillStatements::addDose());
+    prepare(addCount_, TillStatements::addCount());
 }
 
 UseTables::~UseTables()
 {
+    for (QSqlQuery* query : {&addStockArticle_, &addDose_, &addCount_}) {
+        *query = QSqlQuery();
+    }
     database_ = QSqlDatabase();
     QSqlDatabase::removeDatabase(connection_);
 }
 
-void UseTables::run(const QString& sql, const QVariantList& values)
+void UseTables::run(const QString& sql)
 {
     QSqlQuery query(database_);
+    require(query.exec(sql), query);
+}
+
+void UseTables::prepare(QSqlQuery& query, const QString& sql)
+{
+    query = QSqlQuery(database_);
     require(query.prepare(sql), query);
-    for (const QVariant& value : values) {
-        query.addBindValue(value);
+}
+
+void UseTables::add(QSqlQuery& to, const QVariantList& row)
+{
+    for (int place = 0; place < row.size(); ++place) {
+        to.bindValue(place, row.at(place));
     }
-    require(query.exec(), query);
+    require(to.exec(), to);
 }
 
-void UseTables::addStockArticle(const QSqlQuery& row)
-{
-    run(TillStatements::addStockArticle(), {row.value(0), row.value(1)});
-}
+void UseTables::addStockArticle(const QVariantList& row) { add(addStockArticle_, row); }
 
-void UseTables::addDose(const QSqlQuery& row)
-{
-    run(TillStatements::addDose(),
-        {row.value(0), row.value(1), row.value(2), row.value(3), row.value(4)});
-}
+void UseTables::addDose(const QVariantList& row) { add(addDose_, row); }
 
 void UseTables::addCounts(const CountFigures& counts, QDate first)
 {
     database_.transaction();
-    QSqlQuery query(database_);
-    require(query.prepare(TillStatements::addCount()), query);
+    parts_.push_back({QDate(), 0});
     QDate day = first;
     for (const CountFigures::Count& count : counts.result()) {
         if (count.day.isValid() && count.day > day) {
             day = count.day;
         }
-        if (days_.empty() || days_.back() != day) {
-            days_.push_back(day);
+        const Part part{day, 0};
+        if (!(parts_.back() == part)) {
+            parts_.push_back(part);
         }
-        query.bindValue(0, day.toJulianDay());
-        query.bindValue(1, count.article);
-        query.bindValue(2, count.price);
-        query.bindValue(3, count.lines);
-        require(query.exec(), query);
+        add(addCount_, {part.number(), count.article, count.price, count.lines});
     }
-    run(TillStatements::addAllDays(), {});
+    run(TillStatements::addAllDays());
+    database_.commit();
+}
+
+void UseTables::addLines(const std::vector<Lines>& lines)
+{
+    database_.transaction();
+    for (const Lines& sold : lines) {
+        const Part part{sold.day, sold.till};
+        if (parts_.empty() || !(parts_.back() == part)) {
+            parts_.push_back(part);
+        }
+        add(addCount_, {part.number(), sold.article, 0, sold.lines});
+    }
     database_.commit();
 }
 
@@ -86,19 +104,16 @@ std::vector<Use> UseTables::uses(const Reading& reading)
     QSqlQuery query(database_);
     query.setForwardOnly(true);
     require(query.prepare(Consumption::totalsStatement(TillStatements::countedSales())), query);
-    const auto add = [&](QDate day) {
-        const qint64 number = day.isValid() ? day.toJulianDay() : 0;
-        query.bindValue(0, number);
-        query.bindValue(1, number);
+    for (const Part& part : parts_) {
+        query.bindValue(0, part.number());
+        query.bindValue(1, part.number());
         require(query.exec(), query);
         while (query.next()) {
-            uses.push_back({day, query.value(0).toString(), query.value(1).toDouble(),
+            uses.push_back({part.day, query.value(0).toString(), query.value(1).toDouble(),
                 query.value(2).toString(), query.value(3).toDouble(), query.value(4).toString(),
-                0});
+                part.till});
         }
         reading.advance(1);
-    };
-    add(QDate());
-    std::for_each(days_.begin(), days_.end(), add);
+    }
     return uses;
 }

@@ -4,6 +4,7 @@
 #include "backoffice/sales/TillFigures.h"
 
 #include <QSqlDatabase>
+#include <QSqlQuery>
 
 /// A database in memory, in which the till's own statement computes what the recipes used.
 class UseTables
@@ -17,17 +18,46 @@ public:
     UseTables& operator=(UseTables&&) = delete;
 
     /// A row of the till's table ArticleStock, of DoseStock.
-    void addStockArticle(const QSqlQuery& row);
-    void addDose(const QSqlQuery& row);
+    void addStockArticle(const QVariantList& row);
+    void addDose(const QVariantList& row);
     /// The sales; \a first is the day before which nothing was read.
     void addCounts(const CountFigures& counts, QDate first);
 
-    /// First of all sales, then of each day.
+    /// Lines of a till that are counted already as the till counts them.
+    struct Lines
+    {
+        /// Not valid for all days.
+        QDate day;
+        int till = 0;
+        QString article;
+        qint64 lines = 0;
+    };
+    /// Those of a day stand together, and those of a till's all days.
+    void addLines(const std::vector<Lines>& lines);
+
+    /// First of all sales, then of each day; of counted lines, in the order of adding.
     std::vector<Use> uses(const Reading& reading);
 
 private:
-    void run(const QString& sql, const QVariantList& values);
+    /// What is computed by itself.
+    struct Part
+    {
+        QDate day;
+        int till = 0;
+
+        bool operator==(const Part& other) const { return day == other.day && till == other.till; }
+        /// Its number in the tables.
+        qint64 number() const { return day.isValid() ? day.toJulianDay() : -qint64{till}; }
+    };
+
+    void run(const QString& sql);
+    void prepare(QSqlQuery& query, const QString& sql);
+    static void add(QSqlQuery& to, const QVariantList& row);
+
     QString connection_;
     QSqlDatabase database_;
-    std::vector<QDate> days_;
+    QSqlQuery addStockArticle_;
+    QSqlQuery addDose_;
+    QSqlQuery addCount_;
+    std::vector<Part> parts_;
 };

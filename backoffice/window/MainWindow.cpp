@@ -3,6 +3,7 @@
 
 #include "backoffice/window/PeriodBar.h"
 #include "backoffice/window/ReportPage.h"
+#include "backoffice/window/TillChoice.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -46,6 +47,9 @@ MainWindow::MainWindow(WindowSetup setup)
     connect(&reader_, &ReportReader::finished, this, &MainWindow::showReport);
     connect(&reader_, &ReportReader::failed, this, &MainWindow::showFailure);
     connect(&reader_, &ReportReader::taxRateRead, this, &MainWindow::takeTaxRate);
+    if (tills_ != nullptr) {
+        connect(&reader_, &ReportReader::tillsRead, tills_, &TillChoice::offer);
+    }
     connect(&reader_, &ReportReader::changed, this, &MainWindow::readPage);
     connect(&reader_, &ReportReader::progressed, this, [this](double done) {
         constexpr int whole = 1000;
@@ -65,6 +69,9 @@ ReportOrder MainWindow::order() const
     ReportOrder order;
     order.page = page().page();
     order.range = period_->range();
+    if (tills_ != nullptr) {
+        order.tills = tills_->tills();
+    }
     if (order.page == Page::Closing) {
         // Of a month that is not over, the last day to close is today.
         order.range.last = std::min(order.range.last, setup_.today());

@@ -18,6 +18,7 @@ class QProgressBar;
 class QTabWidget;
 class QToolButton;
 class ReportPage;
+class TillChoice;
 
 /// What a window of the back office needs to know.
 struct WindowSetup
@@ -32,6 +33,10 @@ struct WindowSetup
     QString folder;
     /// What the system's spreadsheets expect, if that is not what the locale says.
     std::optional<CsvFormat> csvFormat = std::nullopt;
+    /// Whether the sales are those of a book of several tills, which has no menu to be written.
+    bool isBook = false;
+    /// The tills of the book that are shown first; none for all.
+    std::vector<QString> tills = {};
 };
 
 /// The window of the back office: a page for each kind of report, one period for all.
@@ -77,6 +82,8 @@ private:
 
     WindowSetup setup_;
     PeriodBar* period_ = nullptr;
+    /// None where there is one till.
+    TillChoice* tills_ = nullptr;
     QDoubleSpinBox* taxRate_ = nullptr;
     QTabWidget* tabs_ = nullptr;
     std::array<ReportPage*, 5> pages_{};

@@ -3,6 +3,7 @@
 #include "backoffice/window/MenuFiles.h"
 #include "backoffice/window/PeriodBar.h"
 #include "backoffice/window/ReportPage.h"
+#include "backoffice/window/TillChoice.h"
 
 #include <QAction>
 #include <QDoubleSpinBox>
@@ -23,6 +24,11 @@ void MainWindow::buildTop()
     period_ = new PeriodBar(setup_.locale, setup_.today, whole);
     connect(period_, &PeriodBar::chosen, this, &MainWindow::readPage);
     line->addWidget(period_);
+    if (setup_.isBook) {
+        tills_ = new TillChoice(setup_.tills, whole);
+        connect(tills_, &TillChoice::chosen, this, &MainWindow::readPage);
+        line->addWidget(tills_);
+    }
     line->addStretch();
     addProgress(*line);
     auto* caption = new QLabel(tr("&TVA"), whole);
@@ -86,6 +92,9 @@ void MainWindow::buildFileMenu()
     ReportPage& closing = *pages_.at(static_cast<std::size_t>(Page::Closing));
     closing.addButton(pdf);
     closing.addButton(paper);
+    if (setup_.isBook) {
+        return;
+    }
     auto* files = new MenuFiles(setup_.folder, setup_.locale,
         setup_.csvFormat.value_or(CsvFormat::of(setup_.locale)), this);
     connect(files, &MenuFiles::imported, this, &MainWindow::readPage);

@@ -27,7 +27,7 @@ namespace {
 bool isAbout(const ReportOrder& one, const ReportOrder& other)
 {
     return one.page == other.page && one.range == other.range && one.taxRate == other.taxRate
-        && one.ranking == other.ranking && one.today == other.today;
+        && one.ranking == other.ranking && one.today == other.today && one.tills == other.tills;
 }
 } // namespace
 

@@ -5,6 +5,11 @@
 
 #include <chrono>
 
+namespace {
+/// The number of what is said once, whichever order is wanted by then.
+constexpr int ofEveryOrder = -1;
+} // namespace
+
 ReportReader::ReportReader(Open open, Make make)
     : open_(std::move(open))
     , make_(std::move(make))
@@ -83,16 +88,29 @@ void ReportReader::openSource()
     }
 }
 
+void ReportReader::offerTills()
+{
+    const std::vector<QString> tills = source_->allTills();
+    if (tills_ != tills) {
+        tills_ = tills;
+        send(ofEveryOrder, [this, tills] { emit tillsRead(tills); });
+    }
+}
+
 void ReportReader::carryOut(const Order& order)
 {
     const int number = order.number;
     try {
         openSource();
+        // Tills that are not there any more are refused: those that are have to be offered first.
+        offerTills();
+        source_->choose(order.what.tills);
         source_->isChanged();
+        offerTills();
         const double rate = source_->taxRate();
         if (taxRate_ != rate) {
             taxRate_ = rate;
-            send(number, [this, rate] { emit taxRateRead(rate); });
+            send(ofEveryOrder, [this, rate] { emit taxRateRead(rate); });
         }
         QElapsedTimer sinceSaid;
         sinceSaid.start();
@@ -159,7 +177,7 @@ void ReportReader::deliver()
         sent.swap(sent_);
     }
     for (const auto& [number, report] : sent) {
-        if (number == wanted_) {
+        if (number == wanted_ || number == ofEveryOrder) {
             report();
         }
     }

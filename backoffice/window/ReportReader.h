@@ -43,6 +43,8 @@ public:
 signals:
     /// The configured tax rate, in per cent; before the first report, and when it has changed.
     void taxRateRead(double rate);
+    /// The tills that can be chosen; before the first report, and when they have changed.
+    void tillsRead(const std::vector<QString>& names);
     /// How much of the order is read, 0 to 1.
     void progressed(double done);
     void finished(const Report& report);
@@ -66,6 +68,7 @@ private:
     void carryOut(const Order& order);
     void look();
     void openSource();
+    void offerTills();
     /// Runs \a report in the object's thread, unless order \a number is out of date there.
     void send(int number, std::function<void()> report);
     void deliver();
@@ -86,6 +89,7 @@ private:
     // What only the thread uses.
     std::unique_ptr<SalesSource> source_;
     std::optional<double> taxRate_;
+    std::vector<QString> tills_;
     bool hasFailed_ = false;
 
     std::unique_ptr<QThread> thread_;

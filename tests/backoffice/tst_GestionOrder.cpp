@@ -35,6 +35,17 @@ private slots:
         QCOMPARE(*order.language, Language::English);
     }
 
+    void aBookMayHaveTills()
+    {
+        const Order order = parseOrder({"--central", "postgresql://lea@serveur/livre", "--caisse",
+            "Bar", "--caisse=Cave", "--caisse", "Bar"});
+        QCOMPARE(order.action, Order::Action::Window);
+        QCOMPARE(order.central, QStringLiteral("postgresql://lea@serveur/livre"));
+        QVERIFY(
+            order.tills == (std::vector<QString>{QStringLiteral("Bar"), QStringLiteral("Cave")}));
+        QVERIFY(parseOrder({}).tills.empty());
+    }
+
     void aPageIsAFile_data()
     {
         QTest::addColumn<QString>("option");
@@ -119,6 +130,8 @@ private slots:
             "« --du » demande une page : --ventes, --articles, --heures, "
             "--consommation ou --cloture.");
         row("--ventes --du 2026-11-01", "« --ventes » demande un fichier : --csv, --pdf ou --png.");
+        row("--caisse Bar", "« --caisse » demande un livre central : --central ADRESSE.");
+        row("--central", "L'option « --central » attend une valeur.");
         row("--ventes --csv -", "« --ventes » demande un premier jour : --du 2026-11-30.");
     }
 

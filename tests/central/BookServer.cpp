@@ -9,6 +9,7 @@
 #include <QThread>
 #include <QUrl>
 
+#include <algorithm>
 #include <csignal>
 
 #include <fcntl.h>
@@ -53,25 +54,34 @@ pid_t begin(std::vector<std::string> command, const QString& log)
 
 BookServer& BookServer::get()
 {
-    static BookServer server;
+    static BookServer server({});
     return server;
 }
 
-BookServer::BookServer()
+BookServer::BookServer(std::vector<std::string> settings, const std::string& password)
     : folder_(QDir::tempPath() + "/vendel-pg-XXXXXX")
+    , settings_(std::move(settings))
 {
     const QString path = folder_.path();
     QDir(path).mkdir("data");
+    QFile secret(path + "/secret");
+    if (!secret.open(QIODevice::WriteOnly) || secret.write(password.c_str()) < 0) {
+        qFatal("secret");
+    }
+    secret.close();
     if (geteuid() == 0) {
-        for (const QString& folder : {path, path + "/data"}) {
+        for (const QString& folder : {path, path + "/data", secret.fileName()}) {
             if (chown(QFile::encodeName(folder).constData(), nobody, nobody) != 0) {
                 qFatal("chown");
             }
         }
     }
-    const pid_t making = begin({"initdb", "-D", folder() + "/data", "-A", "trust", "-U", "owner",
-                                   "--no-locale", "-E", "UTF8", "-N"},
-        "/dev/null");
+    std::vector<std::string> command{"initdb", "-D", folder() + "/data", "-U", "owner",
+        "--no-locale", "-E", "UTF8", "-N", "-A", password.empty() ? "trust" : "scram-sha-256"};
+    if (!password.empty()) {
+        command.push_back("--pwfile=" + folder() + "/secret");
+    }
+    const pid_t making = begin(command, "/dev/null");
     int state = 0;
     if (waitpid(making, &state, 0) != making || state != 0) {
         qFatal("initdb");
@@ -85,10 +95,13 @@ void BookServer::start()
 {
     // What was written is safe in the system's memory when the server crashes: only a crash of the
     // machine would need more.
-    server_ = begin({"postgres", "-D", folder() + "/data", "-k", folder(), "-c",
-                        "listen_addresses=", "-c", "fsync=off", "-c", "max_connections=120", "-c",
-                        "shared_buffers=32MB", "-c", "autovacuum=off"},
-        "/dev/null");
+    std::vector<std::string> command{"postgres", "-D", folder() + "/data", "-k", folder(), "-c",
+        "listen_addresses=", "-c", "fsync=off", "-c", "max_connections=120", "-c",
+        "shared_buffers=32MB", "-c", "autovacuum=off"};
+    for (const std::string& setting : settings_) {
+        command.insert(command.end(), {"-c", setting});
+    }
+    server_ = begin(command, "/dev/null");
     constexpr int patienceMs = 30000;
     QElapsedTimer waited;
     waited.start();
@@ -144,7 +157,10 @@ std::string BookServer::uri(
     const std::string& name, const std::string& user, const std::string& folder) const
 {
     const QString path = QString::fromStdString(folder.empty() ? this->folder() : folder);
-    return "postgresql://" + user + "@" + QUrl::toPercentEncoding(path).toStdString() + "/" + name;
+    const auto port = std::find_if(settings_.begin(), settings_.end(),
+        [](const std::string& setting) { return setting.starts_with("port="); });
+    return "postgresql://" + user + "@" + QUrl::toPercentEncoding(path).toStdString() + "/" + name
+        + (port == settings_.end() ? std::string() : '?' + *port);
 }
 
 std::string BookServer::newDatabase()

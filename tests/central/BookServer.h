@@ -9,13 +9,16 @@
 
 #include <sys/types.h>
 
-/// A PostgreSQL of the test program's own, in a folder of its own, reached by a socket in it. It is
-/// started when it is first needed, and ends with the program.
+/// A PostgreSQL of the test program's own, in a folder of its own, reached by a socket in it. The
+/// one that most tests share is started when it is first needed, and ends with the program.
 class BookServer
 {
 public:
     /// The program's one.
     static BookServer& get();
+    /// One more, with \a settings like "ssl=on"; it asks for a password where \a password is one,
+    /// the user's "owner".
+    explicit BookServer(std::vector<std::string> settings, const std::string& password = {});
 
     BookServer(const BookServer&) = delete;
     BookServer& operator=(const BookServer&) = delete;
@@ -50,11 +53,11 @@ public:
     std::string folder() const { return folder_.path().toStdString(); }
 
 private:
-    BookServer();
     void end(int signal);
     void signalChildren(int signal) const;
 
     QTemporaryDir folder_;
+    std::vector<std::string> settings_;
     pid_t server_ = -1;
     int databases_ = 0;
 };

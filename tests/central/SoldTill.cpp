@@ -81,9 +81,17 @@ QStringList SoldTill::wrongSums(const std::string& database)
                              "from vendel.line group by 1, 2, 3, 4";
     const std::string months = "select date_trunc('month', moment)::date, till, name, price, "
                                "count(*)::bigint from vendel.line group by 1, 2, 3, 4";
+    const std::string uses
+        = "select day, till, folded, sum(distinct lines) as lines from (select moment::date as day, "
+          "till, folded, price, count(*) as lines from vendel.line l "
+          "join vendel.name n on n.id = l.name group by 1, 2, 3, 4) as prices group by 1, 2, 3";
+    const std::string monthUses = "select date_trunc('month', day)::date, till, folded, "
+                                  "sum(lines) from ("
+        + uses + ") as days group by 1, 2, 3";
     QStringList wrong;
-    for (const auto& [sums, lines] : {std::pair<std::string, std::string>("hour_sales", hours),
-             {"day_sales", days}, {"month_sales", months}}) {
+    for (const auto& [sums, lines] :
+        {std::pair<std::string, std::string>("hour_sales", hours), {"day_sales", days},
+            {"month_sales", months}, {"day_use", uses}, {"month_use", monthUses}}) {
         const std::string table = "table vendel." + sums;
         wrong += BookServer::get().rows(database, table + " except " + lines);
         wrong += BookServer::get().rows(database, lines + " except " + table);

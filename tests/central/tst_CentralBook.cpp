@@ -46,6 +46,38 @@ private slots:
             "3");
     }
 
+    void usesAreCountedAsTheTillsWindowDoes()
+    {
+        const SoldTill till;
+        for (const char* price : {"2", "2.5"}) {
+            for (const char* day : {"2026-03-05", "2026-03-06"}) {
+                till.sell(QString(day) + " 10:00:00.000", "Café", price);
+                till.sell(QString(day) + " 11:00:00.000", "CaFé", price);
+            }
+        }
+        const std::string book = server().newBook();
+        till.send(book);
+        const std::string days = "select day, folded, lines from vendel.day_use order by 1";
+        const std::string months = "select month, folded, lines from vendel.month_use";
+        QCOMPARE(
+            server().rows(book, days), (QStringList{"2026-03-05|café|2", "2026-03-06|café|2"}));
+        QCOMPARE(server().rows(book, months), QStringList("2026-03-01|café|4"));
+
+        // Two at 2 and three at 2.5 are five.
+        till.sell("2026-03-06 12:00:00.000", "Café", "2.5");
+        till.send(book, Sender::Depth::New);
+        QCOMPARE(
+            server().rows(book, days), (QStringList{"2026-03-05|café|2", "2026-03-06|café|5"}));
+        QCOMPARE(server().rows(book, months), QStringList("2026-03-01|café|7"));
+
+        // Three at each are three.
+        till.sell("2026-03-06 13:00:00.000", "café", "2");
+        till.send(book, Sender::Depth::New);
+        QCOMPARE(
+            server().rows(book, days), (QStringList{"2026-03-05|café|2", "2026-03-06|café|3"}));
+        QCOMPARE(server().rows(book, months), QStringList("2026-03-01|café|5"));
+    }
+
     void namesThatAreOneArticlesAreKnown()
     {
         const SoldTill till;

@@ -9,6 +9,8 @@
 
 #include <csignal>
 
+#include <pqxx/connection>
+#include <pqxx/transaction>
 #include <sys/wait.h>
 
 namespace {
@@ -99,6 +101,15 @@ private slots:
                      QFile::encodeName(till.file()).constData()),
             0);
         QTRY_COMPARE_WITH_TIMEOUT(SoldTill::bookLines(book).size(), 3, tenSeconds);
+
+        // Its last line says nothing of what is before it.
+        const SoldTill third;
+        third.sell("2026-02-01 10:00:00.000");
+        third.sell("2026-03-07 10:00:00.000");
+        QCOMPARE(::rename(QFile::encodeName(third.file()).constData(),
+                     QFile::encodeName(till.file()).constData()),
+            0);
+        QTRY_COMPARE_WITH_TIMEOUT(SoldTill::bookLines(book).size(), 4, tenSeconds);
     }
 
     void itEndsInOrder()
@@ -113,6 +124,45 @@ private slots:
         QCOMPARE(following.end(SIGTERM), 0);
         QVERIFY(ending.elapsed() < tenSeconds);
         QCOMPARE(said(till), QByteArray());
+    }
+
+    void itEndsWhileTheServerMakesItWait()
+    {
+        const SoldTill till;
+        till.sell("2026-03-05 10:00:00.000");
+        const std::string book = server().newBook();
+        Following following(till, book);
+        QTRY_COMPARE_WITH_TIMEOUT(SoldTill::bookLines(book).size(), 1, tenSeconds);
+        pqxx::connection other(server().uri(book));
+        pqxx::work holding(other);
+        holding.exec("lock table vendel.progress");
+        till.sell("2026-03-05 10:00:05.000");
+        QTRY_COMPARE_WITH_TIMEOUT(server().cell(book,
+                                      "select count(*) from pg_locks where not granted and "
+                                      "relation = 'vendel.progress'::regclass"),
+            "1", tenSeconds);
+        QElapsedTimer ending;
+        ending.start();
+        QCOMPARE(following.end(SIGTERM), 0);
+        QVERIFY(ending.elapsed() < tenSeconds);
+        holding.abort();
+        QCOMPARE(till.sendTo(server().uri(book)).status, 0);
+        QCOMPARE(SoldTill::bookLines(book), till.lines());
+    }
+
+    void aServerThatStartsLaterIsWaitedFor()
+    {
+        const SoldTill till;
+        till.sell("2026-03-05 10:00:00.000");
+        const std::string book = server().newBook();
+        server().stop();
+        const Following following(till, book);
+        QTRY_VERIFY_WITH_TIMEOUT(!said(till).isEmpty(), tenSeconds);
+        server().start();
+        QTRY_COMPARE_WITH_TIMEOUT(SoldTill::bookLines(book).size(), 1, tenSeconds);
+        QVERIFY(following.isRunning());
+        QCOMPARE(QString::fromUtf8(said(till)),
+            QString("Le livre central ne répond pas (pas de serveur ou pas de réseau).\n"));
     }
 
     void whatNobodyCanWaitForEndsIt()

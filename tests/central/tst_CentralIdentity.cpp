@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <barrier>
 #include <set>
 #include <thread>
 
@@ -68,16 +69,23 @@ private slots:
 
     void whoeverStartsAtOnceHasTheSameOne()
     {
-        const Folder folder;
-        std::vector<std::string> digests(8);
-        std::vector<std::thread> asking;
-        for (std::string& digest : digests) {
-            asking.emplace_back([&] { digest = folder.digest(); });
+        constexpr int rounds = 50;
+        for (int round = 0; round < rounds; ++round) {
+            const Folder folder;
+            std::vector<std::string> digests(4);
+            std::barrier start(static_cast<std::ptrdiff_t>(digests.size()));
+            std::vector<std::thread> asking;
+            for (std::string& digest : digests) {
+                asking.emplace_back([&] {
+                    start.arrive_and_wait();
+                    digest = folder.digest();
+                });
+            }
+            for (std::thread& one : asking) {
+                one.join();
+            }
+            QCOMPARE(std::set<std::string>(digests.begin(), digests.end()).size(), std::size_t{1});
         }
-        for (std::thread& one : asking) {
-            one.join();
-        }
-        QCOMPARE(std::set<std::string>(digests.begin(), digests.end()).size(), std::size_t{1});
     }
 
     void aNameIsRememberedAndPlain()
@@ -105,6 +113,14 @@ private slots:
         QVERIFY(!line.isRegular());
         line = good;
         line.article = "1.5";
+        QVERIFY(!line.isRegular());
+        line = good;
+        line.name = std::string(2000, 'a');
+        QVERIFY(line.isRegular());
+        line.name += 'a';
+        QVERIFY(!line.isRegular());
+        line = good;
+        line.exactPrice = std::string(201, '1');
         QVERIFY(!line.isRegular());
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "central/Book.h"
+#include "central/BookError.h"
 #include "tests/central/BookServer.h"
 #include "tests/central/SoldTill.h"
 #include "tests/support/TestProgram.h"
@@ -34,7 +35,7 @@ private slots:
         Book::prepare(server().uri(book));
         QCOMPARE(shape(book), before);
         QCOMPARE(SoldTill::bookLines(book).size(), 1);
-        QCOMPARE(server().rows(book, "select version from vendel.version"), QStringList("1"));
+        QCOMPARE(server().rows(book, "select version from vendel.version"), QStringList("2"));
     }
 
     void preparingAtOnceIsHarmless()
@@ -47,7 +48,62 @@ private slots:
         for (std::thread& one : preparing) {
             one.join();
         }
-        QCOMPARE(server().rows(book, "select version from vendel.version"), QStringList("1"));
+        QCOMPARE(server().rows(book, "select version from vendel.version"), QStringList("2"));
+    }
+
+    void aBookOfTheFirstVersionIsUpgraded()
+    {
+        const SoldTill till;
+        for (const char* price : {"2", "2.5"}) {
+            till.sell("2026-03-05 10:00:00.000", "Café", price);
+            till.sell("2026-03-06 10:00:00.000", "CaFé", price);
+        }
+        till.sell("2026-03-06 11:00:00.000", "café", "2");
+        till.sell("2026-04-01 11:00:00.000", "Thé", "3");
+        const std::string book = server().newBook();
+        till.send(book);
+        const QStringList shapeOfAnew = shape(book);
+        server().rows(book,
+            "drop table vendel.day_use, vendel.month_use; update vendel.version set version = 1;"
+            "create role \"L'auditeur\" login; grant usage on schema vendel to \"L'auditeur\";"
+            "grant select on all tables in schema vendel to \"L'auditeur\";"
+            "grant insert on vendel.day_sales to public");
+        QVERIFY_EXCEPTION_THROWN(till.send(book), BookError);
+
+        Book::prepare(server().uri(book));
+        QCOMPARE(shape(book), shapeOfAnew);
+        QCOMPARE(server().rows(book, "select version from vendel.version"), QStringList("2"));
+        QCOMPARE(server().rows(book, "select * from vendel.day_use order by day"),
+            (QStringList{"2026-03-05|1|café|1", "2026-03-06|1|café|3", "2026-04-01|1|thé|1"}));
+        QCOMPARE(server().rows(book, "select * from vendel.month_use order by month"),
+            (QStringList{"2026-03-01|1|café|4", "2026-04-01|1|thé|1"}));
+        for (const char* table : {"vendel.day_use", "vendel.month_use"}) {
+            const auto may = [&](const std::string& right) {
+                return server().cell(book,
+                    "select has_table_privilege('L''auditeur', '" + std::string(table) + "', '"
+                        + right + "')");
+            };
+            QCOMPARE(may("select"), "t");
+            QCOMPARE(may("insert"), "t");
+            QCOMPARE(may("delete"), "f");
+        }
+
+        till.sell("2026-03-06 12:00:00.000", "café", "2");
+        till.send(book, Sender::Depth::New);
+        QCOMPARE(SoldTill::wrongSums(book), QStringList());
+    }
+
+    void aSenderUnderWayIsStoppedByAnUpgrade()
+    {
+        const SoldTill till;
+        const std::string book = server().newBook();
+        Book open(server().uri(book), "identity", "Bar");
+        Book::Progress progress = open.progress();
+        server().rows(book, "update vendel.version set version = 3");
+        Batch batch;
+        batch.lines = {Line{}};
+        QVERIFY_EXCEPTION_THROWN(open.add(batch, progress), BookError);
+        QCOMPARE(server().cell(book, "select count(*) from vendel.odd_line"), "0");
     }
 
     void whatIsInTheDatabaseAlreadyStays()

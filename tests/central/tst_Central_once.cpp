@@ -339,6 +339,21 @@ private slots:
         QCOMPARE(BookServer::get().cell(book_, "select count(*) from vendel.odd_line"), "6");
     }
 
+    void aNameThatNoIndexTakesIsKeptAside()
+    {
+        const SoldTill till;
+        // Nothing that could be packed more closely.
+        QString name;
+        for (int number = 0; name.size() < 9000; ++number) {
+            name += QString::number(number * 7919 % 100003, 36);
+        }
+        till.sell("2026-03-05 10:00:00.000", name);
+        till.sell("2026-03-05 10:00:01.000");
+        QCOMPARE(till.send(book_), std::int64_t{1});
+        QCOMPARE(till.send(book_), std::int64_t{0});
+        QCOMPARE(BookServer::get().cell(book_, "select name from vendel.odd_line"), name);
+    }
+
     void textsArriveAsTheyAre()
     {
         const SoldTill till;
@@ -347,6 +362,16 @@ private slots:
         till.sell("2026-03-05 10:00:00.000", "");
         till.send(book_);
         QCOMPARE(SoldTill::bookLines(book_), till.lines());
+    }
+
+    void aZeroInATextHoldsNothingUp()
+    {
+        const SoldTill till;
+        till.sell("2026-03-05 10:00:00.000", "a' || char(0) || 'b");
+        till.sell("2026-03-05 10:00:01.000");
+        QCOMPARE(till.send(book_), std::int64_t{2});
+        QCOMPARE(till.send(book_), std::int64_t{0});
+        QCOMPARE(SoldTill::bookLines(book_).value(0), "2026-03-05 10:00:00.000 1 a\uFFFDb 25000");
     }
 
     void twoSendersOfOneTillDoNotDouble()

@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# clean_tree.sh PACKAGE: installs the package into an otherwise empty Debian system, starts the till
-# there on a virtual display, closes it, puts its copy back, and removes the package again. Ends with
-# 77, and says why, where the machine does not allow it. The packages come from where this machine's
-# own apt has them.
+# clean_tree.sh PACKAGE CENTRAL: installs the till's package into an otherwise empty Debian system,
+# starts the till there on a virtual display, closes it and puts its copy back; then adds the package
+# of the central book, and removes both again. Ends with 77, and says why, where the machine does not
+# allow it. The packages come from where this machine's own apt has them.
 set -euo pipefail
 
 package=$(readlink -f "$1")
+central=$(readlink -f "$2")
 
 skip() {
     printf 'skipped: %s\n' "$*"
@@ -55,28 +56,37 @@ DEBIAN_FRONTEND=noninteractive debootstrap --variant=minbase "$codename" "$tree"
     skip "debootstrap made no system here"
 }
 
-echo "Installing the package and what it names"
-# This machine's apt resolves and fetches for the tree, which then needs no network of its own.
-rm -f "$tree"/var/cache/apt/archives/*.deb
-cp "$package" "$tree/var/cache/apt/archives"
-apt-get -q -y --no-install-recommends --download-only \
-    -o Dir::State::status="$tree/var/lib/dpkg/status" \
-    -o Dir::Cache::archives="$tree/var/cache/apt/archives" \
-    install "$package" >"$work/fetch.log" 2>&1 || {
-    cat "$work/fetch.log"
-    grep -q 'unmet dependencies' "$work/fetch.log" && fail "the package names what there is not"
-    skip "apt fetched nothing"
+# fetch PACKAGE: has it and what it names in the tree's archives. This machine's apt resolves and fetches
+# for the tree, which then needs no network of its own.
+fetch() {
+    rm -f "$tree"/var/cache/apt/archives/*.deb
+    cp "$1" "$tree/var/cache/apt/archives"
+    apt-get -q -y --no-install-recommends --download-only \
+        -o Dir::State::status="$tree/var/lib/dpkg/status" \
+        -o Dir::Cache::archives="$tree/var/cache/apt/archives" \
+        install "$1" >"$work/fetch.log" 2>&1 || {
+        cat "$work/fetch.log"
+        grep -q 'unmet dependencies' "$work/fetch.log" && fail "the package names what there is not"
+        skip "apt fetched nothing"
+    }
 }
-mountpoint -q "$tree/proc" || mount -t proc proc "$tree/proc"
 in_tree() {
     chroot "$tree" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 \
         DEBIAN_FRONTEND=noninteractive "$@"
 }
-in_tree sh -c 'dpkg --unpack /var/cache/apt/archives/*.deb && dpkg --configure --pending' \
-    >"$work/install.log" 2>&1 || {
-    tail -n 20 "$work/install.log"
-    fail "the package could not be installed"
+# unpack: installs what was fetched.
+unpack() {
+    in_tree sh -c 'dpkg --unpack /var/cache/apt/archives/*.deb && dpkg --configure --pending' \
+        >"$work/install.log" 2>&1 || {
+        tail -n 20 "$work/install.log"
+        fail "the package could not be installed"
+    }
 }
+
+echo "Installing the package and what it names"
+fetch "$package"
+mountpoint -q "$tree/proc" || mount -t proc proc "$tree/proc"
+unpack
 [ -z "$(in_tree dpkg --audit)" ] || fail "the package is not installed whole"
 [ -z "$(in_tree dpkg --verify vendel)" ] || fail "installed files differ from the package's"
 
@@ -148,9 +158,24 @@ copy=$("${as_shop[@]}" env -u DISPLAY vendel --restaurer </dev/null | head -n 1 
     || { cat "$work/restored.log" && fail "the copy could not be put back"; }
 grep -q 'est remise en place' "$work/restored.log" || fail "restoring said something else"
 
-echo "Removing it"
-in_tree dpkg --purge vendel >"$work/purge.log" 2>&1 || fail "the package could not be removed"
+echo "Sending from it"
+[ ! -e "$tree/usr/bin/vendel-central" ] || fail "the till's package has what only several tills need"
+fetch "$central"
+unpack
+[ -z "$(in_tree dpkg --verify vendel-central)" ] || fail "installed files differ from the package's"
+status=0
+"${as_shop[@]}" vendel-central --envoyer postgresql://shop@localhost:1/ventes \
+    >"$work/sent.log" 2>&1 || status=$?
+# The till was read, and nobody answers.
+if [ $status -ne 3 ] || ! grep -q 'pas de serveur' "$work/sent.log"; then
+    cat "$work/sent.log"
+    fail "sending ended otherwise: $status"
+fi
+[ "$(stat -c %a "$data/.identite")" = 600 ] || fail "the till has no identity of its own"
+
+echo "Removing them"
+in_tree dpkg --purge vendel-central vendel >"$work/purge.log" 2>&1 || fail "the package could not be removed"
 left=$(find "$tree/usr" "$tree/etc" "$tree/lib" -xdev -name '*vendel*')
 [ -z "$left" ] || fail "the package left $left"
 [ -s "$data/Vendel.db" ] || fail "the shop's data went with the package"
-echo "The package installs, runs and goes"
+echo "The packages install, run and go"

@@ -163,7 +163,7 @@ FILES
     help=$("$tree/bin/vendel-gestion" --help)
     for page in man1 fr/man1; do
         text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel-gestion.1.gz")
-        for option in --dossier --langue --ventes --articles --heures --consommation --cloture --du --au \
+        for option in --dossier --central --caisse --langue --ventes --articles --heures --consommation --cloture --du --au \
             --taux --csv-format --csv --pdf --png --aide --version; do
             grep -q -e "$option" <<<"$text"
             grep -q -e "$option" <<<"$help"

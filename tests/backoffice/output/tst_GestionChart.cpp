@@ -187,6 +187,34 @@ private slots:
         QVERIFY(drawn.chart().plotArea().left() > 100);
     }
 
+    void namesThatHaveNoRoomInARowAreInSeveral()
+    {
+        BarChart chart = takings({10, 20});
+        chart.bars.push_back({QStringLiteral("Terrasse & jardin"), {100000, 100000}});
+        chart.bars.push_back({QStringLiteral("<b>Salle</b>"), {100000, 100000}});
+        for (const bool isHorizontal : {false, true}) {
+            chart.isHorizontal = isHorizontal;
+            Drawn narrow(chart, {200, 300});
+            QCOMPARE(narrow.chart().namesInRows(),
+                (QStringList{QStringLiteral("Période"), QStringLiteral("Terrasse & jardin"),
+                    QStringLiteral("<b>Salle</b>")}));
+            Drawn wide(chart, {900, 300});
+            QCOMPARE(wide.chart().namesInRows(), QStringList());
+            QVERIFY(wide.texts().contains(QStringLiteral("<b>Salle</b>")));
+            // Rows take room of the bars, as soon as the chart has its size.
+            QVERIFY(narrow.chart().plotArea().height() < wide.chart().plotArea().height());
+        }
+    }
+
+    void aNameLongerThanTheChartIsCutShort()
+    {
+        BarChart chart = takings({10, 20});
+        chart.bars.push_back({QString(80, QLatin1Char('m')), {100000, 100000}});
+        Drawn drawn(chart, {300, 300});
+        QCOMPARE(drawn.chart().namesInRows().size(), 2);
+        QVERIFY(drawn.chart().namesInRows().at(1).endsWith(QChar(0x2026)));
+    }
+
     void aChartOfNothingSaysSo()
     {
         Drawn drawn(takings({}));

@@ -16,10 +16,22 @@ public:
     std::vector<Use> allUses;
     std::vector<MenuArticle> articlesOnTheMenu;
     double rate = 20;
+    bool isBook = false;
+    std::optional<QString> remark;
+    /// Number of readings while the source was held, and while it was not.
+    int held = 0;
+    int free = 0;
 
     std::vector<QString> tills() const override { return names; }
+    std::shared_ptr<void> hold() override
+    {
+        auto moment = std::make_shared<int>(0);
+        moment_ = moment;
+        return moment;
+    }
     std::vector<HourSales> hours(const DayRange& range, const Reading& reading) override
     {
+        count();
         reading.advance(1);
         std::vector<HourSales> found;
         for (const HourSales& part : hourSales) {
@@ -31,16 +43,25 @@ public:
     }
     std::vector<ArticleSales> articles(const DayRange& /*range*/, const Reading& reading) override
     {
+        count();
         reading.advance(1);
         return articleSales;
     }
     std::vector<Use> uses(const DayRange& /*range*/, const Reading& /*reading*/) override
     {
+        count();
         return allUses;
     }
     std::vector<MenuArticle> menu() override { return articlesOnTheMenu; }
     double taxRate() override { return rate; }
+    std::optional<QString> taxRemark(const QLocale& /*locale*/) override { return remark; }
+    bool namesTills() const override { return isBook; }
     bool isChanged() override { return false; }
+
+private:
+    void count() { ++(moment_.expired() ? free : held); }
+
+    std::weak_ptr<void> moment_;
 };
 
 /// Reports as their readers see them, in lines of text whose blanks are plain ones.

@@ -41,6 +41,8 @@ public:
             &reader, &ReportReader::progressed, &reader, [this](double done) { progress = done; });
         QObject::connect(
             &reader, &ReportReader::taxRateRead, &reader, [this](double rate) { taxRate = rate; });
+        QObject::connect(&reader, &ReportReader::tillsRead, &reader,
+            [this](const std::vector<QString>& names) { tills = names; });
     }
 
     SampleShop shop;
@@ -49,6 +51,7 @@ public:
     int changes = 0;
     double progress = 0;
     double taxRate = 0;
+    std::vector<QString> tills;
     ReportReader reader;
 };
 } // namespace
@@ -104,6 +107,22 @@ private slots:
         QCOMPARE(reader.changes, 0);
         reader.reader.read(order(thursday));
         QTRY_COMPARE(reader.said, QStringList{QStringLiteral("2026-11-19 3")});
+    }
+
+    void whatIsSaidOnceIsSaidOfAReplacedOrderToo()
+    {
+        Reader reader;
+        reader.shop.isSlow = true;
+        reader.reader.read(order(friday));
+        // Nothing is delivered before the order is out of date.
+        while (reader.shop.readings == 0) {
+            QThread::yieldCurrentThread();
+        }
+        reader.reader.read(order(thursday));
+        reader.shop.isSlow = false;
+        QTRY_COMPARE(reader.said, QStringList{QStringLiteral("2026-11-19 3")});
+        QCOMPARE(reader.tills, std::vector<QString>{QStringLiteral("Caisse")});
+        QCOMPARE(reader.taxRate, 20.0);
     }
 
     void newSalesAreNoticedWithinASecond()
