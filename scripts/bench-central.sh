@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Measures the central book: a year of many tills is sent to a PostgreSQL of its own, and what the pages
-# ask for is timed.
+# Measures what tills send: a year of many tills goes to a PostgreSQL of its own.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
 usage="usage: scripts/bench-central.sh [--tills N] [--docs]
@@ -48,12 +47,6 @@ server=$!
 until "$postgres/pg_isready" -q -h "$work"; do sleep 0.05; done
 uri="postgresql://owner@${work//\//%2F}/postgres"
 ask() { "$postgres/psql" -h "$work" -U owner -d postgres -AtXq "$@"; }
-# milliseconds of the quickest of three.
-timed() {
-    for _ in 1 2 3; do
-        ask -c '\timing on' -c "select count(*) from ($1) page" | sed -n 's/^Time: \([0-9.]*\) ms.*/\1/p'
-    done | sort -g | head -n 1 | xargs printf '%.0f'
-}
 "$central" --preparer "$uri" >/dev/null
 # A till with a year of sales: 330,000 lines from 8 to 22 o'clock, 60 articles.
 "$root/build/release/demo/vendel-demo" "$work/till" --days 1 >/dev/null
@@ -80,15 +73,10 @@ for ((till = 1; till <= tills; till += 2)); do
     wait "$first"
 done
 taken=$((SECONDS - begun))
-ask -c analyze
 lines=$(ask -c 'select count(*) from vendel.line')
 [ "$lines" -eq $((tills * 330000)) ] || fail "$lines lines have arrived"
 
-year="between '2025-01-01' and '2025-12-31'"
-days="between '2025-01-02' and '2025-12-30'"
-named='join vendel.name n on n.id = s.name'
 figures() {
-    local day="= '2025-06-30'"
     echo '| what | figure |'
     echo '|---|---:|'
     printf '| lines of %s tills | %s |\n' "$tills" "$lines"
@@ -96,20 +84,6 @@ figures() {
         $((lines / taken))
     printf '| bytes a line in the book, indexes and sums included | %s |\n' \
         "$(ask -c "select pg_database_size('postgres') / count(*) from vendel.line")"
-    echo
-    echo '| ms for all tills | a day | a year |'
-    echo '|---|---:|---:|'
-    local hours='select day, hour, till, lines, takings from vendel.hour_sales where day'
-    printf '| hours of each till | %s | %s |\n' "$(timed "$hours $day")" "$(timed "$hours $year")"
-    local articles="select n.folded, s.till, sum(s.lines), sum(s.lines * s.price) from vendel"
-    printf '| articles of each till | %s | %s |\n' \
-        "$(timed "$articles.day_sales s $named where day $day group by 1, 2")" \
-        "$(timed "$articles.month_sales s $named where month $year group by 1, 2")"
-    printf '| articles of each till, not of whole months | | %s |\n' \
-        "$(timed "$articles.day_sales s $named where day $days group by 1, 2")"
-    local counts="select day, till, name, price, lines from vendel.day_sales where day"
-    printf '| what recipes are counted with | %s | %s |\n' \
-        "$(timed "$counts $day")" "$(timed "$counts $year")"
 }
 if $docs; then
     figures | write_figures "central book"
