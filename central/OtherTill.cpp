@@ -10,11 +10,11 @@
 namespace {
 constexpr std::size_t longestName = 200;
 
-/// Whether \a found, places in the list of first sales, are more than chance. A thousand sales a
-/// day leave one millisecond of an opening day in 36,000 with a sale: that two tills have sold the
-/// same article at the same price in the same one happens once in 36,000 pairs of sales at most.
-/// One such sale proves nothing, when many are compared. That the first two of a history are both
-/// there happens once in a billion times, and three of some dozens as rarely.
+/// Whether \a found, places in the list of first sales, are more than chance. With a thousand sales
+/// in ten hours, one millisecond of 36,000 has a sale: that a given sale is another till's as well
+/// is as rare even where one article is sold at one price. Once is no proof, as many are compared.
+/// That the first two of a history are both there happens once in a billion times, and three of the
+/// 36 of a year about as rarely.
 bool isProof(const std::set<int>& found)
 {
     constexpr std::size_t enough = 3;
