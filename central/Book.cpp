@@ -29,6 +29,11 @@ std::optional<int> versionOf(pqxx::work& transaction)
     return transaction.exec(Statements::schemaVersion).at(0).at(0).as<int>();
 }
 
+bool isSeller(pqxx::work& transaction, int till)
+{
+    return transaction.exec_params(Statements::hasSold, till).at(0).at(0).as<bool>();
+}
+
 void refuseLater(int version)
 {
     if (version > Schema::current) {
@@ -71,15 +76,70 @@ void Book::open()
         if (version != Schema::current) {
             throw BookError(CentralSentences::notPrepared, BookStatus::NotPrepared);
         }
-        auto found = transaction.exec_params(Statements::findTill, identity_);
-        if (found.empty()) {
-            transaction.exec_params(Statements::addTill, identity_, name_);
-            found = transaction.exec_params(Statements::findTill, identity_);
-            transaction.exec_params(Statements::addProgress, found.at(0).at(0).as<int>());
+        const auto found = transaction.exec_params(Statements::findTill, identity_);
+        till_ = found.empty() ? 0 : found.at(0).at(0).as<int>();
+        hasSold_ = isSeller(transaction, till_);
+        if (hasSold_) {
+            transaction.exec_params(Statements::nameTill, till_, name_);
         }
-        till_ = found.at(0).at(0).as<int>();
+    });
+}
+
+void Book::enter(const std::vector<Line>& sales)
+{
+    connection_.transact([&](pqxx::work& transaction) {
+        if (const auto others = OtherTill::that(transaction, till_, sales); !others.empty()) {
+            throw BookError({CentralSentences::soldByAnother, {OtherTill::names(others)}},
+                BookStatus::AnotherTill);
+        }
+        transaction.exec_params(Statements::addTill, identity_, name_);
+        till_ = transaction.exec_params(Statements::findTill, identity_).at(0).at(0).as<int>();
+        transaction.exec_params(Statements::addProgress, till_);
         transaction.exec_params(Statements::nameTill, till_, name_);
     });
+}
+
+OtherTill Book::other(const std::vector<Line>& sales)
+{
+    std::vector<OtherTill> others;
+    connection_.transact(
+        [&](pqxx::work& transaction) { others = OtherTill::that(transaction, till_, sales); });
+    if (others.empty()) {
+        throw BookError(CentralSentences::soldByNobody, BookStatus::AnotherTill);
+    }
+    if (others.size() > 1) {
+        throw BookError(
+            {CentralSentences::soldBySeveral, {OtherTill::names(others)}}, BookStatus::AnotherTill);
+    }
+    return others.front();
+}
+
+void Book::takeOver(const OtherTill& other)
+{
+    connection_.transact([&](pqxx::work& transaction) {
+        // A sender of the other till that is under way is waited for.
+        const auto locked = transaction.exec_params(Statements::lockProgress, other.id);
+        refuseLater(locked.at(0).at(1).as<int>());
+        if (till_ != 0) {
+            transaction.exec_params(Statements::forgetProgress, till_);
+            if (isSeller(transaction, till_)) {
+                throw BookError(CentralSentences::nothingToTakeOver, BookStatus::AnotherTill);
+            }
+            for (const char* emptying : {Statements::emptyMenu, Statements::emptyStock,
+                     Statements::emptyDoses, Statements::forgetTill}) {
+                transaction.exec_params(emptying, till_);
+            }
+        }
+        const auto taken
+            = transaction.exec_params(Statements::takeOver, other.id, other.identity, identity_);
+        if (taken.affected_rows() == 0) {
+            throw BookError(CentralSentences::soldByNobody, BookStatus::AnotherTill);
+        }
+        transaction.exec_params(Statements::restart, other.id);
+        transaction.exec_params(Statements::forgetAllMonths, other.id);
+    });
+    till_ = other.id;
+    hasSold_ = true;
 }
 
 Book::Progress Book::progress()

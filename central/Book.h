@@ -3,6 +3,7 @@
 
 #include "central/Connection.h"
 #include "central/Line.h"
+#include "central/OtherTill.h"
 #include "central/TillLines.h"
 
 #include <optional>
@@ -43,6 +44,18 @@ public:
     /// The book at \a uri, for the till \a identity with the name \a name.
     Book(const std::string& uri, const std::string& identity, const std::string& name);
 
+    /// Whether something that the till sold has ever arrived.
+    bool hasSold() const { return hasSold_; }
+    /// Enters the till, unless it is there. Refuses one that has sold nothing yet, but whose first
+    /// sales \a sales are there as those of another till.
+    void enter(const std::vector<Line>& sales);
+    /// The one other till that has sold \a sales; refuses none and several.
+    OtherTill other(const std::vector<Line>& sales);
+    /// Makes the till, which has sold nothing yet, the till \a other, whose machine is then a
+    /// stranger; all is to be read again. In one transaction.
+    void takeOver(const OtherTill& other);
+
+    /// Of a till that was entered.
     Progress progress();
 
     /// Adds \a batch, computed with \a progress, which becomes the new one, in one transaction.
@@ -68,7 +81,9 @@ private:
     Connection connection_;
     std::string identity_;
     std::string name_;
+    /// 0 for one that is not there.
     int till_ = 0;
+    bool hasSold_ = false;
     std::unordered_map<std::string, int> names_;
     std::set<std::string> months_;
     std::int64_t added_ = 0;

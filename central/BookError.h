@@ -18,6 +18,8 @@ public:
 
     /// Whether trying again later may help without anybody's hand.
     bool isPassing() const { return status() == static_cast<int>(BookStatus::Unreachable); }
+    /// Whether another machine goes on as this till, so that trying again is pointless.
+    bool isForGood() const { return status() == static_cast<int>(BookStatus::AnotherTill); }
 };
 
 namespace BookErrors {

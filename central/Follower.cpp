@@ -36,7 +36,7 @@ void Follower::run()
         } catch (const ReadingStopped&) {
             return;
         } catch (const BookError& error) {
-            if (!sent_ && !error.isPassing()) {
+            if (error.isForGood() || (!sent_ && !error.isPassing())) {
                 throw;
             }
             trouble(error.words());

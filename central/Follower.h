@@ -29,7 +29,7 @@ public:
 
     /// Follows the till until the program is asked to end. Throws Refusal and SalesError for what
     /// goes wrong before anything was sent, but for a book that cannot be reached: a till may start
-    /// before the network.
+    /// before the network. And for a till whose place another machine has taken, at any time.
     void run();
 
 private:

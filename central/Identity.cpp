@@ -77,6 +77,21 @@ std::string plainName(std::string text)
     text.resize(std::min(text.find('\n'), text.size()));
     return plainText(text, longestName);
 }
+
+std::string knownName(int folder)
+{
+    constexpr std::size_t longest = 4096;
+    return plainName(SafeFile::read(folder, nameName, longest).value_or(""));
+}
+
+void remember(int folder, const std::string& path, const std::string& name)
+{
+    try {
+        SafeFile::write(folder, nameName, name + '\n', SafeFile::Existing::Replace);
+    } catch (const std::system_error& error) {
+        throw notMade(path, error.code().value());
+    }
+}
 } // namespace
 
 std::string digest(int folder, const std::string& path)
@@ -101,17 +116,19 @@ std::string digest(int folder, const std::string& path)
 
 std::string name(int folder, const std::string& path, const std::string& asked)
 {
-    constexpr std::size_t longest = 4096;
-    std::string wanted = plainName(asked);
+    const std::string wanted = plainName(asked);
     if (!wanted.empty()) {
-        try {
-            SafeFile::write(folder, nameName, wanted + '\n', SafeFile::Existing::Replace);
-        } catch (const std::system_error& error) {
-            throw notMade(path, error.code().value());
-        }
+        remember(folder, path, wanted);
         return wanted;
     }
-    const std::string known = plainName(SafeFile::read(folder, nameName, longest).value_or(""));
+    const std::string known = knownName(folder);
     return known.empty() ? plainName(hostName()) : known;
+}
+
+void keepName(int folder, const std::string& path, const std::string& name)
+{
+    if (knownName(folder).empty()) {
+        remember(folder, path, plainName(name));
+    }
 }
 } // namespace Identity

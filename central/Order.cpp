@@ -13,6 +13,9 @@ std::optional<CentralAction> actionOf(const std::string& option)
     if (option == "--suivre") {
         return CentralAction::Follow;
     }
+    if (option == "--reprendre") {
+        return CentralAction::TakeOver;
+    }
     if (option == "--aide" || option == "--help" || option == "-h") {
         return CentralAction::Help;
     }

@@ -12,6 +12,7 @@ enum class CentralAction
     Prepare,
     Send,
     Follow,
+    TakeOver,
     Help,
     Version
 };

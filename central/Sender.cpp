@@ -27,8 +27,24 @@ void append(std::vector<Line>& lines, std::vector<Line> more)
 }
 } // namespace
 
+std::vector<Line> Sender::firstSales()
+{
+    for (int count = 0; count < tries; ++count) {
+        try {
+            till_.state();
+            return till_.firstSales();
+        } catch (const TillDatabase::Replaced&) {
+            continue;
+        }
+    }
+    refuse();
+}
+
 void Sender::sendLines(Depth depth)
 {
+    if (!book_.hasSold()) {
+        book_.enter(firstSales());
+    }
     for (int count = 0; count < tries; ++count) {
         try {
             const int file = till_.state().file;

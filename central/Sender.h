@@ -26,6 +26,8 @@ public:
         , till_(till)
     { }
 
+    /// Some sales that tell the till from any other. Throws as sendLines().
+    std::vector<Line> firstSales();
     /// Sends lines. Throws BookError, SalesError, ReadingStopped, and Refusal when the till's
     /// database changes too much meanwhile.
     void sendLines(Depth depth);

@@ -9,6 +9,7 @@ inline constexpr Sentence usage{
     "Usage : vendel-central --preparer URI\n"
     "        vendel-central --envoyer [URI] [--dossier DOSSIER] [--nom NOM]\n"
     "        vendel-central --suivre [URI] [--dossier DOSSIER] [--nom NOM]\n"
+    "        vendel-central --reprendre [URI] [--dossier DOSSIER] [--nom NOM]\n"
     "        vendel-central --aide | --version\n"
     "\n"
     "Porte les ventes de cette caisse dans le livre central, une base PostgreSQL que plusieurs\n"
@@ -17,6 +18,7 @@ inline constexpr Sentence usage{
     "  --preparer URI     crée le livre dans cette base, ou le met à jour\n"
     "  --envoyer [URI]    envoie ce qui est nouveau\n"
     "  --suivre [URI]     reste, et envoie chaque vente dans les dix secondes\n"
+    "  --reprendre [URI]  continue à la place de la caisse dont elle a les ventes, et envoie\n"
     "  --dossier DOSSIER  les données de la caisse, d'ordinaire « %1 »\n"
     "  --nom NOM          le nom de la caisse dans le livre, retenu ; d'abord celui de la machine\n"
     "  --langue en|fr     parle anglais ou français cette fois\n"
@@ -28,6 +30,7 @@ inline constexpr Sentence usage{
     "Usage: vendel-central --preparer URI\n"
     "       vendel-central --envoyer [URI] [--dossier FOLDER] [--nom NAME]\n"
     "       vendel-central --suivre [URI] [--dossier FOLDER] [--nom NAME]\n"
+    "       vendel-central --reprendre [URI] [--dossier FOLDER] [--nom NAME]\n"
     "       vendel-central --help | --version\n"
     "\n"
     "Carries this till's sales into the central book, a PostgreSQL database that several tills\n"
@@ -36,6 +39,7 @@ inline constexpr Sentence usage{
     "  --preparer URI    makes the book in this database, or upgrades it\n"
     "  --envoyer [URI]   sends what is new\n"
     "  --suivre [URI]    stays, and sends each sale within ten seconds\n"
+    "  --reprendre [URI] goes on in the place of the till whose sales it has, and sends\n"
     "  --dossier FOLDER  the till's data, \"%1\" by default\n"
     "  --nom NAME        the till's name in the book, remembered; at first the machine's\n"
     "  --langue en|fr    speaks English or French this time\n"
@@ -51,6 +55,26 @@ inline constexpr Sentence sent{"Le livre central a reçu %1 nouvelle(s) ligne(s)
 inline constexpr Sentence oddLines{
     "%1 ligne(s) sans date ni prix utilisables sont gardées à part dans le livre central.",
     "%1 line(s) without a usable date or price are kept aside in the central book."};
+
+inline constexpr Sentence soldByAnother{
+    "Les ventes de cette caisse sont déjà dans le livre central, comme celles de « %1 » : si cette "
+    "machine la remplace, « vendel-central --reprendre [URI] » continue à sa place ; si c'est une "
+    "caisse de plus, purgez d'abord son historique.",
+    "This till's sales are in the central book already, as those of \"%1\": if this machine "
+    "replaces it, \"vendel-central --reprendre [URI]\" goes on in its place; if it is one more "
+    "till, purge its history first."};
+inline constexpr Sentence soldByNobody{
+    "Aucune autre caisse du livre central n'a les ventes de celle-ci : rien n'a été changé.",
+    "No other till of the central book has the sales of this one: nothing has been changed."};
+inline constexpr Sentence soldBySeveral{
+    "Plusieurs caisses du livre central ont les ventes de celle-ci (%1) : rien n'a été changé.",
+    "Several tills of the central book have the sales of this one (%1): nothing has been changed."};
+inline constexpr Sentence takenOver{
+    "Cette caisse continue à la place de « %1 » dans le livre central.",
+    "This till goes on in the place of \"%1\" in the central book."};
+inline constexpr Sentence nothingToTakeOver{
+    "Le livre central a déjà des ventes de cette caisse : il n'y a rien à reprendre.",
+    "The central book has sales of this till already: there is nothing to take over."};
 
 inline constexpr Sentence noUri{
     "Aucun livre central n'est retenu : « vendel --central URI » le fait.",

@@ -14,12 +14,42 @@ inline constexpr const char* begin
 inline constexpr const char* schemaVersion = "select version from vendel.version";
 
 inline constexpr const char* findTill = "select id from vendel.till where identity = $1";
+inline constexpr const char* hasSold = "select exists (select from vendel.month where till = $1) "
+                                       "or exists (select from vendel.hour_sales where till = $1) "
+                                       "or exists (select from vendel.odd_line where till = $1)";
 inline constexpr const char* addTill = "insert into vendel.till (identity, name) values ($1, $2) "
                                        "on conflict (identity) do nothing";
 inline constexpr const char* addProgress
     = "insert into vendel.progress (till) values ($1) on conflict do nothing";
 inline constexpr const char* nameTill
     = "update vendel.till set name = $2 where id = $1 and name <> $2";
+
+/// The tills but $1 that have sold some of these lines, with those lines' places, from 1. A line is
+/// looked up by its key, for each till alone: a join might read the whole book.
+inline constexpr const char* tillsWithSales = R"sql(
+with sold as materialized (
+    select place, moment, article, n.id as name, price, exact_price
+    from unnest($2::timestamp[], $3::bigint[], $4::text[], $5::bigint[], $6::text[])
+        with ordinality as asked(moment, article, text, price, exact_price, place)
+    join vendel.name n on n.name = asked.text
+)
+select t.id, t.identity, t.name, sold.place from vendel.till t cross join sold
+where t.id <> $1 and (select true from vendel.line l
+    where l.till = t.id and l.moment = sold.moment and l.article = sold.article
+        and l.name = sold.name and l.price = sold.price and l.exact_price = sold.exact_price
+    limit 1)
+order by t.id, sold.place)sql";
+
+/// A till that has sold nothing leaves the book.
+inline constexpr const char* forgetProgress = "delete from vendel.progress where till = $1";
+inline constexpr const char* forgetTill = "delete from vendel.till where id = $1";
+/// Whoever has the secret of $3 is the till $1 from now on, if nobody else was quicker.
+inline constexpr const char* takeOver
+    = "update vendel.till set identity = $3 where id = $1 and identity = $2";
+inline constexpr const char* restart
+    = "update vendel.progress set number = number + 1, last_row = 0, last_content = '' "
+      "where till = $1";
+inline constexpr const char* forgetAllMonths = "delete from vendel.month where till = $1";
 
 inline constexpr const char* progress
     = "select number, last_row, last_content from vendel.progress where till = $1";

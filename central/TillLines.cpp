@@ -241,6 +241,37 @@ Months TillLines::months(std::int64_t last)
     return found;
 }
 
+std::vector<Line> TillLines::firstSales()
+{
+    constexpr int mostLooks = 2000;
+    constexpr int salesOfAMonth = 3;
+    constexpr std::size_t monthSize = 7;
+    constexpr std::size_t secondSize = 19;
+    // Behind all texts that begin with what is before it.
+    const std::string end = "\U0010ffff";
+    std::vector<Line> found;
+    std::string month;
+    std::string after;
+    for (int look = 0, sales = 0; look < mostLooks; ++look) {
+        const std::vector<Line> next
+            = lines(QStringLiteral("rowid = (select rowid from Historique where date_heure > ? and "
+                                   "date_heure < ':' order by date_heure, rowid limit 1)"),
+                {bound(after)});
+        if (next.empty()) {
+            break;
+        }
+        const Line& line = next.front();
+        const std::string last = std::exchange(month, line.moment.substr(0, monthSize));
+        sales = month == last ? sales + 1 : 1;
+        // The lines of one sale are some milliseconds apart: each second counts once.
+        after = (sales < salesOfAMonth ? line.moment.substr(0, secondSize) : month) + end;
+        if (line.isRegular()) {
+            found.push_back(line);
+        }
+    }
+    return found;
+}
+
 void TillLines::ofMonth(const std::string& month, std::int64_t last, const Take& take)
 {
     const QString where = month.empty()

@@ -69,6 +69,10 @@ public:
     /// The digests of the months up to the row \a last.
     Months months(std::int64_t last);
 
+    /// The first sales of each month, the oldest first: a line of each, as far as pages can show
+    /// it. A copy that lacks the newest sales, or that was purged since, has them as well.
+    std::vector<Line> firstSales();
+
     /// Hands all lines of \a month up to the row \a last to \a take, portion by portion, with their
     /// ordinals.
     using Take = std::function<void(std::vector<Line>)>;

@@ -39,6 +39,23 @@ void sendOnce(const CentralOrder& order, Language language)
     }
 }
 
+void takeOver(const CentralOrder& order, Language language)
+{
+    const CentralShop shop(order);
+    TillLines till(shop.path(), {}, Timing::ofTheMachine());
+    till.state();
+    Book book = shop.book();
+    if (book.hasSold()) {
+        print(std::cout, language, CentralSentences::nothingToTakeOver);
+        return;
+    }
+    const OtherTill other = book.other(Sender(book, till).firstSales());
+    // Before the book knows it: a till that is cut off here still has the other one's name.
+    shop.keepName(other.name);
+    book.takeOver(other);
+    print(std::cout, language, {CentralSentences::takenOver, {OtherTill::names({other})}});
+}
+
 void act(const CentralOrder& order, Language language)
 {
     switch (order.action) {
@@ -47,6 +64,10 @@ void act(const CentralOrder& order, Language language)
         print(std::cout, language, CentralSentences::prepared);
         break;
     case CentralAction::Send:
+        sendOnce(order, language);
+        break;
+    case CentralAction::TakeOver:
+        takeOver(order, language);
         sendOnce(order, language);
         break;
     case CentralAction::Follow: {

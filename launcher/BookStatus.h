@@ -23,5 +23,7 @@ enum class BookStatus
     /// The till's database cannot be read.
     Till = 9,
     /// The till's identity or its folder cannot be used.
-    Folder = 10
+    Folder = 10,
+    /// The till's sales are there as those of another till, or, where they have to be, are not.
+    AnotherTill = 11
 };

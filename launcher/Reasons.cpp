@@ -86,6 +86,8 @@ Words ofBook(int status)
         return Sentences::bookTillUnreadable;
     case BookStatus::Folder:
         return Sentences::bookNoIdentity;
+    case BookStatus::AnotherTill:
+        return Sentences::bookAnotherTill;
     case BookStatus::Done:
     case BookStatus::Failed:
         break;

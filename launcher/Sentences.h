@@ -192,6 +192,11 @@ inline constexpr Sentence bookTillUnreadable{
     "la base de la caisse ne peut pas être lue", "the till's database cannot be read"};
 inline constexpr Sentence bookNoIdentity{
     "l'identité de la caisse est inutilisable", "the till's identity cannot be used"};
+inline constexpr Sentence bookAnotherTill{
+    "ces ventes y sont déjà comme celles d'une autre caisse ; « vendel-central --envoyer » dit que "
+    "faire",
+    "these sales are there already as those of another till; \"vendel-central --envoyer\" says what "
+    "to do"};
 inline constexpr Sentence bookTooSlow{"l'envoi prend trop de temps", "sending takes too long"};
 inline constexpr Sentence bookFails{
     "« vendel-central --envoyer » dit pourquoi", "\"vendel-central --envoyer\" says why"};

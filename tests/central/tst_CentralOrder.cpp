@@ -44,6 +44,17 @@ private slots:
         QCOMPARE(order.uri, std::string("postgresql://machine/base"));
     }
 
+    void takingOverMayNameABook()
+    {
+        const CentralOrder named = parseCentralOrder({"--reprendre", "postgresql://machine/base"});
+        QVERIFY(named.action == CentralAction::TakeOver);
+        QCOMPARE(named.uri, std::string("postgresql://machine/base"));
+        const CentralOrder remembered = parseCentralOrder({"--reprendre", "--nom", "Bar"});
+        QVERIFY(remembered.action == CentralAction::TakeOver);
+        QCOMPARE(remembered.uri, std::string());
+        QCOMPARE(remembered.name, std::string("Bar"));
+    }
+
     void helpAndVersion()
     {
         for (const char* help : {"--aide", "--help", "-h"}) {
@@ -57,6 +68,7 @@ private slots:
         QVERIFY(isBad({}));
         QVERIFY(isBad({"--preparer"}));
         QVERIFY(isBad({"--envoyer", "--suivre"}));
+        QVERIFY(isBad({"--envoyer", "--reprendre"}));
         QVERIFY(isBad({"--envoyer", "uri", "uri"}));
         QVERIFY(isBad({"--envoyer", "--nom"}));
         QVERIFY(isBad({"--envoyer", "--dossier", "--nom"}));

@@ -98,6 +98,7 @@ private slots:
         const SoldTill till;
         const std::string book = server().newBook();
         Book open(server().uri(book), "identity", "Bar");
+        open.enter({});
         Book::Progress progress = open.progress();
         server().rows(book, "update vendel.version set version = 3");
         Batch batch;

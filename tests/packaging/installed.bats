@@ -152,7 +152,7 @@ FILES
 @test "each option of vendel-central is in both its man pages" {
     for page in man1 fr/man1; do
         text=$(man -E UTF-8 -l "$tree/share/man/$page/vendel-central.1.gz")
-        for option in --preparer --envoyer --suivre --dossier --nom --langue --help --aide --version; do
+        for option in --preparer --envoyer --suivre --reprendre --dossier --nom --langue --help --aide --version; do
             grep -q -e "$option" <<<"$text"
         done
     done
