@@ -116,7 +116,7 @@ std::string digest(int folder, const std::string& path)
 
 std::string name(int folder, const std::string& path, const std::string& asked)
 {
-    const std::string wanted = plainName(asked);
+    std::string wanted = plainName(asked);
     if (!wanted.empty()) {
         remember(folder, path, wanted);
         return wanted;
