@@ -141,8 +141,6 @@ inline constexpr const char* forgetMonths
 inline constexpr const char* setProgress
     = "update vendel.progress set number = number + 1, last_row = $2, last_content = $3, "
       "reached = now() where till = $1";
-inline constexpr const char* setReached
-    = "update vendel.progress set reached = now() where till = $1";
 
 inline constexpr const char* knownMenu = "select menu from vendel.till where id = $1 for update";
 inline constexpr const char* setMenu
