@@ -46,7 +46,7 @@ public:
         const QByteArray end(1, '\0');
         const QByteArray fields
             = "SFATALAL" + end + "VFATAL" + end + "C" + state + end + "M" + says + end + end;
-        const int size = fields.size() + 4;
+        const int size = static_cast<int>(fields.size()) + 4;
         answer_ = QByteArray("E") + char(size >> 24) + char(size >> 16) + char(size >> 8)
             + char(size) + fields;
         answering_ = std::thread([this] { answer(); });
