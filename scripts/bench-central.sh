@@ -4,7 +4,7 @@
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
 usage="usage: scripts/bench-central.sh [--tills N] [--docs]
-  --tills N   how many tills of 330,000 lines each; 100 without it, which takes about 10 minutes and 10 GB
+  --tills N   how many tills of 330,000 lines each; 100 without it, which takes about 20 minutes and 10 GB
   --docs      writes the figures into docs/quality.md"
 tills=100
 docs=false
