@@ -14,9 +14,23 @@
 namespace {
 /// Of a line's height, around names and fields.
 constexpr double gap = 0.5;
-/// Lines above the fields (title, names of the columns) and below them (scale).
-constexpr double linesAbove = 3;
+/// Lines between the title and the fields (names of the columns) and below them (scale).
+constexpr double linesAbove = 2;
 constexpr double linesBelow = 2.2;
+constexpr int titleFlags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+
+QFont titleFont(QFont font)
+{
+    font.setBold(true);
+    return font;
+}
+
+double titleHeight(double width, const HeatMap& map, const QFont& font)
+{
+    constexpr double anyHeight = 1e6;
+    const QRectF room(0, 0, width, anyHeight);
+    return QFontMetricsF(titleFont(font)).boundingRect(room, titleFlags, map.title).height();
+}
 
 struct Sentences
 {
@@ -36,7 +50,8 @@ HeatMapDrawing::HeatMapDrawing(HeatMap map, const QLocale& locale, Ink ink, cons
         names = std::max(names, metrics.horizontalAdvance(name));
     }
     const double line = metrics.height();
-    plot_ = place_.adjusted(names + line * gap, line * linesAbove, 0, -line * linesBelow);
+    plot_ = place_.adjusted(names + line * gap,
+        titleHeight(place_.width(), map_, ink_.font) + line * linesAbove, 0, -line * linesBelow);
     if (!map_.values.empty()) {
         most_ = *std::max_element(map_.values.begin(), map_.values.end());
     }
@@ -48,7 +63,8 @@ double HeatMapDrawing::heightFor(double width, const HeatMap& map, const QFont& 
     const double line = QFontMetricsF(font).height();
     const auto rows = static_cast<double>(map.rows.size());
     const double square = width / static_cast<double>(std::max<std::size_t>(1, map.columns.size()));
-    return line * (linesAbove + linesBelow) + rows * std::clamp(square, line * 1.5, line * highest);
+    return titleHeight(width, map, font) + line * (linesAbove + linesBelow)
+        + rows * std::clamp(square, line * 1.5, line * highest);
 }
 
 double HeatMapDrawing::value(std::size_t row, std::size_t column) const
@@ -69,11 +85,9 @@ QRectF HeatMapDrawing::field(std::size_t row, std::size_t column) const
 void HeatMapDrawing::draw(QPainter& painter) const
 {
     painter.save();
-    QFont title = ink_.font;
-    title.setBold(true);
-    painter.setFont(title);
+    painter.setFont(titleFont(ink_.font));
     painter.setPen(ink_.text);
-    painter.drawText(place_, Qt::AlignHCenter | Qt::AlignTop, map_.title);
+    painter.drawText(place_, titleFlags, map_.title);
     painter.setFont(ink_.font);
     if (map_.rows.empty() || map_.columns.empty()) {
         painter.drawText(place_, Qt::AlignCenter, Sentences::tr("Aucune vente"));

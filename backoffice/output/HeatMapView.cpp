@@ -24,7 +24,7 @@ void HeatMapView::setMap(const HeatMap& map)
     map_ = map;
     setAccessibleName(map.title);
     constexpr int leastInLines = 2;
-    constexpr int around = 8;
+    constexpr int around = 9;
     setMinimumHeight(
         fontMetrics().height() * (leastInLines * static_cast<int>(map.rows.size()) + around));
     update();

@@ -71,6 +71,29 @@ private slots:
         QVERIFY(map.field(1, 2).bottom() < 300);
     }
 
+    void aWideTitleTakesASecondLine()
+    {
+        HeatMap map = sample();
+        const QRectF narrow(0, 0, 200, 300);
+        const HeatMapDrawing usual(map, french, Ink::onPaper(12), narrow);
+        map.title = QStringLiteral("Total HT par jour de la semaine et par heure");
+        const HeatMapDrawing wrapped(map, french, Ink::onPaper(12), narrow);
+        QVERIFY(wrapped.field(0, 0).top() >= usual.field(0, 0).top() + 12);
+        const QImage image = drawn(wrapped);
+        const QImage title
+            = image.copy(0, 0, 200, static_cast<int>(wrapped.field(0, 0).top()) - 24);
+        const auto isWhite = [&title](int x) {
+            QImage column = title.copy(x, 0, 1, title.height());
+            QImage white = column;
+            white.fill(Qt::white);
+            return column == white;
+        };
+        // Not cut off on either side.
+        QVERIFY(isWhite(0));
+        QVERIFY(isWhite(199));
+        QVERIFY(!isWhite(100));
+    }
+
     void nothingSoldIsSaid()
     {
         const HeatMapDrawing map
