@@ -153,6 +153,21 @@ private slots:
         QCOMPARE(tills.page(Page::Closing, {}).tables.size(), std::size_t{2});
     }
 
+    void tillsTakeTheirRoomOnAClosing()
+    {
+        TwoTills tills;
+        tills.articleSales.clear();
+        for (int number = 1; number <= 27; ++number) {
+            tills.articleSales.push_back(
+                {QStringLiteral("A%1").arg(number), 1, number * 10000, number % 2});
+        }
+        // A page has 30 rows: two are hours and two are tills.
+        const QStringList articles = Seen::rows(tills.page(Page::Closing).tables.at(0));
+        QCOMPARE(articles.size(), 26);
+        QCOMPARE(articles.constLast(), QStringLiteral("Autres (2 articles)|2|3,00 €"));
+        QCOMPARE(Seen::rows(tills.page(Page::Closing, {}).tables.at(0)).size(), 27);
+    }
+
     void aPageSaysWhichTillsItIsAbout()
     {
         TwoTills tills;
