@@ -138,7 +138,32 @@ private slots:
             database.read("delete from vendel.menu", {}, [](const QSqlQuery&) {}), SalesError);
     }
 
-    void aServerThatHangsOrEnds()
+    void anAnswerThatIsNoneHasAReason_data()
+    {
+        QTest::addColumn<QString>("statement");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("cancelled") << "select pg_cancel_backend(pg_backend_pid()), pg_sleep(60)"
+                                   << "Le serveur du livre central ne répond pas assez vite.";
+        QTest::newRow("cut") << "select pg_terminate_backend(pg_backend_pid()), pg_sleep(60)"
+                             << "La connexion au livre central a été coupée.";
+        QTest::newRow("nonsense")
+            << "select 1 / 0"
+            << "Le livre central ne peut pas être lu : ERROR:  division by zero";
+    }
+    void anAnswerThatIsNoneHasAReason()
+    {
+        QFETCH(QString, statement);
+        QFETCH(QString, sentence);
+        BookDatabase database(QString::fromStdString(server().uri(soldBook())));
+        try {
+            database.read(statement, {}, [](const QSqlQuery&) {});
+            QFAIL("no refusal");
+        } catch (const SalesError& error) {
+            QCOMPARE(QString(error.sentence()).replace(QChar(0xa0), ' '), sentence);
+        }
+    }
+
+    void aServerThatEnds()
     {
         const std::string book = soldBook();
         BookSource source(QString::fromStdString(server().uri(book)));

@@ -3,7 +3,10 @@
 #include "tests/central/SoldTill.h"
 #include "tests/support/TestProgram.h"
 
+#include <QDir>
+#include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 
 namespace {
 BookServer& server() { return BookServer::get(); }
@@ -35,8 +38,8 @@ struct TwoTills
     const std::string book = server().newBook();
 };
 
-/// Runs vendel-gestion with \a arguments.
-Said gestion(const QStringList& arguments)
+/// Runs vendel-gestion, or \a program, with \a arguments.
+Said gestion(const QStringList& arguments, const QString& program = VENDEL_GESTION)
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -44,7 +47,7 @@ Said gestion(const QStringList& arguments)
     environment.remove("QT_QPA_PLATFORM");
     environment.insert("LC_ALL", "C.UTF-8");
     process.setProcessEnvironment(environment);
-    process.start(VENDEL_GESTION, arguments + QStringList{"--langue", "fr"});
+    process.start(program, arguments + QStringList{"--langue", "fr"});
     process.waitForFinished();
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
         QString::fromUtf8(process.readAllStandardOutput()),
@@ -135,6 +138,33 @@ private slots:
             QString("vendel-gestion: Le livre central n'a pas de caisse « Salle ». Il a : =Cave, "
                     "Bar.\n"));
         QCOMPARE(said.output, QString());
+    }
+
+    void aMissingDriverIsNamed()
+    {
+        // A copy of the program that finds Qt's platforms, and nothing else of Qt's.
+        const QTemporaryDir folder;
+        const QString program = folder.filePath("vendel-gestion");
+        QVERIFY(QFile::copy(VENDEL_GESTION, program));
+        QVERIFY(QDir(folder.path()).mkdir("plugins"));
+        QString platforms;
+        const QStringList paths = QCoreApplication::libraryPaths();
+        for (const QString& path : paths) {
+            platforms = QDir(path).exists("platforms") ? path + "/platforms" : platforms;
+        }
+        QVERIFY(QFile::link(platforms, folder.filePath("plugins/platforms")));
+        QFile settings(folder.filePath("qt.conf"));
+        QVERIFY(settings.open(QIODevice::WriteOnly));
+        settings.write("[Paths]\nPlugins=" + folder.filePath("plugins").toUtf8() + '\n');
+        settings.close();
+        const Said said = gestion({"--central", QString::fromStdString(server().uri("postgres")),
+                                      "--ventes", "--du", "2020-02-01", "--csv", "-"},
+            program);
+        QCOMPARE(said.status, 1);
+        QCOMPARE(said.errors,
+            QString("vendel-gestion: Il manque à ce système de quoi lire un livre central : "
+                    "installez le paquet libqt%1sql%1-psql.\n")
+                .arg(QT_VERSION_MAJOR));
     }
 
     void paperShowsTillsSideBySide()

@@ -143,7 +143,7 @@ private slots:
                 .arg(later.size()));
         QCOMPARE(said.status, 0);
         QStringList sold = dead.lines();
-        for (const QString& day : later) {
+        for (const QString& day : std::as_const(later)) {
             sold.append(day + " 10:00:00.000 1 Thé 25000");
         }
         sold.sort();
