@@ -157,6 +157,12 @@ Anchor TillLines::last()
     return anchor;
 }
 
+bool TillLines::has(const Anchor& anchor)
+{
+    const std::vector<Line> found = lines(QStringLiteral("rowid = ?"), {qint64{anchor.row}});
+    return !found.empty() && found.front().content() == anchor.content;
+}
+
 std::optional<std::vector<Line>> TillLines::behind(const Anchor& anchor)
 {
     // The anchor's row is read by the same statement as what is behind it, so that nothing can
@@ -272,11 +278,53 @@ std::vector<Line> TillLines::firstSales()
     return found;
 }
 
+/// Nothing leads to lines without a month but the whole history, a portion at a time.
+void TillLines::withoutMonth(std::int64_t last, const Take& take)
+{
+    const QString odd
+        = QStringLiteral("select %1 from Historique where rowid > ? and rowid <= ? and %2 = '' "
+                         "order by rowid")
+              .arg(columns(), monthColumn());
+    Ordinals ordinals;
+    qint64 after = 0;
+    for (bool isMore = true; isMore;) {
+        std::vector<Line> found;
+        portion([&] {
+            qint64 rows = 0;
+            qint64 end = after;
+            database_.read(
+                QStringLiteral("select count(*), max(rowid) from (select rowid from Historique "
+                               "where rowid > ? and rowid <= ? order by rowid limit ?)"),
+                {after, qint64{last}, pace_.rows()},
+                [&](const QSqlQuery& row) {
+                    rows = row.value(0).toLongLong();
+                    end = row.value(1).toLongLong();
+                },
+                reading_);
+            isMore = rows > 0;
+            if (isMore) {
+                database_.read(
+                    odd, {after, end}, [&](const QSqlQuery& row) { found.push_back(lineOf(row)); },
+                    reading_);
+                after = end;
+            }
+            return rows;
+        });
+        ordinals.number(found);
+        if (!found.empty()) {
+            take(std::move(found));
+        }
+    }
+}
+
 void TillLines::ofMonth(const std::string& month, std::int64_t last, const Take& take)
 {
-    const QString where = month.empty()
-        ? QStringLiteral("rowid > ? and rowid <= ? and %1 = '' order by rowid").arg(monthColumn())
-        : QStringLiteral("(date_heure, rowid) > (?, ?) and date_heure < ? and rowid <= ? "
+    if (month.empty()) {
+        withoutMonth(last, take);
+        return;
+    }
+    const QString where
+        = QStringLiteral("(date_heure, rowid) > (?, ?) and date_heure < ? and rowid <= ? "
                          "order by date_heure, rowid");
     // Behind all texts that begin with the month.
     const QVariant end = bound(month + "\U0010ffff");
@@ -285,16 +333,14 @@ void TillLines::ofMonth(const std::string& month, std::int64_t last, const Take&
     std::string counted;
     Ordinals ordinals;
     for (;;) {
-        std::vector<Line> some = lines(where,
-            month.empty() ? QVariantList{row, qint64{last}}
-                          : QVariantList{moment, row, end, qint64{last}});
+        std::vector<Line> some = lines(where, {moment, row, end, qint64{last}});
         if (some.empty()) {
             return;
         }
         moment = bound(some.back().moment);
         row = some.back().row;
         for (Line& line : some) {
-            if (!month.empty() && line.moment != std::exchange(counted, line.moment)) {
+            if (line.moment != std::exchange(counted, line.moment)) {
                 ordinals.forget();
             }
             ordinals.number(line);

@@ -61,6 +61,9 @@ public:
     /// The last row, whatever its moment.
     Anchor last();
 
+    /// Whether the row of \a anchor says what it did.
+    bool has(const Anchor& anchor);
+
     /// Lines behind \a anchor, in the order of rows, with their ordinals; none at the end of the
     /// history. Nothing when the row of \a anchor does not say what it did: then what is below may
     /// have changed, too. Lines of a moment that earlier rows have as well come with those.
@@ -85,6 +88,7 @@ private:
     std::vector<Line> lines(const QString& where, const QVariantList& values);
     bool isSaidBefore(const std::string& moment, std::int64_t row);
     std::vector<Line> ofMoment(const std::string& moment, std::int64_t last);
+    void withoutMonth(std::int64_t last, const Take& take);
     void portion(const std::function<qint64()>& read);
 
     Reading reading_;
