@@ -9,6 +9,8 @@
 
 #include <QCryptographicHash>
 
+#include <algorithm>
+
 namespace {
 constexpr std::size_t monthSize = 7;
 
@@ -19,63 +21,24 @@ std::string digestOf(const std::string& text)
         .toStdString();
 }
 
-/// The version of the book's schema; nothing when there is none.
-std::optional<int> versionOf(pqxx::work& transaction)
-{
-    const auto table = transaction.exec("select to_regclass('vendel.version') is not null");
-    if (!table.at(0).at(0).as<bool>()) {
-        return std::nullopt;
-    }
-    return transaction.exec(Statements::schemaVersion).at(0).at(0).as<int>();
-}
-
 bool isSeller(pqxx::work& transaction, int till)
 {
     return transaction.exec_params(Statements::hasSold, till).at(0).at(0).as<bool>();
 }
-
-void refuseLater(int version)
-{
-    if (version > Schema::current) {
-        throw BookError(CentralSentences::later, BookStatus::Later);
-    }
-}
 } // namespace
-
-void Book::prepare(const std::string& uri)
-{
-    Connection connection(uri);
-    connection.transact([](pqxx::work& transaction) {
-        // Whoever else prepares it waits until it is done.
-        transaction.exec("set local lock_timeout = 0; set local statement_timeout = 0; "
-                         "select pg_advisory_xact_lock(8461, 1)");
-        const int found = versionOf(transaction).value_or(0);
-        refuseLater(found);
-        for (int version = found; version < Schema::current; ++version) {
-            transaction.exec(std::string(Schema::versions.at(static_cast<std::size_t>(version))));
-        }
-        if (found < Schema::current) {
-            transaction.exec_params("update vendel.version set version = $1", Schema::current);
-        }
-    });
-}
 
 Book::Book(const std::string& uri, const std::string& identity, const std::string& name)
     : connection_(uri)
     , identity_(identity)
     , name_(name)
 {
-    open();
+    find();
 }
 
-void Book::open()
+void Book::find()
 {
     connection_.transact([this](pqxx::work& transaction) {
-        const auto version = versionOf(transaction);
-        refuseLater(version.value_or(0));
-        if (version != Schema::current) {
-            throw BookError(CentralSentences::notPrepared, BookStatus::NotPrepared);
-        }
+        Schema::requireCurrent(transaction);
         const auto found = transaction.exec_params(Statements::findTill, identity_);
         till_ = found.empty() ? 0 : found.at(0).at(0).as<int>();
         hasSold_ = isSeller(transaction, till_);
@@ -85,13 +48,35 @@ void Book::open()
     });
 }
 
+/// The other tills that have sold \a sales; none when the till itself has.
+std::vector<OtherTill> Book::others(pqxx::work& transaction, const std::vector<Line>& sales) const
+{
+    std::vector<OtherTill> tills = OtherTill::that(transaction, sales);
+    const bool isOwn = std::any_of(
+        tills.begin(), tills.end(), [this](const OtherTill& till) { return till.id == till_; });
+    if (isOwn) {
+        tills.clear();
+    }
+    return tills;
+}
+
+void Book::refuseOthers(pqxx::work& transaction, const std::vector<Line>& sales) const
+{
+    if (const auto tills = others(transaction, sales); !tills.empty()) {
+        throw BookError(
+            {CentralSentences::soldByAnother, {OtherTill::names(tills)}}, BookStatus::AnotherTill);
+    }
+}
+
+void Book::requireOwn(const std::vector<Line>& sales)
+{
+    connection_.transact([&](pqxx::work& transaction) { refuseOthers(transaction, sales); });
+}
+
 void Book::enter(const std::vector<Line>& sales)
 {
     connection_.transact([&](pqxx::work& transaction) {
-        if (const auto others = OtherTill::that(transaction, till_, sales); !others.empty()) {
-            throw BookError({CentralSentences::soldByAnother, {OtherTill::names(others)}},
-                BookStatus::AnotherTill);
-        }
+        refuseOthers(transaction, sales);
         transaction.exec_params(Statements::addTill, identity_, name_);
         till_ = transaction.exec_params(Statements::findTill, identity_).at(0).at(0).as<int>();
         transaction.exec_params(Statements::addProgress, till_);
@@ -99,19 +84,35 @@ void Book::enter(const std::vector<Line>& sales)
     });
 }
 
-OtherTill Book::other(const std::vector<Line>& sales)
+std::optional<OtherTill> Book::other(const std::vector<Line>& sales)
 {
-    std::vector<OtherTill> others;
-    connection_.transact(
-        [&](pqxx::work& transaction) { others = OtherTill::that(transaction, till_, sales); });
-    if (others.empty()) {
-        throw BookError(CentralSentences::soldByNobody, BookStatus::AnotherTill);
+    std::vector<OtherTill> tills;
+    connection_.transact([&](pqxx::work& transaction) { tills = others(transaction, sales); });
+    if (tills.empty()) {
+        return std::nullopt;
     }
-    if (others.size() > 1) {
+    std::stable_sort(tills.begin(), tills.end(),
+        [](const OtherTill& one, const OtherTill& other) { return one.sales > other.sales; });
+    if (tills.size() > 1 && tills.at(0).sales == tills.at(1).sales) {
         throw BookError(
-            {CentralSentences::soldBySeveral, {OtherTill::names(others)}}, BookStatus::AnotherTill);
+            {CentralSentences::soldBySeveral, {OtherTill::names(tills)}}, BookStatus::AnotherTill);
     }
-    return others.front();
+    return tills.front();
+}
+
+/// Leaves the till without a machine; one that has sold nothing leaves the book.
+void Book::leave(pqxx::work& transaction) const
+{
+    // A sender of this machine that is under way is waited for.
+    transaction.exec_params(Statements::lockProgress, till_);
+    if (isSeller(transaction, till_)) {
+        transaction.exec_params(Statements::leaveTill, till_);
+        return;
+    }
+    for (const char* emptying : {Statements::forgetProgress, Statements::emptyMenu,
+             Statements::emptyStock, Statements::emptyDoses, Statements::forgetTill}) {
+        transaction.exec_params(emptying, till_);
+    }
 }
 
 void Book::takeOver(const OtherTill& other)
@@ -119,16 +120,12 @@ void Book::takeOver(const OtherTill& other)
     connection_.transact([&](pqxx::work& transaction) {
         // A sender of the other till that is under way is waited for.
         const auto locked = transaction.exec_params(Statements::lockProgress, other.id);
-        refuseLater(locked.at(0).at(1).as<int>());
+        if (locked.empty()) {
+            throw BookError(CentralSentences::soldByNobody, BookStatus::AnotherTill);
+        }
+        Schema::refuseLater(locked.at(0).at(1).as<int>());
         if (till_ != 0) {
-            transaction.exec_params(Statements::forgetProgress, till_);
-            if (isSeller(transaction, till_)) {
-                throw BookError(CentralSentences::nothingToTakeOver, BookStatus::AnotherTill);
-            }
-            for (const char* emptying : {Statements::emptyMenu, Statements::emptyStock,
-                     Statements::emptyDoses, Statements::forgetTill}) {
-                transaction.exec_params(emptying, till_);
-            }
+            leave(transaction);
         }
         const auto taken
             = transaction.exec_params(Statements::takeOver, other.id, other.identity, identity_);
@@ -142,16 +139,20 @@ void Book::takeOver(const OtherTill& other)
     hasSold_ = true;
 }
 
-Book::Progress Book::progress()
+std::optional<Book::Progress> Book::progress()
 {
-    Progress known;
+    std::optional<Progress> known;
     connection_.transact([&](pqxx::work& transaction) {
-        known = {};
+        known.reset();
         const auto found = transaction.exec_params(Statements::progress, till_);
-        known.number = found.at(0).at(0).as<std::int64_t>();
-        known.last = {found.at(0).at(1).as<std::int64_t>(), found.at(0).at(2).c_str()};
+        if (found.empty()) {
+            return;
+        }
+        known.emplace();
+        known->number = found.at(0).at(0).as<std::int64_t>();
+        known->last = {found.at(0).at(1).as<std::int64_t>(), found.at(0).at(2).c_str()};
         for (const auto& row : transaction.exec_params(Statements::months, till_)) {
-            known.months[row.at(0).c_str()]
+            known->months[row.at(0).c_str()]
                 = {row.at(1).as<std::int64_t>(), row.at(2).as<std::int64_t>()};
         }
     });
@@ -303,7 +304,11 @@ bool Book::add(const Batch& batch, Progress& progress)
     std::int64_t added = 0;
     connection_.transact([&](pqxx::work& transaction) {
         const auto locked = transaction.exec_params(Statements::lockProgress, till_);
-        refuseLater(locked.at(0).at(1).as<int>());
+        if (locked.empty()) {
+            isFirst = false;
+            return;
+        }
+        Schema::refuseLater(locked.at(0).at(1).as<int>());
         isFirst = locked.at(0).at(0).as<std::int64_t>() == progress.number;
         if (!isFirst) {
             return;
@@ -371,7 +376,7 @@ void Book::setMenu(const Menu& menu)
     }
     connection_.transact([&](pqxx::work& transaction) {
         const auto known = transaction.exec_params(Statements::knownMenu, till_);
-        if (known.at(0).at(0).c_str() == fingerprint) {
+        if (known.empty() || known.at(0).at(0).c_str() == fingerprint) {
             return;
         }
         for (const char* emptying :

@@ -37,26 +37,27 @@ public:
         Months months;
     };
 
-    /// Makes the schema of the database at \a uri, or upgrades it; does nothing when it is the
-    /// current one.
-    static void prepare(const std::string& uri);
-
     /// The book at \a uri, for the till \a identity with the name \a name.
     Book(const std::string& uri, const std::string& identity, const std::string& name);
 
+    /// Looks again which till of the book has the identity.
+    void find();
     /// Whether something that the till sold has ever arrived.
     bool hasSold() const { return hasSold_; }
-    /// Enters the till, unless it is there. Refuses one that has sold nothing yet, but whose first
-    /// sales \a sales are there as those of another till.
+    /// Enters the till, unless it is there. Refuses as requireOwn() does.
     void enter(const std::vector<Line>& sales);
-    /// The one other till that has sold \a sales; refuses none and several.
-    OtherTill other(const std::vector<Line>& sales);
-    /// Makes the till, which has sold nothing yet, the till \a other, whose machine is then a
-    /// stranger; all is to be read again. In one transaction.
+    /// Refuses a till whose first sales \a sales are there as those of another one, and not as its
+    /// own.
+    void requireOwn(const std::vector<Line>& sales);
+    /// The other till that has sold \a sales, or most of them; nothing when the till itself has, or
+    /// nobody. Refuses several that have sold equally many.
+    std::optional<OtherTill> other(const std::vector<Line>& sales);
+    /// Makes the till the till \a other, whose machine is then a stranger; all is to be read again.
+    /// What was sold on this machine before stays a till without one. In one transaction.
     void takeOver(const OtherTill& other);
 
-    /// Of a till that was entered.
-    Progress progress();
+    /// Nothing when the till is not there any more.
+    std::optional<Progress> progress();
 
     /// Adds \a batch, computed with \a progress, which becomes the new one, in one transaction.
     /// False, and nothing is added, when another sender of the same till came first.
@@ -71,7 +72,9 @@ public:
     std::int64_t oddLines();
 
 private:
-    void open();
+    std::vector<OtherTill> others(pqxx::work& transaction, const std::vector<Line>& sales) const;
+    void refuseOthers(pqxx::work& transaction, const std::vector<Line>& sales) const;
+    void leave(pqxx::work& transaction) const;
     void learnNames(const std::vector<Line>& lines);
     void makeMonths(const std::vector<Line>& lines);
     std::int64_t addLines(pqxx::work& transaction, const std::vector<Line>& lines) const;

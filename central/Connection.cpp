@@ -9,9 +9,6 @@
 #include <string_view>
 
 namespace {
-/// Longer than the server's own limit on a statement.
-constexpr std::chrono::seconds patience(90);
-
 /// A database in \a encoding. One in SQL_ASCII keeps bytes as they are.
 void requireAllLetters(const std::string& encoding)
 {
@@ -39,7 +36,7 @@ private:
 };
 } // namespace
 
-Connection::Connection(std::string uri)
+Connection::Connection(std::string uri, std::chrono::seconds patience)
     : uri_(patient(uri))
     , limit_(patience)
 {

@@ -3,6 +3,7 @@
 
 #include "central/Limit.h"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -14,8 +15,13 @@
 class Connection
 {
 public:
-    /// Connects to \a uri.
-    explicit Connection(std::string uri);
+    /// Longer than the server's own limit on a statement.
+    static constexpr std::chrono::seconds usual{90};
+    /// So long that nobody waits for it. A server that is away is noticed nevertheless.
+    static constexpr std::chrono::hours endless{1000};
+
+    /// Connects to \a uri. The server may be silent in a transaction for \a patience.
+    explicit Connection(std::string uri, std::chrono::seconds patience = usual);
 
     /// Refuses what is no URI of a database, or one with a password.
     static void requireUri(const std::string& uri);

@@ -22,8 +22,7 @@ bool isProof(const std::set<int>& found)
 }
 } // namespace
 
-std::vector<OtherTill> OtherTill::that(
-    pqxx::work& transaction, int own, const std::vector<Line>& sales)
+std::vector<OtherTill> OtherTill::that(pqxx::work& transaction, const std::vector<Line>& sales)
 {
     if (sales.empty()) {
         return {};
@@ -45,11 +44,12 @@ std::vector<OtherTill> OtherTill::that(
     std::set<int> found;
     const auto decide = [&] {
         if (isProof(found)) {
+            till.sales = found.size();
             tills.push_back(till);
         }
         found.clear();
     };
-    for (const auto& row : transaction.exec_params(Statements::tillsWithSales, own, moments.get(),
+    for (const auto& row : transaction.exec_params(Statements::tillsWithSales, moments.get(),
              articles.get(), names.get(), prices.get(), exactPrices.get())) {
         if (const int id = row.at(0).as<int>(); id != till.id) {
             decide();

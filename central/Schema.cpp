@@ -1,6 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "central/Schema.h"
 
+#include "central/BookError.h"
+#include "central/Connection.h"
+#include "central/Sentences.h"
+#include "central/Statements.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+
 namespace Schema {
 namespace {
 constexpr std::string_view first = R"sql(
@@ -185,23 +194,74 @@ select date_trunc('month', day)::date, till, folded, sum(lines)
 from vendel.day_use group by 1, 2, 3 order by 1, 2, 3;
 create index month_use_of_till on vendel.month_use (till, month);
 
--- Whoever may read or write the sums of a day may do so with these.
+-- Whoever has the sums of a day, or may read or write them, has or may do so with these.
 do $body$
 declare
     given record;
+    place text;
 begin
     for given in select privilege_type, case grantee when 0 then 'public' else
-            quote_ident(pg_get_userbyid(grantee)) end as reader
+            quote_ident(pg_get_userbyid(grantee)) end as reader,
+            case when is_grantable then ' with grant option' else '' end as further
         from pg_class, aclexplode(relacl)
         where oid = 'vendel.day_sales'::regclass and grantee <> relowner
     loop
-        execute format('grant %s on vendel.day_use, vendel.month_use to %s',
-            given.privilege_type, given.reader);
+        execute format('grant %s on vendel.day_use, vendel.month_use to %s%s',
+            given.privilege_type, given.reader, given.further);
+    end loop;
+    foreach place in array array['day_use', 'month_use'] loop
+        execute format('alter table vendel.%I owner to %s', place, (select relowner::regrole
+            from pg_class where oid = 'vendel.day_sales'::regclass));
     end loop;
 end
 $body$;
 )sql";
+/// The statements that make each version from the one before it; the first makes all.
+constexpr std::array<std::string_view, current> versions{first, uses};
+
+/// The version of the book's schema; nothing when there is none.
+std::optional<int> versionOf(pqxx::work& transaction)
+{
+    const auto table = transaction.exec("select to_regclass('vendel.version') is not null");
+    if (!table.at(0).at(0).as<bool>()) {
+        return std::nullopt;
+    }
+    return transaction.exec(Statements::schemaVersion).at(0).at(0).as<int>();
+}
 } // namespace
 
-const std::array<std::string_view, 2> versions{first, uses};
+void refuseLater(int version)
+{
+    if (version > current) {
+        throw BookError(CentralSentences::later, BookStatus::Later);
+    }
+}
+
+void requireCurrent(pqxx::work& transaction)
+{
+    const auto version = versionOf(transaction);
+    refuseLater(version.value_or(0));
+    if (version != current) {
+        throw BookError(CentralSentences::notPrepared, BookStatus::NotPrepared);
+    }
+}
+
+void prepare(const std::string& uri)
+{
+    // A large book is upgraded for as long as it takes.
+    Connection connection(uri, Connection::endless);
+    connection.transact([](pqxx::work& transaction) {
+        // Whoever else prepares it waits until it is done.
+        transaction.exec("set local lock_timeout = 0; set local statement_timeout = 0; "
+                         "select pg_advisory_xact_lock(8461, 1)");
+        const int found = versionOf(transaction).value_or(0);
+        refuseLater(found);
+        for (int version = found; version < current; ++version) {
+            transaction.exec(std::string(versions.at(static_cast<std::size_t>(version))));
+        }
+        if (found < current) {
+            transaction.exec_params("update vendel.version set version = $1", current);
+        }
+    });
+}
 } // namespace Schema

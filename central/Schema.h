@@ -1,14 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
-#include <string_view>
+#include <string>
 
-/// The book's schema "vendel".
+#include <pqxx/pqxx>
+
+/// The book's schema "vendel". All functions throw BookError.
 namespace Schema {
-/// The statements that make each version from the one before it; the first makes all.
-extern const std::array<std::string_view, 2> versions;
-
 /// The version that this program reads and writes.
 inline constexpr int current = 2;
+
+/// Makes the schema of the database at \a uri, or upgrades it, in one transaction; does nothing
+/// when it is the current one.
+void prepare(const std::string& uri);
+
+/// Refuses a database without the current schema.
+void requireCurrent(pqxx::work& transaction);
+/// Refuses \a version if it is later than the current one.
+void refuseLater(int version);
 } // namespace Schema

@@ -42,11 +42,11 @@ std::vector<Line> Sender::firstSales()
 
 void Sender::sendLines(Depth depth)
 {
-    if (!book_.hasSold()) {
-        book_.enter(firstSales());
-    }
     for (int count = 0; count < tries; ++count) {
         try {
+            if (!book_.hasSold()) {
+                book_.enter(firstSales());
+            }
             const int file = till_.state().file;
             if (attempt(depth) && till_.state().file == file) {
                 return;
@@ -55,6 +55,8 @@ void Sender::sendLines(Depth depth)
             depth = Depth::All;
             continue;
         } catch (const Overtaken&) {
+            // Another machine may have taken the till's place.
+            book_.find();
             continue;
         }
         depth = Depth::All;
@@ -65,7 +67,15 @@ void Sender::sendLines(Depth depth)
 /// False when the till's database changed meanwhile in a way that only a new start can follow.
 bool Sender::attempt(Depth depth)
 {
-    Book::Progress progress = book_.progress();
+    const std::optional<Book::Progress> known = book_.progress();
+    if (!known) {
+        throw Overtaken();
+    }
+    Book::Progress progress = *known;
+    if (progress.number > 0 && !till_.has(progress.last)) {
+        // Nothing shows that its database is not a copy of another till's by now.
+        book_.requireOwn(firstSales());
+    }
     if (sendBehind(progress)) {
         return depth == Depth::New || sendChanged(progress, progress.last);
     }

@@ -59,16 +59,18 @@ inline constexpr Sentence oddLines{
 inline constexpr Sentence soldByAnother{
     "Les ventes de cette caisse sont déjà dans le livre central, comme celles de « %1 » : si cette "
     "machine la remplace, « vendel-central --reprendre [URI] » continue à sa place ; si c'est une "
-    "caisse de plus, purgez d'abord son historique.",
+    "caisse de plus, purgez-en d'abord les ventes de l'autre.",
     "This till's sales are in the central book already, as those of \"%1\": if this machine "
     "replaces it, \"vendel-central --reprendre [URI]\" goes on in its place; if it is one more "
-    "till, purge its history first."};
+    "till, purge the other one's sales from it first."};
 inline constexpr Sentence soldByNobody{
     "Aucune autre caisse du livre central n'a les ventes de celle-ci : rien n'a été changé.",
     "No other till of the central book has the sales of this one: nothing has been changed."};
 inline constexpr Sentence soldBySeveral{
-    "Plusieurs caisses du livre central ont les ventes de celle-ci (%1) : rien n'a été changé.",
-    "Several tills of the central book have the sales of this one (%1): nothing has been changed."};
+    "Plusieurs caisses du livre central ont autant des ventes de celle-ci (%1) : rien n'a été "
+    "changé.",
+    "Several tills of the central book have as many of this one's sales (%1): nothing has been "
+    "changed."};
 inline constexpr Sentence takenOver{
     "Cette caisse continue à la place de « %1 » dans le livre central.",
     "This till goes on in the place of \"%1\" in the central book."};

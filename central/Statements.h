@@ -24,17 +24,17 @@ inline constexpr const char* addProgress
 inline constexpr const char* nameTill
     = "update vendel.till set name = $2 where id = $1 and name <> $2";
 
-/// The tills but $1 that have sold some of these lines, with those lines' places, from 1. A line is
+/// The tills that have sold some of these lines, with those lines' places, from 1. A line is
 /// looked up by its key, for each till alone: a join might read the whole book.
 inline constexpr const char* tillsWithSales = R"sql(
 with sold as materialized (
     select place, moment, article, n.id as name, price, exact_price
-    from unnest($2::timestamp[], $3::bigint[], $4::text[], $5::bigint[], $6::text[])
+    from unnest($1::timestamp[], $2::bigint[], $3::text[], $4::bigint[], $5::text[])
         with ordinality as asked(moment, article, text, price, exact_price, place)
     join vendel.name n on n.name = asked.text
 )
 select t.id, t.identity, t.name, sold.place from vendel.till t cross join sold
-where t.id <> $1 and (select true from vendel.line l
+where (select true from vendel.line l
     where l.till = t.id and l.moment = sold.moment and l.article = sold.article
         and l.name = sold.name and l.price = sold.price and l.exact_price = sold.exact_price
     limit 1)
@@ -43,6 +43,9 @@ order by t.id, sold.place)sql";
 /// A till that has sold nothing leaves the book.
 inline constexpr const char* forgetProgress = "delete from vendel.progress where till = $1";
 inline constexpr const char* forgetTill = "delete from vendel.till where id = $1";
+/// A till whose machine has become another one keeps what it has sold, and nobody is it any more.
+inline constexpr const char* leaveTill
+    = "update vendel.till set identity = 'left ' || id where id = $1";
 /// Whoever has the secret of $3 is the till $1 from now on, if nobody else was quicker.
 inline constexpr const char* takeOver
     = "update vendel.till set identity = $3 where id = $1 and identity = $2";

@@ -2,6 +2,7 @@
 #include "central/BookError.h"
 #include "central/Follower.h"
 #include "central/Order.h"
+#include "central/Schema.h"
 #include "central/Sentences.h"
 #include "central/Shop.h"
 #include "launcher/DataFolder.h"
@@ -45,22 +46,25 @@ void takeOver(const CentralOrder& order, Language language)
     TillLines till(shop.path(), {}, Timing::ofTheMachine());
     till.state();
     Book book = shop.book();
-    if (book.hasSold()) {
+    const std::optional<OtherTill> other = book.other(Sender(book, till).firstSales());
+    if (!other && book.hasSold()) {
         print(std::cout, language, CentralSentences::nothingToTakeOver);
         return;
     }
-    const OtherTill other = book.other(Sender(book, till).firstSales());
+    if (!other) {
+        throw BookError(CentralSentences::soldByNobody, BookStatus::AnotherTill);
+    }
     // Before the book knows it: a till that is cut off here still has the other one's name.
-    shop.keepName(other.name);
-    book.takeOver(other);
-    print(std::cout, language, {CentralSentences::takenOver, {OtherTill::names({other})}});
+    shop.keepName(other->name);
+    book.takeOver(*other);
+    print(std::cout, language, {CentralSentences::takenOver, {OtherTill::names({*other})}});
 }
 
 void act(const CentralOrder& order, Language language)
 {
     switch (order.action) {
     case CentralAction::Prepare:
-        Book::prepare(order.uri);
+        Schema::prepare(order.uri);
         print(std::cout, language, CentralSentences::prepared);
         break;
     case CentralAction::Send:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/central/BookServer.h"
 
-#include "central/Book.h"
+#include "central/Schema.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -173,7 +173,7 @@ std::string BookServer::newDatabase()
 std::string BookServer::newBook()
 {
     const std::string name = newDatabase();
-    Book::prepare(uri(name));
+    Schema::prepare(uri(name));
     return name;
 }
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/Descriptor.h"
+#include "central/BookError.h"
+#include "central/Connection.h"
 #include "launcher/BookStatus.h"
 #include "tests/central/BookServer.h"
 #include "tests/central/SoldTill.h"
@@ -313,6 +315,15 @@ private slots:
         QCOMPARE(till.sendTo(BookServer::get().uri(book)).output,
             "Le livre central a reçu 0 nouvelle(s) ligne(s) de vente.\n");
         QCOMPARE(BookServer::get().cell(book, "select name from vendel.name"), "Café à 1 €");
+    }
+
+    void onlyAnUpgradeMayTakeItsTime()
+    {
+        const std::string uri = BookServer::get().uri("postgres");
+        const auto wait = [](pqxx::work& transaction) { transaction.exec("select pg_sleep(1.5)"); };
+        Connection hasty(uri, std::chrono::seconds(1));
+        QVERIFY_EXCEPTION_THROWN(hasty.transact(wait), BookError);
+        Connection(uri, Connection::endless).transact(wait);
     }
 
     void aDatabaseThatLacksLettersIsRefused()

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "central/Book.h"
 #include "central/BookError.h"
+#include "central/Schema.h"
 #include "tests/central/BookServer.h"
 #include "tests/central/SoldTill.h"
+#include "tests/central/Wire.h"
 #include "tests/support/TestProgram.h"
 
 #include <thread>
@@ -32,7 +34,7 @@ private slots:
         till.send(book);
         const QStringList before = shape(book);
         QVERIFY(before.size() > 50);
-        Book::prepare(server().uri(book));
+        Schema::prepare(server().uri(book));
         QCOMPARE(shape(book), before);
         QCOMPARE(SoldTill::bookLines(book).size(), 1);
         QCOMPARE(server().rows(book, "select version from vendel.version"), QStringList("2"));
@@ -43,7 +45,7 @@ private slots:
         const std::string book = server().newDatabase();
         std::vector<std::thread> preparing;
         for (int count = 0; count < 8; ++count) {
-            preparing.emplace_back([&] { Book::prepare(server().uri(book)); });
+            preparing.emplace_back([&] { Schema::prepare(server().uri(book)); });
         }
         for (std::thread& one : preparing) {
             one.join();
@@ -70,7 +72,7 @@ private slots:
             "grant insert on vendel.day_sales to public");
         QVERIFY_EXCEPTION_THROWN(till.send(book), BookError);
 
-        Book::prepare(server().uri(book));
+        Schema::prepare(server().uri(book));
         QCOMPARE(shape(book), shapeOfAnew);
         QCOMPARE(server().rows(book, "select version from vendel.version"), QStringList("2"));
         QCOMPARE(server().rows(book, "select * from vendel.day_use order by day"),
@@ -93,13 +95,95 @@ private slots:
         QCOMPARE(SoldTill::wrongSums(book), QStringList());
     }
 
+    void anUpgradeLeavesTheTablesToTheirOwner()
+    {
+        const SoldTill till;
+        till.sell("2026-03-05 10:00:00.000");
+        const std::string book = server().newDatabase();
+        server().rows(book,
+            "create role patron login; create role \"Le chef\" login; grant create on database "
+                + book + " to patron");
+        Schema::prepare(server().uri(book, "patron"));
+        server().rows(book,
+            "drop table vendel.day_use, vendel.month_use; update vendel.version set version = 1;"
+            "grant select on vendel.day_sales to \"Le chef\" with grant option");
+        // By the server's administrator.
+        Schema::prepare(server().uri(book));
+        QCOMPARE(server().rows(
+                     book, "select distinct tableowner from pg_tables where schemaname = 'vendel'"),
+            QStringList("patron"));
+        QCOMPARE(server().cell(book,
+                     "select has_table_privilege('Le chef', 'vendel.month_use', "
+                     "'select with grant option')"),
+            "t");
+        const Said said = till.sendTo(server().uri(book, "patron"));
+        QCOMPARE(said.errors, QString());
+        QCOMPARE(SoldTill::bookLines(book), till.lines());
+    }
+
+    void anUpgradeThatIsCutOffChangesNothing()
+    {
+        const std::string book = server().newBook();
+        server().rows(book,
+            "drop table vendel.day_use, vendel.month_use; update vendel.version set version = 1");
+        const QStringList before = shape(book);
+        int trials = 0;
+        for (bool isCut = true; isCut;) {
+            ++trials;
+            const Wire wire(server().folder(), [=](int request) {
+                return request == trials ? Wire::Fate::Unanswered : Wire::Fate::Pass;
+            });
+            try {
+                Schema::prepare(server().uri(book, "owner", wire.folder()));
+            } catch (const BookError&) {
+                QVERIFY(wire.isCut());
+            }
+            isCut = wire.isCut();
+            if (server().cell(book, "select version from vendel.version") == "1") {
+                QCOMPARE(shape(book), before);
+            }
+        }
+        QVERIFY2(trials > 5, qPrintable(QString::number(trials)));
+        QCOMPARE(server().cell(book, "select version from vendel.version"), "2");
+        QCOMPARE(SoldTill::wrongSums(book), QStringList());
+    }
+
+    void tillsSendWhileABookIsUpgraded()
+    {
+        const SoldTill till;
+        till.sell("2026-03-05 10:00:00.000", "Café", "2");
+        const std::string book = server().newBook();
+        QCOMPARE(till.send(book), std::int64_t{1});
+        server().rows(book,
+            "drop table vendel.day_use, vendel.month_use; update vendel.version set version = 1");
+        // A till of the first version is in the middle of a batch.
+        pqxx::connection old(server().uri(book));
+        pqxx::work batch(old);
+        batch.exec("select * from vendel.progress where till = 1 for update");
+        std::thread upgrade([&] { Schema::prepare(server().uri(book)); });
+        QTRY_COMPARE(server().cell(book,
+                         "select count(*) from pg_locks where not granted and "
+                         "relation = 'vendel.progress'::regclass"),
+            "1");
+        batch.exec("insert into vendel.line (till, moment, article, name, price, ordinal) values "
+                   "(1, '2026-03-05 11:00', 1, 1, 20000, 1);"
+                   "insert into vendel.hour_sales values ('2026-03-05', 1, 11, 1, 20000);"
+                   "update vendel.day_sales set lines = lines + 1;"
+                   "update vendel.month_sales set lines = lines + 1;"
+                   "update vendel.progress set number = number + 1");
+        batch.commit();
+        upgrade.join();
+        QCOMPARE(server().rows(book, "table vendel.day_use"), QStringList("2026-03-05|1|café|2"));
+        QCOMPARE(SoldTill::wrongSums(book), QStringList());
+    }
+
     void aSenderUnderWayIsStoppedByAnUpgrade()
     {
         const SoldTill till;
         const std::string book = server().newBook();
         Book open(server().uri(book), "identity", "Bar");
         open.enter({});
-        Book::Progress progress = open.progress();
+        Book::Progress progress = open.progress().value();
         server().rows(book, "update vendel.version set version = 3");
         Batch batch;
         batch.lines = {Line{}};
@@ -111,7 +195,7 @@ private slots:
     {
         const std::string book = server().newDatabase();
         server().rows(book, "create table public.line (id integer); insert into line values (7)");
-        Book::prepare(server().uri(book));
+        Schema::prepare(server().uri(book));
         QCOMPARE(server().cell(book, "select id from public.line"), "7");
     }
 

@@ -382,8 +382,8 @@ private slots:
         Book one(BookServer::get().uri(book_), "identity", "Caisse");
         one.enter({});
         Book other(BookServer::get().uri(book_), "identity", "Caisse");
-        Book::Progress known = one.progress();
-        Book::Progress stale = other.progress();
+        Book::Progress known = one.progress().value();
+        Book::Progress stale = other.progress().value();
         TillLines lines(till.path(), {}, SoldTill::hasty());
         lines.state();
         Batch batch;
