@@ -8,9 +8,14 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
+#include <chrono>
+
 #include <benchmark/benchmark.h>
 
 namespace {
+using Clock = std::chrono::steady_clock;
+
 constexpr qint64 msOfASale = 94608;
 
 constexpr auto hoursSql
@@ -18,7 +23,41 @@ constexpr auto hoursSql
       "from Historique where date_heure between ? and ? group by 1";
 constexpr auto articlesSql = "select article, count(*), sum(cast(round(prix * 10000) as integer)) "
                              "from Historique where date_heure between ? and ? group by 1";
+
+Clock::time_point statementBegin;
+double longestSeconds = 0;
+
+int note(unsigned event, void* connection, void*, void*)
+{
+    const char* const file = sqlite3_db_filename(static_cast<sqlite3*>(connection), "main");
+    const bool isTills = file != nullptr && *file != '\0';
+    if (isTills && event == SQLITE_TRACE_STMT) {
+        statementBegin = Clock::now();
+    } else if (isTills) {
+        const std::chrono::duration<double> taken = Clock::now() - statementBegin;
+        longestSeconds = std::max(longestSeconds, taken.count());
+    }
+    return 0;
+}
+
+int watch(sqlite3* connection, const char**, const struct sqlite3_api_routines*)
+{
+    return sqlite3_trace_v2(connection, SQLITE_TRACE_STMT | SQLITE_TRACE_PROFILE, note, connection);
+}
+
+/// SQLite calls its extensions with the arguments of watch().
+void (*watcher())() { return reinterpret_cast<void (*)()>(watch); }
 } // namespace
+
+LongestStatement::LongestStatement()
+{
+    longestSeconds = 0;
+    sqlite3_auto_extension(watcher());
+}
+
+LongestStatement::~LongestStatement() { sqlite3_cancel_auto_extension(watcher()); }
+
+double LongestStatement::seconds() { return longestSeconds; }
 
 BackofficeShop::BackofficeShop(int sales)
     : sales_(sales)

@@ -35,6 +35,21 @@ private:
     QDateTime first_;
 };
 
+/// How long a file's database was held by one statement of this process at most, of those that are
+/// connected to while the object lives.
+class LongestStatement
+{
+public:
+    LongestStatement();
+    ~LongestStatement();
+    LongestStatement(const LongestStatement&) = delete;
+    LongestStatement& operator=(const LongestStatement&) = delete;
+    LongestStatement(LongestStatement&&) = delete;
+    LongestStatement& operator=(LongestStatement&&) = delete;
+
+    static double seconds();
+};
+
 /// The least that the figures of a page cost: one statement each, on a connection to the shop of
 /// the working directory. All return the number of rows.
 class BareSales

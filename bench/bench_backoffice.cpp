@@ -118,40 +118,6 @@ void memory(benchmark::State& state, const Bar& bar)
     state.counters["limit_bytes"] = bytesALineLimit;
 }
 
-/// How long the till's database was held by one statement at most.
-class LongestStatement
-{
-public:
-    LongestStatement()
-    {
-        // SQLite calls its extensions with the arguments of watch().
-        sqlite3_auto_extension(reinterpret_cast<void (*)()>(watch));
-    }
-
-    static double seconds() { return longest; }
-
-private:
-    static int watch(sqlite3* connection, const char**, const struct sqlite3_api_routines*)
-    {
-        return sqlite3_trace_v2(
-            connection, SQLITE_TRACE_STMT | SQLITE_TRACE_PROFILE, note, connection);
-    }
-    static int note(unsigned event, void* connection, void*, void*)
-    {
-        const char* const file = sqlite3_db_filename(static_cast<sqlite3*>(connection), "main");
-        const bool isTills = file != nullptr && *file != '\0';
-        if (isTills && event == SQLITE_TRACE_STMT) {
-            begin = Clock::now();
-        } else if (isTills) {
-            longest = std::max(longest, secondsSince(begin));
-        }
-        return 0;
-    }
-
-    static inline Clock::time_point begin;
-    static inline double longest = 0;
-};
-
 /// Another process that reads reports of \a bar one after the other.
 class OtherProcess
 {

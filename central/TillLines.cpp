@@ -114,30 +114,32 @@ std::string Menu::fingerprint() const
 TillLines::TillLines(const QString& folder, const Reading& reading, const Timing& timing)
     : reading_(reading)
     , database_(folder, timing)
-    , pace_(timing)
+    , linePace_(timing)
+    , digestPace_(timing)
+    , oddPace_(timing)
 { }
 
-void TillLines::portion(const std::function<qint64()>& read)
+void TillLines::portion(TillPace& pace, const std::function<qint64()>& read)
 {
     reading_.advance(0);
-    const TillPace before = pace_;
+    const TillPace before = pace;
     qint64 rows = 0;
-    pace_.run(database_.isTillAtWork(), [&] { rows = read(); });
+    pace.run(database_.isTillAtWork(), [&] { rows = read(); });
     if (rows < before.rows() / 2) {
         // How long few rows took says nothing of how many may be read at once.
-        pace_ = before;
+        pace = before;
     }
 }
 
 std::vector<Line> TillLines::lines(const QString& where, const QVariantList& values)
 {
     std::vector<Line> found;
-    portion([&] {
+    portion(linePace_, [&] {
         found.clear();
         const QString sql
             = QStringLiteral("select %1 from Historique where %2 limit ?").arg(columns(), where);
         database_.read(
-            sql, values + QVariantList{pace_.rows()},
+            sql, values + QVariantList{linePace_.rows()},
             [&](const QSqlQuery& row) { found.push_back(lineOf(row)); }, reading_);
         return static_cast<qint64>(found.size());
     });
@@ -223,7 +225,7 @@ Months TillLines::months(std::int64_t last)
     qint64 after = 0;
     for (bool isMore = true; isMore;) {
         isMore = false;
-        portion([&] {
+        portion(digestPace_, [&] {
             qint64 rows = 0;
             const QString sql
                 = QStringLiteral("select %1, count(*), sum(%2), max(rowid) from (select rowid, * "
@@ -231,7 +233,7 @@ Months TillLines::months(std::int64_t last)
                                  "limit ?) group by 1")
                       .arg(monthColumn(), mark());
             database_.read(
-                sql, {after, qint64{last}, pace_.rows()},
+                sql, {after, qint64{last}, digestPace_.rows()},
                 [&](const QSqlQuery& row) {
                     Digest& digest = found[text(row.value(0))];
                     digest.lines += row.value(1).toLongLong();
@@ -289,13 +291,13 @@ void TillLines::withoutMonth(std::int64_t last, const Take& take)
     qint64 after = 0;
     for (bool isMore = true; isMore;) {
         std::vector<Line> found;
-        portion([&] {
+        portion(oddPace_, [&] {
             qint64 rows = 0;
             qint64 end = after;
             database_.read(
                 QStringLiteral("select count(*), max(rowid) from (select rowid from Historique "
                                "where rowid > ? and rowid <= ? order by rowid limit ?)"),
-                {after, qint64{last}, pace_.rows()},
+                {after, qint64{last}, oddPace_.rows()},
                 [&](const QSqlQuery& row) {
                     rows = row.value(0).toLongLong();
                     end = row.value(1).toLongLong();

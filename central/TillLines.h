@@ -89,9 +89,12 @@ private:
     bool isSaidBefore(const std::string& moment, std::int64_t row);
     std::vector<Line> ofMoment(const std::string& moment, std::int64_t last);
     void withoutMonth(std::int64_t last, const Take& take);
-    void portion(const std::function<qint64()>& read);
+    void portion(TillPace& pace, const std::function<qint64()>& read);
 
     Reading reading_;
     TillDatabase database_;
-    TillPace pace_;
+    /// What a row takes is another time for each kind of work.
+    TillPace linePace_;
+    TillPace digestPace_;
+    TillPace oddPace_;
 };

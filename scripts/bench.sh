@@ -3,7 +3,7 @@
 # Benchmarks against a minimal baseline, in one table. A limit that is missed is an error.
 . "$(dirname -- "${BASH_SOURCE[0]}")/lib.sh"
 
-all=(start launcher db menu articles sale receipt printer history stock backoffice book)
+all=(start launcher db menu articles sale receipt printer history stock backoffice book central)
 usage="usage: scripts/bench.sh [--docs] [SUBJECT]...
   --docs  writes the table of all subjects, each as it was last measured, into docs/quality.md
   subjects: ${all[*]}"
@@ -13,7 +13,7 @@ for argument in "$@"; do
     case $argument in
         --docs) docs=true ;;
         -h | --help) say "$usage" && exit ;;
-        start | launcher | db | menu | articles | sale | receipt | printer | history | stock | backoffice | book) subjects+=("$argument") ;;
+        start | launcher | db | menu | articles | sale | receipt | printer | history | stock | backoffice | book | central) subjects+=("$argument") ;;
         *) unknown_option "$usage" "$argument" ;;
     esac
 done
