@@ -175,9 +175,12 @@ void HeatMapDrawing::drawScale(QPainter& painter) const
         ? Sentences::tr("plus (jusqu'à %1)").arg(formatDrawn(most_, map_.kind, locale_))
         : Sentences::tr("plus");
     const double top = place_.bottom() - line * 1.2;
-    const double room = place_.right() - plot_.left() - metrics.horizontalAdvance(least)
-        - metrics.horizontalAdvance(most) - 2 * line * gap;
-    const QRectF bar(plot_.left() + metrics.horizontalAdvance(least) + line * gap, top,
+    const double words
+        = metrics.horizontalAdvance(least) + metrics.horizontalAdvance(most) + 2 * line * gap;
+    // Below the fields, unless the words need the room below the names as well.
+    const double left = std::clamp(place_.right() - words - line, place_.left(), plot_.left());
+    const double room = place_.right() - left - words;
+    const QRectF bar(left + metrics.horizontalAdvance(least) + line * gap, top,
         std::clamp(room, line, std::max(line, std::min(line * widthInLines, plot_.width() / 3))),
         line);
     QLinearGradient colours(bar.topLeft(), bar.topRight());
@@ -186,8 +189,8 @@ void HeatMapDrawing::drawScale(QPainter& painter) const
     }
     painter.fillRect(bar, colours);
     painter.setPen(ink_.faint);
-    painter.drawText(QRectF(plot_.left(), top, bar.left() - plot_.left(), line),
-        Qt::AlignLeft | Qt::AlignVCenter, least);
+    painter.drawText(
+        QRectF(left, top, bar.left() - left, line), Qt::AlignLeft | Qt::AlignVCenter, least);
     painter.drawText(QRectF(bar.right() + line * gap, top, place_.right() - bar.right(), line),
         Qt::AlignLeft | Qt::AlignVCenter, most);
 }

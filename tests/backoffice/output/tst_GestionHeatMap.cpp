@@ -94,6 +94,24 @@ private slots:
         QVERIFY(!isWhite(100));
     }
 
+    void theScaleTakesTheRoomThatItNeeds()
+    {
+        const int width = 220;
+        const HeatMapDrawing map(sample(), french, Ink::onPaper(12), QRectF(0, 0, width, 300));
+        const QImage image = drawn(map);
+        // Behind the drawing's edge nothing of it is cut off: there is nothing.
+        QImage behind = image.copy(width, 0, 600 - width, 300);
+        QImage white = behind;
+        white.fill(Qt::white);
+        QCOMPARE(behind, white);
+        // "moins" begins below the names of the days.
+        const int top = static_cast<int>(map.field(1, 0).bottom()) + 12;
+        QImage below = image.copy(0, top, static_cast<int>(map.field(0, 0).left()), 300 - top);
+        QImage empty = below;
+        empty.fill(Qt::white);
+        QVERIFY(below != empty);
+    }
+
     void nothingSoldIsSaid()
     {
         const HeatMapDrawing map
