@@ -107,6 +107,7 @@ void Book::leave(pqxx::work& transaction) const
     transaction.exec_params(Statements::lockProgress, till_);
     if (isSeller(transaction, till_)) {
         transaction.exec_params(Statements::leaveTill, till_);
+        transaction.exec_params(Statements::restart, till_);
         return;
     }
     for (const char* emptying : {Statements::forgetProgress, Statements::emptyMenu,

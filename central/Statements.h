@@ -49,6 +49,7 @@ inline constexpr const char* leaveTill
 /// Whoever has the secret of $3 is the till $1 from now on, if nobody else was quicker.
 inline constexpr const char* takeOver
     = "update vendel.till set identity = $3 where id = $1 and identity = $2";
+/// All is to be read again, by whoever is the till then.
 inline constexpr const char* restart
     = "update vendel.progress set number = number + 1, last_row = 0, last_content = '' "
       "where till = $1";
