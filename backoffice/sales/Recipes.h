@@ -8,7 +8,7 @@
 #include <tuple>
 #include <vector>
 
-/// What a till's articles are made of, as its tables of the stock say it.
+/// What a till's articles are made of, as its tables of the stock have it.
 struct Recipes
 {
     struct Article
@@ -37,16 +37,17 @@ struct Recipes
                 < std::tie(other.composition, other.unit, other.dose);
         }
     };
-    /// By the name of an article as folded() writes it. Alike parts of an article count once, as on
+    /// By the name of an article as folded() writes it. Equal parts of an article count once, as on
     /// the till.
     using Parts = std::map<QString, std::set<Part>>;
 
     std::vector<Article> articles;
     std::vector<Dose> doses;
 
-    /// Whether a composition stands in them in several units or spellings. Which one is shown is
-    /// then up to the till's statement.
+    /// Whether a composition has several units or spellings. Which one is shown is then up to the
+    /// till's statement.
     bool isMixed() const;
+    /// What articles are made of; a dose of no article is left out.
     Parts parts() const;
 
     /// An order in which the same recipes are equal.
