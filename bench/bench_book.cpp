@@ -27,7 +27,8 @@ double secondsSince(Clock::time_point begin)
     return std::chrono::duration<double>(Clock::now() - begin).count();
 }
 
-/// What tills know: 120 articles with recipes, in each till its own, which costs most.
+/// What tills know: 120 articles with recipes, in each till its own: doses, units and every fourth
+/// composition. In the recipes of one till a composition has one unit.
 constexpr const char* shops = R"sql(
 insert into vendel.till (identity, name, tax_rate)
 select 'till ' || t, 'Caisse ' || t, 20 from generate_series(1, 100) t;
@@ -39,9 +40,18 @@ select t.id, a, 'Article ' || a, 20000 + 500 * a from vendel.till t, generate_se
 insert into vendel.stock_article
 select t.id, a, 'Article ' || a from vendel.till t, generate_series(1, 120) a;
 insert into vendel.dose
-select t.id, 3 * a + c, a, 'Composition ' || (a * 7 + c) % 40, 2.5 * (c + 1),
-    (array['cl', 'g', 'oz'])[c + 1]
-from vendel.till t, generate_series(1, 120) a, generate_series(0, 2) c)sql";
+select t.id, 3 * a + c, a,
+    'Composition ' || part || case when part % 4 = 0 then ' de la caisse ' || t.id else '' end,
+    2.5 * (c + 1) + 0.25 * t.id, (array['cl', 'g', 'oz'])[1 + (part + t.id) % 3]
+from vendel.till t, generate_series(1, 120) a, generate_series(0, 2) c,
+    lateral (select (a * 7 + c) % 40 as part) as parts)sql";
+
+/// Gives what the first article is made of a second unit in the recipes of the first TILLS tills,
+/// and in no other.
+constexpr const char* mixed = R"sql(
+update vendel.dose
+set unit = case when till <= TILLS then unit || ' net' else replace(unit, ' net', '') end
+where stock_article = 1 and (unit like '% net') <> (till <= TILLS))sql";
 
 /// A month of LINES sales a day of each till, from eight to seven; on Fridays some are cheaper.
 constexpr const char* month = R"sql(
@@ -103,8 +113,11 @@ public:
         }
     }
 
-    BookSource open() const
+    /// The book, in which \a mixedTills tills have recipes with a composition in two units.
+    BookSource open(int mixedTills) const
     {
+        QString sql(QString::fromLatin1(mixed));
+        run(sql.replace(QLatin1String("TILLS"), QString::number(mixedTills)).toStdString());
         return BookSource(QString::fromStdString(BookServer::get().uri(name_)));
     }
 
@@ -122,15 +135,23 @@ const Book100& book()
     return made;
 }
 
-void readPage(benchmark::State& state, Page page, const DayRange& range, bool isOneTill)
+/// Which tills a page is of.
+struct Tills
 {
-    BookSource source = book().open();
+    const char* name;
+    bool isOne = false;
+    int mixed = 0;
+};
+
+void readPage(benchmark::State& state, Page page, const DayRange& range, const Tills& which)
+{
+    BookSource source = book().open(which.mixed);
     ReportOrder order;
     order.page = page;
     order.range = range;
     order.today = QDate(Book100::year + 1, 1, 1);
     order.locale = QLocale(QLocale::French, QLocale::France);
-    if (isOneTill) {
+    if (which.isOne) {
         order.tills = {QStringLiteral("Caisse 7")};
     }
     source.choose(order.tills);
@@ -145,7 +166,7 @@ void readPage(benchmark::State& state, Page page, const DayRange& range, bool is
 /// What a window asks twice a second.
 void look(benchmark::State& state)
 {
-    BookSource source = book().open();
+    BookSource source = book().open(0);
     source.isChanged();
     for ([[maybe_unused]] auto _ : state) {
         const auto begin = Clock::now();
@@ -167,12 +188,17 @@ int main(int argc, char* argv[])
         {"a_month", {QDate(Book100::year, 6, 1), QDate(Book100::year, 6, 30)}},
         {"two_months", {QDate(Book100::year, 6, 1), QDate(Book100::year, 7, 31)}},
         {"a_year", {QDate(Book100::year, 1, 1), QDate(Book100::year, 12, 31)}}};
+    const std::vector<Tills> all{
+        {"100_tills", false, 0}, {"one_till", true, 0}, {"95_tills_and_5_mixed_ones", false, 5}};
     for (const auto& [pageName, page] : pages) {
         for (const auto& [rangeName, range] : ranges) {
-            for (const bool isOneTill : {false, true}) {
+            for (const Tills& which : all) {
+                if (which.mixed > 0 && page != Page::Uses) {
+                    continue;
+                }
                 const std::string name = std::string("book_") + pageName + "_of_" + rangeName
-                    + (isOneTill ? "_of_one_till" : "_of_100_tills") + "/program";
-                benchmark::RegisterBenchmark(name.c_str(), readPage, page, range, isOneTill)
+                    + "_of_" + which.name + "/program";
+                benchmark::RegisterBenchmark(name.c_str(), readPage, page, range, which)
                     ->UseManualTime()
                     ->Unit(benchmark::kMillisecond);
             }

@@ -30,7 +30,7 @@ set(may_tests/translations "tests/support|tests/translations|${may_app}")
 # The launcher's own list of tables is compared with the till's.
 set(may_tests/launcher "launcher|base|tests/launcher|tests/support|db|sqlite3")
 set(may_tests/backoffice "backoffice|launcher|store|common|base|tests/backoffice|tests/support")
-set(may_tests/central "central|backoffice/sales|launcher|base|pqxx|libpq-fe|tests/central|tests/support|sqlite3")
+set(may_tests/central "central|backoffice/(sales|reports)|launcher|base|pqxx|libpq-fe|tests/central|tests/support|sqlite3")
 set(may_tests/scripts "tests/scripts|tests/support|sqlite3")
 set(may_tests/fuzz "tests/fuzz|${may_app}|backoffice/menu|stb")
 

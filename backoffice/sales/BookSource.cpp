@@ -4,6 +4,7 @@
 #include "backoffice/sales/BookDays.h"
 #include "backoffice/sales/BookStatements.h"
 #include "backoffice/sales/BookUses.h"
+#include "backoffice/sales/TillFigures.h"
 
 #include <QSet>
 #include <QStringList>

@@ -138,55 +138,24 @@ inline QString uses()
         .arg(parts());
 }
 
-/// Group, day, article, lines counted so day by day, of groups of tills. Values: tills, the
-/// group of each, days.
-inline QString usesByDay()
+/// More lines than a day or a month has.
+inline constexpr qint64 linesEnd = qint64{1} << 40;
+
+/// Till, article, and an array of the lines counted so on each day, to which the day's distance
+/// from the first one times linesEnd is added; a month's are on its first day. With a second array
+/// the server would need twice the memory, and look for it on its disk. Values: the first day, days
+/// before and behind the months, tills, months, tills.
+inline QString usesOfParts()
 {
     return QStringLiteral(
-        "select part, day, folded, sum(lines)::bigint as lines from vendel.day_use join "
-        "unnest(cast(? as integer[]), cast(? as integer[])) as parts (member, part) "
-        "on member = till where day >= ? and day < ? group by 1, 2, 3");
-}
-
-/// The same, each month as its first day. Values: the first day, days before and behind the
-/// months, months, tills, the group of each.
-inline QString usesByMonth()
-{
-    return QStringLiteral(
-        "select part, day, folded, sum(lines)::bigint as lines from ("
-        "select till, folded, lines, greatest(date_trunc('month', day)::date, cast(? as date)) "
-        "as day from vendel.day_use where day >= ? and day < ? or day >= ? and day < ? "
-        "union all select till, folded, lines, month from vendel.month_use "
-        "where month >= ? and month < ?) as days join "
-        "unnest(cast(? as integer[]), cast(? as integer[])) as parts (member, part) "
-        "on member = till group by 1, 2, 3");
-}
-
-/// The rows of \a sold, one of the two above, by day.
-inline QString inOrder(const QString& sold) { return sold + QStringLiteral(" order by 2, 1, 3"); }
-
-/// \a text as the till compares it, without regard to the case of A to Z.
-inline QString foldedText(const QString& text)
-{
-    return QStringLiteral(
-        "translate(%1, 'ABCDEFGHIJKLMNOPQRSTUVWXYZ', 'abcdefghijklmnopqrstuvwxyz')")
-        .arg(text);
-}
-
-/// Day, composition, unit, amount, of what \a sold, one of the two above, was made of. The number
-/// of a group is the key of a till whose recipes are its own. Values: those of \a sold.
-inline QString composed(const QString& sold)
-{
-    return QStringLiteral(
-        "with sold as materialized (%1), recipes as materialized ("
-        "select distinct dose.till as part, %2 as folded, composition, dose, unit "
-        "from vendel.dose join vendel.stock_article as stock "
-        "on stock.till = dose.till and stock.id = stock_article "
-        "where dose.till in (select part from sold)) "
-        "select day, composition, unit, sum(lines * dose) from sold join recipes "
-        "using (part, folded) group by 1, 2, 3 order by 1, %3, 2")
-        .arg(
-            sold, foldedText(QStringLiteral("article")), foldedText(QStringLiteral("composition")));
+        "select till, folded, array_agg((day - cast(? as date)) * %1 + lines) from ("
+        "select till, folded, day, lines from vendel.day_use "
+        "where (day >= ? and day < ? or day >= ? and day < ?) "
+        "and till = any (cast(? as integer[])) union all "
+        "select till, folded, month, lines from vendel.month_use "
+        "where month >= ? and month < ? and till = any (cast(? as integer[]))"
+        ") as parts group by 1, 2")
+        .arg(linesEnd);
 }
 
 /// Till, article, price. Values: tills.
@@ -194,21 +163,6 @@ inline QString menu()
 {
     return QStringLiteral("select till, article, price from vendel.menu "
                           "where till = any (cast(? as integer[])) order by till, article, id");
-}
-
-/// Till, a text that is equal for tills with the same recipes, and whether a composition stands in
-/// them in several units or spellings. Values: tills.
-inline QString recipes()
-{
-    return QStringLiteral(
-        "select id, md5(concat((select string_agg(cast(row(s.id, article) as text), '' "
-        "order by s.id) from vendel.stock_article s where s.till = all_tills.id), ' ', "
-        "(select string_agg(cast(row(line, stock_article, composition, dose, unit) as text), '' "
-        "order by line) from vendel.dose where till = all_tills.id))), "
-        "exists (select from vendel.dose where till = all_tills.id group by %1 "
-        "having count(distinct (composition, unit)) > 1) "
-        "from vendel.till as all_tills where id = any (cast(? as integer[])) order by id")
-        .arg(foldedText(QStringLiteral("composition")));
 }
 
 /// Till, key, article. Values: tills.

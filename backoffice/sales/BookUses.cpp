@@ -1,12 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "backoffice/sales/BookUses.h"
 
+#include "backoffice/sales/BookDays.h"
 #include "backoffice/sales/BookStatements.h"
+#include "backoffice/sales/UseTables.h"
 
 #include <algorithm>
 #include <set>
 
 namespace {
+/// The numbers of \a array, as PostgreSQL writes it; none is below 0.
+std::vector<qint64> numbers(const QString& array)
+{
+    constexpr int ten = 10;
+    std::vector<qint64> found;
+    qint64 number = 0;
+    for (const QChar letter : array) {
+        if (letter.isDigit()) {
+            number = number * ten + letter.digitValue();
+        } else if (letter != QLatin1Char('{')) {
+            found.push_back(number);
+            number = 0;
+        }
+    }
+    return found;
+}
+
 /// One of each of \a units, with what the till's statement says it is in the larger one.
 std::map<QString, Use> oneOfEach(const std::set<QString>& units, const Reading& reading)
 {
@@ -26,7 +45,33 @@ std::map<QString, Use> oneOfEach(const std::set<QString>& units, const Reading& 
     }
     return ones;
 }
+
+/// Adds to \a uses what they are in larger units.
+void convert(std::vector<Use>& uses, const Reading& reading)
+{
+    std::set<QString> units;
+    for (const Use& use : uses) {
+        units.insert(use.unit);
+    }
+    const std::map<QString, Use> ones = oneOfEach(units, reading);
+    for (Use& use : uses) {
+        const Use& one = ones.at(use.unit);
+        use.converted = use.amount * one.converted;
+        use.convertedUnit = one.convertedUnit;
+    }
+}
 } // namespace
+
+BookUses::Parts::Parts(const DayRange& range)
+{
+    const bool isByMonth = range.grain() == DayRange::Grain::Month;
+    for (QDate day = range.first; day <= range.last; day = day.addDays(1)) {
+        if (days.empty() || !isByMonth || day.day() == 1) {
+            days.push_back(day);
+        }
+        ofDays.push_back(days.size() - 1);
+    }
+}
 
 BookUses::BookUses(BookDatabase& database, const std::vector<int>& tills)
     : database_(database)
@@ -38,150 +83,147 @@ int BookUses::place(int key) const
     return static_cast<int>(std::find(tills_.begin(), tills_.end(), key) - tills_.begin());
 }
 
-void BookUses::readGroups(const Reading& reading)
+QString BookUses::keys() const
 {
-    std::map<QString, int> known;
-    database_.read(
-        BookStatements::recipes(), {BookStatements::array(tills_)},
-        [&](const QSqlQuery& row) {
-            const int key = row.value(0).toInt();
-            const int first = known.try_emplace(row.value(1).toString(), key).first->second;
-            Group& group = groups_[first];
-            group.keys.push_back(key);
-            group.isMixed = row.value(2).toBool();
-        },
-        reading);
+    std::vector<int> keys;
+    for (const auto& [key, group] : groupOf_) {
+        keys.push_back(key);
+    }
+    return BookStatements::array(keys);
 }
 
 void BookUses::readRecipes(const Reading& reading)
 {
-    std::vector<int> firsts;
-    for (const auto& [key, group] : groups_) {
-        firsts.push_back(key);
-    }
-    const QVariantList tills{BookStatements::array(firsts)};
-    database_.read(
-        BookStatements::stockArticles(), tills,
-        [&](const QSqlQuery& row) {
-            groups_.at(row.value(0).toInt()).articles.push_back({row.value(1), row.value(2)});
-        },
-        reading);
+    const QVariantList tills{BookStatements::array(tills_)};
+    std::map<int, Recipes> recipes;
     database_.read(
         BookStatements::doses(), tills,
         [&](const QSqlQuery& row) {
-            groups_.at(row.value(0).toInt())
-                .doses.push_back(
-                    {row.value(1), row.value(2), row.value(3), row.value(4), row.value(5)});
+            recipes[row.value(0).toInt()].doses.push_back(
+                {row.value(1).toLongLong(), row.value(2).toLongLong(), row.value(3).toString(),
+                    row.value(4).toDouble(), row.value(5).toString()});
         },
         reading);
+    database_.read(
+        BookStatements::stockArticles(), tills,
+        [&](const QSqlQuery& row) {
+            const auto found = recipes.find(row.value(0).toInt());
+            if (found != recipes.end()) {
+                found->second.articles.push_back(
+                    {row.value(1).toLongLong(), row.value(2).toString()});
+            }
+        },
+        reading);
+    for (auto& [key, own] : recipes) {
+        groupOf_[key] = &groups_.try_emplace(std::move(own), Group{key, {}, {}}).first->second;
+    }
 }
 
-/// Adds to each group what each of its tills sold in all of the range.
-void BookUses::readPeriod(const BookDays& days, const Reading& reading)
+/// Adds to each group what each of its tills sold in all of \a range.
+void BookUses::readPeriod(const DayRange& range, const Reading& reading)
 {
-    std::map<int, Group*> groupOf;
-    for (auto& [first, group] : groups_) {
-        for (const int key : group.keys) {
-            groupOf[key] = &group;
-        }
-    }
-    const QString tills = BookStatements::array(tills_);
+    const BookDays days(range);
+    const QString tills = keys();
     database_.read(
         BookStatements::uses(),
         days.ofMonths() + QVariantList{tills} + days.besideMonths() + QVariantList{tills},
         [&](const QSqlQuery& row) {
             const int key = row.value(0).toInt();
-            groupOf.at(key)->lines.push_back(
-                {QDate(), place(key), row.value(1).toString(), row.value(2).toLongLong()});
+            groupOf_.at(key)->periods[key][row.value(1).toString()] = {row.value(2).toLongLong()};
         },
         reading);
 }
 
-/// What groups, mixed ones or the others, sold on each day, or in each month, of \a range.
-BookUses::Parts BookUses::partsOf(bool isMixed, const DayRange& range) const
+/// Adds to each group what its tills together sold in each of \a parts of \a range.
+void BookUses::readParts(const DayRange& range, const Parts& parts, const Reading& reading)
 {
-    std::vector<int> members;
-    std::vector<int> firsts;
-    for (const auto& [first, group] : groups_) {
-        if (group.isMixed == isMixed) {
-            members.insert(members.end(), group.keys.begin(), group.keys.end());
-            firsts.resize(members.size(), first);
+    const BookDays days(range);
+    const QDate behind = days.behind;
+    const bool isByMonth = range.grain() == DayRange::Grain::Month;
+    const QVariantList single
+        = isByMonth ? days.besideMonths() : QVariantList{days.first, behind, behind, behind};
+    const QVariantList months = isByMonth ? days.ofMonths() : QVariantList{behind, behind};
+    const QVariantList tills{keys()};
+    database_.read(
+        BookStatements::usesOfParts(), QVariantList{days.first} + single + tills + months + tills,
+        [&](const QSqlQuery& row) {
+            std::vector<qint64>& sums
+                = groupOf_.at(row.value(0).toInt())->parts[row.value(1).toString()];
+            for (const qint64 number : numbers(row.value(2).toString())) {
+                const std::size_t part
+                    = parts.ofDays.at(static_cast<std::size_t>(number / BookStatements::linesEnd));
+                sums.resize(std::max(sums.size(), part + 1));
+                sums[part] += number % BookStatements::linesEnd;
+            }
+        },
+        reading);
+}
+
+/// What the recipes that are not mixed used: each till's in the range, and all tills' together in
+/// each part of it.
+std::vector<Use> BookUses::plainUses(const Parts& parts, const Reading& reading) const
+{
+    std::vector<Use> uses;
+    UseSums all;
+    for (const auto& [recipes, group] : groups_) {
+        if (recipes.isMixed()) {
+            continue;
+        }
+        const Recipes::Parts doses = recipes.parts();
+        for (const auto& [key, lines] : group.periods) {
+            UseSums own;
+            own.add(doses, lines);
+            const std::vector<Use> found = own.uses({QDate()}, place(key));
+            uses.insert(uses.end(), found.begin(), found.end());
+        }
+        all.add(doses, group.parts);
+    }
+    const std::vector<Use> found = all.uses(parts.days, 0);
+    uses.insert(uses.end(), found.begin(), found.end());
+    convert(uses, reading);
+    return uses;
+}
+
+/// What the recipes of \a group used, as the till's statement has it, which takes its time.
+std::vector<Use> BookUses::mixedUses(
+    const Recipes& recipes, const Group& group, const Parts& parts, const Reading& reading) const
+{
+    UseTables tables;
+    for (const Recipes::Article& article : recipes.articles) {
+        tables.addStockArticle({article.id, article.article});
+    }
+    for (const Recipes::Dose& dose : recipes.doses) {
+        tables.addDose({dose.line, dose.article, dose.composition, dose.dose, dose.unit});
+    }
+    std::vector<UseTables::Lines> lines;
+    for (const auto& [key, period] : group.periods) {
+        for (const auto& [article, counts] : period) {
+            lines.push_back({QDate(), place(key), article, counts.front()});
         }
     }
-    if (members.empty()) {
-        return {};
+    for (std::size_t part = 0; part < parts.days.size(); ++part) {
+        for (const auto& [article, counts] : group.parts) {
+            if (part < counts.size() && counts[part] != 0) {
+                lines.push_back({parts.days[part], place(group.first), article, counts[part]});
+            }
+        }
     }
-    const QVariantList tills{BookStatements::array(members), BookStatements::array(firsts)};
-    const BookDays days(range);
-    if (range.grain() == DayRange::Grain::Month) {
-        return {BookStatements::usesByMonth(),
-            QVariantList{days.first} + days.besideMonths() + days.ofMonths() + tills};
-    }
-    return {BookStatements::usesByDay(), tills + QVariantList{days.first, days.behind}};
-}
-
-/// Adds to each mixed group what its tills together sold in each part of \a range.
-void BookUses::readMixedParts(const DayRange& range, const Reading& reading)
-{
-    const Parts parts = partsOf(true, range);
-    if (parts.sql.isEmpty()) {
-        return;
-    }
-    database_.read(
-        BookStatements::inOrder(parts.sql), parts.values,
-        [&](const QSqlQuery& row) {
-            const int first = row.value(0).toInt();
-            groups_.at(first).lines.push_back({row.value(1).toDate(), place(first),
-                row.value(2).toString(), row.value(3).toLongLong()});
-        },
-        reading);
-}
-
-/// What the groups that are not mixed used together in each part of \a range. Where a composition
-/// has one unit, the till's statement adds up doses; so does the book, for all tills at once.
-std::vector<Use> BookUses::readPlainParts(const DayRange& range, const Reading& reading)
-{
-    const Parts parts = partsOf(false, range);
-    if (parts.sql.isEmpty()) {
-        return {};
-    }
-    std::vector<Use> uses;
-    std::set<QString> units;
-    database_.read(
-        BookStatements::composed(parts.sql), parts.values,
-        [&](const QSqlQuery& row) {
-            uses.push_back({row.value(0).toDate(), row.value(1).toString(), row.value(3).toDouble(),
-                row.value(2).toString(), 0, {}, 0});
-            units.insert(uses.back().unit);
-        },
-        reading);
-    const std::map<QString, Use> ones = oneOfEach(units, reading);
-    for (Use& use : uses) {
-        const Use& one = ones.at(use.unit);
-        use.converted = use.amount * one.converted;
-        use.convertedUnit = one.convertedUnit;
-    }
-    return uses;
+    tables.addLines(lines);
+    return tables.uses(reading);
 }
 
 std::vector<Use> BookUses::of(const DayRange& range, const Reading& reading)
 {
-    readGroups(reading);
     readRecipes(reading);
-    readPeriod(BookDays(range), reading);
-    readMixedParts(range, reading);
-    std::vector<Use> uses = readPlainParts(range, reading);
-    for (const auto& [first, group] : groups_) {
-        UseTables tables;
-        for (const QVariantList& row : group.articles) {
-            tables.addStockArticle(row);
+    readPeriod(range, reading);
+    const Parts parts(range);
+    readParts(range, parts, reading);
+    std::vector<Use> uses = plainUses(parts, reading);
+    for (const auto& [recipes, group] : groups_) {
+        if (recipes.isMixed()) {
+            const std::vector<Use> found = mixedUses(recipes, group, parts, reading);
+            uses.insert(uses.end(), found.begin(), found.end());
         }
-        for (const QVariantList& row : group.doses) {
-            tables.addDose(row);
-        }
-        tables.addLines(group.lines);
-        const std::vector<Use> found = tables.uses(reading);
-        uses.insert(uses.end(), found.begin(), found.end());
     }
     // A day that is not valid is before all others.
     std::stable_sort(uses.begin(), uses.end(), [](const Use& one, const Use& other) {

@@ -2,13 +2,14 @@
 #pragma once
 
 #include "backoffice/sales/BookDatabase.h"
-#include "backoffice/sales/BookDays.h"
-#include "backoffice/sales/UseTables.h"
+#include "backoffice/sales/Recipes.h"
+#include "backoffice/sales/UseSums.h"
 
 #include <map>
 #include <vector>
 
-/// What the recipes of a book's tills used.
+/// What the recipes of a book's tills used. The book says what was sold, in a row for each till and
+/// article; doses are added up here.
 class BookUses
 {
 public:
@@ -19,36 +20,40 @@ public:
     std::vector<Use> of(const DayRange& range, const Reading& reading);
 
 private:
-    /// Tills that have the same recipes are computed together.
+    /// Tills that have the same recipes: their days are added up.
     struct Group
     {
-        /// The first one's recipes are all of them's.
-        std::vector<int> keys;
-        /// Whether a composition stands in them in several units or spellings. Which one is shown
-        /// is then up to the till's statement, which takes its time.
-        bool isMixed = false;
-        std::vector<QVariantList> articles;
-        std::vector<QVariantList> doses;
-        std::vector<UseTables::Lines> lines;
+        /// The key of the first one.
+        int first = 0;
+        /// What each till sold in all of the range, by its key.
+        std::map<int, PartLines> periods;
+        /// What they sold together in each part of it.
+        PartLines parts;
     };
-
-    /// A statement of the lines in each part of a range, with its values.
+    /// The days or months of a range, which uses are shown of.
     struct Parts
     {
-        QString sql;
-        QVariantList values;
+        /// The first day of each.
+        std::vector<QDate> days;
+        /// By the distance of a day from the first one.
+        std::vector<std::size_t> ofDays;
+
+        explicit Parts(const DayRange& range);
     };
 
-    void readGroups(const Reading& reading);
     void readRecipes(const Reading& reading);
-    void readPeriod(const BookDays& days, const Reading& reading);
-    Parts partsOf(bool isMixed, const DayRange& range) const;
-    void readMixedParts(const DayRange& range, const Reading& reading);
-    std::vector<Use> readPlainParts(const DayRange& range, const Reading& reading);
+    void readPeriod(const DayRange& range, const Reading& reading);
+    void readParts(const DayRange& range, const Parts& parts, const Reading& reading);
+    std::vector<Use> plainUses(const Parts& parts, const Reading& reading) const;
+    std::vector<Use> mixedUses(const Recipes& recipes, const Group& group, const Parts& parts,
+        const Reading& reading) const;
     int place(int key) const;
+    /// The tills that have recipes, as statements take them.
+    QString keys() const;
 
     BookDatabase& database_;
     std::vector<int> tills_;
-    /// By the key of the first till.
-    std::map<int, Group> groups_;
+    std::map<Recipes, Group> groups_;
+    /// By the key of a till that has recipes.
+    std::map<int, Group*> groupOf_;
 };
