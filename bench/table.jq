@@ -7,7 +7,7 @@ def shown:
 def measurement:
     {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3} as $milliseconds
     | {
-        work: (.run_name | gsub("/(manual_time|iterations:[0-9]+|program|floor)\\b"; "")),
+        work: (.run_name | gsub("/(manual_time|(iterations|repeats):[0-9]+|program|floor)\\b"; "")),
         isFloor: (.run_name | test("/floor\\b")),
         time: ((if .run_name | test("/manual_time") then .real_time else .cpu_time end)
             * $milliseconds[.time_unit]),
