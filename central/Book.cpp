@@ -48,21 +48,9 @@ void Book::find()
     });
 }
 
-/// The other tills that have sold \a sales; none when the till itself has.
-std::vector<OtherTill> Book::others(pqxx::work& transaction, const std::vector<Line>& sales) const
-{
-    std::vector<OtherTill> tills = OtherTill::that(transaction, sales);
-    const bool isOwn = std::any_of(
-        tills.begin(), tills.end(), [this](const OtherTill& till) { return till.id == till_; });
-    if (isOwn) {
-        tills.clear();
-    }
-    return tills;
-}
-
 void Book::refuseOthers(pqxx::work& transaction, const std::vector<Line>& sales) const
 {
-    if (const auto tills = others(transaction, sales); !tills.empty()) {
+    if (const auto tills = OtherTill::that(transaction, till_, sales); !tills.empty()) {
         throw BookError(
             {CentralSentences::soldByAnother, {OtherTill::names(tills)}}, BookStatus::AnotherTill);
     }
@@ -87,13 +75,19 @@ void Book::enter(const std::vector<Line>& sales)
 std::optional<OtherTill> Book::other(const std::vector<Line>& sales)
 {
     std::vector<OtherTill> tills;
-    connection_.transact([&](pqxx::work& transaction) { tills = others(transaction, sales); });
+    connection_.transact(
+        [&](pqxx::work& transaction) { tills = OtherTill::that(transaction, till_, sales); });
     if (tills.empty()) {
         return std::nullopt;
     }
-    std::stable_sort(tills.begin(), tills.end(),
-        [](const OtherTill& one, const OtherTill& other) { return one.sales > other.sales; });
-    if (tills.size() > 1 && tills.at(0).sales == tills.at(1).sales) {
+    std::size_t most = 0;
+    for (const OtherTill& till : tills) {
+        most = std::max(most, till.sales);
+    }
+    tills.erase(std::remove_if(tills.begin(), tills.end(),
+                    [most](const OtherTill& till) { return till.sales < most; }),
+        tills.end());
+    if (tills.size() > 1) {
         throw BookError(
             {CentralSentences::soldBySeveral, {OtherTill::names(tills)}}, BookStatus::AnotherTill);
     }
@@ -105,6 +99,10 @@ void Book::leave(pqxx::work& transaction) const
 {
     // A sender of this machine that is under way is waited for.
     transaction.exec_params(Statements::lockProgress, till_);
+    if (transaction.exec_params(Statements::lockTill, till_, identity_).empty()) {
+        // Another machine has taken its place just now.
+        return;
+    }
     if (isSeller(transaction, till_)) {
         transaction.exec_params(Statements::leaveTill, till_);
         transaction.exec_params(Statements::restart, till_);

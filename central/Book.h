@@ -46,11 +46,11 @@ public:
     bool hasSold() const { return hasSold_; }
     /// Enters the till, unless it is there. Refuses as requireOwn() does.
     void enter(const std::vector<Line>& sales);
-    /// Refuses a till whose first sales \a sales are there as those of another one, and not as its
-    /// own.
+    /// Refuses a till of whose first sales \a sales some are there as those of another one, and not
+    /// as its own.
     void requireOwn(const std::vector<Line>& sales);
-    /// The other till that has sold \a sales, or most of them; nothing when the till itself has, or
-    /// nobody. Refuses several that have sold equally many.
+    /// The other till that has sold most of \a sales, as far as the till itself has not; nothing
+    /// when there is none. Refuses several that have sold equally many.
     std::optional<OtherTill> other(const std::vector<Line>& sales);
     /// Makes the till the till \a other, whose machine is then a stranger; all is to be read again.
     /// What was sold on this machine before stays a till without one. In one transaction.
@@ -72,7 +72,6 @@ public:
     std::int64_t oddLines();
 
 private:
-    std::vector<OtherTill> others(pqxx::work& transaction, const std::vector<Line>& sales) const;
     void refuseOthers(pqxx::work& transaction, const std::vector<Line>& sales) const;
     void leave(pqxx::work& transaction) const;
     void learnNames(const std::vector<Line>& lines);

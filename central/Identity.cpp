@@ -124,11 +124,4 @@ std::string name(int folder, const std::string& path, const std::string& asked)
     const std::string known = knownName(folder);
     return known.empty() ? plainName(hostName()) : known;
 }
-
-void keepName(int folder, const std::string& path, const std::string& name)
-{
-    if (knownName(folder).empty()) {
-        remember(folder, path, plainName(name));
-    }
-}
 } // namespace Identity

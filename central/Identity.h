@@ -13,7 +13,4 @@ std::string digest(int folder, const std::string& path);
 /// The name of the till in \a folder: \a asked for, and then remembered; else the remembered one,
 /// else the machine's. Throws Refusal.
 std::string name(int folder, const std::string& path, const std::string& asked);
-
-/// Remembers \a name for the till in \a folder, unless it has one of its own. Throws Refusal.
-void keepName(int folder, const std::string& path, const std::string& name);
 } // namespace Identity

@@ -5,6 +5,7 @@
 #include "central/Statements.h"
 #include "launcher/PlainText.h"
 
+#include <map>
 #include <set>
 
 namespace {
@@ -22,7 +23,8 @@ bool isProof(const std::set<int>& found)
 }
 } // namespace
 
-std::vector<OtherTill> OtherTill::that(pqxx::work& transaction, const std::vector<Line>& sales)
+std::vector<OtherTill> OtherTill::that(
+    pqxx::work& transaction, int own, const std::vector<Line>& sales)
 {
     if (sales.empty()) {
         return {};
@@ -39,25 +41,31 @@ std::vector<OtherTill> OtherTill::that(pqxx::work& transaction, const std::vecto
         prices.add(line.price);
         exactPrices.add(line.exactPrice);
     }
-    std::vector<OtherTill> tills;
-    OtherTill till;
-    std::set<int> found;
-    const auto decide = [&] {
-        if (isProof(found)) {
-            till.sales = found.size();
-            tills.push_back(till);
-        }
-        found.clear();
+    struct Found
+    {
+        OtherTill till;
+        std::set<int> places;
     };
+    std::map<int, Found> found;
     for (const auto& row : transaction.exec_params(Statements::tillsWithSales, moments.get(),
              articles.get(), names.get(), prices.get(), exactPrices.get())) {
-        if (const int id = row.at(0).as<int>(); id != till.id) {
-            decide();
-            till = {id, row.at(1).c_str(), row.at(2).c_str()};
-        }
-        found.insert(row.at(3).as<int>());
+        const int id = row.at(0).as<int>();
+        Found& one = found.try_emplace(id).first->second;
+        one.till = {id, row.at(1).c_str(), row.at(2).c_str()};
+        one.places.insert(row.at(3).as<int>());
     }
-    decide();
+    const std::set<int> known = found[own].places;
+    found.erase(own);
+    std::vector<OtherTill> tills;
+    for (auto& [id, one] : found) {
+        for (const int place : known) {
+            one.places.erase(place);
+        }
+        if (isProof(one.places)) {
+            one.till.sales = one.places.size();
+            tills.push_back(one.till);
+        }
+    }
     return tills;
 }
 

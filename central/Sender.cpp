@@ -72,8 +72,8 @@ bool Sender::attempt(Depth depth)
         throw Overtaken();
     }
     Book::Progress progress = *known;
-    if (progress.number > 0 && !till_.has(progress.last)) {
-        // Nothing shows that its database is not a copy of another till's by now.
+    if (progress.number > 0 && progress.last.row == 0) {
+        // There is no line yet that shows whose database it is.
         book_.requireOwn(firstSales());
     }
     if (sendBehind(progress)) {
@@ -125,11 +125,19 @@ bool Sender::sendBehind(Book::Progress& progress)
 bool Sender::sendChanged(Book::Progress& progress, const Anchor& last)
 {
     const Months found = till_.months(last.row);
+    std::vector<std::string> changed;
     for (const auto& [month, digest] : found) {
         const auto known = progress.months.find(month);
         if (known == progress.months.end() || !(known->second == digest)) {
-            sendMonth(month, last, progress);
+            changed.push_back(month);
         }
+    }
+    if (!changed.empty() && progress.number > 0) {
+        // The database may be a copy of another till's by now.
+        book_.requireOwn(firstSales());
+    }
+    for (const std::string& month : changed) {
+        sendMonth(month, last, progress);
     }
     Batch batch;
     for (const auto& [month, digest] : progress.months) {
@@ -157,12 +165,22 @@ void Sender::sendMonth(const std::string& month, const Anchor& last, Book::Progr
         }
         append(batch.lines, std::move(lines));
         if (batch.lines.size() >= batchLines) {
+            requireThere(last);
             add(batch, progress);
             batch.lines.clear();
         }
     });
     batch.months[month] = digest;
+    requireThere(last);
     add(batch, progress);
+}
+
+/// What was read up to \a last is the same till's only if that line is still there.
+void Sender::requireThere(const Anchor& last)
+{
+    if (!till_.has(last)) {
+        throw TillDatabase::Replaced();
+    }
 }
 
 void Sender::add(const Batch& batch, Book::Progress& progress)

@@ -39,6 +39,7 @@ private:
     bool sendBehind(Book::Progress& progress);
     bool sendChanged(Book::Progress& progress, const Anchor& last);
     void sendMonth(const std::string& month, const Anchor& last, Book::Progress& progress);
+    void requireThere(const Anchor& last);
     void add(const Batch& batch, Book::Progress& progress);
 
     Book& book_;

@@ -67,10 +67,10 @@ inline constexpr Sentence soldByNobody{
     "Aucune autre caisse du livre central n'a les ventes de celle-ci : rien n'a été changé.",
     "No other till of the central book has the sales of this one: nothing has been changed."};
 inline constexpr Sentence soldBySeveral{
-    "Plusieurs caisses du livre central ont autant des ventes de celle-ci (%1) : rien n'a été "
-    "changé.",
-    "Several tills of the central book have as many of this one's sales (%1): nothing has been "
-    "changed."};
+    "Plusieurs caisses du livre central ont en commun avec celle-ci autant de ventes (%1) : rien "
+    "n'a été changé.",
+    "Several tills of the central book have equally many sales in common with this one (%1): "
+    "nothing has been changed."};
 inline constexpr Sentence takenOver{
     "Cette caisse continue à la place de « %1 » dans le livre central.",
     "This till goes on in the place of \"%1\" in the central book."};

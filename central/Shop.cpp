@@ -35,9 +35,9 @@ CentralShop::CentralShop(const CentralOrder& order)
     name_ = Identity::name(folder_.get(), path_, order.name);
 }
 
-void CentralShop::keepName(const std::string& name) const
+void CentralShop::setName(const std::string& name) const
 {
-    Identity::keepName(folder_.get(), path_, name);
+    Identity::name(folder_.get(), path_, name);
 }
 
 void CentralShop::noteReached() const

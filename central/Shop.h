@@ -20,8 +20,8 @@ public:
 
     /// The book, opened for this till. Throws BookError.
     Book book() const { return Book(uri_, identity_, name_); }
-    /// Remembers \a name, unless the till has one of its own. Throws Refusal.
-    void keepName(const std::string& name) const;
+    /// Remembers \a name as the till's. Throws Refusal.
+    void setName(const std::string& name) const;
     /// Notes that the book has been reached; a folder that is full does not matter.
     void noteReached() const;
 

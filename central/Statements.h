@@ -14,6 +14,8 @@ inline constexpr const char* begin
 inline constexpr const char* schemaVersion = "select version from vendel.version";
 
 inline constexpr const char* findTill = "select id from vendel.till where identity = $1";
+inline constexpr const char* lockTill
+    = "select id from vendel.till where id = $1 and identity = $2 for update";
 inline constexpr const char* hasSold = "select exists (select from vendel.month where till = $1) "
                                        "or exists (select from vendel.hour_sales where till = $1) "
                                        "or exists (select from vendel.odd_line where till = $1)";

@@ -54,8 +54,10 @@ void takeOver(const CentralOrder& order, Language language)
     if (!other) {
         throw BookError(CentralSentences::soldByNobody, BookStatus::AnotherTill);
     }
-    // Before the book knows it: a till that is cut off here still has the other one's name.
-    shop.keepName(other->name);
+    if (order.name.empty()) {
+        // Before the book knows it: a till that is cut off here still has the other one's name.
+        shop.setName(other->name);
+    }
     book.takeOver(*other);
     print(std::cout, language, {CentralSentences::takenOver, {OtherTill::names({*other})}});
 }

@@ -15,7 +15,7 @@ set(may_demo "demo|store")
 set(may_launcher "launcher|base|sqlite3|Print/escpospp/PrinterBus.h")
 set(may_backoffice "backoffice|launcher|store|common|base|csv|widgets/QtNames.h")
 set(may_central "central|backoffice/sales|launcher|base|pqxx|libpq-fe")
-set(may_bench "backoffice|bench|tests/central/BookServer.h|base|launcher|app|forms|widgets|store|common|db|Print|sqlite3")
+set(may_bench "backoffice|bench|central|tests/central/BookServer.h|base|launcher|app|forms|widgets|store|common|db|Print|sqlite3")
 
 # Tests may include what their folder may, and what tests share.
 foreach(folder base common Print store widgets forms app)

@@ -97,15 +97,6 @@ private slots:
         QCOMPARE(folder.name("Té\x1brrasse"), std::string("Té?rrasse"));
     }
 
-    void aNameIsKeptWhereThereIsNone()
-    {
-        const Folder folder;
-        Identity::keepName(folder.opened.get(), folder.path(), "Bar");
-        QCOMPARE(folder.name(), std::string("Bar"));
-        Identity::keepName(folder.opened.get(), folder.path(), "Terrasse");
-        QCOMPARE(folder.name(), std::string("Bar"));
-    }
-
     void linesAreRegularOnlyWithADateAndAPrice()
     {
         const Line good{1, "2028-02-29 23:59:59.999", "-7", "", -10'000'000'000'000, {}, {}, 0, 1};

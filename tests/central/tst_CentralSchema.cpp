@@ -7,6 +7,7 @@
 #include "tests/central/Wire.h"
 #include "tests/support/TestProgram.h"
 
+#include <future>
 #include <thread>
 
 namespace {
@@ -146,6 +147,24 @@ private slots:
         QVERIFY2(trials > 5, qPrintable(QString::number(trials)));
         QCOMPARE(server().cell(book, "select version from vendel.version"), "2");
         QCOMPARE(SoldTill::wrongSums(book), QStringList());
+    }
+
+    void anUpgradeWaitsAsLongAsItTakes()
+    {
+        // Longer than a sender waits for anything, where there is time for it.
+        const int seconds = qEnvironmentVariableIsSet("VENDEL_TEST_PATIENCE") ? 95 : 1;
+        const std::string book = server().newBook();
+        server().rows(book,
+            "drop table vendel.day_use, vendel.month_use; update vendel.version set version = 1");
+        const auto holding = std::async(std::launch::async, [&] {
+            server().rows(book,
+                "lock table vendel.progress; select pg_sleep(" + std::to_string(seconds) + ")");
+        });
+        const std::string held = "select count(*) from pg_locks where granted and mode = "
+                                 "'AccessExclusiveLock' and relation = 'vendel.progress'::regclass";
+        QTRY_COMPARE(server().cell(book, held), "1");
+        Schema::prepare(server().uri(book));
+        QCOMPARE(server().cell(book, "select version from vendel.version"), "2");
     }
 
     void tillsSendWhileABookIsUpgraded()

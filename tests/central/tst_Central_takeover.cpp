@@ -124,7 +124,8 @@ private slots:
         QCOMPARE(SoldTill::bookLines(book_, 1), fresh.lines());
         QCOMPARE(SoldTill::bookLines(book_, 2), QStringList("2026-03-09 10:00:00.000 1 Thé 25000"));
         QCOMPARE(fresh.sendTo(server().uri(book_)).status, 0);
-        refused(dead.sendTo(server().uri(book_)), QString(refusal).replace("« Bar »", "« Neuve »"));
+        QCOMPARE(tills(), "1|Bar 2|Neuve");
+        refused(dead.sendTo(server().uri(book_)), refusal);
     }
 
     void aMachineThatWasThereBeforeItsCopyTakesOver()
@@ -138,7 +139,7 @@ private slots:
         copy(dead, fresh);
         refused(fresh.sendTo(server().uri(book_)), refusal);
         QCOMPARE(takeOver(fresh).status, 0);
-        QCOMPARE(tills(), "1|Neuve");
+        QCOMPARE(tills(), "1|Bar");
         QCOMPARE(SoldTill::bookLines(book_), dead.lines());
         QCOMPARE(server().cell(book_, "select count(*) from vendel.progress"), "1");
         const Said again = takeOver(fresh);
@@ -171,8 +172,8 @@ private slots:
         third.sql("delete from Historique where date_heure >= '2026-03-01'");
         const QStringList before = all();
         refused(takeOver(third),
-            "Plusieurs caisses du livre central ont autant des ventes de celle-ci (Bar, Terrasse) "
-            ": rien n'a été changé.\n");
+            "Plusieurs caisses du livre central ont en commun avec celle-ci autant de ventes (Bar, "
+            "Terrasse) : rien n'a été changé.\n");
         const Said said = third.command({"--envoyer", uri(), "--langue", "en"});
         QCOMPARE(said.errors,
             QString("This till's sales are in the central book already, as those of \"Bar, "
@@ -186,6 +187,80 @@ private slots:
             QString("Cette caisse continue à la place de « Bar » dans le livre central."));
         QCOMPARE(tills(), "1|Bar 2|Terrasse");
         QCOMPARE(SoldTill::bookLines(book_, 1), one.lines());
+    }
+
+    void aTakeOverByMistakeIsUndone()
+    {
+        const SoldTill one;
+        sellOn(one, threeMonths);
+        const SoldTill other;
+        sellOn(other, threeMonths, "11:00:00.000");
+        const SoldTill copied;
+        copy(other, copied);
+        QCOMPARE(send(one, "Bar").status, 0);
+        QCOMPARE(send(other, "Terrasse").status, 0);
+        copy(one, other);
+        QCOMPARE(takeOver(other).status, 0);
+        refused(one.sendTo(server().uri(book_)), refusal);
+        copy(copied, other);
+        refused(
+            other.sendTo(server().uri(book_)), QString(refusal).replace("« Bar »", "« Terrasse »"));
+        QCOMPARE(takeOver(other).status, 0);
+        QCOMPARE(takeOver(one).status, 0);
+        QCOMPARE(one.sendTo(server().uri(book_)).status, 0);
+        QCOMPARE(tills(), "1|Bar 2|Terrasse");
+        QCOMPARE(SoldTill::bookLines(book_, 1), one.lines());
+        QCOMPARE(SoldTill::bookLines(book_, 2), other.lines());
+    }
+
+    void twoTillsExchangeTheirMachines()
+    {
+        const SoldTill one;
+        sellOn(one, threeMonths);
+        const SoldTill other;
+        sellOn(other, threeMonths, "11:00:00.000");
+        QCOMPARE(send(one, "Bar").status, 0);
+        QCOMPARE(send(other, "Terrasse").status, 0);
+        const SoldTill aside;
+        copy(one, aside);
+        copy(other, one);
+        copy(aside, other);
+        QCOMPARE(takeOver(one).status, 0);
+        QCOMPARE(takeOver(other).status, 0);
+        QCOMPARE(one.sendTo(server().uri(book_)).status, 0);
+        QCOMPARE(tills(), "1|Bar 2|Terrasse");
+        QCOMPARE(SoldTill::bookLines(book_, 2), one.lines());
+        QCOMPARE(SoldTill::bookLines(book_, 1), other.lines());
+    }
+
+    void aNameThatIsGivenIsTheTills()
+    {
+        const SoldTill dead;
+        sellOn(dead, threeMonths);
+        QCOMPARE(send(dead, "Bar").status, 0);
+        const SoldTill fresh;
+        copy(dead, fresh);
+        QCOMPARE(fresh.command({"--reprendre", uri(), "--nom", "Comptoir"}).status, 0);
+        QCOMPARE(tills(), "1|Comptoir");
+    }
+
+    /// A machine whose place is taken while it takes another one's has none to leave.
+    void whoseTillIsTakenMeanwhileLeavesNothing()
+    {
+        const SoldTill one;
+        sellOn(one, threeMonths);
+        const SoldTill other;
+        sellOn(other, threeMonths, "11:00:00.000");
+        QCOMPARE(send(one, "Bar").status, 0);
+        QCOMPARE(send(other, "Terrasse").status, 0);
+        Book leaving(server().uri(book_),
+            server().cell(book_, "select identity from vendel.till where id = 2").toStdString(),
+            "Terrasse");
+        server().rows(book_, "update vendel.till set identity = 'another machine' where id = 2");
+        const QString bar = server().cell(book_, "select identity from vendel.till where id = 1");
+        leaving.takeOver({1, bar.toStdString(), "Bar", 8});
+        QCOMPARE(server().cell(book_, "select identity from vendel.till where id = 2"),
+            "another machine");
     }
 
     void aTakeOverDuringASendingIsSaid()
