@@ -56,6 +56,9 @@ public:
 
     /// Clocks without pauses.
     static Timing hasty();
+    /// Clocks by which \a till is always at work, so that reading pauses after each portion, and no
+    /// portion takes long.
+    static Timing pausing(const SoldTill& till);
 
 private:
     QTemporaryDir folder_;

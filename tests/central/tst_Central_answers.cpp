@@ -118,7 +118,7 @@ private slots:
         till.sell("2026-03-05 10:00:00.000");
         const std::string book = server().newBook();
         // Its database is another one after each look.
-        Timing timing = Timing::ofTheMachine();
+        Timing timing = SoldTill::pausing(till);
         int replaced = 0;
         timing.sleep = [&](qint64) {
             const QString part = till.file() + ".part";

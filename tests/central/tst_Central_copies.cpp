@@ -108,11 +108,17 @@ private slots:
                   "strftime('%Y-%m-%d %H:%M:%f', '2026-01-01', (i * 300) || ' seconds') from n");
         QCOMPARE(send(other, "Terrasse").status, 0);
         other.sql("update Historique set prix = 5");
-        // In the middle of what is sent again, as SQLite's own restoring does it.
-        Timing timing = SoldTill::hasty();
-        int pauses = 0;
+        // When a part has been sent again, as SQLite's own restoring does it.
+        const auto isSentAgain = [&] {
+            return server().cell(book_,
+                       "select exists (select from vendel.line where till = 2 and price = 50000)")
+                == "t";
+        };
+        Timing timing = SoldTill::pausing(other);
+        bool isWritten = false;
         timing.sleep = [&](qint64) {
-            if (++pauses == 60) {
+            if (!isWritten && isSentAgain()) {
+                isWritten = true;
                 other.sql("attach '" + one.file()
                     + "' as bar; begin; delete from Historique; "
                       "insert into Historique select * from bar.Historique; commit");
@@ -123,7 +129,7 @@ private slots:
             server().cell(book_, "select identity from vendel.till where id = 2").toStdString(),
             "Terrasse");
         QVERIFY_EXCEPTION_THROWN(Sender(book, lines).sendLines(Sender::Depth::All), BookError);
-        QVERIFY(pauses > 60);
+        QVERIFY(isWritten);
         QCOMPARE(SoldTill::bookLines(book_, 2).filter("Thé"), QStringList());
     }
 

@@ -272,7 +272,7 @@ private slots:
         copy(dead, fresh);
         dead.sell("2026-03-09 10:00:00.000");
         // Between a look at the book and the next sending.
-        Timing timing = SoldTill::hasty();
+        Timing timing = SoldTill::pausing(dead);
         bool isTaken = false;
         timing.sleep = [&](qint64) {
             if (!std::exchange(isTaken, true)) {
